@@ -96,6 +96,7 @@ private:
     void CompareNodes(const cReportFigures& figures);
     void CompareBudget();
     void CompareList();
+    [[nodiscard]] cChartData Chart(eChartKind kind, int forecastMonths = 0);
     void CompareCharts();
     void CompareFlow(const cReportFigures& figures);
     void CompareCalendar();

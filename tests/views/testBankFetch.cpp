@@ -1,10 +1,10 @@
 #include "base/cBankUser.h"
-#include "base/cHttps.h"
 #include "base/cProgress.h"
 #include "fints/HBCIBusiness.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "support/bankMonth.h"
+#include "support/cFakeHttps.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"
@@ -35,14 +35,6 @@ public:
 
     QStringList Asked;
     QStringList NoPin;
-};
-
-class cNoHttps final : public cHttps
-{
-public:
-    cHttpsAnswer Post(const QString& /*url*/, const QByteArray& /*body*/) override { return {}; }
-    cHttpsAnswer Get(const cHttpsFile& /*file*/) override { return {}; }
-    void Cancel() override {}
 };
 
 cBankAccount Account(const QString& number, const QString& product)
@@ -117,7 +109,7 @@ struct cScene : cTestBook
         return text.replace(u'\u00A0', u' ');
     }
 
-    cNoHttps Https;
+    cFakeHttps Https;
     cFakeBankUser Customer;
     cImportHiveCache Hive{Data};
     cAccountMap Accounts{Data, *Settings};

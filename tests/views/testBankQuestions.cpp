@@ -11,8 +11,6 @@
 
 #include <QTest>
 
-#include <algorithm>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

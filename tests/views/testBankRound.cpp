@@ -7,7 +7,6 @@
 #include "views/statement/cFileReport.h"
 #include "views/statement/cFileWish.h"
 #include "views/statement/cStatementDesk.h"
-#include "views/statement/cStatementFiles.h"
 
 #include <QTest>
 

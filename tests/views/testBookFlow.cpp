@@ -1,7 +1,6 @@
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
 #include "model/modSettingKey.h"
-#include "store/cDatabase.h"
 #include "store/modBookFile.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"

@@ -2,7 +2,6 @@
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/budget/cBudgetModel.h"
-#include "views/budget/modLimits.h"
 #include "views/template/cTemplateFlow.h"
 #include "views/template/cTemplateRemoval.h"
 

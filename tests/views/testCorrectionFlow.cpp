@@ -1,6 +1,5 @@
 #include "base/cProgress.h"
 #include "base/modAmount.h"
-#include "base/modDate.h"
 #include "import/match/cMatcher.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"

@@ -3,10 +3,8 @@
 #include "support/testBook.h"
 #include "views/entry/cEntryDrafts.h"
 #include "views/entry/cEntryEditor.h"
-#include "views/entry/modEntryDraft.h"
 
 #include <QDir>
-#include <QFileInfo>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;

@@ -6,9 +6,13 @@
 
 #include <QTest>
 
+#include <functional>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+using fnChange = std::function<void(cEntryFields&)>;
 
 cEntryEditor::cFields Fields()
 {
@@ -27,59 +31,55 @@ class testEntryEditor final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ChecksInOrder_data()
+    void Refuses_data()
     {
-        const cTestRows<QStringList, QString> row("emptied", "message");
-        row("amount first, without message", {u"amount"_s, u"category"_s}, {});
-        row("category before kind", {u"category"_s, u"type"_s}, u"Bitte erst eine Kategorie wählen!"_s);
-        row("kind before account", {u"type"_s, u"account"_s}, u"Bitte erst eine Buchungsart wählen!"_s);
-        row("account", {u"account"_s}, u"Bitte erst ein Konto wählen!"_s);
-    }
-
-    void ChecksInOrder()
-    {
-        QFETCH(QStringList, emptied);
-        QFETCH(QString, message);
-        cEntryEditor::cFields fields = Fields();
-        fields.Amount = emptied.contains(u"amount"_s) ? u"zwölf"_s : fields.Amount;
-        fields.Category = emptied.contains(u"category"_s) ? QString() : fields.Category;
-        fields.Type = emptied.contains(u"type"_s) ? QString() : fields.Type;
-        fields.Account = emptied.contains(u"account"_s) ? QString() : fields.Account;
-
-        cEditorBook book;
-        QCOMPARE(book.Editor.Save(fields),
-                 message.isEmpty() ? cEntryEditor::eSaved::BadAmount : cEntryEditor::eSaved::Refused);
-        QCOMPARE(book.User.Shown, message.isEmpty() ? QStringList() : QStringList(message));
-        QCOMPARE(book.Data.CountEntries(), 0);
-    }
-
-    void SaysWhichFieldKeepsItFromBeingBuilt_data()
-    {
-        const cTestRows<QString, QString, int, QString> row("type", "target", "field", "why");
         using enum eEntrySaved;
-        row("nowhere", modWord::Umbuchung, {}, int(BadTarget),
-            u"Nach Konto: Bitte wählen Sie das Konto, auf dem das Geld ankommt."_s);
-        row("to itself", modWord::Umbuchung, u"Girokonto"_s, int(BadTarget),
-            u"Nach Konto: Von 'Girokonto' kann das Geld nur auf ein anderes Konto gehen."_s);
-        row("ends before it begins", modWord::Ausgabe, {}, int(BadEnd),
-            u"Endet am: Der letzte Tag (02.05.2026) liegt vor dem ersten (03.05.2026)."_s);
+        const cTestRows<fnChange, eEntrySaved, QString> row("change", "saved", "message");
+        row("amount first, without message",
+            [](cEntryFields& fields) {
+                fields.Amount = u"zwölf"_s;
+                fields.Category.clear();
+            },
+            BadAmount, {});
+        row(
+            "category before kind", [](cEntryFields& fields) { fields.Category = fields.Type = QString(); }, Refused,
+            u"Bitte erst eine Kategorie wählen!"_s);
+        row(
+            "kind before account", [](cEntryFields& fields) { fields.Type = fields.Account = QString(); }, Refused,
+            u"Bitte erst eine Buchungsart wählen!"_s);
+        row(
+            "account", [](cEntryFields& fields) { fields.Account.clear(); }, Refused,
+            u"Bitte erst ein Konto wählen!"_s);
+        const QString built = u"Eintrag konnte nicht erstellt werden!\n"_s;
+        row(
+            "to nowhere", [](cEntryFields& fields) { fields.Type = modWord::Umbuchung; }, BadTarget,
+            built + u"Nach Konto: Bitte wählen Sie das Konto, auf dem das Geld ankommt."_s);
+        row(
+            "to itself",
+            [](cEntryFields& fields) {
+                fields.Type = modWord::Umbuchung;
+                fields.Target = u"Girokonto"_s;
+            },
+            BadTarget, built + u"Nach Konto: Von 'Girokonto' kann das Geld nur auf ein anderes Konto gehen."_s);
+        row(
+            "ends before it begins", [](cEntryFields& fields) { fields.EndText = u"2.5."_s; }, BadEnd,
+            built + u"Endet am: Der letzte Tag (02.05.2026) liegt vor dem ersten (03.05.2026)."_s);
+        row("no day", [](cEntryFields& fields) { fields.DateText = u"bald"_s; }, BadDate, {});
+        row("no last day", [](cEntryFields& fields) { fields.EndText = u"nie"_s; }, BadEnd, {});
     }
 
-    void SaysWhichFieldKeepsItFromBeingBuilt()
+    void Refuses()
     {
-        QFETCH(QString, type);
-        QFETCH(QString, target);
-        QFETCH(QString, why);
+        QFETCH(const fnChange, change);
+        QFETCH(const QString, message);
         cEditorBook book;
         cEntryEditor::cFields fields = Fields();
-        fields.Type = type;
-        fields.Target = target;
         fields.Interval = u"Monatlich"_s;
         fields.DateText = u"3.5."_s;
-        fields.HasEnd = type == modWord::Ausgabe;
-        fields.EndText = u"2.5."_s;
-        QTEST(int(book.Editor.Save(fields)), "field");
-        QCOMPARE(book.User.Shown, QStringList(u"Eintrag konnte nicht erstellt werden!\n"_s + why));
+        fields.HasEnd = true;
+        change(fields);
+        QTEST(book.Editor.Save(fields), "saved");
+        QCOMPARE(book.User.Shown, message.isEmpty() ? QStringList() : QStringList(message));
         QCOMPARE(book.Data.CountEntries(), 0);
     }
 
@@ -192,12 +192,9 @@ private Q_SLOTS:
 
     void TypedDays_data()
     {
-        const cTestRows<QString, QString, int, QDate> row("day", "end", "saved", "stored");
-        using enum eEntrySaved;
-        row("typed wins", u"3.5."_s, {}, int(Saved), QDate(2026, 5, 3));
-        row("blank is the chosen day", u" "_s, u"+400"_s, int(Saved), QDate(2026, 3, 10));
-        row("no day", u"bald"_s, {}, int(BadDate), {});
-        row("no last day", u"3.5."_s, u"nie"_s, int(BadEnd), {});
+        const cTestRows<QString, QString, QDate> row("day", "end", "stored");
+        row("typed wins", u"3.5."_s, {}, QDate(2026, 5, 3));
+        row("blank is the chosen day", u" "_s, u"+400"_s, QDate(2026, 3, 10));
     }
 
     void TypedDays()
@@ -211,9 +208,8 @@ private Q_SLOTS:
         fields.DateText = day;
         fields.HasEnd = true;
         fields.EndText = end;
-        QTEST(int(book.Editor.Save(fields)), "saved");
-        const std::optional<cEntryItem> entry = book.Data.LoadEntry(1);
-        QTEST(entry ? entry->EntryDate : QDate(), "stored");
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QTEST(book.Data.LoadEntry(1)->EntryDate, "stored");
     }
 
     void NextEntryKeepsDayAccountAndKind()

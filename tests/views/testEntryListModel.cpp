@@ -1,5 +1,3 @@
-#include "core/cAmountFormat.h"
-#include "model/modRecurrence.h"
 #include "model/modSplit.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"

@@ -1,5 +1,4 @@
 #include "base/cProgress.h"
-#include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"

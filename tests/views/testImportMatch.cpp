@@ -1,6 +1,5 @@
 #include "base/cProgress.h"
 #include "base/modAmount.h"
-#include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"

@@ -1,5 +1,4 @@
 #include "base/cProgress.h"
-#include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
 #include "model/modSplit.h"
 #include "support/cTestClass.h"
@@ -488,23 +487,6 @@ private Q_SLOTS:
         QVERIFY(page.Data.Journal().Undo()); // entry and assignment are one step
         QVERIFY(!page.Data.GetImportEntries().constFirst().ImportAssigned);
         QCOMPARE(page.Data.CountEntries(), 0);
-    }
-
-    // "auto" and "bar" are part of many words.
-    void AmbiguousKeywordsComeLast()
-    {
-        cPage page;
-        page.ImportFixture();
-        page.User.Answers = {eAnswer::Yes};
-        page.Review.AcceptProposals(page.Progress);
-        page.AddRow([](cImportEntry& row) { row.ImportPurpose = u"Shell Autohof"_s; });
-        page.AddRow([](cImportEntry& row) { row.ImportPurpose = u"GA NR123 Bargeld"_s; });
-        page.Review.View().SetFilter(u"autohof"_s);
-        QCOMPARE(page.Cell(0, cStagedListModel::Category), u"Auto; Benzin"_s);
-        page.Review.View().SetFilter(u"bargeld"_s);
-        QCOMPARE(page.Cell(0, cStagedListModel::Category), u"Allgemein; Barauszahlung"_s);
-        page.Review.AcceptProposals(page.Progress); // nothing to be booked unseen
-        QVERIFY(page.User.Shown.last().startsWith(u"Keiner der gezeigten Umsätze hat einen sicheren Vorschlag."));
     }
 
     void AsksBeforeBookingTwice()

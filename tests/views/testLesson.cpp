@@ -3,7 +3,6 @@
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "import/stage/cStaging.h"
-#include "model/modWord.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"

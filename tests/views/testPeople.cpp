@@ -1,6 +1,5 @@
 #include "model/modPeople.h"
 #include "model/modSettingKey.h"
-#include "store/cJournal.h"
 #include "store/cUndoStep.h"
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"

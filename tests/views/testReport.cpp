@@ -1,7 +1,6 @@
 #include "core/modDemo.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
-#include "store/cDataAccess.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"

@@ -1,5 +1,4 @@
 #include "base/modAmount.h"
-#include "core/cAmountFormat.h"
 #include "import/propose/cOwnRules.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"

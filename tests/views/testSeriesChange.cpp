@@ -14,11 +14,12 @@ namespace {
 const QString lossQuestion = u"Der Zeitraum für diesen Eintrag wurde modifiziert.\nDie manuellen Korrekturen gehen "
                              "dadurch verloren.\nSoll der Eintrag trotzdem gespeichert werden?"_s;
 
-// Rent of 10 euros on the 10th of each month since March 2026.
-cEntryItem AddRent(cTestBook& book)
+// A book with a rent of 10 euros on the 10th of each month since March 2026.
+struct cRentBook : cEditorBook
 {
-    return book.Spend(QDate(2026, 3, 10), 1000, u"Miete"_s, u"Monatlich"_s);
-}
+    const int Rent = Spend(QDate(2026, 3, 10), 1000, u"Miete"_s, u"Monatlich"_s).ID;
+    cSeriesChange Change{Tools};
+};
 
 // "2026-04-01 12.50 text" of each correction, by period.
 QStringList Corrections(cTestBook& book, int id)
@@ -70,55 +71,50 @@ private Q_SLOTS:
 
     void CorrectsOnePeriod()
     {
-        cTestBook book;
-        const int id = AddRent(book).ID;
-        cSeriesChange change(book.Tools);
-        QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 1250, u"Nachzahlung"_s));
-        QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 31), -1300, u"neu"_s)); // same period, any day of it
-        QVERIFY(!change.CorrectPeriod(id, QDate(2026, 2, 10), 1, {}));          // before the series
-        QCOMPARE(Corrections(book, id), QStringList({u"2026-05-01 1300 neu"_s}));
-        QCOMPARE(book.Data.GetEntryMods(id).first().EntryEndDate, QDate(2026, 5, 31));
+        cRentBook book;
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 5, 10), 1250, u"Nachzahlung"_s));
+        QVERIFY(
+            book.Change.CorrectPeriod(book.Rent, QDate(2026, 5, 31), -1300, u"neu"_s)); // same period, any day of it
+        QVERIFY(!book.Change.CorrectPeriod(book.Rent, QDate(2026, 2, 10), 1, {}));      // before the series
+        QCOMPARE(Corrections(book, book.Rent), QStringList({u"2026-05-01 1300 neu"_s}));
+        QCOMPARE(book.Data.GetEntryMods(book.Rent).first().EntryEndDate, QDate(2026, 5, 31));
         QCOMPARE(book.Data.Journal().UndoName(), u"Betrag von 'Miete' korrigiert"_s);
         QVERIFY(book.Data.Journal().Undo());
-        QCOMPARE(Corrections(book, id), QStringList({u"2026-05-01 1250 Nachzahlung"_s}));
+        QCOMPARE(Corrections(book, book.Rent), QStringList({u"2026-05-01 1250 Nachzahlung"_s}));
     }
 
     void SkipsAndTakesBack()
     {
-        cTestBook book;
-        const int id = AddRent(book).ID;
-        cSeriesChange change(book.Tools);
-        QVERIFY(!change.RemoveCorrection(id, QDate(2026, 4, 10)));
-        QVERIFY(change.SkipPeriod(id, QDate(2026, 4, 10)));
-        QCOMPARE(Corrections(book, id), QStringList({u"2026-04-01 0 Ausgelassen"_s}));
-        QVERIFY(change.RemoveCorrection(id, QDate(2026, 4, 10)));
-        QVERIFY(Corrections(book, id).isEmpty());
+        cRentBook book;
+        QVERIFY(!book.Change.RemoveCorrection(book.Rent, QDate(2026, 4, 10)));
+        QVERIFY(book.Change.SkipPeriod(book.Rent, QDate(2026, 4, 10)));
+        QCOMPARE(Corrections(book, book.Rent), QStringList({u"2026-04-01 0 Ausgelassen"_s}));
+        QVERIFY(book.Change.RemoveCorrection(book.Rent, QDate(2026, 4, 10)));
+        QVERIFY(Corrections(book, book.Rent).isEmpty());
     }
 
     void PeriodForm()
     {
-        cTestBook book;
-        const int id = AddRent(book).ID;
-        cSeriesChange change(book.Tools);
-        cSeriesChange::cPeriodFields fields = change.StartPeriod(id, QDate(2026, 4, 10)).value();
+        cRentBook book;
+        cSeriesChange::cPeriodFields fields = book.Change.StartPeriod(book.Rent, QDate(2026, 4, 10)).value();
         QCOMPARE(fields.Title, u"'Miete' vom 01.04.2026 bis 30.04.2026"_s);
         QCOMPARE(fields.Amount, u"10,00"_s);
         QVERIFY(!fields.IsCorrected);
         fields.Amount = u"zwölf"_s;
-        QCOMPARE(change.SavePeriod(fields), cSeriesChange::eSaved::BadAmount);
+        QCOMPARE(book.Change.SavePeriod(fields), cSeriesChange::eSaved::BadAmount);
         fields.Amount = u"10+2,5"_s;
-        QCOMPARE(change.SavePeriod(fields), cSeriesChange::eSaved::Saved);
-        fields = change.StartPeriod(id, QDate(2026, 4, 10)).value();
+        QCOMPARE(book.Change.SavePeriod(fields), cSeriesChange::eSaved::Saved);
+        fields = book.Change.StartPeriod(book.Rent, QDate(2026, 4, 10)).value();
         QCOMPARE(fields.Amount, u"12,50"_s);
         QVERIFY(fields.IsCorrected);
         QVERIFY(book.Settings->Set(modSettingKey::LanguageFormat, u"en-GB"_s));
         book.Format.CultureChanged();
         cSeriesChange british(book.Tools);
-        fields = british.StartPeriod(id, QDate(2026, 4, 10)).value();
+        fields = british.StartPeriod(book.Rent, QDate(2026, 4, 10)).value();
         QCOMPARE(fields.Amount, u"12.50"_s);
         fields.Amount = u"1,234"_s;
         QCOMPARE(british.SavePeriod(fields), cSeriesChange::eSaved::Saved);
-        QCOMPARE(book.Data.GetEntryMods(id).first().EntryValue, 123400);
+        QCOMPARE(book.Data.GetEntryMods(book.Rent).first().EntryValue, 123400);
     }
 
     void PeriodFormMoves_data()
@@ -139,17 +135,16 @@ private Q_SLOTS:
     {
         QFETCH(const QString, day);
         QFETCH(const QString, amount);
-        cTestBook book;
-        const int id = AddRent(book).ID;
-        QVERIFY(book.Data.AddNewEntryMod({0, id, modWord::Betrag, QDate(2026, 4, 1), QDate(2026, 4, 30), 1000,
+        cRentBook book;
+        QVERIFY(book.Data.AddNewEntryMod({0, book.Rent, modWord::Betrag, QDate(2026, 4, 1), QDate(2026, 4, 30), 1000,
                                           u"Laut Kontoauszug"_s, QDate(2026, 4, 14)}));
-        cSeriesChange change(book.Tools);
-        cSeriesChange::cPeriodFields fields = change.StartPeriod(id, QDate(2026, 4, 10), book.Clock.Day).value();
+        cSeriesChange::cPeriodFields fields =
+            book.Change.StartPeriod(book.Rent, QDate(2026, 4, 10), book.Clock.Day).value();
         QCOMPARE(fields.DayText, u"14.04.2026"_s);
         fields.DayText = day;
         fields.Amount = amount;
-        QTEST(int(change.SavePeriod(fields)), "saved");
-        const cEntryItemFixMod stored = book.Data.GetEntryMods(id).first();
+        QTEST(int(book.Change.SavePeriod(fields)), "saved");
+        const cEntryItemFixMod stored = book.Data.GetEntryMods(book.Rent).first();
         QTEST(stored.EntryDay, "moved");
         QTEST(stored.EntryComment, "comment");
     }
@@ -177,36 +172,32 @@ private Q_SLOTS:
 
     void PageIsStoredWithTheEntry()
     {
-        cEditorBook book;
-        const int id = AddRent(book).ID;
-        cSeriesChange change(book.Tools);
-        QVERIFY(change.CorrectPeriod(id, QDate(2026, 3, 10), 1, u"weg"_s));
-        QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 2, u"bleibt"_s));
-        QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 3, u"anders"_s));
-        cEntryFields fields = book.Editor.Load(id).value();
+        cRentBook book;
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 3, 10), 1, u"weg"_s));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 4, 10), 2, u"bleibt"_s));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 5, 10), 3, u"anders"_s));
+        cEntryFields fields = book.Editor.Load(book.Rent).value();
         QVERIFY(book.Editor.ShowsCorrections(fields));
         QCOMPARE(modCorrections::Change(2, u"30"_s, u"geändert"_s, fields), modCorrections::eSet::Done);
         modCorrections::Remove(0, fields);
         QCOMPARE(modCorrections::Set(u"1.6."_s, u"4"_s, u"neu"_s, book.Clock.Day, fields), modCorrections::eSet::Done);
-        QCOMPARE(Corrections(book, id).size(), 3); // nothing is stored before the entry is
+        QCOMPARE(Corrections(book, book.Rent).size(), 3); // nothing is stored before the entry is
         QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
-        QCOMPARE(Corrections(book, id),
+        QCOMPARE(Corrections(book, book.Rent),
                  QStringList({u"2026-04-01 2 bleibt"_s, u"2026-05-01 3000 geändert"_s, u"2026-06-01 400 neu"_s}));
         QVERIFY(book.User.Asked.isEmpty());
         QVERIFY(book.Data.Journal().Undo());
-        QCOMPARE(Corrections(book, id),
+        QCOMPARE(Corrections(book, book.Rent),
                  QStringList({u"2026-03-01 1 weg"_s, u"2026-04-01 2 bleibt"_s, u"2026-05-01 3 anders"_s}));
     }
 
     void FromHereSplitsTheSeries()
     {
-        cEditorBook book;
-        const int id = AddRent(book).ID;
-        cSeriesChange change(book.Tools);
-        QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 1, u"früher"_s));
-        QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 2, u"dieser"_s));
-        QVERIFY(change.CorrectPeriod(id, QDate(2026, 8, 10), 3, u"später"_s));
-        cEntryFields fields = book.Editor.LoadFrom(id, QDate(2026, 5, 10)).value();
+        cRentBook book;
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 4, 10), 1, u"früher"_s));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 5, 10), 2, u"dieser"_s));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 8, 10), 3, u"später"_s));
+        cEntryFields fields = book.Editor.LoadFrom(book.Rent, QDate(2026, 5, 10)).value();
         QCOMPARE(fields.Date, QDate(2026, 5, 10));
         QCOMPARE(fields.Corrections.size(), 2);
         fields.Amount = u"11"_s;
@@ -214,20 +205,20 @@ private Q_SLOTS:
         QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         QVERIFY(book.User.Asked.isEmpty());
 
-        const cEntryItem old = book.Data.LoadEntry(id).value();
+        const cEntryItem old = book.Data.LoadEntry(book.Rent).value();
         QCOMPARE(old.EntryDateEnd, QDate(2026, 5, 9));
         QCOMPARE(old.EntryValue, 1000);
-        QCOMPARE(Corrections(book, id), QStringList({u"2026-04-01 1 früher"_s}));
+        QCOMPARE(Corrections(book, book.Rent), QStringList({u"2026-04-01 1 früher"_s}));
         const cEntryItem next = book.Data.LoadEntry(book.Editor.SavedId()).value();
-        QVERIFY(next.ID != id);
+        QVERIFY(next.ID != book.Rent);
         QCOMPARE(next.EntryDate, QDate(2026, 5, 20));
         QCOMPARE(next.EntryValue, 1100);
         QCOMPARE(Corrections(book, next.ID), QStringList({u"2026-05-01 2 dieser"_s, u"2026-08-01 3 später"_s}));
 
         QVERIFY(book.Data.Journal().Undo());
         QCOMPARE(book.Data.CountEntries(), 1);
-        QCOMPARE(Corrections(book, id).size(), 3);
-        QCOMPARE(book.Data.LoadEntry(id)->EntryDateEnd, modRecurrence::OpenEnd);
+        QCOMPARE(Corrections(book, book.Rent).size(), 3);
+        QCOMPARE(book.Data.LoadEntry(book.Rent)->EntryDateEnd, modRecurrence::OpenEnd);
     }
 
     void FromHereAsksForLostCorrections_data()
@@ -242,31 +233,29 @@ private Q_SLOTS:
     {
         QFETCH(int, answer);
         QFETCH(int, entries);
-        cEditorBook book;
-        const int id = AddRent(book).ID;
-        cSeriesChange change(book.Tools);
-        QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 1, u"früher"_s));
-        QVERIFY(change.CorrectPeriod(id, QDate(2026, 8, 10), 3, u"später"_s));
-        cEntryFields fields = book.Editor.LoadFrom(id, QDate(2026, 5, 10)).value();
+        cRentBook book;
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 4, 10), 1, u"früher"_s));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 8, 10), 3, u"später"_s));
+        cEntryFields fields = book.Editor.LoadFrom(book.Rent, QDate(2026, 5, 10)).value();
         fields.Interval = u"Alle 3 Monate"_s;
         book.User.Answers = {static_cast<eAnswer>(answer)};
         (void)book.Editor.Save(fields);
         QCOMPARE(book.User.Asked, QStringList({lossQuestion}));
-        QTEST(Corrections(book, id), "old");
+        QTEST(Corrections(book, book.Rent), "old");
         QCOMPARE(book.Data.CountEntries(), entries);
         QVERIFY(entries == 1 || Corrections(book, book.Editor.SavedId()).isEmpty());
     }
 
     void FromHereTakesBankRowsAlong()
     {
-        cEditorBook book;
-        const int id = AddRent(book).ID;
+        cRentBook book;
         for (const QDate day : {QDate(2026, 4, 11), QDate(2026, 5, 8)}) {
-            book.Stage({}, day, 0, {}, id);
+            book.Stage({}, day, 0, {}, book.Rent);
         }
-        QCOMPARE(book.Editor.Save(book.Editor.LoadFrom(id, QDate(2026, 5, 10)).value()), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Save(book.Editor.LoadFrom(book.Rent, QDate(2026, 5, 10)).value()),
+                 cEntryEditor::eSaved::Saved);
         const cImportEntryList rows = book.Data.GetImportEntries();
-        QCOMPARE(rows.at(0).ImportAssignedEntry, id);
+        QCOMPARE(rows.at(0).ImportAssignedEntry, book.Rent);
         QCOMPARE(rows.at(1).ImportAssignedEntry, book.Editor.SavedId());
     }
 };

@@ -1,4 +1,3 @@
-#include "model/modFlags.h"
 #include "model/modSettingKey.h"
 #include "model/modSplit.h"
 #include "support/cTestClass.h"

@@ -1,5 +1,4 @@
 #include "cEditorBook.h"
-#include "model/modSplit.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 #include "views/entry/modSplitParts.h"

@@ -1,4 +1,3 @@
-#include "core/cSettings.h"
 #include "import/plan/modStagedTwins.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"

@@ -25,7 +25,7 @@ struct cScene
             e.EntryValue = 70000;
             e.EntryCategory = u"Wohnung; Miete"_s;
         });
-        Book.Add([](cEntryItem& e) { e.EntryValue = 5000; });
+        Book.Spend(QDate(2026, 3, 10), 5000);
         Book.Add([](cEntryItem& e) {
             e.EntryValue = 2500;
             e.EntryAccount = u"Bargeld"_s;

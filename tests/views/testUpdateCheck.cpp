@@ -1,4 +1,3 @@
-#include "core/cConfiguration.h"
 #include "model/modSettingKey.h"
 #include "support/cFakeHttps.h"
 #include "support/cTestClass.h"
