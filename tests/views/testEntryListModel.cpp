@@ -292,23 +292,6 @@ private Q_SLOTS:
         QCOMPARE(model.index(3, 0).data(cEntryListModel::ToneRole).toInt(), cEntryListModel::Income);
     }
 
-    void TransfersCountWithAnAccount()
-    {
-        const cTestFormat format;
-        cEntryListModel model(format.Format);
-        for (const auto& [account, effect] :
-             {std::pair(u"Girokonto"_s, qint64(-2000)), std::pair(u"Sparkonto"_s, qint64(2000)),
-              std::pair(QString(), qint64(0))}) {
-            cEntryListModel::cContent content;
-            content.Entries = {Entry(4, QDate(2026, 4, 1), u"Geldanlage"_s, 2000, modWord::Umbuchung)};
-            content.Account = account;
-            content.StartBalance = 10000;
-            model.SetContent(content, {}, modWord::KeineGruppierung);
-            QCOMPARE(model.Sums().Total(), effect);
-            QCOMPARE(model.index(0, cEntryListModel::Balance).data().toString(), format.Format.Cents(10000 + effect));
-        }
-    }
-
     void KeepsTheContractOfItemModels()
     {
         const cTestFormat format;

@@ -32,17 +32,9 @@ struct cPage : cTestBook
     }
 
     // A row of the giro account that came without a file.
-    template <typename tChange>
-    void AddRow(tChange change)
+    void AddRow(const QString& name)
     {
-        cImportEntry row;
-        row.ImportAccount = u"1234567"_s;
-        row.ImportDate = QDate(2026, 1, 20);
-        row.ImportValue = -750;
-        change(row);
-        if (!Data.AddNewImportEntry(row)) {
-            qFatal("row not added");
-        }
+        Stage(u"1234567"_s, QDate(2026, 1, 20), -750, name);
         Review.Refresh();
     }
 
@@ -270,11 +262,11 @@ private Q_SLOTS:
     {
         cPage page;
         page.ImportFixture();
-        page.AddRow([](cImportEntry& row) { row.ImportPurpose = u"Geschenk"_s; });
+        page.AddRow(u"Geschenk"_s);
         const int last = page.AllIds().last();
         QVERIFY(page.Review.Choose({last}, u"Freizeit; Geschenke"_s, {}));
         QVERIFY(page.Data.DeleteImport(last));
-        page.AddRow([](cImportEntry& row) { row.ImportPurpose = u"etwas ganz anderes"_s; });
+        page.AddRow(u"etwas ganz anderes"_s);
         QCOMPARE(page.AllIds().last(), last);
         QCOMPARE(page.Cell(5, cStagedListModel::Reason), u"keine Regel passt"_s);
     }
@@ -360,7 +352,7 @@ private Q_SLOTS:
     {
         cPage page;
         page.ImportFixture();
-        page.AddRow([](cImportEntry& row) { row.ImportBeneficiary = u"Unbekannt GmbH"_s; });
+        page.AddRow(u"Unbekannt GmbH"_s);
         page.Review.AcceptProposals(page.Progress); // the user says no
         QCOMPARE(page.User.Asked.last(),
                  u"5 der gezeigten Umsätze haben einen sicheren Vorschlag und werden neu gebucht.\nOffen "
@@ -386,7 +378,7 @@ private Q_SLOTS:
     {
         cPage page;
         page.ImportFixture();
-        page.AddRow([](cImportEntry& row) { row.ImportBeneficiary = u"Unbekannt GmbH"_s; });
+        page.AddRow(u"Unbekannt GmbH"_s);
         page.Review.View().SetGrouping(static_cast<int>(modStagedGroup::eGrouping::Plan));
         cStagedListModel& rows = page.Review.Rows();
         QStringList groups;
@@ -433,7 +425,7 @@ private Q_SLOTS:
     {
         cPage page;
         page.ImportFixture();
-        page.AddRow([](cImportEntry& row) { row.ImportBeneficiary = u"Unbekannt GmbH"_s; });
+        page.AddRow(u"Unbekannt GmbH"_s);
         const int id = page.AllIds().last();
         page.Review.View().SetUncategorisedOnly(true);
         QCOMPARE(page.AllIds(), QList<int>{id});
@@ -496,7 +488,8 @@ private Q_SLOTS:
         cImportEntry rewe = page.Data.GetImportEntries().constFirst();
         const int first = rewe.ID;
         rewe.ImportPurpose = u"Kartenzahlung 4711"_s; // the same in another file
-        page.AddRow([&](cImportEntry& row) { row = rewe; });
+        QVERIFY(page.Data.AddNewImportEntry(rewe));
+        page.Review.Refresh();
         const int second = page.Data.GetImportEntries().constLast().ID;
         QCOMPARE(page.Cell(0, cStagedListModel::State), u"doppelt?"_s);
         QVERIFY(page.Cell(0, cStagedListModel::Reason).startsWith(u"gleicher Tag, Betrag und"));
@@ -517,7 +510,7 @@ private Q_SLOTS:
     {
         cPage page;
         QVERIFY(page.Review.StartImportReview() == nullptr);
-        page.AddRow([](cImportEntry& row) { row.ImportBeneficiary = u"Von früher"_s; });
+        page.AddRow(u"Von früher"_s);
         page.ImportFixture();
         QVERIFY(page.Review.StartImportReview(1) == nullptr); // nobody knows with which file it came
         const std::unique_ptr<cImportReview> window = page.Review.StartImportReview();

@@ -136,9 +136,6 @@ private Q_SLOTS:
         QFETCH(QString, account);
         QFETCH(QString, type);
         QFETCH(const cSettingKey*, switchedOff);
-        QFETCH(qint64, income);
-        QFETCH(qint64, expense);
-        QFETCH(qint64, total);
 
         cScene scene;
         if (switchedOff != nullptr) {
@@ -150,10 +147,10 @@ private Q_SLOTS:
 
         const cEntrySums sums = scene.Model->Entries().Sums();
         QTEST(sums.Count, "count");
-        QCOMPARE(sums.Income, income);
-        QCOMPARE(sums.Expense, expense);
-        QCOMPARE(sums.Total(), total);
-        QCOMPARE(scene.Model->StartText().isEmpty(), total == income - expense);
+        QTEST(sums.Income, "income");
+        QTEST(sums.Expense, "expense");
+        QTEST(sums.Total(), "total");
+        QCOMPARE(scene.Model->StartText().isEmpty(), sums.Total() == sums.Income - sums.Expense);
     }
 
     void NewBookStartsWithTheResetView()

@@ -433,26 +433,6 @@ private Q_SLOTS:
         }
     }
 
-    void FutureAndStartFollowTheView()
-    {
-        cTestBook book;
-        book.Clock.Day = QDate(2026, 3, 10);
-        book.Add([](cEntryItem&) {});
-        book.Add([](cEntryItem& entry) { entry.EntryDate = QDate(2026, 3, 11); });
-        QVERIFY(book.Data.SetStartGuthaben(u"Girokonto"_s, -500, QDate(2026, 1, 1)));
-        cReportSource source(book.Tools);
-        const auto expense = [&] {
-            const cReportWish wish = source.Wish(eReport::Sum, modWord::AlleKonten, modWord::AktuellesJahr, {});
-            return source.Figures(wish).Expense.Amount.Cents;
-        };
-        book.Settings->ResetViewDefaults();
-        QCOMPARE(expense(), 2500);
-        book.Settings->SetBool(modSettingKey::ViewFuture, false);
-        QCOMPARE(expense(), 1500);
-        book.Settings->SetBool(modSettingKey::ViewStart, false);
-        QCOMPARE(expense(), 1000);
-    }
-
     void Tables()
     {
         const cReportWish wish = Wish(eReport::Limit, modPeriod::Month(QDate(2026, 1, 1), 0));
