@@ -36,6 +36,9 @@ struct cBooking
     QString Target;
     QString Category;
     qint64 Cents = 0;
+
+    // What it does to its account.
+    [[nodiscard]] qint64 Effect() const { return Type == modWord::Einnahme ? Cents : -Cents; }
 };
 
 // The sums of one category path.

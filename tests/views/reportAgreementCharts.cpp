@@ -123,12 +123,11 @@ void testReportAgreement::CompareCourse()
         const QDate last = modDate::FromGerman(chart.Labels.at(label));
         qint64 plain = 0;
         for (const cBooking& booking : m_bookings) {
-            const qint64 sign = booking.Type == modWord::Einnahme ? 1 : -1;
             const auto counts = [&](const QString& account) {
                 const bool isMeant = m_wish.Account.isEmpty() || account == m_wish.Account;
                 return booking.Day <= last && !account.isEmpty() && isMeant;
             };
-            plain += counts(booking.Account) ? sign * booking.Cents : 0;
+            plain += counts(booking.Account) ? booking.Effect() : 0;
             plain += counts(booking.Target) ? booking.Cents : 0;
         }
         QCOMPARE(chart.Series.first().At(label), plain);
@@ -161,8 +160,7 @@ void testReportAgreement::CompareBalances()
             if (!IsInside(booking)) {
                 continue;
             }
-            const qint64 sign = booking.Type == modWord::Einnahme ? 1 : -1;
-            plain += booking.Account == account ? sign * booking.Cents : 0;
+            plain += booking.Account == account ? booking.Effect() : 0;
             plain += booking.Target == account ? booking.Cents : 0;
         }
         QCOMPARE(balance, plain);

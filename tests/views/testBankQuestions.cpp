@@ -111,7 +111,7 @@ private Q_SLOTS:
             int count = 0;
             bool isNext = false;
             while (!isNext && count < 1000) {
-                moment += every * frame * microsecond;
+                moment += microsecond * every * frame;
                 isNext = pace.Paint(moment);
                 ++count;
             }

@@ -202,11 +202,7 @@ private Q_SLOTS:
         const QString target = u"Haushalt; Reinigung"_s;
         scene.Book.Settings->Set(modSettingKey::Budget.Of(food), u"2026=1.00"_s);
         scene.Book.Settings->Set(modSettingKey::Budget.Of(target), u"2026=2.00"_s);
-        if (!scene.Book.Data.FindTemplate(u"Haushalt"_s, u"Reinigung"_s)) {
-            cTemplateItem item =
-                modTemplate::NewCategory(scene.Book.Data.GetTemplates(), u"Haushalt"_s, u"Reinigung"_s);
-            QVERIFY(scene.Book.Data.AddNewTemplate(item));
-        }
+        scene.Book.AddCategory(target, [](cTemplateItem& item) { item.EntryType = modWord::Ausgabe; });
         scene.Book.User.Answers = {eAnswer::Yes};
         QVERIFY(cTemplateRemoval(scene.Book.Tools).MergeCategory(food, target));
         QCOMPARE(scene.Stored(target), u"2026=2.00"_s);

@@ -142,26 +142,22 @@ private Q_SLOTS:
     void LimitsSayWhatIsLeft()
     {
         cScene scene;
-        for (const auto& [sub, limit] : {std::pair("Lebensmittel", "50.00"), std::pair("Reinigung", "20.00")}) {
-            cTemplateItem item =
-                scene.Book.Data.FindTemplate(u"Haushalt"_s, QString::fromLatin1(sub)).value_or(cTemplateItem());
-            item.TemplateType = modWord::Kategorie;
-            item.TemplateCategory = u"Haushalt"_s;
-            item.TemplateName = QString::fromLatin1(sub);
-            item.EntryType = modWord::Ausgabe;
-            item.EntryInterval = modWord::Einmalig;
-            item.TemplateDefaultValue = QString::fromLatin1(limit);
-            QVERIFY(item.ID > 0 ? scene.Book.Data.ChangeTemplate(item) : scene.Book.Data.AddNewTemplate(item));
+        for (const auto& [path, limit, cents] : {std::tuple(u"Haushalt; Reinigung"_s, u"20.00"_s, 2500),
+                                                 std::tuple(u"Haushalt; Seife"_s, u"50.00"_s, 1600)}) {
+            scene.Book.AddCategory(path, [&limit = limit](cTemplateItem& item) {
+                item.EntryType = modWord::Ausgabe;
+                item.EntryInterval = modWord::Einmalig;
+                item.TemplateDefaultValue = limit;
+            });
+            scene.Book.Add([&path = path, &cents = cents](cEntryItem& entry) {
+                entry.EntryValue = cents;
+                entry.EntryCategory = path;
+            });
         }
-        scene.Book.Add([](cEntryItem& entry) { entry.EntryValue = 1600; });
-        scene.Book.Add([](cEntryItem& entry) {
-            entry.EntryValue = 2500;
-            entry.EntryCategory = u"Haushalt; Reinigung"_s;
-        });
         scene.Show();
         QCOMPARE(scene.Lines(eOverviewCard::Limits),
-                 QStringList({u"Haushalt; Reinigung | 5,00 € zu viel"_s,
-                              u"Haushalt; Lebensmittel | noch 34,00 €, 2,00 € je Tag"_s}));
+                 QStringList(
+                     {u"Haushalt; Reinigung | 5,00 € zu viel"_s, u"Haushalt; Seife | noch 34,00 €, 2,00 € je Tag"_s}));
         QCOMPARE(scene.Behind(scene.Card(eOverviewCard::Limits).Lines.at(1)), u"-16,00 €"_s);
     }
 
