@@ -281,7 +281,7 @@ private Q_SLOTS:
         QVERIFY(html.indexOf(u"2.500,00"_s, foot) > foot);
     }
 
-    void XlsxOfASettlement()
+    void XlsxOfASettlement() const
     {
         cCountedEntry counted{{}, u"Anna"_s, modPeople::Equal({u"Anna"_s, u"Ben"_s}), -1250};
         counted.Entry.EntryDate = QDate(2026, 3, 1);

@@ -59,7 +59,7 @@ public:
     }
 
     // Heads with their sums, and IDs of the rows.
-    QStringList Lines()
+    [[nodiscard]] QStringList Lines() const
     {
         QStringList lines;
         for (int top = 0; top < Model.rowCount(); ++top) {
