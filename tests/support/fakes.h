@@ -88,6 +88,20 @@ private:
     }
 };
 
+// The progress of a user who stops after some steps.
+class cFakeStop final : public cProgress
+{
+public:
+    explicit cFakeStop(int steps = 0) : m_steps(steps) {}
+    void showProgressBar(int /*maximum*/) override {}
+    void addProgressValue(int /*steps*/) override {}
+    void hideProgressBar() override {}
+    [[nodiscard]] bool IsCancelled() const override { return m_steps-- <= 0; }
+
+private:
+    mutable int m_steps;
+};
+
 class cFakeClock final : public cClock
 {
 public:

@@ -10,6 +10,7 @@
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
 #include "store/modSchema.h"
+#include "support/cTestFile.h"
 #include "support/fakes.h"
 
 #include <QFile>
@@ -44,6 +45,76 @@ public:
             qFatal("entry not added");
         }
         return entry;
+    }
+
+    // Adds an expense as Add does, which comes again and again where an interval is named; the stored entry.
+    cEntryItem Spend(QDate day, qint64 cents, const QString& text = {}, const QString& interval = modWord::Einmalig)
+    {
+        return Add([&](cEntryItem& entry) {
+            entry.EntryDate = day;
+            entry.EntryValue = cents;
+            entry.EntryDescription = text;
+            entry.EntryInterval = interval;
+        });
+    }
+
+    // Adds a transfer; the stored entry.
+    cEntryItem Move(const QString& from, const QString& to, qint64 cents = 1000, QDate day = QDate(2026, 3, 10))
+    {
+        return Add([&](cEntryItem& entry) {
+            entry.EntryDate = day;
+            entry.EntryType = modWord::Umbuchung;
+            entry.EntryAccount = from;
+            entry.EntryAccountMove = to;
+            entry.EntryValue = cents;
+        });
+    }
+
+    // Another amount for the occurrences of a series between two days.
+    void Correct(int id, QDate start, QDate end, qint64 cents)
+    {
+        if (!Data.AddNewEntryMod({0, id, modWord::Betrag, start, end, cents, {}})) {
+            qFatal("correction not added");
+        }
+    }
+
+    // Adds a row of the bank, which pays the entry with this ID; the stored row.
+    cImportEntry Stage(const QString& number, QDate day, qint64 cents, const QString& name = {}, int entry = -1)
+    {
+        cImportEntry row;
+        row.ImportAccount = number;
+        row.ImportDate = day;
+        row.ImportValue = cents;
+        row.ImportBeneficiary = name;
+        row.ImportAssigned = entry > 0;
+        row.ImportAssignedEntry = entry;
+        if (!Data.AddNewImportEntry(row)) {
+            qFatal("row not added");
+        }
+        return row;
+    }
+
+    // Adds a category as `change` makes it; its path.
+    template <typename tChange>
+    QString AddCategory(const QString& path, tChange change)
+    {
+        cTemplateItem item;
+        item.TemplateType = modWord::Kategorie;
+        item.TemplateCategory = modTemplate::MainOf(path);
+        item.TemplateName = modTemplate::SubOf(path);
+        change(item);
+        if (!Data.AddNewTemplate(item)) {
+            qFatal("category not added");
+        }
+        return path;
+    }
+
+    // Makes a table unreadable and opens the book again.
+    void Damage(const std::string& table)
+    {
+        const QString path = Path();
+        cTestFile::Damage(path, table);
+        Database.Open(path, eOpenMode::ReadWrite);
     }
 
     QString Path() const { return Database.Path(); }

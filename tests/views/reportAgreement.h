@@ -36,6 +36,9 @@ struct cBooking
     QString Target;
     QString Category;
     qint64 Cents = 0;
+
+    // What it does to its account.
+    [[nodiscard]] qint64 Effect() const { return Type == modWord::Einnahme ? Cents : -Cents; }
 };
 
 // The sums of one category path.
@@ -96,6 +99,7 @@ private:
     void CompareNodes(const cReportFigures& figures);
     void CompareBudget();
     void CompareList();
+    [[nodiscard]] cChartData Chart(eChartKind kind, int forecastMonths = 0);
     void CompareCharts();
     void CompareFlow(const cReportFigures& figures);
     void CompareCalendar();

@@ -5,15 +5,20 @@ using namespace reportAgreement;
 
 // What the charts show of the random books.
 
+cChartData testReportAgreement::Chart(eChartKind kind, int forecastMonths)
+{
+    return cChartMaker(m_book.Data, m_format.Format, m_wish.Today)
+        .Make({.Kind = kind,
+               .Range = m_wish.Range,
+               .Account = m_wish.Account,
+               .ShowsFuture = m_wish.ShowsFuture,
+               .ForecastMonths = forecastMonths});
+}
+
 // However a chart divides the money of a period, it is the money of the report: in sum, and of each month that of a
 // report on this month.
 void testReportAgreement::CompareCharts()
 {
-    cChartMaker maker(m_book.Data, m_format.Format, m_wish.Today);
-    const auto make = [&](eChartKind kind) {
-        return maker.Make(
-            {.Kind = kind, .Range = m_wish.Range, .Account = m_wish.Account, .ShowsFuture = m_wish.ShowsFuture});
-    };
     const auto total = [](const cChartData& chart, int label) {
         return std::accumulate(
             chart.Series.begin(), chart.Series.end(), qint64(0),
@@ -22,12 +27,12 @@ void testReportAgreement::CompareCharts()
     cReportWish wish = m_wish;
     wish.ShowsStart = false; // a chart never counts them
     const cReportFigures figures = m_source->Figures(wish);
-    QCOMPARE(total(make(eChartKind::ExpensePie), 0), figures.Expense.Amount.Cents);
-    QCOMPARE(total(make(eChartKind::IncomePie), 0), figures.Income.Amount.Cents);
+    QCOMPARE(total(Chart(eChartKind::ExpensePie), 0), figures.Expense.Amount.Cents);
+    QCOMPARE(total(Chart(eChartKind::IncomePie), 0), figures.Income.Amount.Cents);
     CompareFlow(figures);
-    const cChartData months = make(eChartKind::Months);
-    const cChartData expense = make(eChartKind::ExpenseMonths);
-    const cChartData income = make(eChartKind::IncomeMonths);
+    const cChartData months = Chart(eChartKind::Months);
+    const cChartData expense = Chart(eChartKind::ExpenseMonths);
+    const cChartData income = Chart(eChartKind::IncomeMonths);
     for (int month = 0; month < months.Labels.size(); ++month) {
         const QDate first = QDate(m_wish.Range.Start.year(), m_wish.Range.Start.month(), 1).addMonths(month);
         wish.Range = {qMax(first, m_wish.Range.Start), qMin(first.addMonths(1).addDays(-1), m_wish.Range.End)};
@@ -43,11 +48,7 @@ void testReportAgreement::CompareCharts()
 // The parts that have entries behind them are the report, and both sides of the flow are equal.
 void testReportAgreement::CompareFlow(const cReportFigures& figures)
 {
-    const cChartData flow = cChartMaker(m_book.Data, m_format.Format, m_wish.Today)
-                                .Make({.Kind = eChartKind::Flow,
-                                       .Range = m_wish.Range,
-                                       .Account = m_wish.Account,
-                                       .ShowsFuture = m_wish.ShowsFuture});
+    const cChartData flow = Chart(eChartKind::Flow);
     qint64 difference = 0;
     for (const cChartSeries& series : flow.Series) {
         const bool isIncome = series.At(0).has_value();
@@ -72,11 +73,7 @@ void testReportAgreement::CompareCalendar()
     cReportWish wish = m_wish;
     wish.Type = eReport::Sum;
     wish.ShowsStart = false;
-    const cChartData chart = cChartMaker(m_book.Data, m_format.Format, m_wish.Today)
-                                 .Make({.Kind = eChartKind::Calendar,
-                                        .Range = m_wish.Range,
-                                        .Account = m_wish.Account,
-                                        .ShowsFuture = m_wish.ShowsFuture});
+    const cChartData chart = Chart(eChartKind::Calendar);
     for (int day = 0; day < chart.Days.size(); ++day) {
         qint64 plain = 0;
         for (const cBooking& booking : m_bookings) {
@@ -100,11 +97,7 @@ void testReportAgreement::CompareLimitMonths()
     cReportWish wish = m_wish;
     wish.Type = eReport::Limit;
     wish.Spending = eReportSpending::Net;
-    const cChartData chart = cChartMaker(m_book.Data, m_format.Format, m_wish.Today)
-                                 .Make({.Kind = eChartKind::Limits,
-                                        .Range = m_wish.Range,
-                                        .Account = m_wish.Account,
-                                        .ShowsFuture = m_wish.ShowsFuture});
+    const cChartData chart = Chart(eChartKind::Limits);
     const auto whole = [](const cChartSeries& series) {
         return std::accumulate(series.Cents.begin(), series.Cents.end(), qint64(0),
                                [](qint64 sum, std::optional<qint64> cents) { return sum + cents.value_or(0); });
@@ -125,31 +118,21 @@ void testReportAgreement::CompareLimitMonths()
 // Each day of the line of balances is where all bookings up to it lead, ahead as well as behind.
 void testReportAgreement::CompareCourse()
 {
-    const cChartData chart = cChartMaker(m_book.Data, m_format.Format, m_wish.Today)
-                                 .Make({.Kind = eChartKind::Balances,
-                                        .Range = m_wish.Range,
-                                        .Account = m_wish.Account,
-                                        .ShowsFuture = m_wish.ShowsFuture,
-                                        .ForecastMonths = 3 * Random(2)});
+    const cChartData chart = Chart(eChartKind::Balances, 3 * Random(2));
     for (int label = 0; label < chart.Labels.size(); ++label) {
         const QDate last = modDate::FromGerman(chart.Labels.at(label));
         qint64 plain = 0;
         for (const cBooking& booking : m_bookings) {
-            const qint64 sign = booking.Type == modWord::Einnahme ? 1 : -1;
             const auto counts = [&](const QString& account) {
                 const bool isMeant = m_wish.Account.isEmpty() || account == m_wish.Account;
                 return booking.Day <= last && !account.isEmpty() && isMeant;
             };
-            plain += counts(booking.Account) ? sign * booking.Cents : 0;
+            plain += counts(booking.Account) ? booking.Effect() : 0;
             plain += counts(booking.Target) ? booking.Cents : 0;
         }
         QCOMPARE(chart.Series.first().At(label), plain);
     }
-    const cChartData shares = cChartMaker(m_book.Data, m_format.Format, m_wish.Today)
-                                  .Make({.Kind = eChartKind::NetWorth,
-                                         .Range = m_wish.Range,
-                                         .Account = m_wish.Account,
-                                         .ShowsFuture = m_wish.ShowsFuture});
+    const cChartData shares = Chart(eChartKind::NetWorth);
     for (int label = 0; label < shares.Labels.size() && shares.Series.size() > 1; ++label) {
         qint64 sum = 0;
         for (const cChartSeries& share : shares.Series) {
@@ -177,8 +160,7 @@ void testReportAgreement::CompareBalances()
             if (!IsInside(booking)) {
                 continue;
             }
-            const qint64 sign = booking.Type == modWord::Einnahme ? 1 : -1;
-            plain += booking.Account == account ? sign * booking.Cents : 0;
+            plain += booking.Account == account ? booking.Effect() : 0;
             plain += booking.Target == account ? booking.Cents : 0;
         }
         QCOMPARE(balance, plain);

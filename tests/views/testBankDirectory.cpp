@@ -1,8 +1,9 @@
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/fakes.h"
 #include "views/bank/cBankDirectory.h"
 
-#include <QFile>
 #include <QRegularExpression>
 #include <QSet>
 #include <QTest>
@@ -32,12 +33,7 @@ QString Codes(const cBankInfoList& banks)
 // The directory of a program that this file was installed with.
 struct cScene
 {
-    explicit cScene(const QByteArray& text)
-    {
-        QFile file(Shell.InstalledFile(u"banken.tsv"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(text);
-    }
+    explicit cScene(const QByteArray& text) { cTestFile::Write(Shell.InstalledFile(u"banken.tsv"_s), text); }
 
     cFakeShell Shell;
     cBankDirectory Directory{Shell};
@@ -45,8 +41,7 @@ struct cScene
 
 QByteArray Shipped()
 {
-    QFile file(QStringLiteral(BANKS));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return cTestFile::Bytes(QStringLiteral(BANKS));
 }
 
 } // namespace
@@ -56,141 +51,123 @@ class testBankDirectory final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void BestComesFirst_data();
-    void BestComesFirst();
-    void SaysWhatIsWrong_data();
-    void SaysWhatIsWrong();
-    void MissingFileIsSaid();
-    void TellsBanksOfOneNameApart();
-    void ShippedFileIsWhole();
-    void ShippedFileKnowsBanksByTheirUsualNames_data();
-    void ShippedFileKnowsBanksByTheirUsualNames();
+    void BestComesFirst_data()
+    {
+        // codes: the last two digits
+        const cTestRows<QString, QString> row("text", "codes");
+        // The name begins so before a word does before it is held; within that addresses, what lives, names.
+        row("name, word, within", u"bank"_s, u"03 01 02 44 06 05 04"_s);
+        row("umlaut left out", u"BANK KOLN"_s, u"03 01"_s);
+        row("umlaut spelled", u"koeln bank"_s, u"03 01"_s);
+        row("sharp s", u"gross gerau"_s, u"04"_s);
+        row("place only", u"gießen"_s, u"05"_s);
+        row("code", u"100 000 02"_s, u"02"_s);
+        row("labelled code", u"BLZ: 10000002"_s, u"02"_s);
+        row("begin of code", u"370"_s, u"44"_s);
+        row("word and begin of code", u"volksbank 1000"_s, u"06 05 04"_s);
+        row("BIC", u"dddd de 44 xxx"_s, u"04"_s);
+        row("BIC of the head office", u"DDDDDE44"_s, u"04 06 05"_s);
+        row("BIC of a branch long gone", u"BBBBDE22123"_s, u"02"_s);
+        row("IBAN", u"IBAN: de89 3704 0044 0532 0130 00"_s, u"44"_s);
+        row("IBAN half typed", u"DE89 3704 00"_s, u"44"_s);
+        row("IBAN typed as far as the code", u"DE89 3704 0044 05"_s, u"44"_s);
+    }
+
+    void BestComesFirst()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, codes);
+        const cScene scene(invented);
+        const cBankMatches answer = scene.Directory.Search(text, 10);
+        QCOMPARE(Codes(answer.Banks), codes);
+        QCOMPARE(answer.Problem, QString());
+        const cBankMatches shorter = scene.Directory.Search(text, 1);
+        QCOMPARE(Codes(shorter.Banks), codes.left(2));
+        QCOMPARE(shorter.Found, answer.Banks.size());
+    }
+
+    void SaysWhatIsWrong_data()
+    {
+        // words: of the problem
+        const cTestRows<QString, QString> row("text", "words");
+        row("nothing typed", u"  "_s, u"Bitte geben Sie Name"_s);
+        row("only marks", u"-"_s, u"Keine Bank gefunden"_s);
+        row("no such bank", u"bank atlantis"_s, u"Keine Bank gefunden"_s);
+        row("no such code", u"99999999"_s, u"99999999 steht nicht im Verzeichnis"_s);
+        row("two digits swapped", u"DE98370400440532013000"_s, u"Tippfehler"_s);
+        row("a digit wrong", u"DE89370400440532013001"_s, u"Tippfehler"_s);
+        row("a digit too many", u"DE893704004405320130000"_s, u"20 Ziffern"_s);
+        row("a letter", u"DE8937040044O532013000"_s, u"20 Ziffern"_s);
+        row("right, of no bank here", u"DE12500105170648489890"_s, u"50010517 steht nicht"_s);
+        row("foreign", u"AT61 1904 3002 3457 3201"_s, u"keine deutsche IBAN"_s);
+        row("only begun", u"DE8"_s, u"tippen Sie weiter"_s);
+    }
+
+    void SaysWhatIsWrong()
+    {
+        QFETCH(QString, text);
+        QFETCH(QString, words);
+        const cBankMatches answer = cScene(invented).Directory.Search(text, 10);
+        QVERIFY(answer.Banks.isEmpty());
+        QVERIFY2(answer.Problem.contains(words), qPrintable(answer.Problem));
+    }
+
+    void MissingFileIsSaid()
+    {
+        const cFakeShell shell;
+        const QStringList texts{u"Bank"_s, u"10000002"_s, u"DE89370400440532013000"_s};
+        for (const QString& text : texts) {
+            QVERIFY(cBankDirectory(shell).Search(text, 10).Problem.contains(u"banken.tsv"));
+        }
+    }
+
+    void TellsBanksOfOneNameApart()
+    {
+        const cScene scene(invented);
+        const auto title = [&](const QString& code) {
+            return scene.Directory.Title(scene.Directory.Find(code).value_or(cBankInfo()));
+        };
+        QCOMPARE(title(u"10000005"_s), u"Volksbank, Gießen"_s);
+        QCOMPARE(title(u"10000004"_s), u"Volksbank Groß-Gerau"_s);
+    }
+
+    void ShippedFileIsWhole()
+    {
+        static const QRegularExpression form(
+            u"^[0-9]{8}\t([A-Z]{6}[A-Z0-9]{5})?\t[^\t]+\t[^\t]*\t(https://[^\t/]+\\S*)?$"_s);
+        QStringList lines = QString::fromUtf8(Shipped()).split(u'\n');
+        QVERIFY(lines.takeLast().isEmpty());
+        lines.removeIf([](const QString& line) { return line.startsWith(u'#'); });
+        QVERIFY(lines.size() > 3000);
+        QSet<QString> codes;
+        for (const QString& line : lines) {
+            QVERIFY2(form.match(line).hasMatch(), qPrintable(line));
+            QVERIFY2(!codes.contains(line.left(8)), qPrintable(line));
+            codes.insert(line.left(8));
+        }
+    }
+
+    void ShippedFileKnowsBanksByTheirUsualNames_data()
+    {
+        const cTestRows<QString, QString, QString> row("text", "code", "url");
+        row("DKB", u"DKB"_s, u"12030000"_s, u"https://fints.dkb.de/fints"_s);
+        row("ING", u"ing"_s, u"50010517"_s, u"https://fints.ing.de/fints/"_s);
+        row("comdirect", u"comdirect"_s, u"20041111"_s, u"https://fints.comdirect.de/fints"_s);
+        row("Commerzbank in Berlin", u"10040000"_s, u"10040000"_s, u"https://fints.commerzbank.de/fints"_s);
+        row("seat of many branches", u"commerzbank köln"_s, u"37040044"_s, u"https://fints.commerzbank.de/fints"_s);
+        row("GLS", u"gls bank"_s, u"43060967"_s, u"https://fints1.atruvia.de/cgi-bin/hbciservlet"_s);
+        row("Sparda", u"33060592"_s, u"33060592"_s, u"https://fints2.atruvia.de/cgi-bin/hbciservlet"_s);
+        row("no longer this bank's", u"50010700"_s, u"50010700"_s, u""_s);
+    }
+
+    void ShippedFileKnowsBanksByTheirUsualNames()
+    {
+        QFETCH(QString, text);
+        const cBankMatches answer = cScene(Shipped()).Directory.Search(text, 1);
+        QTEST(answer.Banks.value(0).Code, "code");
+        QTEST(answer.Banks.value(0).Url, "url");
+    }
 };
-
-void testBankDirectory::BestComesFirst_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("codes"); // the last two digits
-
-    // The name begins so before a word does before it is held; within that addresses, what lives, names.
-    QTest::newRow("name, word, within") << u"bank"_s << u"03 01 02 44 06 05 04"_s;
-    QTest::newRow("umlaut left out") << u"BANK KOLN"_s << u"03 01"_s;
-    QTest::newRow("umlaut spelled") << u"koeln bank"_s << u"03 01"_s;
-    QTest::newRow("sharp s") << u"gross gerau"_s << u"04"_s;
-    QTest::newRow("place only") << u"gießen"_s << u"05"_s;
-    QTest::newRow("code") << u"100 000 02"_s << u"02"_s;
-    QTest::newRow("labelled code") << u"BLZ: 10000002"_s << u"02"_s;
-    QTest::newRow("begin of code") << u"370"_s << u"44"_s;
-    QTest::newRow("word and begin of code") << u"volksbank 1000"_s << u"06 05 04"_s;
-    QTest::newRow("BIC") << u"dddd de 44 xxx"_s << u"04"_s;
-    QTest::newRow("BIC of the head office") << u"DDDDDE44"_s << u"04 06 05"_s;
-    QTest::newRow("BIC of a branch long gone") << u"BBBBDE22123"_s << u"02"_s;
-    QTest::newRow("IBAN") << u"IBAN: de89 3704 0044 0532 0130 00"_s << u"44"_s;
-    QTest::newRow("IBAN half typed") << u"DE89 3704 00"_s << u"44"_s;
-    QTest::newRow("IBAN typed as far as the code") << u"DE89 3704 0044 05"_s << u"44"_s;
-}
-
-void testBankDirectory::BestComesFirst()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, codes);
-    const cScene scene(invented);
-    const cBankMatches answer = scene.Directory.Search(text, 10);
-    QCOMPARE(Codes(answer.Banks), codes);
-    QCOMPARE(answer.Problem, QString());
-    const cBankMatches shorter = scene.Directory.Search(text, 1);
-    QCOMPARE(Codes(shorter.Banks), codes.left(2));
-    QCOMPARE(shorter.Found, answer.Banks.size());
-}
-
-void testBankDirectory::SaysWhatIsWrong_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("words"); // of the problem
-
-    QTest::newRow("nothing typed") << u"  "_s << u"Bitte geben Sie Name"_s;
-    QTest::newRow("only marks") << u"-"_s << u"Keine Bank gefunden"_s;
-    QTest::newRow("no such bank") << u"bank atlantis"_s << u"Keine Bank gefunden"_s;
-    QTest::newRow("no such code") << u"99999999"_s << u"99999999 steht nicht im Verzeichnis"_s;
-    QTest::newRow("two digits swapped") << u"DE98370400440532013000"_s << u"Tippfehler"_s;
-    QTest::newRow("a digit wrong") << u"DE89370400440532013001"_s << u"Tippfehler"_s;
-    QTest::newRow("a digit too many") << u"DE893704004405320130000"_s << u"20 Ziffern"_s;
-    QTest::newRow("a letter") << u"DE8937040044O532013000"_s << u"20 Ziffern"_s;
-    QTest::newRow("right, of no bank here") << u"DE12500105170648489890"_s << u"50010517 steht nicht"_s;
-    QTest::newRow("foreign") << u"AT61 1904 3002 3457 3201"_s << u"keine deutsche IBAN"_s;
-    QTest::newRow("only begun") << u"DE8"_s << u"tippen Sie weiter"_s;
-}
-
-void testBankDirectory::SaysWhatIsWrong()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, words);
-    const cBankMatches answer = cScene(invented).Directory.Search(text, 10);
-    QVERIFY(answer.Banks.isEmpty());
-    QVERIFY2(answer.Problem.contains(words), qPrintable(answer.Problem));
-}
-
-void testBankDirectory::MissingFileIsSaid()
-{
-    const cFakeShell shell;
-    const QStringList texts{u"Bank"_s, u"10000002"_s, u"DE89370400440532013000"_s};
-    for (const QString& text : texts) {
-        QVERIFY(cBankDirectory(shell).Search(text, 10).Problem.contains(u"banken.tsv"));
-    }
-}
-
-void testBankDirectory::TellsBanksOfOneNameApart()
-{
-    const cScene scene(invented);
-    const auto title = [&](const QString& code) {
-        return scene.Directory.Title(scene.Directory.Find(code).value_or(cBankInfo()));
-    };
-    QCOMPARE(title(u"10000005"_s), u"Volksbank, Gießen"_s);
-    QCOMPARE(title(u"10000004"_s), u"Volksbank Groß-Gerau"_s);
-}
-
-void testBankDirectory::ShippedFileIsWhole()
-{
-    static const QRegularExpression form(
-        u"^[0-9]{8}\t([A-Z]{6}[A-Z0-9]{5})?\t[^\t]+\t[^\t]*\t(https://[^\t/]+\\S*)?$"_s);
-    QStringList lines = QString::fromUtf8(Shipped()).split(u'\n');
-    QVERIFY(lines.takeLast().isEmpty());
-    lines.removeIf([](const QString& line) { return line.startsWith(u'#'); });
-    QVERIFY(lines.size() > 3000);
-    QSet<QString> codes;
-    for (const QString& line : lines) {
-        QVERIFY2(form.match(line).hasMatch(), qPrintable(line));
-        QVERIFY2(!codes.contains(line.left(8)), qPrintable(line));
-        codes.insert(line.left(8));
-    }
-}
-
-void testBankDirectory::ShippedFileKnowsBanksByTheirUsualNames_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("code");
-    QTest::addColumn<QString>("url");
-
-    QTest::newRow("DKB") << u"DKB"_s << u"12030000"_s << u"https://fints.dkb.de/fints"_s;
-    QTest::newRow("ING") << u"ing"_s << u"50010517"_s << u"https://fints.ing.de/fints/"_s;
-    QTest::newRow("comdirect") << u"comdirect"_s << u"20041111"_s << u"https://fints.comdirect.de/fints"_s;
-    QTest::newRow("Commerzbank in Berlin") << u"10040000"_s << u"10040000"_s << u"https://fints.commerzbank.de/fints"_s;
-    QTest::newRow("seat of many branches")
-        << u"commerzbank köln"_s << u"37040044"_s << u"https://fints.commerzbank.de/fints"_s;
-    QTest::newRow("GLS") << u"gls bank"_s << u"43060967"_s << u"https://fints1.atruvia.de/cgi-bin/hbciservlet"_s;
-    QTest::newRow("Sparda") << u"33060592"_s << u"33060592"_s << u"https://fints2.atruvia.de/cgi-bin/hbciservlet"_s;
-    QTest::newRow("no longer this bank's") << u"50010700"_s << u"50010700"_s << u""_s;
-}
-
-void testBankDirectory::ShippedFileKnowsBanksByTheirUsualNames()
-{
-    QFETCH(QString, text);
-    QFETCH(QString, code);
-    QFETCH(QString, url);
-    const cBankMatches answer = cScene(Shipped()).Directory.Search(text, 1);
-    QCOMPARE(answer.Banks.value(0).Code, code);
-    QCOMPARE(answer.Banks.value(0).Url, url);
-}
 
 TEST_CLASS(testBankDirectory, QCoreApplication)
 #include "testBankDirectory.moc"

@@ -1,11 +1,12 @@
 #include "base/cBankUser.h"
-#include "base/cHttps.h"
 #include "base/cProgress.h"
 #include "fints/HBCIBusiness.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "support/bankMonth.h"
+#include "support/cFakeHttps.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/bank/cBankFetch.h"
 #include "views/statement/cStatementFiles.h"
@@ -34,14 +35,6 @@ public:
 
     QStringList Asked;
     QStringList NoPin;
-};
-
-class cNoHttps final : public cHttps
-{
-public:
-    cHttpsAnswer Post(const QString& /*url*/, const QByteArray& /*body*/) override { return {}; }
-    cHttpsAnswer Get(const cHttpsFile& /*file*/) override { return {}; }
-    void Cancel() override {}
 };
 
 cBankAccount Account(const QString& number, const QString& product)
@@ -116,7 +109,7 @@ struct cScene : cTestBook
         return text.replace(u'\u00A0', u' ');
     }
 
-    cNoHttps Https;
+    cFakeHttps Https;
     cFakeBankUser Customer;
     cImportHiveCache Hive{Data};
     cAccountMap Accounts{Data, *Settings};
@@ -157,11 +150,10 @@ private Q_SLOTS:
 
     void AsksAboutOldDays_data()
     {
-        QTest::addColumn<QList<eAnswer>>("answers");
-        QTest::addColumn<QStringList>("orders");
-        QTest::newRow("yes") << QList{eAnswer::Yes} << QStringList{u"888 2025-01-01 2026-03-15"_s};
-        QTest::newRow("no") << QList{eAnswer::No} << QStringList{u"888 2025-12-16 2026-03-15"_s};
-        QTest::newRow("cancel") << QList<eAnswer>{} << QStringList{};
+        const cTestRows<QList<eAnswer>, QStringList> row("answers", "orders");
+        row("yes", QList{eAnswer::Yes}, {u"888 2025-01-01 2026-03-15"_s});
+        row("no", QList{eAnswer::No}, {u"888 2025-12-16 2026-03-15"_s});
+        row("cancel", {}, {});
     }
 
     void AsksAboutOldDays()

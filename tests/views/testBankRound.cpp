@@ -1,12 +1,12 @@
 #include "base/cProgress.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 #include "testbank/cBankHousehold.h"
 #include "views/bank/cBankFetch.h"
 #include "views/ledger/cStatementLedger.h"
 #include "views/statement/cFileReport.h"
 #include "views/statement/cFileWish.h"
 #include "views/statement/cStatementDesk.h"
-#include "views/statement/cStatementFiles.h"
 
 #include <QTest>
 
@@ -32,12 +32,8 @@ struct cRound : cHousehold
 
     int ReadFile(const QString& name, const QByteArray& bytes)
     {
-        QFile file(m_files.filePath(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-            qFatal("file not written");
-        }
-        file.close();
-        return Desk.ImportFile(file.fileName(), {}).Staged;
+        cTestFile::Write(m_files.Path(name), bytes);
+        return Desk.ImportFile(m_files.Path(name), {}).Staged;
     }
 
     // The new rows of a fetch that has to succeed; else -1.
@@ -52,7 +48,7 @@ struct cRound : cHousehold
     cBankFetch Fetch{Tools, Desk.Files(), {Https, Customer, u"1.0.0"_s}};
 
 private:
-    QTemporaryDir m_files;
+    cTestFile m_files;
 };
 
 } // namespace

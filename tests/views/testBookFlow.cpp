@@ -1,10 +1,10 @@
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
 #include "model/modSettingKey.h"
-#include "store/cDatabase.h"
 #include "store/modBookFile.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/fakes.h"
 #include "views/book/cBookFlow.h"
 #include "views/book/cBookHost.h"
@@ -81,15 +81,13 @@ class testBookFlow final : public QObject
 private Q_SLOTS:
     void DamagedBook_data() const
     {
-        QTest::addColumn<bool>("hasCopy");
-        QTest::addColumn<int>("chosen");
-        QTest::addColumn<QString>("restored");
-        QTest::newRow("the newest sound copy") << true << 0 << u"Sicherungen/data-auto-2026-03-13.backup"_s;
-        QTest::newRow("another one") << true << 1 << u"my.backup"_s;
-        QTest::newRow("only reading") << true << 2 << QString();
-        QTest::newRow("no copy, another one") << false << 0 << u"my.backup"_s;
-        QTest::newRow("no copy, only reading") << false << 1 << QString();
-        QTest::newRow("giving up") << false << -1 << QString();
+        const cTestRows<bool, int, QString> row("hasCopy", "chosen", "restored");
+        row("the newest sound copy", true, 0, u"Sicherungen/data-auto-2026-03-13.backup"_s);
+        row("another one", true, 1, u"my.backup"_s);
+        row("only reading", true, 2, {});
+        row("no copy, another one", false, 0, u"my.backup"_s);
+        row("no copy, only reading", false, 1, {});
+        row("giving up", false, -1, {});
     }
 
     void DamagedBook() const
@@ -130,9 +128,9 @@ private Q_SLOTS:
 
     void NewBookInPlaceOfAFile_data() const
     {
-        QTest::addColumn<bool>("works");
-        QTest::newRow("the former file is kept") << true;
-        QTest::newRow("what cannot be opened leaves all as it was") << false;
+        const cTestRows<bool> row("works");
+        row("the former file is kept", true);
+        row("what cannot be opened leaves all as it was", false);
     }
 
     void NewBookInPlaceOfAFile() const
@@ -153,13 +151,11 @@ private Q_SLOTS:
 
     void NoNewBook_data() const
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<bool>("isFull");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("user gives up") << QString() << false << QString();
-        QTest::newRow("the open book") << u"data.db"_s << false << u"ist gerade geöffnet"_s;
-        QTest::newRow("somebody else's book") << u"used.db"_s << false << QString(); // the host says so
-        QTest::newRow("disk full") << u"neu.db"_s << true << u"Die Datenbank konnte nicht erstellt werden."_s;
+        const cTestRows<QString, bool, QString> row("name", "isFull", "message");
+        row("user gives up", {}, false, {});
+        row("the open book", u"data.db"_s, false, u"ist gerade geöffnet"_s);
+        row("somebody else's book", u"used.db"_s, false, {}); // the host says so
+        row("disk full", u"neu.db"_s, true, u"Die Datenbank konnte nicht erstellt werden."_s);
     }
 
     void NoNewBook() const
@@ -196,11 +192,10 @@ private Q_SLOTS:
 
     void SwitchToAnotherFile_data() const
     {
-        QTest::addColumn<bool>("hasList");
-        QTest::addColumn<bool>("works");
-        QTest::newRow("nothing in the list") << false << true;
-        QTest::newRow("not in the list") << true << true;
-        QTest::newRow("it does not open") << true << false;
+        const cTestRows<bool, bool> row("hasList", "works");
+        row("nothing in the list", false, true);
+        row("not in the list", true, true);
+        row("it does not open", true, false);
     }
 
     void SwitchToAnotherFile() const
@@ -268,11 +263,10 @@ private Q_SLOTS:
 
     void LoadBackup_data() const
     {
-        QTest::addColumn<eAnswer>("answer");
-        QTest::addColumn<bool>("works");
-        QTest::newRow("wanted") << eAnswer::Yes << true;
-        QTest::newRow("not the right one") << eAnswer::No << true;
-        QTest::newRow("wanted, and its password is not known") << eAnswer::Yes << false;
+        const cTestRows<eAnswer, bool> row("answer", "works");
+        row("wanted", eAnswer::Yes, true);
+        row("not the right one", eAnswer::No, true);
+        row("wanted, and its password is not known", eAnswer::Yes, false);
     }
 
     void LoadBackup() const

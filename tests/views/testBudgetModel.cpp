@@ -2,7 +2,6 @@
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/budget/cBudgetModel.h"
-#include "views/budget/modLimits.h"
 #include "views/template/cTemplateFlow.h"
 #include "views/template/cTemplateRemoval.h"
 
@@ -60,166 +59,156 @@ class testBudgetModel final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void IsTypedAndTakenBack();
-    void YearIsSpreadOrKept();
-    void HidesOnlyWhatDoesNotCount();
-    void FaultyAmountsStay();
-    void TakesAndGivesTables();
-    void ProposesLastYear();
-    void FollowsTheCategory();
-    void MergedCategoryKeepsItsOwn();
-};
-
-void testBudgetModel::IsTypedAndTakenBack()
-{
-    cScene scene;
-    const QAbstractItemModelTester tester(&scene.Model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-    scene.Type(u"Lebensmittel"_s, cBudgetModel::Plain, u"20"_s);
-    QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::Left), u"-10,00 €"_s);
-    scene.Type(u"Lebensmittel"_s, March, u"25+2,50"_s);
-    QVERIFY(scene.Model.setData(scene.Cell(u"Lebensmittel"_s, cBudgetModel::Carry), Qt::Checked, Qt::CheckStateRole));
-    // 20 from each of January and February go on to March.
-    QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::Left), u"37,50 €"_s);
-    QCOMPARE(scene.Text(u"Haushalt"_s, cBudgetModel::Spent), u"30,00 €"_s);
-    QCOMPARE(scene.Text(u"Summe"_s, cBudgetModel::Year), u"247,50 €"_s);
-    QCOMPARE(scene.Cell(u"Lebensmittel"_s, March - 1).data(cBudgetModel::ToneRole).toInt(), cBudgetModel::Quiet);
-    QVERIFY(scene.Stored(food).isEmpty()); // until it is saved
-    QVERIFY(scene.Model.Save());
-    QCOMPARE(scene.Stored(food), u"uebertrag=2026-01;2026=,,27.50"_s);
-    QCOMPARE(scene.Category().TemplateDefaultValue, u"20.00"_s);
-    QCOMPARE(scene.Book.Data.Journal().UndoName(), u"Budget von 'Haushalt; Lebensmittel' geändert"_s);
-    QVERIFY(scene.Book.Data.Journal().Undo());
-    QVERIFY(scene.Stored(food).isEmpty());
-    QCOMPARE(scene.Category().TemplateDefaultValue, QString());
-}
-
-void testBudgetModel::YearIsSpreadOrKept()
-{
-    cScene scene;
-    scene.Type(u"Lebensmittel"_s, cBudgetModel::Year, u"100"_s);
-    QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::FirstMonth), u"8,33 €"_s);
-    QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::Year), u"100,00 €"_s);
-    scene.Model.KeepInMonth(scene.Cell(u"Lebensmittel"_s, March));
-    QCOMPARE(scene.Text(u"Lebensmittel"_s, March), u"100,00 €"_s);
-    QCOMPARE(scene.Text(u"Lebensmittel"_s, March + 1), u"0,00 €"_s);
-    QVERIFY(scene.Model.ShowYear(2027));
-    QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::Year), QString());
-    QVERIFY(scene.Model.ShowYear(2026));
-    scene.Model.Clear({scene.Cell(u"Lebensmittel"_s, cBudgetModel::Year)});
-    scene.Model.Spread(scene.Cell(u"Lebensmittel"_s, March)); // there is nothing to spread
-    scene.Model.KeepInMonth(scene.Cell(u"Lebensmittel"_s, March));
-    QVERIFY(!scene.Model.Edit().IsChanged());
-    QCOMPARE(scene.Book.User.Shown.size(), 2);
-}
-
-// What is hidden and counts in the report can be seen and changed, whatever months have the limit.
-void testBudgetModel::HidesOnlyWhatDoesNotCount()
-{
-    cScene scene;
-    const cTemplateItemList items = scene.Book.Data.GetTemplates();
-    for (cTemplateItem item : items) {
-        item.TemplateVisible = u"0"_s;
-        QVERIFY(scene.Book.Data.ChangeTemplate(item));
-    }
-    const QString limited = modTemplate::Path(*std::find_if(items.begin(), items.end(), [](const cTemplateItem& item) {
-        return modBudget::IsLimitable(item) && modTemplate::Path(item) != food;
-    }));
-    scene.Book.Settings->Set(modSettingKey::Budget.Of(limited), u"2026=77.00"_s);
-    cBudgetModel model(scene.Book.Tools);
-    QCOMPARE(model.rowCount(), 5); // the sum, twice a group with its category
-    QVERIFY(model.ShowYear(2028));
-    QCOMPARE(model.rowCount(), 3); // nothing was spent in 2027
-    QVERIFY(model.ShowYear(2027));
-    QCOMPARE(model.rowCount(), 5);
-}
-
-void testBudgetModel::FaultyAmountsStay()
-{
-    cScene scene;
-    scene.Type(u"Lebensmittel"_s, March, u"zwölf"_s);
-    scene.Type(u"Lebensmittel"_s, March + 1, u"-5"_s);
-    QCOMPARE(scene.Text(u"Lebensmittel"_s, March), u"zwölf"_s);
-    QCOMPARE(scene.Cell(u"Lebensmittel"_s, March).data(cBudgetModel::ToneRole).toInt(), cBudgetModel::Bad);
-    QVERIFY(!scene.Model.Save());
-    QVERIFY(!scene.Model.ShowYear(2027));
-    QVERIFY(scene.Book.User.Shown.first().startsWith(food + u": "_s));
-    scene.Type(u"Lebensmittel"_s, March, u"12"_s);
-    QVERIFY(!scene.Model.Save());
-    QVERIFY(scene.Book.User.Shown.last().contains(u"nicht unter null"_s));
-    scene.Book.User.Answers = {eAnswer::Cancel, eAnswer::No};
-    QVERIFY(!scene.Model.MayClose());
-    QVERIFY(scene.Model.MayClose());
-    QVERIFY(scene.Stored(food).isEmpty());
-}
-
-void testBudgetModel::TakesAndGivesTables()
-{
-    cScene scene;
-    const QModelIndex first = scene.Cell(u"Lebensmittel"_s, March);
-    scene.Model.Paste(first, u"1,50\t2\r\n3\r\n"_s);
-    const QModelIndex below = first.siblingAtRow(first.row() + 1);
-    QCOMPARE(scene.Model.Copy({below, first, first.siblingAtColumn(March + 1)}), u"1,50\t2,00\n3,00"_s);
-    QVERIFY(scene.Model.Save());
-    QCOMPARE(scene.Book.Data.Journal().UndoName(), u"Budget von 2 Kategorien geändert"_s);
-    QModelIndexList line; // the months of a line are not made equal by the year beside them
-    for (int column = cBudgetModel::Plain; column <= cBudgetModel::Year; ++column) {
-        line.append(first.siblingAtColumn(column));
-    }
-    scene.Model.Paste(below.siblingAtColumn(cBudgetModel::Plain), scene.Model.Copy(line));
-    QCOMPARE(below.siblingAtColumn(March).data(), first.data());
-    QCOMPARE(below.siblingAtColumn(March + 1).data(), first.siblingAtColumn(March + 1).data());
-}
-
-void testBudgetModel::ProposesLastYear()
-{
-    cScene scene;
-    scene.Model.TakeLastYear();
-    QCOMPARE(scene.Book.User.Shown.size(), 1); // nothing was spent in 2025
-    QVERIFY(scene.Model.ShowYear(2027));
-    scene.Model.TakeLastYear();
-    QCOMPARE(scene.Text(u"Lebensmittel"_s, March), u"30,00 €"_s);
-    QCOMPARE(scene.Text(u"Lebensmittel"_s, March + 1), u"0,00 €"_s);
-    QVERIFY(scene.Stored(food).isEmpty());
-}
-
-// Its budget goes where the category goes, with the same step.
-void testBudgetModel::FollowsTheCategory()
-{
-    cScene scene;
-    const QString text = u"2026=,,27.50"_s;
-    const auto undo = [&] {
+    void IsTypedAndTakenBack()
+    {
+        cScene scene;
+        const QAbstractItemModelTester tester(&scene.Model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        scene.Type(u"Lebensmittel"_s, cBudgetModel::Plain, u"20"_s);
+        QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::Left), u"-10,00 €"_s);
+        scene.Type(u"Lebensmittel"_s, March, u"25+2,50"_s);
+        QVERIFY(
+            scene.Model.setData(scene.Cell(u"Lebensmittel"_s, cBudgetModel::Carry), Qt::Checked, Qt::CheckStateRole));
+        // 20 from each of January and February go on to March.
+        QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::Left), u"37,50 €"_s);
+        QCOMPARE(scene.Text(u"Haushalt"_s, cBudgetModel::Spent), u"30,00 €"_s);
+        QCOMPARE(scene.Text(u"Summe"_s, cBudgetModel::Year), u"247,50 €"_s);
+        QCOMPARE(scene.Cell(u"Lebensmittel"_s, March - 1).data(cBudgetModel::ToneRole).toInt(), cBudgetModel::Quiet);
+        QVERIFY(scene.Stored(food).isEmpty()); // until it is saved
+        QVERIFY(scene.Model.Save());
+        QCOMPARE(scene.Stored(food), u"uebertrag=2026-01;2026=,,27.50"_s);
+        QCOMPARE(scene.Category().TemplateDefaultValue, u"20.00"_s);
+        QCOMPARE(scene.Book.Data.Journal().UndoName(), u"Budget von 'Haushalt; Lebensmittel' geändert"_s);
         QVERIFY(scene.Book.Data.Journal().Undo());
-        QCOMPARE(scene.Stored(food), text);
-    };
-    scene.Book.Settings->Set(modSettingKey::Budget.Of(food), text);
-    QVERIFY(cTemplateFlow(scene.Book.Tools).RenameCategory(scene.Category(), u"Haushalt"_s, u"Essen"_s));
-    QCOMPARE(scene.Stored(u"Haushalt; Essen"_s), text);
-    QVERIFY(scene.Stored(food).isEmpty());
-    undo();
-    QVERIFY(cTemplateFlow(scene.Book.Tools).RenameMain(u"Haushalt"_s, u"haushalt"_s)); // another letter case alone
-    QCOMPARE(scene.Stored(u"haushalt; Lebensmittel"_s), text);
-    undo();
-    scene.Book.User.Decisions = {1};
-    QVERIFY(cTemplateRemoval(scene.Book.Tools).DeleteCategory(scene.Category()));
-    QVERIFY(scene.Stored(food).isEmpty());
-    undo();
-}
-
-void testBudgetModel::MergedCategoryKeepsItsOwn()
-{
-    cScene scene;
-    const QString target = u"Haushalt; Reinigung"_s;
-    scene.Book.Settings->Set(modSettingKey::Budget.Of(food), u"2026=1.00"_s);
-    scene.Book.Settings->Set(modSettingKey::Budget.Of(target), u"2026=2.00"_s);
-    if (!scene.Book.Data.FindTemplate(u"Haushalt"_s, u"Reinigung"_s)) {
-        cTemplateItem item = modTemplate::NewCategory(scene.Book.Data.GetTemplates(), u"Haushalt"_s, u"Reinigung"_s);
-        QVERIFY(scene.Book.Data.AddNewTemplate(item));
+        QVERIFY(scene.Stored(food).isEmpty());
+        QCOMPARE(scene.Category().TemplateDefaultValue, QString());
     }
-    scene.Book.User.Answers = {eAnswer::Yes};
-    QVERIFY(cTemplateRemoval(scene.Book.Tools).MergeCategory(food, target));
-    QCOMPARE(scene.Stored(target), u"2026=2.00"_s);
-    QVERIFY(scene.Stored(food).isEmpty());
-}
+
+    void YearIsSpreadOrKept()
+    {
+        cScene scene;
+        scene.Type(u"Lebensmittel"_s, cBudgetModel::Year, u"100"_s);
+        QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::FirstMonth), u"8,33 €"_s);
+        QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::Year), u"100,00 €"_s);
+        scene.Model.KeepInMonth(scene.Cell(u"Lebensmittel"_s, March));
+        QCOMPARE(scene.Text(u"Lebensmittel"_s, March), u"100,00 €"_s);
+        QCOMPARE(scene.Text(u"Lebensmittel"_s, March + 1), u"0,00 €"_s);
+        QVERIFY(scene.Model.ShowYear(2027));
+        QCOMPARE(scene.Text(u"Lebensmittel"_s, cBudgetModel::Year), QString());
+        QVERIFY(scene.Model.ShowYear(2026));
+        scene.Model.Clear({scene.Cell(u"Lebensmittel"_s, cBudgetModel::Year)});
+        scene.Model.Spread(scene.Cell(u"Lebensmittel"_s, March)); // there is nothing to spread
+        scene.Model.KeepInMonth(scene.Cell(u"Lebensmittel"_s, March));
+        QVERIFY(!scene.Model.Edit().IsChanged());
+        QCOMPARE(scene.Book.User.Shown.size(), 2);
+    }
+
+    // What is hidden and counts in the report can be seen and changed, whatever months have the limit.
+    void HidesOnlyWhatDoesNotCount()
+    {
+        cScene scene;
+        const cTemplateItemList items = scene.Book.Data.GetTemplates();
+        for (cTemplateItem item : items) {
+            item.TemplateVisible = u"0"_s;
+            QVERIFY(scene.Book.Data.ChangeTemplate(item));
+        }
+        const QString limited =
+            modTemplate::Path(*std::find_if(items.begin(), items.end(), [](const cTemplateItem& item) {
+                return modBudget::IsLimitable(item) && modTemplate::Path(item) != food;
+            }));
+        scene.Book.Settings->Set(modSettingKey::Budget.Of(limited), u"2026=77.00"_s);
+        cBudgetModel model(scene.Book.Tools);
+        QCOMPARE(model.rowCount(), 5); // the sum, twice a group with its category
+        QVERIFY(model.ShowYear(2028));
+        QCOMPARE(model.rowCount(), 3); // nothing was spent in 2027
+        QVERIFY(model.ShowYear(2027));
+        QCOMPARE(model.rowCount(), 5);
+    }
+
+    void FaultyAmountsStay()
+    {
+        cScene scene;
+        scene.Type(u"Lebensmittel"_s, March, u"zwölf"_s);
+        scene.Type(u"Lebensmittel"_s, March + 1, u"-5"_s);
+        QCOMPARE(scene.Text(u"Lebensmittel"_s, March), u"zwölf"_s);
+        QCOMPARE(scene.Cell(u"Lebensmittel"_s, March).data(cBudgetModel::ToneRole).toInt(), cBudgetModel::Bad);
+        QVERIFY(!scene.Model.Save());
+        QVERIFY(!scene.Model.ShowYear(2027));
+        QVERIFY(scene.Book.User.Shown.first().startsWith(food + u": "_s));
+        scene.Type(u"Lebensmittel"_s, March, u"12"_s);
+        QVERIFY(!scene.Model.Save());
+        QVERIFY(scene.Book.User.Shown.last().contains(u"nicht unter null"_s));
+        scene.Book.User.Answers = {eAnswer::Cancel, eAnswer::No};
+        QVERIFY(!scene.Model.MayClose());
+        QVERIFY(scene.Model.MayClose());
+        QVERIFY(scene.Stored(food).isEmpty());
+    }
+
+    void TakesAndGivesTables()
+    {
+        cScene scene;
+        const QModelIndex first = scene.Cell(u"Lebensmittel"_s, March);
+        scene.Model.Paste(first, u"1,50\t2\r\n3\r\n"_s);
+        const QModelIndex below = first.siblingAtRow(first.row() + 1);
+        QCOMPARE(scene.Model.Copy({below, first, first.siblingAtColumn(March + 1)}), u"1,50\t2,00\n3,00"_s);
+        QVERIFY(scene.Model.Save());
+        QCOMPARE(scene.Book.Data.Journal().UndoName(), u"Budget von 2 Kategorien geändert"_s);
+        QModelIndexList line; // the months of a line are not made equal by the year beside them
+        for (int column = cBudgetModel::Plain; column <= cBudgetModel::Year; ++column) {
+            line.append(first.siblingAtColumn(column));
+        }
+        scene.Model.Paste(below.siblingAtColumn(cBudgetModel::Plain), scene.Model.Copy(line));
+        QCOMPARE(below.siblingAtColumn(March).data(), first.data());
+        QCOMPARE(below.siblingAtColumn(March + 1).data(), first.siblingAtColumn(March + 1).data());
+    }
+
+    void ProposesLastYear()
+    {
+        cScene scene;
+        scene.Model.TakeLastYear();
+        QCOMPARE(scene.Book.User.Shown.size(), 1); // nothing was spent in 2025
+        QVERIFY(scene.Model.ShowYear(2027));
+        scene.Model.TakeLastYear();
+        QCOMPARE(scene.Text(u"Lebensmittel"_s, March), u"30,00 €"_s);
+        QCOMPARE(scene.Text(u"Lebensmittel"_s, March + 1), u"0,00 €"_s);
+        QVERIFY(scene.Stored(food).isEmpty());
+    }
+
+    // Its budget goes where the category goes, with the same step.
+    void FollowsTheCategory()
+    {
+        cScene scene;
+        const QString text = u"2026=,,27.50"_s;
+        const auto undo = [&] {
+            QVERIFY(scene.Book.Data.Journal().Undo());
+            QCOMPARE(scene.Stored(food), text);
+        };
+        scene.Book.Settings->Set(modSettingKey::Budget.Of(food), text);
+        QVERIFY(cTemplateFlow(scene.Book.Tools).RenameCategory(scene.Category(), u"Haushalt"_s, u"Essen"_s));
+        QCOMPARE(scene.Stored(u"Haushalt; Essen"_s), text);
+        QVERIFY(scene.Stored(food).isEmpty());
+        undo();
+        QVERIFY(cTemplateFlow(scene.Book.Tools).RenameMain(u"Haushalt"_s, u"haushalt"_s)); // another letter case alone
+        QCOMPARE(scene.Stored(u"haushalt; Lebensmittel"_s), text);
+        undo();
+        scene.Book.User.Decisions = {1};
+        QVERIFY(cTemplateRemoval(scene.Book.Tools).DeleteCategory(scene.Category()));
+        QVERIFY(scene.Stored(food).isEmpty());
+        undo();
+    }
+
+    void MergedCategoryKeepsItsOwn()
+    {
+        cScene scene;
+        const QString target = u"Haushalt; Reinigung"_s;
+        scene.Book.Settings->Set(modSettingKey::Budget.Of(food), u"2026=1.00"_s);
+        scene.Book.Settings->Set(modSettingKey::Budget.Of(target), u"2026=2.00"_s);
+        scene.Book.AddCategory(target, [](cTemplateItem& item) { item.EntryType = modWord::Ausgabe; });
+        scene.Book.User.Answers = {eAnswer::Yes};
+        QVERIFY(cTemplateRemoval(scene.Book.Tools).MergeCategory(food, target));
+        QCOMPARE(scene.Stored(target), u"2026=2.00"_s);
+        QVERIFY(scene.Stored(food).isEmpty());
+    }
+};
 
 TEST_CLASS(testBudgetModel, QCoreApplication)
 #include "testBudgetModel.moc"

@@ -1,4 +1,5 @@
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "views/list/cListLayout.h"
 #include "views/list/modColumnWidth.h"
 
@@ -12,49 +13,41 @@ class testColumnWidth final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ShareTheRoom_data();
-    void ShareTheRoom();
-    void StoredWidthsFollowTheTypeSize();
+    void ShareTheRoom_data()
+    {
+        const cTestRows<int, int, QList<int>> row("Rest", "Room", "Widths");
+        row("what is left goes to one", 1, 500, {80, 340, 80});
+        row("or to none", -1, 500, {80, 200, 80});
+        row("the long text gives way first", 1, 250, {80, 97, 73});
+        row("then the amount keeps what it needs", 1, 160, {52, 38, 70});
+        row("below that the list scrolls", 1, 100, {30, 20, 70});
+    }
+
+    void ShareTheRoom()
+    {
+        QFETCH(int, Rest);
+        QFETCH(int, Room);
+        const QList<modColumnWidth::cColumn> columns{{80, 80, 30}, {200, 60, 20}, {80, 60, 70}};
+        QTEST(modColumnWidth::Share(columns, Rest, Room), "Widths");
+    }
+
+    void StoredWidthsFollowTheTypeSize()
+    {
+        const std::optional<cListLayout> stored = cListLayout::FromText(u"0,60,1|1,0,1|sort,0,0|letter,6"_s, 2);
+        QVERIFY(stored);
+        const cListLayout larger = stored->ForLetter(8);
+        QCOMPARE(larger.ToText(), u"0,80,1|1,0,1|sort,0,0|letter,8"_s);
+        const std::optional<cListLayout> old = cListLayout::FromText(u"0,60,1|1,0,1|sort,0,0"_s, 2);
+        QVERIFY(old);
+        QCOMPARE(old->ForLetter(8).Columns.front().Width, 60); // nobody knows what it was measured in
+
+        // A column that came with a later version does not cost the user the layout.
+        const std::optional<cListLayout> grown = cListLayout::FromText(u"1,60,1|0,0,0|sort,0,0"_s, 4, {3});
+        QVERIFY(grown);
+        QCOMPARE(grown->ToText(), u"1,60,1|0,0,0|2,0,1|3,0,0|sort,0,0"_s);
+        QVERIFY(!cListLayout::FromText(u"1,60,1|2,0,1|sort,0,0"_s, 3));
+    }
 };
-
-void testColumnWidth::ShareTheRoom_data()
-{
-    QTest::addColumn<int>("Rest");
-    QTest::addColumn<int>("Room");
-    QTest::addColumn<QList<int>>("Widths");
-
-    QTest::newRow("what is left goes to one") << 1 << 500 << QList<int>{80, 340, 80};
-    QTest::newRow("or to none") << -1 << 500 << QList<int>{80, 200, 80};
-    QTest::newRow("the long text gives way first") << 1 << 250 << QList<int>{80, 97, 73};
-    QTest::newRow("then the amount keeps what it needs") << 1 << 160 << QList<int>{52, 38, 70};
-    QTest::newRow("below that the list scrolls") << 1 << 100 << QList<int>{30, 20, 70};
-}
-
-void testColumnWidth::ShareTheRoom()
-{
-    QFETCH(int, Rest);
-    QFETCH(int, Room);
-    QFETCH(QList<int>, Widths);
-    const QList<modColumnWidth::cColumn> columns{{80, 80, 30}, {200, 60, 20}, {80, 60, 70}};
-    QCOMPARE(modColumnWidth::Share(columns, Rest, Room), Widths);
-}
-
-void testColumnWidth::StoredWidthsFollowTheTypeSize()
-{
-    const std::optional<cListLayout> stored = cListLayout::FromText(u"0,60,1|1,0,1|sort,0,0|letter,6"_s, 2);
-    QVERIFY(stored);
-    const cListLayout larger = stored->ForLetter(8);
-    QCOMPARE(larger.ToText(), u"0,80,1|1,0,1|sort,0,0|letter,8"_s);
-    const std::optional<cListLayout> old = cListLayout::FromText(u"0,60,1|1,0,1|sort,0,0"_s, 2);
-    QVERIFY(old);
-    QCOMPARE(old->ForLetter(8).Columns.front().Width, 60); // nobody knows what it was measured in
-
-    // A column that came with a later version does not cost the user the layout.
-    const std::optional<cListLayout> grown = cListLayout::FromText(u"1,60,1|0,0,0|sort,0,0"_s, 4, {3});
-    QVERIFY(grown);
-    QCOMPARE(grown->ToText(), u"1,60,1|0,0,0|2,0,1|3,0,0|sort,0,0"_s);
-    QVERIFY(!cListLayout::FromText(u"1,60,1|2,0,1|sort,0,0"_s, 3));
-}
 
 TEST_CLASS(testColumnWidth, QCoreApplication)
 #include "testColumnWidth.moc"

@@ -1,12 +1,12 @@
 #include "base/cProgress.h"
 #include "base/modAmount.h"
-#include "base/modDate.h"
 #include "import/match/cMatcher.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modSettingKey.h"
 #include "store/cUndoStep.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/statement/cCorrectionFlow.h"
 
@@ -20,27 +20,12 @@ struct cScene : cTestBook
 {
     cScene() { Settings->Set(modSettingKey::BankNumber.Of(u"111"_s), u"Girokonto"_s); }
 
-    int Enter(QDate day, qint64 cents, const QString& text, const QString& interval)
-    {
-        return Add([&](cEntryItem& entry) {
-                   entry.EntryDate = day;
-                   entry.EntryValue = cents;
-                   entry.EntryDescription = text;
-                   entry.EntryInterval = interval;
-               })
-            .ID;
-    }
-
     // Stages "2026-01-03 650", parted by "; ", as payments to `name`.
     void Stage(const QString& payments, const QString& name)
     {
         for (const QString& payment : payments.split(u"; "_s)) {
-            cImportEntry row;
-            row.ImportAccount = u"111"_s;
-            row.ImportDate = modDate::FromIso(payment.section(u' ', 0, 0));
-            row.ImportBeneficiary = name;
-            row.ImportValue = -modAmount::ToCents(payment.section(u' ', 1).toDouble());
-            QVERIFY(Data.AddNewImportEntry(row));
+            cTestBook::Stage(u"111"_s, modDate::FromIso(payment.section(u' ', 0, 0)),
+                             -modAmount::ToCents(payment.section(u' ', 1).toDouble()), name);
         }
     }
 
@@ -86,134 +71,117 @@ class testCorrectionFlow final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Series_data() const;
-    void Series() const;
-    void WhatTheUserCorrected_data() const;
-    void WhatTheUserCorrected() const;
-    void EntriesThatHappenOnce() const;
-    void PartsOfASplitSeriesMoveTogether() const;
-};
+    void Series_data() const
+    {
+        // statements: one after the other, parted by "|"; proposed: by the last question
+        const cTestRows<QString, QList<int>, int, QString> row("statements", "decisions", "proposed", "entries");
+        const int none = -2;
+        row("another day is no question", u"2026-01-03 650; 2026-02-01 650; 2026-02-27 650"_s, {}, none,
+            u"01-03 650, 02-01 650, 02-27 650, 04-01 650, 05-01 650"_s);
+        row("this time only", u"2026-01-02 660"_s, {0}, 0, u"01-02 660, 02-01 650, 03-01 650, 04-01 650, 05-01 650"_s);
+        row("left as it is, but for the day", u"2026-01-02 660"_s, {2}, 0,
+            u"01-02 650, 02-01 650, 03-01 650, 04-01 650, 05-01 650"_s);
+        row("twice in a row is a new price", u"2026-01-01 650; 2026-02-02 660; 2026-03-01 660"_s, {1}, 1,
+            u"01-01 650, 02-02 660, 03-01 660, 04-01 660, 05-01 660"_s);
+        row("the second time with another statement", u"2026-02-02 660|2026-03-02 660"_s, {0, 1}, 1,
+            u"01-01 650, 02-02 660, 03-02 660, 04-01 660, 05-01 660"_s);
+        row("a price that comes back", u"2026-01-01 660; 2026-02-01 660; 2026-03-01 650; 2026-04-01 650"_s, {1}, 1,
+            u"01-01 660, 02-01 660, 03-01 650, 04-01 650, 05-01 650"_s);
+        row("each as proposed", u"2026-01-01 655; 2026-02-01 660; 2026-03-01 660"_s, {3}, 3,
+            u"01-01 655, 02-01 660, 03-01 660, 04-01 660, 05-01 660"_s);
+        row("an older statement after a newer one", u"2026-03-01 650; 2026-04-02 650|2026-01-01 660; 2026-02-01 660"_s,
+            {1}, 1, u"01-01 660, 02-01 660, 03-01 650, 04-02 650, 05-01 650"_s);
+    }
 
-void testCorrectionFlow::Series_data() const
-{
-    QTest::addColumn<QString>("statements"); // one after the other, parted by "|"
-    QTest::addColumn<QList<int>>("decisions");
-    QTest::addColumn<int>("proposed"); // by the last question
-    QTest::addColumn<QString>("entries");
-    const int none = -2;
-    QTest::newRow("another day is no question") << u"2026-01-03 650; 2026-02-01 650; 2026-02-27 650"_s << QList<int>{}
-                                                << none << u"01-03 650, 02-01 650, 02-27 650, 04-01 650, 05-01 650"_s;
-    QTest::newRow("this time only") << u"2026-01-02 660"_s << QList<int>{0} << 0
-                                    << u"01-02 660, 02-01 650, 03-01 650, 04-01 650, 05-01 650"_s;
-    QTest::newRow("left as it is, but for the day")
-        << u"2026-01-02 660"_s << QList<int>{2} << 0 << u"01-02 650, 02-01 650, 03-01 650, 04-01 650, 05-01 650"_s;
-    QTest::newRow("twice in a row is a new price")
-        << u"2026-01-01 650; 2026-02-02 660; 2026-03-01 660"_s << QList<int>{1} << 1
-        << u"01-01 650, 02-02 660, 03-01 660, 04-01 660, 05-01 660"_s;
-    QTest::newRow("the second time with another statement")
-        << u"2026-02-02 660|2026-03-02 660"_s << QList<int>{0, 1} << 1
-        << u"01-01 650, 02-02 660, 03-02 660, 04-01 660, 05-01 660"_s;
-    QTest::newRow("a price that comes back")
-        << u"2026-01-01 660; 2026-02-01 660; 2026-03-01 650; 2026-04-01 650"_s << QList<int>{1} << 1
-        << u"01-01 660, 02-01 660, 03-01 650, 04-01 650, 05-01 650"_s;
-    QTest::newRow("each as proposed") << u"2026-01-01 655; 2026-02-01 660; 2026-03-01 660"_s << QList<int>{3} << 3
-                                      << u"01-01 655, 02-01 660, 03-01 660, 04-01 660, 05-01 660"_s;
-    QTest::newRow("an older statement after a newer one")
-        << u"2026-03-01 650; 2026-04-02 650|2026-01-01 660; 2026-02-01 660"_s << QList<int>{1} << 1
-        << u"01-01 660, 02-01 660, 03-01 650, 04-02 650, 05-01 650"_s;
-}
+    void Series() const
+    {
+        QFETCH(const QString, statements);
+        QFETCH(const QList<int>, decisions);
+        cScene scene;
+        scene.Spend(QDate(2026, 1, 1), 65000, u"Miete Tann"_s, u"Monatlich"_s);
+        scene.User.LastDecision.Default = -2;
+        scene.User.Decisions.assign(decisions.begin(), decisions.end());
+        for (const QString& statement : statements.split(u'|')) {
+            scene.Stage(statement, u"Miete Tann"_s);
+            QVERIFY(scene.Pay());
+            QCOMPARE(scene.Unassigned, 0);
+        }
+        QTEST(scene.Entries(), "entries");
+        QTEST(scene.User.LastDecision.Default, "proposed");
+        QCOMPARE(scene.User.Asked.size(), decisions.size());
+        // Each row still pays an occurrence of its own.
+        const cImportEntryList rows = scene.Data.GetImportEntries();
+        cNoProgress progress;
+        for (const cImportEntry& row : rows) {
+            const QList<cMatchCandidate> found =
+                cMatcher(scene.Data, scene.Hive, scene.Accounts).Candidates(row.ID, eCandidates::All);
+            QVERIFY(!found.isEmpty());
+            QCOMPARE(found.first().Entry.ID, row.ImportAssignedEntry);
+            QCOMPARE(found.first().Entry.EntryDate, row.ImportDate);
+            QVERIFY(!found.first().IsTaken);
+        }
+    }
 
-void testCorrectionFlow::Series() const
-{
-    QFETCH(const QString, statements);
-    QFETCH(const QList<int>, decisions);
-    QFETCH(const int, proposed);
-    cScene scene;
-    (void)scene.Enter(QDate(2026, 1, 1), 65000, u"Miete Tann"_s, u"Monatlich"_s);
-    scene.User.LastDecision.Default = -2;
-    scene.User.Decisions.assign(decisions.begin(), decisions.end());
-    for (const QString& statement : statements.split(u'|')) {
-        scene.Stage(statement, u"Miete Tann"_s);
+    void WhatTheUserCorrected_data() const
+    {
+        // cents: by hand
+        const cTestRows<qint64, QDate, QList<int>, QString> row("cents", "day", "answers", "entry");
+        const QDate none;
+        row("kept", 64000, none, {int(eAnswer::No)}, u"01-01 640"_s);
+        row("replaced", 64000, none, {int(eAnswer::Yes)}, u"01-02 650"_s);
+        row("own day", 65000, QDate(2026, 1, 5), {int(eAnswer::No)}, u"01-05 650"_s);
+        row("own amount that the bank confirms", 65000, none, {}, u"01-02 650"_s);
+    }
+
+    void WhatTheUserCorrected() const
+    {
+        QFETCH(const qint64, cents);
+        QFETCH(const QDate, day);
+        QFETCH(const QList<int>, answers);
+        cScene scene;
+        const int rent = scene.Spend(QDate(2026, 1, 1), 63000, u"Miete Tann"_s, u"Monatlich"_s).ID;
+        QVERIFY(scene.Data.AddNewEntryMod(
+            {0, rent, modWord::Betrag, QDate(2026, 1, 1), QDate(2026, 1, 31), cents, u"Minderung"_s, day}));
+        scene.Stage(u"2026-01-02 650"_s, u"Miete Tann"_s);
+        for (const int answer : answers) {
+            scene.User.Answers.push_back(eAnswer(answer));
+        }
+        scene.User.Decisions = {0};
         QVERIFY(scene.Pay());
-        QCOMPARE(scene.Unassigned, 0);
+        QTEST(scene.Entries().section(u", "_s, 0, 0), "entry");
+        QVERIFY(scene.User.Answers.empty());
+        QCOMPARE(scene.User.Asked.isEmpty(), answers.isEmpty());
     }
-    QTEST(scene.Entries(), "entries");
-    QCOMPARE(scene.User.LastDecision.Default, proposed);
-    QCOMPARE(scene.User.Asked.size(), decisions.size());
-    // Each row still pays an occurrence of its own.
-    const cImportEntryList rows = scene.Data.GetImportEntries();
-    cNoProgress progress;
-    for (const cImportEntry& row : rows) {
-        const QList<cMatchCandidate> found =
-            cMatcher(scene.Data, scene.Hive, scene.Accounts).Candidates(row.ID, eCandidates::All);
-        QVERIFY(!found.isEmpty());
-        QCOMPARE(found.first().Entry.ID, row.ImportAssignedEntry);
-        QCOMPARE(found.first().Entry.EntryDate, row.ImportDate);
-        QVERIFY(!found.first().IsTaken);
+
+    void EntriesThatHappenOnce() const
+    {
+        cScene scene;
+        scene.Spend(QDate(2026, 3, 10), 2500, u"REWE"_s);
+        scene.Stage(u"2026-03-12 25"_s, u"REWE"_s);
+        const auto done = scene.Pay();
+        QVERIFY(done);
+        QCOMPARE(done->Lines(), QStringList(u"Ein Eintrag hat Tag und Betrag der Bank übernommen."_s));
+        QCOMPARE(scene.Entries(), u"03-12 25"_s);
+        QCOMPARE(scene.User.Asked, QStringList());
+        QVERIFY(scene.Data.Journal().Undo());
+        QCOMPARE(scene.Entries(), u"03-10 25"_s);
     }
-}
 
-void testCorrectionFlow::WhatTheUserCorrected_data() const
-{
-    QTest::addColumn<qint64>("cents"); // by hand
-    QTest::addColumn<QDate>("day");
-    QTest::addColumn<QList<int>>("answers");
-    QTest::addColumn<QString>("entry");
-    const QDate none;
-    QTest::newRow("kept") << qint64(64000) << none << QList<int>{int(eAnswer::No)} << u"01-01 640"_s;
-    QTest::newRow("replaced") << qint64(64000) << none << QList<int>{int(eAnswer::Yes)} << u"01-02 650"_s;
-    QTest::newRow("own day") << qint64(65000) << QDate(2026, 1, 5) << QList<int>{int(eAnswer::No)} << u"01-05 650"_s;
-    QTest::newRow("own amount that the bank confirms") << qint64(65000) << none << QList<int>{} << u"01-02 650"_s;
-}
-
-void testCorrectionFlow::WhatTheUserCorrected() const
-{
-    QFETCH(const qint64, cents);
-    QFETCH(const QDate, day);
-    QFETCH(const QList<int>, answers);
-    cScene scene;
-    const int rent = scene.Enter(QDate(2026, 1, 1), 63000, u"Miete Tann"_s, u"Monatlich"_s);
-    QVERIFY(scene.Data.AddNewEntryMod(
-        {0, rent, modWord::Betrag, QDate(2026, 1, 1), QDate(2026, 1, 31), cents, u"Minderung"_s, day}));
-    scene.Stage(u"2026-01-02 650"_s, u"Miete Tann"_s);
-    for (const int answer : answers) {
-        scene.User.Answers.push_back(eAnswer(answer));
+    void PartsOfASplitSeriesMoveTogether() const
+    {
+        cScene scene;
+        int group = 0;
+        for (const qint64 cents : {60000, 5000}) {
+            cEntryItem part = scene.Spend(QDate(2026, 1, 1), cents, u"Miete Tann"_s, u"Monatlich"_s);
+            group = group == 0 ? part.ID : group;
+            part.EntryFlags = u"split=%1"_s.arg(group);
+            QVERIFY(scene.Data.ChangeEntry(part));
+        }
+        scene.Stage(u"2026-01-04 650"_s, u"Miete Tann"_s);
+        QVERIFY(scene.Pay());
+        QVERIFY(scene.Entries().startsWith(u"01-04 600, 01-04 50, 02-01"_s));
     }
-    scene.User.Decisions = {0};
-    QVERIFY(scene.Pay());
-    QTEST(scene.Entries().section(u", "_s, 0, 0), "entry");
-    QVERIFY(scene.User.Answers.empty());
-    QCOMPARE(scene.User.Asked.isEmpty(), answers.isEmpty());
-}
-
-void testCorrectionFlow::EntriesThatHappenOnce() const
-{
-    cScene scene;
-    (void)scene.Enter(QDate(2026, 3, 10), 2500, u"REWE"_s, modWord::Einmalig);
-    scene.Stage(u"2026-03-12 25"_s, u"REWE"_s);
-    const auto done = scene.Pay();
-    QVERIFY(done);
-    QCOMPARE(done->Lines(), QStringList(u"Ein Eintrag hat Tag und Betrag der Bank übernommen."_s));
-    QCOMPARE(scene.Entries(), u"03-12 25"_s);
-    QCOMPARE(scene.User.Asked, QStringList());
-    QVERIFY(scene.Data.Journal().Undo());
-    QCOMPARE(scene.Entries(), u"03-10 25"_s);
-}
-
-void testCorrectionFlow::PartsOfASplitSeriesMoveTogether() const
-{
-    cScene scene;
-    int group = 0;
-    for (const qint64 cents : {60000, 5000}) {
-        cEntryItem part = *scene.Data.LoadEntry(scene.Enter(QDate(2026, 1, 1), cents, u"Miete Tann"_s, u"Monatlich"_s));
-        group = group == 0 ? part.ID : group;
-        part.EntryFlags = u"split=%1"_s.arg(group);
-        QVERIFY(scene.Data.ChangeEntry(part));
-    }
-    scene.Stage(u"2026-01-04 650"_s, u"Miete Tann"_s);
-    QVERIFY(scene.Pay());
-    QVERIFY(scene.Entries().startsWith(u"01-04 600, 01-04 50, 02-01"_s));
-}
+};
 
 TEST_CLASS(testCorrectionFlow, QCoreApplication)
 #include "testCorrectionFlow.moc"

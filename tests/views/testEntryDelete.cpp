@@ -1,4 +1,5 @@
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryDelete.h"
 
@@ -28,10 +29,7 @@ void Fill(cTestBook& book)
 void FillSeries(cTestBook& book)
 {
     for (const QString& name : {u"Miete"_s, u"Strom"_s}) {
-        (void)book.Add([&](cEntryItem& entry) {
-            entry.EntryInterval = u"Monatlich"_s;
-            entry.EntryDescription = name;
-        });
+        book.Spend(QDate(2026, 3, 10), 1000, name, u"Monatlich"_s);
     }
     (void)book.Add([](cEntryItem&) {});
 }
@@ -58,191 +56,161 @@ class testEntryDelete final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void AsksForPartsOnce_data();
-    void AsksForPartsOnce();
-    void QuestionNamesWhatGoes();
-    void DeletingIsOneStep();
-    void SelectionWithSeriesAsksHowMuch_data();
-    void SelectionWithSeriesAsksHowMuch();
-    void PartOfASeriesGoes_data();
-    void PartOfASeriesGoes();
-    void EndedSeriesGivesBankRowsBack();
-};
+    void AsksForPartsOnce_data()
+    {
+        // left: flags by ID
+        const cTestRows<QList<int>, int, QStringList, QStringList> row("ids", "choice", "options", "left");
+        const QString other = u"4 "_s;
+        row("given up", {2}, -1, {thisPart, allParts}, {u"1 split=1"_s, u"2 split=1"_s, u"3 split=1"_s, other});
+        row("this part", {2}, 0, {thisPart, allParts}, {u"1 split=1"_s, u"3 split=1"_s, other});
+        row("the part that names the group", {1}, 0, {thisPart, allParts}, {u"2 split=2"_s, u"3 split=2"_s, other});
+        row("all parts", {3}, 1, {thisPart, allParts}, {other});
+        row("all but one, which is ordinary then", {1, 3}, 0, {theseParts, allParts}, {u"2 "_s, other});
+        row("the whole group is selected", {1, 2, 3}, 0, {}, {other});
+        row("none is a part", {4, 99}, 0, {}, {u"1 split=1"_s, u"2 split=1"_s, u"3 split=1"_s});
+    }
 
-void testEntryDelete::AsksForPartsOnce_data()
-{
-    QTest::addColumn<QList<int>>("ids");
-    QTest::addColumn<int>("choice");
-    QTest::addColumn<QStringList>("options");
-    QTest::addColumn<QStringList>("left"); // flags by ID
-    const QString other = u"4 "_s;
-    QTest::newRow("given up") << QList<int>{2} << -1 << QStringList{thisPart, allParts}
-                              << QStringList{u"1 split=1"_s, u"2 split=1"_s, u"3 split=1"_s, other};
-    QTest::newRow("this part") << QList<int>{2} << 0 << QStringList{thisPart, allParts}
-                               << QStringList{u"1 split=1"_s, u"3 split=1"_s, other};
-    QTest::newRow("the part that names the group")
-        << QList<int>{1} << 0 << QStringList{thisPart, allParts} << QStringList{u"2 split=2"_s, u"3 split=2"_s, other};
-    QTest::newRow("all parts") << QList<int>{3} << 1 << QStringList{thisPart, allParts} << QStringList{other};
-    QTest::newRow("all but one, which is ordinary then")
-        << QList<int>{1, 3} << 0 << QStringList{theseParts, allParts} << QStringList{u"2 "_s, other};
-    QTest::newRow("the whole group is selected") << QList<int>{1, 2, 3} << 0 << QStringList{} << QStringList{other};
-    QTest::newRow("none is a part") << QList<int>{4, 99} << 0 << QStringList{}
-                                    << QStringList{u"1 split=1"_s, u"2 split=1"_s, u"3 split=1"_s};
-}
-
-void testEntryDelete::AsksForPartsOnce()
-{
-    QFETCH(QList<int>, ids);
-    QFETCH(int, choice);
-    QFETCH(QStringList, options);
-    cTestBook book;
-    Fill(book);
-    cEntryDelete flow(book.Tools);
-    book.User.Decisions = {choice};
-    book.User.Answers = {eAnswer::Yes};
-    QCOMPARE(flow.Delete(ids), choice >= 0);
-    QCOMPARE(book.User.Asked.size(), 1);
-    QCOMPARE(book.User.LastDecision.Options, options);
-    QStringList left;
-    for (int id = 1; id <= 4; ++id) {
-        if (const std::optional<cEntryItem> entry = book.Data.LoadEntry(id)) {
-            left.append(QString::number(id) + u' ' + entry->EntryFlags);
+    void AsksForPartsOnce()
+    {
+        QFETCH(QList<int>, ids);
+        QFETCH(int, choice);
+        cTestBook book;
+        Fill(book);
+        cEntryDelete flow(book.Tools);
+        book.User.Decisions = {choice};
+        book.User.Answers = {eAnswer::Yes};
+        QCOMPARE(flow.Delete(ids), choice >= 0);
+        QCOMPARE(book.User.Asked.size(), 1);
+        QTEST(book.User.LastDecision.Options, "options");
+        QStringList left;
+        for (int id = 1; id <= 4; ++id) {
+            if (const std::optional<cEntryItem> entry = book.Data.LoadEntry(id)) {
+                left.append(QString::number(id) + u' ' + entry->EntryFlags);
+            }
         }
+        QTEST(left, "left");
     }
-    QTEST(left, "left");
-}
 
-void testEntryDelete::QuestionNamesWhatGoes()
-{
-    cTestBook book;
-    Fill(book);
-    const int series = book.Add([](cEntryItem& entry) {
-                               entry.EntryInterval = u"Monatlich"_s;
-                               entry.EntryDescription = u"Miete"_s;
-                           })
-                           .ID;
-    cEntryDelete flow(book.Tools);
-    QVERIFY(!flow.Delete(QList<int>{3}));
-    QVERIFY(!flow.Delete(QList<int>{series}));
-    QCOMPARE(book.User.Asked.at(0),
-             u"Möchten Sie den Eintrag 'Teil' vom 10.03.2026 über 10,00\u00A0€ löschen?\n\n"
-             "Er gehört zu einem aufgeteilten Eintrag. Weitere Teile: 2"_s);
-    QCOMPARE(book.User.Asked.at(1),
-             u"Möchten Sie den Eintrag 'Miete' vom 10.03.2026 über 10,00\u00A0€ löschen?\n\nDamit verschwinden alle "
-             "Vorkommen dieser Serien, vergangene wie zukünftige, mit ihren Korrekturen:\n"
-             "'Miete' (Monatlich seit 10.03.2026)"_s);
-    QVERIFY(!flow.Delete(QList<int>{99})); // gone already: nothing to ask
-    QCOMPARE(book.User.Asked.size(), 2);
-}
-
-void testEntryDelete::DeletingIsOneStep()
-{
-    cTestBook book;
-    Fill(book);
-    cEntryDelete flow(book.Tools);
-    book.User.Decisions = {0};
-    QVERIFY(flow.Delete(QList<int>{1, 4}));
-    QCOMPARE(book.Data.Journal().UndoName(), u"2 Einträge gelöscht"_s);
-    QVERIFY(book.Data.Journal().Undo());
-    QCOMPARE(book.Data.CountEntries(), 4);
-    QCOMPARE(book.Data.LoadEntry(3)->EntryFlags, u"split=1"_s);
-}
-
-void testEntryDelete::SelectionWithSeriesAsksHowMuch_data()
-{
-    using cKeys = QList<cEntryListModel::cKey>;
-    QTest::addColumn<cKeys>("keys");
-    QTest::addColumn<QString>("question");
-    QTest::addColumn<QStringList>("options");
-    const QDate march(2026, 3, 10);
-    const QDate april(2026, 4, 10);
-    QTest::newRow("an occurrence")
-        << cKeys{{1, april}}
-        << u"'Miete' vom 10.04.2026 gehört zu einer Serie (Monatlich seit 10.03.2026).\nWas möchten Sie löschen?\n\n"
-           "Nur dieses Mal: Der Betrag wird null, alles andere bleibt.\n"
-           "Ab hier: Was davor liegt, bleibt.\n"
-           "Ganze Serie: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s
-        << QStringList{u"Nur dieses Mal"_s, u"Ab hier"_s, u"Ganze Serie"_s};
-    QTest::newRow("the first one, from which the series would be whole")
-        << cKeys{{1, march}}
-        << u"'Miete' vom 10.03.2026 gehört zu einer Serie (Monatlich seit 10.03.2026).\nWas möchten Sie löschen?\n\n"
-           "Nur dieses Mal: Der Betrag wird null, alles andere bleibt.\n"
-           "Ganze Serie: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s
-        << QStringList{u"Nur dieses Mal"_s, u"Ganze Serie"_s};
-    QTest::newRow("several of two series, and a plain entry")
-        << cKeys{{1, march}, {2, april}, {3, march}, {1, april}, {1, april}}
-        << u"Ausgewählt sind 3 Vorkommen von 2 Serien:\n'Miete' (Monatlich seit 10.03.2026)\n'Strom' (Monatlich seit "
-           u"10.03.2026)\n"
-           "Außerdem werden gelöscht: 1 Eintrag\nWas möchten Sie löschen?\n\n"
-           "Nur diese Male: Der Betrag wird null, alles andere bleibt.\n"
-           "Ab hier: Was davor liegt, bleibt.\n"
-           "Ganze Serien: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s
-        << QStringList{u"Nur diese Male"_s, u"Ab hier"_s, u"Ganze Serien"_s};
-}
-
-void testEntryDelete::SelectionWithSeriesAsksHowMuch()
-{
-    QFETCH(QList<cEntryListModel::cKey>, keys);
-    cTestBook book;
-    FillSeries(book);
-    QVERIFY(!cEntryDelete(book.Tools).Delete(keys));
-    QTEST(book.User.LastDecision.Text, "question");
-    QTEST(book.User.LastDecision.Options, "options");
-    QCOMPARE(book.Data.Journal().UndoName(), QString()); // given up: nothing was written
-}
-
-void testEntryDelete::PartOfASeriesGoes_data()
-{
-    QTest::addColumn<int>("choice");
-    QTest::addColumn<QString>("step");
-    QTest::addColumn<QStringList>("left"); // days and amounts until June, of series 1 and 2
-    QTest::newRow("only these") << 0 << u"3 Einträge gelöscht"_s
-                                << QStringList{u"1 10.03. 1000"_s, u"1 10.04. 0"_s,    u"1 10.05. 1000"_s,
-                                               u"2 10.03. 0"_s,    u"2 10.04. 1000"_s, u"2 10.05. 1000"_s};
-    QTest::newRow("from here, which is all of the second")
-        << 1 << u"3 Einträge gelöscht"_s << QStringList{u"1 10.03. 1000"_s};
-    QTest::newRow("whole") << 2 << u"3 Einträge gelöscht"_s << QStringList{};
-}
-
-void testEntryDelete::PartOfASeriesGoes()
-{
-    QFETCH(int, choice);
-    cTestBook book;
-    FillSeries(book);
-    const QStringList before = Occurrences(book);
-    book.User.Decisions = {choice};
-    QVERIFY(
-        cEntryDelete(book.Tools).Delete({{1, QDate(2026, 4, 10)}, {2, QDate(2026, 3, 10)}, {3, QDate(2026, 3, 10)}}));
-    QTEST(Occurrences(book), "left");
-    QTEST(book.Data.Journal().UndoName(), "step");
-    if (choice == 0) {
-        QCOMPARE(book.Data.GetEntryMods(1).constFirst().EntryComment, u"Ausgelassen"_s);
+    void QuestionNamesWhatGoes()
+    {
+        cTestBook book;
+        Fill(book);
+        const int series = book.Spend(QDate(2026, 3, 10), 1000, u"Miete"_s, u"Monatlich"_s).ID;
+        cEntryDelete flow(book.Tools);
+        QVERIFY(!flow.Delete(QList<int>{3}));
+        QVERIFY(!flow.Delete(QList<int>{series}));
+        QCOMPARE(book.User.Asked.at(0),
+                 u"Möchten Sie den Eintrag 'Teil' vom 10.03.2026 über 10,00\u00A0€ löschen?\n\n"
+                 "Er gehört zu einem aufgeteilten Eintrag. Weitere Teile: 2"_s);
+        QCOMPARE(
+            book.User.Asked.at(1),
+            u"Möchten Sie den Eintrag 'Miete' vom 10.03.2026 über 10,00\u00A0€ löschen?\n\nDamit verschwinden alle "
+            "Vorkommen dieser Serien, vergangene wie zukünftige, mit ihren Korrekturen:\n"
+            "'Miete' (Monatlich seit 10.03.2026)"_s);
+        QVERIFY(!flow.Delete(QList<int>{99})); // gone already: nothing to ask
+        QCOMPARE(book.User.Asked.size(), 2);
     }
-    QVERIFY(book.Data.Journal().Undo());
-    QCOMPARE(Occurrences(book), before);
-    QCOMPARE(book.Data.CountEntries(), 3);
-}
 
-void testEntryDelete::EndedSeriesGivesBankRowsBack()
-{
-    cTestBook book;
-    FillSeries(book);
-    for (const int month : {3, 4}) {
-        cImportEntry row;
-        row.ImportDate = QDate(2026, month, 9);
-        row.ImportValue = -100000;
-        row.ImportAssigned = true;
-        row.ImportAssignedEntry = 1;
-        QVERIFY(book.Data.AddNewImportEntry(row));
+    void DeletingIsOneStep()
+    {
+        cTestBook book;
+        Fill(book);
+        cEntryDelete flow(book.Tools);
+        book.User.Decisions = {0};
+        QVERIFY(flow.Delete(QList<int>{1, 4}));
+        QCOMPARE(book.Data.Journal().UndoName(), u"2 Einträge gelöscht"_s);
+        QVERIFY(book.Data.Journal().Undo());
+        QCOMPARE(book.Data.CountEntries(), 4);
+        QCOMPARE(book.Data.LoadEntry(3)->EntryFlags, u"split=1"_s);
     }
-    book.User.Answers = {eAnswer::Yes};
-    QVERIFY(cEntryDelete(book.Tools).Delete({1, QDate(2026, 4, 10)}, eSeriesPart::FromHere));
-    QCOMPARE(book.User.Asked.constFirst(),
-             u"Möchten Sie die Serie 'Miete' ab dem 10.04.2026 löschen?\nDie Vorkommen davor bleiben."_s);
-    const cImportEntryList rows = book.Data.GetImportEntries();
-    QVERIFY(rows.at(0).ImportAssigned);
-    QVERIFY(!rows.at(1).ImportAssigned);
-}
+
+    void SelectionWithSeriesAsksHowMuch_data()
+    {
+        using cKeys = QList<cEntryListModel::cKey>;
+        const cTestRows<cKeys, QString, QStringList> row("keys", "question", "options");
+        const QDate march(2026, 3, 10);
+        const QDate april(2026, 4, 10);
+        row("an occurrence", {{1, april}},
+            u"'Miete' vom 10.04.2026 gehört zu einer Serie (Monatlich seit "
+            u"10.03.2026).\nWas möchten Sie löschen?\n\n"
+            "Nur dieses Mal: Der Betrag wird null, alles andere bleibt.\n"
+            "Ab hier: Was davor liegt, bleibt.\n"
+            "Ganze Serie: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s,
+            {u"Nur dieses Mal"_s, u"Ab hier"_s, u"Ganze Serie"_s});
+        row("the first one, from which the series would be whole", {{1, march}},
+            u"'Miete' vom 10.03.2026 gehört zu einer Serie (Monatlich seit 10.03.2026).\nWas möchten Sie "
+            u"löschen?\n\n"
+            "Nur dieses Mal: Der Betrag wird null, alles andere bleibt.\n"
+            "Ganze Serie: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s,
+            {u"Nur dieses Mal"_s, u"Ganze Serie"_s});
+        row("several of two series, and a plain entry", {{1, march}, {2, april}, {3, march}, {1, april}, {1, april}},
+            u"Ausgewählt sind 3 Vorkommen von 2 Serien:\n'Miete' (Monatlich seit 10.03.2026)\n'Strom' (Monatlich "
+            u"seit "
+            u"10.03.2026)\n"
+            "Außerdem werden gelöscht: 1 Eintrag\nWas möchten Sie löschen?\n\n"
+            "Nur diese Male: Der Betrag wird null, alles andere bleibt.\n"
+            "Ab hier: Was davor liegt, bleibt.\n"
+            "Ganze Serien: Auch alles Vergangene verschwindet, mit allen Korrekturen."_s,
+            {u"Nur diese Male"_s, u"Ab hier"_s, u"Ganze Serien"_s});
+    }
+
+    void SelectionWithSeriesAsksHowMuch()
+    {
+        QFETCH(QList<cEntryListModel::cKey>, keys);
+        cTestBook book;
+        FillSeries(book);
+        QVERIFY(!cEntryDelete(book.Tools).Delete(keys));
+        QTEST(book.User.LastDecision.Text, "question");
+        QTEST(book.User.LastDecision.Options, "options");
+        QCOMPARE(book.Data.Journal().UndoName(), QString()); // given up: nothing was written
+    }
+
+    void PartOfASeriesGoes_data()
+    {
+        // left: days and amounts until June, of series 1 and 2
+        const cTestRows<int, QString, QStringList> row("choice", "step", "left");
+        row("only these", 0, u"3 Einträge gelöscht"_s,
+            {u"1 10.03. 1000"_s, u"1 10.04. 0"_s, u"1 10.05. 1000"_s, u"2 10.03. 0"_s, u"2 10.04. 1000"_s,
+             u"2 10.05. 1000"_s});
+        row("from here, which is all of the second", 1, u"3 Einträge gelöscht"_s, {u"1 10.03. 1000"_s});
+        row("whole", 2, u"3 Einträge gelöscht"_s, {});
+    }
+
+    void PartOfASeriesGoes()
+    {
+        QFETCH(int, choice);
+        cTestBook book;
+        FillSeries(book);
+        const QStringList before = Occurrences(book);
+        book.User.Decisions = {choice};
+        QVERIFY(cEntryDelete(book.Tools)
+                    .Delete({{1, QDate(2026, 4, 10)}, {2, QDate(2026, 3, 10)}, {3, QDate(2026, 3, 10)}}));
+        QTEST(Occurrences(book), "left");
+        QTEST(book.Data.Journal().UndoName(), "step");
+        if (choice == 0) {
+            QCOMPARE(book.Data.GetEntryMods(1).constFirst().EntryComment, u"Ausgelassen"_s);
+        }
+        QVERIFY(book.Data.Journal().Undo());
+        QCOMPARE(Occurrences(book), before);
+        QCOMPARE(book.Data.CountEntries(), 3);
+    }
+
+    void EndedSeriesGivesBankRowsBack()
+    {
+        cTestBook book;
+        FillSeries(book);
+        for (const int month : {3, 4}) {
+            book.Stage({}, QDate(2026, month, 9), -100000, {}, 1);
+        }
+        book.User.Answers = {eAnswer::Yes};
+        QVERIFY(cEntryDelete(book.Tools).Delete({1, QDate(2026, 4, 10)}, eSeriesPart::FromHere));
+        QCOMPARE(book.User.Asked.constFirst(),
+                 u"Möchten Sie die Serie 'Miete' ab dem 10.04.2026 löschen?\nDie Vorkommen davor bleiben."_s);
+        const cImportEntryList rows = book.Data.GetImportEntries();
+        QVERIFY(rows.at(0).ImportAssigned);
+        QVERIFY(!rows.at(1).ImportAssigned);
+    }
+};
 
 TEST_CLASS(testEntryDelete, QCoreApplication)
 #include "testEntryDelete.moc"

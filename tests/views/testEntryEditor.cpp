@@ -1,14 +1,18 @@
+#include "cEditorBook.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/testBook.h"
-#include "views/entry/cEntryEditor.h"
+#include "support/cTestRows.h"
 #include "views/entry/modSplitParts.h"
 
 #include <QTest>
 
+#include <functional>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+using fnChange = std::function<void(cEntryFields&)>;
 
 cEntryEditor::cFields Fields()
 {
@@ -27,458 +31,347 @@ class testEntryEditor final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void ChecksInOrder_data();
-    void ChecksInOrder();
-    void SaysWhichFieldKeepsItFromBeingBuilt_data();
-    void SaysWhichFieldKeepsItFromBeingBuilt();
-    void SaysWhenThereIsNothingToChoose();
-    void StoresWhatWasTyped();
-    void CategoryFillsOnlyWhatIsOpen();
-    void OtherPeriodCostsCorrections_data();
-    void OtherPeriodCostsCorrections();
-    void ProposesRecurringValues_data();
-    void ProposesRecurringValues();
-    void SaysTheVatInTheAmount();
-    void TypedDays_data();
-    void TypedDays();
-    void NextEntryKeepsDayAccountAndKind();
-    void DescriptionBringsItsLatestUse();
-    void AmountsAreTypedAsTheyAreShown();
-    void PreviewsSeries_data();
-    void PreviewsSeries();
-    void StartBalanceHasItsSign();
-    void StartBalanceFollowsTheAccount();
-    void NamesTheStep();
-    void LabelNamesTheCurrency();
-};
-
-void testEntryEditor::ChecksInOrder_data()
-{
-    QTest::addColumn<QStringList>("emptied");
-    QTest::addColumn<QString>("message");
-    QTest::newRow("amount first, without message") << QStringList({u"amount"_s, u"category"_s}) << QString();
-    QTest::newRow("category before kind")
-        << QStringList({u"category"_s, u"type"_s}) << u"Bitte erst eine Kategorie wählen!"_s;
-    QTest::newRow("kind before account") << QStringList({u"type"_s, u"account"_s})
-                                         << u"Bitte erst eine Buchungsart wählen!"_s;
-    QTest::newRow("account") << QStringList({u"account"_s}) << u"Bitte erst ein Konto wählen!"_s;
-}
-
-void testEntryEditor::ChecksInOrder()
-{
-    QFETCH(QStringList, emptied);
-    QFETCH(QString, message);
-    cEntryEditor::cFields fields = Fields();
-    fields.Amount = emptied.contains(u"amount"_s) ? u"zwölf"_s : fields.Amount;
-    fields.Category = emptied.contains(u"category"_s) ? QString() : fields.Category;
-    fields.Type = emptied.contains(u"type"_s) ? QString() : fields.Type;
-    fields.Account = emptied.contains(u"account"_s) ? QString() : fields.Account;
-
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    QCOMPARE(editor.Save(fields), message.isEmpty() ? cEntryEditor::eSaved::BadAmount : cEntryEditor::eSaved::Refused);
-    QCOMPARE(book.User.Shown, message.isEmpty() ? QStringList() : QStringList(message));
-    QCOMPARE(book.Data.CountEntries(), 0);
-}
-
-void testEntryEditor::SaysWhichFieldKeepsItFromBeingBuilt_data()
-{
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<QString>("target");
-    QTest::addColumn<int>("field");
-    QTest::addColumn<QString>("why");
-    using enum eEntrySaved;
-    QTest::newRow("nowhere") << modWord::Umbuchung << QString() << int(BadTarget)
-                             << u"Nach Konto: Bitte wählen Sie das Konto, auf dem das Geld ankommt."_s;
-    QTest::newRow("to itself") << modWord::Umbuchung << u"Girokonto"_s << int(BadTarget)
-                               << u"Nach Konto: Von 'Girokonto' kann das Geld nur auf ein anderes Konto gehen."_s;
-    QTest::newRow("ends before it begins")
-        << modWord::Ausgabe << QString() << int(BadEnd)
-        << u"Endet am: Der letzte Tag (02.05.2026) liegt vor dem ersten (03.05.2026)."_s;
-}
-
-void testEntryEditor::SaysWhichFieldKeepsItFromBeingBuilt()
-{
-    QFETCH(QString, type);
-    QFETCH(QString, target);
-    QFETCH(QString, why);
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    cEntryEditor::cFields fields = Fields();
-    fields.Type = type;
-    fields.Target = target;
-    fields.Interval = u"Monatlich"_s;
-    fields.DateText = u"3.5."_s;
-    fields.HasEnd = type == modWord::Ausgabe;
-    fields.EndText = u"2.5."_s;
-    QTEST(int(editor.Save(fields)), "field");
-    QCOMPARE(book.User.Shown, QStringList(u"Eintrag konnte nicht erstellt werden!\n"_s + why));
-    QCOMPARE(book.Data.CountEntries(), 0);
-}
-
-void testEntryEditor::SaysWhenThereIsNothingToChoose()
-{
-    cTestBook book;
-    const cTemplateItemList templates = book.Data.GetTemplates();
-    for (const cTemplateItem& item : templates) {
-        QVERIFY(book.Data.DeleteTemplate(item.ID));
+    void Refuses_data()
+    {
+        using enum eEntrySaved;
+        const cTestRows<fnChange, eEntrySaved, QString> row("change", "saved", "message");
+        row("amount first, without message",
+            [](cEntryFields& fields) {
+                fields.Amount = u"zwölf"_s;
+                fields.Category.clear();
+            },
+            BadAmount, {});
+        row(
+            "category before kind", [](cEntryFields& fields) { fields.Category = fields.Type = QString(); }, Refused,
+            u"Bitte erst eine Kategorie wählen!"_s);
+        row(
+            "kind before account", [](cEntryFields& fields) { fields.Type = fields.Account = QString(); }, Refused,
+            u"Bitte erst eine Buchungsart wählen!"_s);
+        row(
+            "account", [](cEntryFields& fields) { fields.Account.clear(); }, Refused,
+            u"Bitte erst ein Konto wählen!"_s);
+        const QString built = u"Eintrag konnte nicht erstellt werden!\n"_s;
+        row(
+            "to nowhere", [](cEntryFields& fields) { fields.Type = modWord::Umbuchung; }, BadTarget,
+            built + u"Nach Konto: Bitte wählen Sie das Konto, auf dem das Geld ankommt."_s);
+        row(
+            "to itself",
+            [](cEntryFields& fields) {
+                fields.Type = modWord::Umbuchung;
+                fields.Target = u"Girokonto"_s;
+            },
+            BadTarget, built + u"Nach Konto: Von 'Girokonto' kann das Geld nur auf ein anderes Konto gehen."_s);
+        row(
+            "ends before it begins", [](cEntryFields& fields) { fields.EndText = u"2.5."_s; }, BadEnd,
+            built + u"Endet am: Der letzte Tag (02.05.2026) liegt vor dem ersten (03.05.2026)."_s);
+        row("no day", [](cEntryFields& fields) { fields.DateText = u"bald"_s; }, BadDate, {});
+        row("no last day", [](cEntryFields& fields) { fields.EndText = u"nie"_s; }, BadEnd, {});
     }
-    cEntryEditor editor(book.Tools);
-    cEntryEditor::cFields fields = Fields();
-    fields.Account.clear();
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
-    fields.Category.clear();
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
-    QCOMPARE(book.User.Shown,
-             QStringList({u"Bitte erst neue Konten anlegen und diese Buchung einordnen!"_s,
-                          u"Bitte erst neue Kategorien anlegen und diese Buchung einordnen!"_s}));
-}
 
-void testEntryEditor::StoresWhatWasTyped()
-{
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    cEntryEditor::cFields fields = Fields();
-    fields.Amount = u"-1.012,50"_s; // the sign is the kind's business
-    fields.Target = u"Sparkonto"_s; // left over from a transfer
-    fields.HasEnd = true;           // and from a series
-    fields.End = QDate(2026, 12, 31);
-    fields.Description = u"Oma's Garten"_s;
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    const std::optional<cEntryItem> stored = book.Data.LoadEntry(1);
-    QVERIFY(stored);
-    QCOMPARE(stored->EntryValue, 101250);
-    QCOMPARE(stored->EntryDate, book.Clock.Today());
-    QCOMPARE(stored->EntryDateEnd, modRecurrence::OpenEnd);
-    QCOMPARE(stored->EntryInterval, modWord::Einmalig);
-    QVERIFY(stored->EntryAccountMove.isEmpty());
-    QCOMPARE(stored->EntryDescription, fields.Description);
-}
-
-void testEntryEditor::CategoryFillsOnlyWhatIsOpen()
-{
-    cTestBook book;
-    cTemplateItem rent;
-    rent.TemplateType = modWord::Kategorie;
-    rent.TemplateCategory = u"Test"_s;
-    rent.TemplateName = u"Pacht"_s;
-    rent.EntryType = modWord::Ausgabe;
-    rent.EntryInterval = u"Jährlich"_s;
-    QVERIFY(book.Data.AddNewTemplate(rent));
-    rent.TemplateName = u"Sonstiges"_s;
-    rent.EntryType = modWord::AlleBuchungsarten; // a filter word that old files carry
-    QVERIFY(book.Data.AddNewTemplate(rent));
-
-    const cEntryEditor editor(book.Tools);
-    cEntryEditor::cFields fields;
-    fields.Amount = u"7"_s;
-    editor.ChooseCategory(u"Test; Sonstiges"_s, fields);
-    QVERIFY(fields.Type.isEmpty());
-    QCOMPARE(fields.Amount, u"0,00"_s);
-    fields.Interval = modWord::Einmalig;
-    fields.Amount = u"7"_s;
-    fields.IsAmountTyped = true;
-    editor.ChooseCategory(u"Test; Pacht"_s, fields);
-    QCOMPARE(fields.Type, modWord::Ausgabe);
-    QCOMPARE(fields.Interval, modWord::Einmalig);
-    QCOMPARE(fields.Amount, u"7"_s);
-}
-
-void testEntryEditor::OtherPeriodCostsCorrections_data()
-{
-    QTest::addColumn<bool>("changesDate");
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<int>("corrections");
-    QTest::addColumn<QString>("description");
-    QTest::newRow("other text asks nothing") << false << int(eAnswer::Cancel) << 1 << u"neu"_s;
-    QTest::newRow("no saves nothing") << true << int(eAnswer::No) << 1 << QString();
-    QTest::newRow("yes drops the corrections") << true << int(eAnswer::Yes) << 0 << u"neu"_s;
-}
-
-void testEntryEditor::OtherPeriodCostsCorrections()
-{
-    QFETCH(bool, changesDate);
-    QFETCH(int, answer);
-    QFETCH(int, corrections);
-    QFETCH(QString, description);
-    cTestBook book;
-    const cEntryItem series = book.Add([](cEntryItem& entry) { entry.EntryInterval = u"Monatlich"_s; });
-    cEntryItemFixMod fixMod;
-    fixMod.EntryRelation = series.ID;
-    fixMod.EntryModType = modWord::Betrag;
-    fixMod.EntryStartDate = QDate(2026, 4, 1);
-    QVERIFY(book.Data.AddNewEntryMod(fixMod));
-
-    cEntryEditor editor(book.Tools);
-    cEntryEditor::cFields fields = editor.Load(series.ID).value();
-    fields.Description = u"neu"_s;
-    fields.Date = changesDate ? fields.Date.addDays(1) : fields.Date;
-    book.User.Answers = {static_cast<eAnswer>(answer)};
-    const bool isSaved = editor.Save(fields) == cEntryEditor::eSaved::Saved;
-    QCOMPARE(isSaved, !description.isEmpty());
-    QCOMPARE(book.Data.GetEntryMods(series.ID).size(), corrections);
-    QCOMPARE(book.Data.LoadEntry(series.ID)->EntryDescription, description);
-    QCOMPARE(book.User.Asked.size(), changesDate ? 1 : 0);
-}
-
-void testEntryEditor::ProposesRecurringValues_data()
-{
-    QTest::addColumn<QString>("interval");
-    QTest::addColumn<bool>("isTyped");
-    QTest::addColumn<QString>("amount");
-    QTest::newRow("recurring") << u"Monatlich"_s << false << u"850,00"_s;
-    QTest::newRow("recurring, typed") << u"Monatlich"_s << true << u"7"_s;
-    QTest::newRow("a limit only") << modWord::Einmalig << false << u"0,00"_s;
-    QTest::newRow("without interval") << QString() << false << u"0,00"_s;
-}
-
-void testEntryEditor::ProposesRecurringValues()
-{
-    QFETCH(QString, interval);
-    QFETCH(bool, isTyped);
-    cTestBook book;
-    cTemplateItem rent;
-    rent.TemplateType = modWord::Kategorie;
-    rent.TemplateName = u"Pacht"_s;
-    rent.EntryInterval = interval;
-    rent.TemplateDefaultValue = u"850.00"_s;
-    QVERIFY(book.Data.AddNewTemplate(rent));
-    const cEntryEditor editor(book.Tools);
-    cEntryEditor::cFields fields;
-    fields.Amount = u"7"_s;
-    fields.IsAmountTyped = isTyped;
-    editor.ChooseCategory(modTemplate::Path(rent), fields);
-    QTEST(fields.Amount, "amount");
-}
-
-void testEntryEditor::SaysTheVatInTheAmount()
-{
-    cTestBook book;
-    cTemplateItem repair;
-    repair.TemplateType = modWord::Kategorie;
-    repair.TemplateName = u"Reparatur"_s;
-    repair.TemplateVAT = u"19"_s;
-    QVERIFY(book.Data.AddNewTemplate(repair));
-    const cEntryEditor editor(book.Tools);
-    cEntryEditor::cFields fields;
-    fields.Category = modTemplate::Path(repair);
-    fields.Amount = u"100"_s;
-    QCOMPARE(editor.VatText(fields), u"darin 19 % MwSt.: 15,97\u00A0€"_s);
-    fields.Type = modWord::Umbuchung;
-    QCOMPARE(editor.VatText(fields), QString());
-}
-
-void testEntryEditor::TypedDays_data()
-{
-    QTest::addColumn<QString>("day");
-    QTest::addColumn<QString>("end");
-    QTest::addColumn<int>("saved");
-    QTest::addColumn<QDate>("stored");
-    using enum eEntrySaved;
-    QTest::newRow("typed wins") << u"3.5."_s << QString() << int(Saved) << QDate(2026, 5, 3);
-    QTest::newRow("blank is the chosen day") << u" "_s << u"+400"_s << int(Saved) << QDate(2026, 3, 10);
-    QTest::newRow("no day") << u"bald"_s << QString() << int(BadDate) << QDate();
-    QTest::newRow("no last day") << u"3.5."_s << u"nie"_s << int(BadEnd) << QDate();
-}
-
-void testEntryEditor::TypedDays()
-{
-    QFETCH(QString, day);
-    QFETCH(QString, end);
-    QFETCH(int, saved);
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    cEntryEditor::cFields fields = Fields();
-    fields.Interval = u"Monatlich"_s;
-    fields.Date = QDate(2026, 3, 10);
-    fields.DateText = day;
-    fields.HasEnd = true;
-    fields.EndText = end;
-    QCOMPARE(int(editor.Save(fields)), saved);
-    const std::optional<cEntryItem> entry = book.Data.LoadEntry(1);
-    QTEST(entry ? entry->EntryDate : QDate(), "stored");
-}
-
-void testEntryEditor::NextEntryKeepsDayAccountAndKind()
-{
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    cEntryEditor::cFields fields = Fields();
-    fields.DateText = u"3."_s;
-    fields.Interval = u"Monatlich"_s;
-    for (int i = 1; i <= 6; ++i) {
-        fields.Description = QString::number(i);
-        QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
+    void Refuses()
+    {
+        QFETCH(const fnChange, change);
+        QFETCH(const QString, message);
+        cEditorBook book;
+        cEntryEditor::cFields fields = Fields();
+        fields.Interval = u"Monatlich"_s;
+        fields.DateText = u"3.5."_s;
+        fields.HasEnd = true;
+        change(fields);
+        QTEST(book.Editor.Save(fields), "saved");
+        QCOMPARE(book.User.Shown, message.isEmpty() ? QStringList() : QStringList(message));
+        QCOMPARE(book.Data.CountEntries(), 0);
     }
-    QCOMPARE(editor.LastSaved().size(), 5);
-    QCOMPARE(editor.LastSaved().first(), u"03.03.2026  6  -12,50\u00A0€"_s);
-    const cEntryEditor::cFields next = editor.Next(fields);
-    QVERIFY(editor.IsNew());
-    QCOMPARE(next.Date, QDate(2026, 3, 3));
-    QCOMPARE(next.Account, fields.Account);
-    QCOMPARE(next.Type, fields.Type);
-    QCOMPARE(next.Amount, u"0,00"_s);
-    QVERIFY(next.Description.isEmpty() && next.Category.isEmpty() && next.Interval.isEmpty() && !next.IsAmountTyped);
-}
 
-void testEntryEditor::DescriptionBringsItsLatestUse()
-{
-    cTestBook book;
-    const auto add = [&](const QString& description, const QString& category, const QString& account) {
-        (void)book.Add([&](cEntryItem& entry) {
-            entry.EntryDescription = description;
-            entry.EntryCategory = category;
-            entry.EntryAccount = account;
+    void SaysWhenThereIsNothingToChoose()
+    {
+        cEditorBook book;
+        const cTemplateItemList templates = book.Data.GetTemplates();
+        for (const cTemplateItem& item : templates) {
+            QVERIFY(book.Data.DeleteTemplate(item.ID));
+        }
+        cEntryEditor::cFields fields = Fields();
+        fields.Account.clear();
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Refused);
+        fields.Category.clear();
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Refused);
+        QCOMPARE(book.User.Shown,
+                 QStringList({u"Bitte erst neue Konten anlegen und diese Buchung einordnen!"_s,
+                              u"Bitte erst neue Kategorien anlegen und diese Buchung einordnen!"_s}));
+    }
+
+    void StoresWhatWasTyped()
+    {
+        cEditorBook book;
+        cEntryEditor::cFields fields = Fields();
+        fields.Amount = u"-1.012,50"_s; // the sign is the kind's business
+        fields.Target = u"Sparkonto"_s; // left over from a transfer
+        fields.HasEnd = true;           // and from a series
+        fields.End = QDate(2026, 12, 31);
+        fields.Description = u"Oma's Garten"_s;
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        const std::optional<cEntryItem> stored = book.Data.LoadEntry(1);
+        QVERIFY(stored);
+        QCOMPARE(stored->EntryValue, 101250);
+        QCOMPARE(stored->EntryDate, book.Clock.Today());
+        QCOMPARE(stored->EntryDateEnd, modRecurrence::OpenEnd);
+        QCOMPARE(stored->EntryInterval, modWord::Einmalig);
+        QVERIFY(stored->EntryAccountMove.isEmpty());
+        QCOMPARE(stored->EntryDescription, fields.Description);
+        QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Oma's Garten' angelegt"_s);
+        fields = book.Editor.Load(1).value();
+        fields.Description.clear();
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Haushalt; Lebensmittel' geändert"_s);
+    }
+
+    void OtherPeriodCostsCorrections_data()
+    {
+        const cTestRows<bool, int, qsizetype, QString> row("changesDate", "answer", "corrections", "description");
+        row("other text asks nothing", false, int(eAnswer::Cancel), 1, u"neu"_s);
+        row("no saves nothing", true, int(eAnswer::No), 1, {});
+        row("yes drops the corrections", true, int(eAnswer::Yes), 0, u"neu"_s);
+    }
+
+    void OtherPeriodCostsCorrections()
+    {
+        QFETCH(bool, changesDate);
+        QFETCH(int, answer);
+        QFETCH(QString, description);
+        cEditorBook book;
+        const cEntryItem series = book.Add([](cEntryItem& entry) { entry.EntryInterval = u"Monatlich"_s; });
+        book.Correct(series.ID, QDate(2026, 4, 1), {}, 0);
+
+        cEntryEditor::cFields fields = book.Editor.Load(series.ID).value();
+        fields.Description = u"neu"_s;
+        fields.Date = changesDate ? fields.Date.addDays(1) : fields.Date;
+        book.User.Answers = {static_cast<eAnswer>(answer)};
+        const bool isSaved = book.Editor.Save(fields) == cEntryEditor::eSaved::Saved;
+        QCOMPARE(isSaved, !description.isEmpty());
+        QTEST(book.Data.GetEntryMods(series.ID).size(), "corrections");
+        QCOMPARE(book.Data.LoadEntry(series.ID)->EntryDescription, description);
+        QCOMPARE(book.User.Asked.size(), changesDate ? 1 : 0);
+    }
+
+    void ProposesRecurringValues_data()
+    {
+        const cTestRows<QString, bool, QString> row("interval", "isTyped", "amount");
+        row("recurring", u"Monatlich"_s, false, u"850,00"_s);
+        row("recurring, typed", u"Monatlich"_s, true, u"7"_s);
+        row("a limit only", modWord::Einmalig, false, u"0,00"_s);
+        row("without interval", {}, false, u"0,00"_s);
+    }
+
+    void ProposesRecurringValues()
+    {
+        QFETCH(QString, interval);
+        QFETCH(bool, isTyped);
+        cEditorBook book;
+        const QString rent = book.AddCategory(u"Pacht"_s, [&](cTemplateItem& item) {
+            item.EntryInterval = interval;
+            item.TemplateDefaultValue = u"850.00"_s;
         });
-    };
-    add(u"Bäcker"_s, u"Haushalt; Lebensmittel"_s, u"Girokonto"_s);
-    add(u"Bäcker"_s, u"Haushalt; Lebensmittel"_s, u"Bargeld"_s);
-    add(u"Wärme d'Oro"_s, u"Nicht; Angelegt"_s, u"Geschlossen"_s);
-    add(u"Wirt"_s, u"Haushalt; Lebensmittel"_s, u"Bargeld"_s);
+        cEntryEditor::cFields fields;
+        fields.Amount = u"7"_s;
+        fields.IsAmountTyped = isTyped;
+        book.Editor.ChooseCategory(rent, fields);
+        QTEST(fields.Amount, "amount");
+    }
 
-    cEntryEditor editor(book.Tools);
-    QCOMPARE(editor.Suggestions().Descriptions(u"baeck"_s), QStringList({u"Bäcker"_s}));
-    QCOMPARE(editor.Suggestions().Descriptions().value(0), u"Bäcker"_s); // used most often
-    cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
-    editor.ChooseDescription(u"Wärme d'Oro"_s, fields); // category and account are gone
-    QCOMPARE(fields.Category, QString());
-    QCOMPARE(fields.Account, u"Girokonto"_s);
-    editor.ChooseDescription(u"Bäcker"_s, fields);
-    QCOMPARE(fields.Category, u"Haushalt; Lebensmittel"_s);
-    QCOMPARE(fields.Account, u"Bargeld"_s);
-    editor.ChooseAccount(u"Sparkonto"_s, fields);
-    editor.ChooseDescription(u"Wirt"_s, fields);
-    QCOMPARE(fields.Account, u"Sparkonto"_s); // the user's choice stays
+    void SaysTheVatInTheAmount()
+    {
+        cEditorBook book;
 
-    cEntryEditor::cFields saved = Fields();
-    saved.Description = u"Zoo"_s;
-    QCOMPARE(editor.Save(saved), cEntryEditor::eSaved::Saved);
-    QCOMPARE(editor.Suggestions().Descriptions().value(0), u"Zoo"_s); // without reading the book again
-}
+        cEntryEditor::cFields fields;
+        fields.Category = book.AddCategory(u"Reparatur"_s, [](cTemplateItem& item) { item.TemplateVAT = u"19"_s; });
+        fields.Amount = u"100"_s;
+        QCOMPARE(book.Editor.VatText(fields), u"darin 19 % MwSt.: 15,97\u00A0€"_s);
+        fields.Type = modWord::Umbuchung;
+        QCOMPARE(book.Editor.VatText(fields), QString());
+    }
 
-void testEntryEditor::AmountsAreTypedAsTheyAreShown()
-{
-    cTestBook book;
-    QVERIFY(book.Settings->Set(modSettingKey::LanguageFormat, u"en-GB"_s));
-    cEntryEditor editor(book.Tools);
-    cEntryEditor::cFields fields = editor.Start(u"Girokonto"_s);
-    QCOMPARE(fields.Amount, u"0.00"_s);
-    fields.Amount = u"1,234"_s;
-    fields.Category = u"Haushalt; Lebensmittel"_s;
-    fields.Type = modWord::Ausgabe;
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    QCOMPARE(book.Data.LoadEntry(editor.SavedId())->EntryValue, 123400);
-    fields = editor.Load(editor.SavedId()).value();
-    QCOMPARE(fields.Amount, u"1234.00"_s);
-    editor.UseSplit(fields);
-    fields.Parts = {{.Category = fields.Category, .Amount = u"1,000"_s},
-                    {.Category = fields.Category, .Amount = u"233.5"_s}};
-    QCOMPARE(modSplitParts::RestText(fields), u"Rest: 0.50"_s);
-    QVERIFY(modSplitParts::FillRest(1, fields));
-    QCOMPARE(fields.Parts.at(1).Amount, u"234.00"_s);
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    QVERIFY(editor.LastSaved().first().contains(u"£1,234.00"));
+    void TypedDays_data()
+    {
+        const cTestRows<QString, QString, QDate> row("day", "end", "stored");
+        row("typed wins", u"3.5."_s, {}, QDate(2026, 5, 3));
+        row("blank is the chosen day", u" "_s, u"+400"_s, QDate(2026, 3, 10));
+    }
 
-    QVERIFY(book.Data.SetStartGuthaben(u"Girokonto"_s, 150000, QDate(2026, 1, 1)));
-    QCOMPARE(editor.StartBalance(u"Girokonto"_s).Amount, u"1500.00"_s);
-}
+    void TypedDays()
+    {
+        QFETCH(QString, day);
+        QFETCH(QString, end);
+        cEditorBook book;
+        cEntryEditor::cFields fields = Fields();
+        fields.Interval = u"Monatlich"_s;
+        fields.Date = QDate(2026, 3, 10);
+        fields.DateText = day;
+        fields.HasEnd = true;
+        fields.EndText = end;
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QTEST(book.Data.LoadEntry(1)->EntryDate, "stored");
+    }
 
-void testEntryEditor::PreviewsSeries_data()
-{
-    QTest::addColumn<QString>("day");
-    QTest::addColumn<QString>("end");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("open") << u"20.1."_s << QString()
-                          << u"ohne Ende, nächste Termine: 20.03.2026, 20.04.2026, 20.05.2026"_s;
-    QTest::newRow("bounded") << u"20.1."_s << u"30.4."_s << u"4 Mal, nächste Termine: 20.03.2026, 20.04.2026"_s;
-    QTest::newRow("over") << u"20.1."_s << u"1.3."_s << u"2 Mal, beendet: zuletzt am 20.02.2026"_s;
-    QTest::newRow("never") << u"20.1."_s << u"1.1."_s
-                           << u"Die Serie endet vor ihrem ersten Tag: Sie hat keinen Termin."_s;
-    QTest::newRow("one, and the last") << u"20.4."_s << u"30.4."_s << u"1 Mal, nächste Termine: 20.04.2026"_s;
-    QTest::newRow("unreadable") << u"irgendwann"_s << QString() << QString();
-}
+    void NextEntryKeepsDayAccountAndKind()
+    {
+        cEditorBook book;
+        cEntryEditor::cFields fields = Fields();
+        fields.DateText = u"3."_s;
+        fields.Interval = u"Monatlich"_s;
+        for (int i = 1; i <= 6; ++i) {
+            fields.Description = QString::number(i);
+            QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        }
+        QCOMPARE(book.Editor.LastSaved().size(), 5);
+        QCOMPARE(book.Editor.LastSaved().first(), u"03.03.2026  6  -12,50\u00A0€"_s);
+        const cEntryEditor::cFields next = book.Editor.Next(fields);
+        QVERIFY(book.Editor.IsNew());
+        QCOMPARE(next.Date, QDate(2026, 3, 3));
+        QCOMPARE(next.Account, fields.Account);
+        QCOMPARE(next.Type, fields.Type);
+        QCOMPARE(next.Amount, u"0,00"_s);
+        QVERIFY(next.Description.isEmpty() && next.Category.isEmpty() && next.Interval.isEmpty()
+                && !next.IsAmountTyped);
+    }
 
-void testEntryEditor::PreviewsSeries()
-{
-    QFETCH(QString, day);
-    QFETCH(QString, end);
-    cTestBook book;
-    const cEntryEditor editor(book.Tools);
-    cEntryEditor::cFields fields;
-    fields.Interval = u"Monatlich"_s;
-    fields.DateText = day;
-    fields.HasEnd = !end.isEmpty();
-    fields.EndText = end;
-    QTEST(editor.Preview(fields).Text, "text");
-}
+    void DescriptionBringsItsLatestUse()
+    {
+        cEditorBook book;
+        const auto add = [&](const QString& description, const QString& category, const QString& account) {
+            (void)book.Add([&](cEntryItem& entry) {
+                entry.EntryDescription = description;
+                entry.EntryCategory = category;
+                entry.EntryAccount = account;
+            });
+        };
+        add(u"Bäcker"_s, u"Haushalt; Lebensmittel"_s, u"Girokonto"_s);
+        add(u"Bäcker"_s, u"Haushalt; Lebensmittel"_s, u"Bargeld"_s);
+        add(u"Wärme d'Oro"_s, u"Nicht; Angelegt"_s, u"Geschlossen"_s);
+        add(u"Wirt"_s, u"Haushalt; Lebensmittel"_s, u"Bargeld"_s);
 
-void testEntryEditor::StartBalanceHasItsSign()
-{
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    cEntryEditor::cFields fields = editor.StartBalance(u"Girokonto"_s);
-    QCOMPARE(fields.Date, book.Clock.Day);
-    QCOMPARE(editor.StartBalanceText(u"Girokonto"_s), u"Bisher wurde noch kein Startguthaben festgelegt:"_s);
-    fields.Amount = u"-100-20,5"_s;
-    fields.DateText = u"1.1."_s;
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    const cEntryItem stored = book.Data.GetStartGuthaben(u"Girokonto"_s).value();
-    QCOMPARE(stored.EntryType, modWord::Ausgabe);
-    QCOMPARE(stored.EntryValue, 12050);
-    QCOMPARE(editor.StartBalanceText(u"Girokonto"_s), u"Bisheriges Startguthaben: -120,50\u00A0€ am 01.01.2026"_s);
+        QCOMPARE(book.Editor.Suggestions().Descriptions(u"baeck"_s), QStringList({u"Bäcker"_s}));
+        QCOMPARE(book.Editor.Suggestions().Descriptions().value(0), u"Bäcker"_s); // used most often
+        cEntryEditor::cFields fields = book.Editor.Start(u"Girokonto"_s);
+        book.Editor.ChooseDescription(u"Wärme d'Oro"_s, fields); // category and account are gone
+        QCOMPARE(fields.Category, QString());
+        QCOMPARE(fields.Account, u"Girokonto"_s);
+        book.Editor.ChooseDescription(u"Bäcker"_s, fields);
+        QCOMPARE(fields.Category, u"Haushalt; Lebensmittel"_s);
+        QCOMPARE(fields.Account, u"Bargeld"_s);
+        book.Editor.ChooseAccount(u"Sparkonto"_s, fields);
+        book.Editor.ChooseDescription(u"Wirt"_s, fields);
+        QCOMPARE(fields.Account, u"Sparkonto"_s); // the user's choice stays
 
-    fields = editor.Load(stored.ID).value();
-    QCOMPARE(fields.Face, eEntryFace::StartBalance);
-    QCOMPARE(fields.Amount, u"-120,50"_s);
-    fields.Amount = u"7"_s;
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    QCOMPARE(book.Data.LoadEntry(stored.ID)->EntryType, modWord::Einnahme);
-    QCOMPARE(book.Data.CountEntries(), 1);
-    QVERIFY(book.Data.Journal().Undo());
-    QCOMPARE(book.Data.LoadEntry(stored.ID)->EntryValue, 12050);
-}
+        cEntryEditor::cFields saved = Fields();
+        saved.Description = u"Zoo"_s;
+        QCOMPARE(book.Editor.Save(saved), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Editor.Suggestions().Descriptions().value(0), u"Zoo"_s); // without reading the book again
+    }
 
-void testEntryEditor::StartBalanceFollowsTheAccount()
-{
-    cTestBook book;
-    QVERIFY(book.Data.SetStartGuthaben(u"Bargeld"_s, 500, QDate(2025, 1, 1)));
-    cEntryEditor editor(book.Tools);
-    cEntryEditor::cFields fields = editor.StartBalance(u"Girokonto"_s);
-    editor.ChooseAccount(u"Bargeld"_s, fields);
-    QCOMPARE(fields.Amount, u"5,00"_s);
-    QCOMPARE(fields.Date, QDate(2025, 1, 1));
-    fields.IsAmountTyped = true;
-    editor.ChooseAccount(u"Girokonto"_s, fields);
-    QCOMPARE(fields.Amount, u"5,00"_s);
-    fields.Account.clear();
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
-    QCOMPARE(book.User.Shown, QStringList({u"Bitte erst ein Konto wählen!"_s}));
-}
+    void AmountsAreTypedAsTheyAreShown()
+    {
+        cEditorBook book;
+        QVERIFY(book.Settings->Set(modSettingKey::LanguageFormat, u"en-GB"_s));
+        cEntryEditor::cFields fields = book.Editor.Start(u"Girokonto"_s);
+        QCOMPARE(fields.Amount, u"0.00"_s);
+        fields.Amount = u"1,234"_s;
+        fields.Category = u"Haushalt; Lebensmittel"_s;
+        fields.Type = modWord::Ausgabe;
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Data.LoadEntry(book.Editor.SavedId())->EntryValue, 123400);
+        fields = book.Editor.Load(book.Editor.SavedId()).value();
+        QCOMPARE(fields.Amount, u"1234.00"_s);
+        book.Editor.UseSplit(fields);
+        fields.Parts = {{.Category = fields.Category, .Amount = u"1,000"_s},
+                        {.Category = fields.Category, .Amount = u"233.5"_s}};
+        QCOMPARE(modSplitParts::RestText(fields), u"Rest: 0.50"_s);
+        QVERIFY(modSplitParts::FillRest(1, fields));
+        QCOMPARE(fields.Parts.at(1).Amount, u"234.00"_s);
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QVERIFY(book.Editor.LastSaved().first().contains(u"£1,234.00"));
 
-void testEntryEditor::NamesTheStep()
-{
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    QCOMPARE(editor.Save(Fields()), cEntryEditor::eSaved::Saved);
-    QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Haushalt; Lebensmittel' angelegt"_s);
-    cEntryEditor::cFields fields = editor.Load(editor.SavedId()).value();
-    fields.Description = u"Miete"_s;
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Miete' geändert"_s);
-}
+        QVERIFY(book.Data.SetStartGuthaben(u"Girokonto"_s, 150000, QDate(2026, 1, 1)));
+        QCOMPARE(book.Editor.StartBalance(u"Girokonto"_s).Amount, u"1500.00"_s);
+    }
 
-void testEntryEditor::LabelNamesTheCurrency()
-{
-    cTestBook book;
-    const cEntryEditor editor(book.Tools);
-    QCOMPARE(editor.AmountLabel(), u"Betrag (€):"_s);
-    QVERIFY(book.Settings->Set(modSettingKey::LanguageCurrency, u"en_US"_s));
-    book.Format.CultureChanged();
-    QCOMPARE(editor.AmountLabel(), u"Betrag ($):"_s);
-    QVERIFY(book.Settings->Set(modSettingKey::LanguageCurrency, u"id-ID"_s));
-    book.Format.CultureChanged();
-    QCOMPARE(editor.AmountLabel(), u"Betrag:"_s); // rupiah are shown without symbol
-}
+    void PreviewsSeries_data()
+    {
+        const cTestRows<QString, QString, QString> row("day", "end", "text");
+        row("open", u"20.1."_s, {}, u"ohne Ende, nächste Termine: 20.03.2026, 20.04.2026, 20.05.2026"_s);
+        row("bounded", u"20.1."_s, u"30.4."_s, u"4 Mal, nächste Termine: 20.03.2026, 20.04.2026"_s);
+        row("over", u"20.1."_s, u"1.3."_s, u"2 Mal, beendet: zuletzt am 20.02.2026"_s);
+        row("never", u"20.1."_s, u"1.1."_s, u"Die Serie endet vor ihrem ersten Tag: Sie hat keinen Termin."_s);
+        row("one, and the last", u"20.4."_s, u"30.4."_s, u"1 Mal, nächste Termine: 20.04.2026"_s);
+        row("unreadable", u"irgendwann"_s, {}, {});
+    }
+
+    void PreviewsSeries()
+    {
+        QFETCH(QString, day);
+        QFETCH(QString, end);
+        cEditorBook book;
+        cEntryEditor::cFields fields;
+        fields.Interval = u"Monatlich"_s;
+        fields.DateText = day;
+        fields.HasEnd = !end.isEmpty();
+        fields.EndText = end;
+        QTEST(book.Editor.Preview(fields).Text, "text");
+    }
+
+    void StartBalanceHasItsSign()
+    {
+        cEditorBook book;
+        cEntryEditor::cFields fields = book.Editor.StartBalance(u"Girokonto"_s);
+        QCOMPARE(fields.Date, book.Clock.Day);
+        QCOMPARE(book.Editor.StartBalanceText(u"Girokonto"_s), u"Bisher wurde noch kein Startguthaben festgelegt:"_s);
+        fields.Amount = u"-100-20,5"_s;
+        fields.DateText = u"1.1."_s;
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        const cEntryItem stored = book.Data.GetStartGuthaben(u"Girokonto"_s).value();
+        QCOMPARE(stored.EntryType, modWord::Ausgabe);
+        QCOMPARE(stored.EntryValue, 12050);
+        QCOMPARE(book.Editor.StartBalanceText(u"Girokonto"_s),
+                 u"Bisheriges Startguthaben: -120,50\u00A0€ am 01.01.2026"_s);
+
+        fields = book.Editor.Load(stored.ID).value();
+        QCOMPARE(fields.Face, eEntryFace::StartBalance);
+        QCOMPARE(fields.Amount, u"-120,50"_s);
+        fields.Amount = u"7"_s;
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(book.Data.LoadEntry(stored.ID)->EntryType, modWord::Einnahme);
+        QCOMPARE(book.Data.CountEntries(), 1);
+        QVERIFY(book.Data.Journal().Undo());
+        QCOMPARE(book.Data.LoadEntry(stored.ID)->EntryValue, 12050);
+    }
+
+    void StartBalanceFollowsTheAccount()
+    {
+        cEditorBook book;
+        QVERIFY(book.Data.SetStartGuthaben(u"Bargeld"_s, 500, QDate(2025, 1, 1)));
+        cEntryEditor::cFields fields = book.Editor.StartBalance(u"Girokonto"_s);
+        book.Editor.ChooseAccount(u"Bargeld"_s, fields);
+        QCOMPARE(fields.Amount, u"5,00"_s);
+        QCOMPARE(fields.Date, QDate(2025, 1, 1));
+        fields.IsAmountTyped = true;
+        book.Editor.ChooseAccount(u"Girokonto"_s, fields);
+        QCOMPARE(fields.Amount, u"5,00"_s);
+        fields.Account.clear();
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Refused);
+        QCOMPARE(book.User.Shown, QStringList({u"Bitte erst ein Konto wählen!"_s}));
+    }
+
+    void LabelNamesTheCurrency()
+    {
+        cEditorBook book;
+        QCOMPARE(book.Editor.AmountLabel(), u"Betrag (€):"_s);
+        QVERIFY(book.Settings->Set(modSettingKey::LanguageCurrency, u"en_US"_s));
+        book.Format.CultureChanged();
+        QCOMPARE(book.Editor.AmountLabel(), u"Betrag ($):"_s);
+        QVERIFY(book.Settings->Set(modSettingKey::LanguageCurrency, u"id-ID"_s));
+        book.Format.CultureChanged();
+        QCOMPARE(book.Editor.AmountLabel(), u"Betrag:"_s); // rupiah are shown without symbol
+    }
+};
 
 TEST_CLASS(testEntryEditor, QCoreApplication)
 #include "testEntryEditor.moc"

@@ -1,9 +1,8 @@
 #include "base/cProgress.h"
-#include "core/cAmountFormat.h"
 #include "model/modWord.h"
 #include "support/cNoRoom.h"
 #include "support/cTestClass.h"
-#include "support/fakes.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
 #include "views/export/cEntryExport.h"
@@ -13,7 +12,6 @@
 #include "views/people/modSettlementExport.h"
 
 #include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 #include <QXmlStreamReader>
 
@@ -53,28 +51,15 @@ cEntryListModel::cContent Content(const QString& account = {})
     return content;
 }
 
-class cCancelled final : public cProgress
-{
-public:
-    void showProgressBar(int /*maximum*/) override {}
-    void addProgressValue(int /*steps*/) override {}
-    void hideProgressBar() override {}
-    [[nodiscard]] bool IsCancelled() const override { return true; }
-};
-
 // The cells of a written table: "A2" to its value; a formula as "formula -> value".
 class cTable
 {
 public:
     explicit cTable(const QByteArray& bytes)
     {
-        QTemporaryDir folder;
-        const QString path = folder.filePath(u"table.xlsx"_s);
-        QFile file(path);
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size()) {
-            qFatal("cannot write test file");
-        }
-        file.close();
+        const cTestFile folder;
+        const QString path = folder.Path(u"table.xlsx"_s);
+        cTestFile::Write(path, bytes);
         m_zip = unzOpen(QFile::encodeName(path).constData());
         ReadTexts(Part("xl/sharedStrings.xml"));
         Sheet = Part("xl/worksheets/sheet1.xml");
@@ -162,28 +147,316 @@ class testExport final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
-    void TakesWhatTheListShows();
-    void CsvIsForTablePrograms();
-    void CsvKeepsFormulasAsText_data();
-    void CsvKeepsFormulasAsText();
-    void CsvNamesTheGroup();
-    void XlsxHoldsDatesAndNumbers();
-    void XlsxSumsWithoutTransfers();
-    void XlsxSumsOfOneAccount();
-    void StartBalancesAreNoIncome();
-    void XlsxOfASettlement();
-    void XlsxKeepsOddDatesAndTexts();
-    void XlsxNoticesFullDisk();
-    void HtmlStandsAlone();
-    void QifOfOneAccount();
-    void QifOfAllAccounts();
-    void FormatComesFromTheEnding_data();
-    void FormatComesFromTheEnding();
-    void SaysWhatWasWritten();
-    void FailureKeepsTheOldFile();
-    void NothingToExport();
-    void ViewInWords();
+    void init()
+    {
+        m_model = std::make_unique<cEntryListModel>(m_format.Format);
+        m_model->SetContent(Content(), {}, modWord::KeineGruppierung);
+    }
+
+    void TakesWhatTheListShows()
+    {
+        m_model->sort(cEntryListModel::Date, Qt::DescendingOrder);
+        m_model->SetGrouping(u"Nach Monat"_s);
+        m_model->SetFilter(u"girokonto"_s);
+        const cEntryExtract extract = cEntryExtract::From(*m_model);
+        QCOMPARE(extract.Groups.size(), 2U);
+        qint64 sum = 0;
+        for (const cEntryExtract::cGroup& group : extract.Groups) {
+            qint64 groupSum = 0;
+            for (qsizetype row = group.First; row < group.First + group.Count; ++row) {
+                groupSum += extract.Rows[static_cast<std::size_t>(row)].Effect;
+            }
+            QCOMPARE(groupSum, group.Sum);
+            sum += group.Sum;
+        }
+        QCOMPARE(sum, m_model->Sums().Total());
+        QCOMPARE(extract.Total(), m_model->Sums().Total());
+        QCOMPARE(extract.Rows.front().Entry.EntryDate, QDate(2026, 2, 27)); // groups upwards, rows downwards
+        QCOMPARE(extract.Rows[1].Entry.EntryDate, QDate(2026, 3, 9));
+        m_model->SetFilter(u"miete"_s);
+        QCOMPARE(cEntryExtract::From(*m_model).Rows.size(), 1U);
+    }
+
+    void CsvIsForTablePrograms()
+    {
+        const QByteArray bytes = Bytes(modExport::eFormat::Csv);
+        QVERIFY(bytes.startsWith("\xEF\xBB\xBF"));
+        QCOMPARE(
+            QString::fromUtf8(bytes.mid(3)),
+            u"Datum;Buchungsart;Kategorie;Konto;Zielkonto;Beschreibung;Intervall;Betrag\r\n"
+            "27.02.2026;Einnahme;\"Einkommen; Lohn / Gehalt\";Girokonto;;\"Lohn; \"\"Februar\"\"\";Einmalig;2500,00\r\n"
+            "01.03.2026;Ausgabe;\"Wohnung; Miete\";Girokonto;;'=1+1 <b>;Monatlich, korrigiert;-1234,56\r\n"
+            "02.03.2026;Umbuchung;Geldanlage;Girokonto;Sparkonto;Rücklage;Einmalig;100,00\r\n"
+            "09.03.2026;Ausgabe;;Girokonto;;\"zwei\nZeilen\";Einmalig;-0,05\r\n"_s);
+    }
+
+    void CsvKeepsFormulasAsText_data()
+    {
+        const cTestRows<QString, QString> row("text", "field");
+        row("formula", u"=SUM(A1)"_s, u"'=SUM(A1)"_s);
+        row("plus, as in phone numbers", u"+49 30 1"_s, u"'+49 30 1"_s);
+        row("minus", u"-2"_s, u"'-2"_s);
+        row("at", u"@home"_s, u"'@home"_s);
+        row("tabulator before it", u"\t=1"_s, u"'\t=1"_s);
+        row("quoted as well", u"=A;B"_s, u"\"'=A;B\""_s);
+        row("sign inside", u"Miete - März"_s, u"Miete - März"_s);
+    }
+
+    void CsvKeepsFormulasAsText()
+    {
+        QFETCH(const QString, text);
+        QFETCH(const QString, field);
+        cEntryListModel::cContent content;
+        content.Entries = {Entry(QDate(2026, 3, 1), modWord::Ausgabe, 100, u"Auto"_s, text)};
+        m_model->SetContent(content, {}, modWord::KeineGruppierung);
+        QCOMPARE(Lines(modExport::eFormat::Csv).at(1),
+                 u"01.03.2026;Ausgabe;Auto;Girokonto;"_s + field + u";Einmalig;-1,00\r"_s);
+    }
+
+    void CsvNamesTheGroup()
+    {
+        m_model->SetGrouping(u"Nach Buchungsart"_s);
+        QStringList starts;
+        const QStringList lines = Lines(modExport::eFormat::Csv);
+        for (const QString& line : lines) {
+            starts.append(line.section(u';', 0, 1));
+        }
+        QCOMPARE(starts.mid(1, 2), QStringList({u"Ausgabe;01.03.2026"_s, u"Ausgabe;09.03.2026"_s}));
+        QVERIFY(starts.contains(u"Umbuchung;02.03.2026"_s));
+    }
+
+    void XlsxHoldsDatesAndNumbers()
+    {
+        const cTable table(Bytes(modExport::eFormat::Xlsx));
+        QCOMPARE(table.Row(1).size(), 8);
+        QCOMPARE(table.Row(3),
+                 QStringList({u"46082"_s,
+                              u"Ausgabe"_s,
+                              u"Wohnung; Miete"_s,
+                              u"Girokonto"_s,
+                              {},
+                              u"=1+1 <b>"_s,
+                              u"Monatlich, korrigiert"_s,
+                              u"-1234.56"_s}));
+        QVERIFY(table.Sheet.contains("state=\"frozen\""));
+        QVERIFY(table.Sheet.contains("<autoFilter ref=\"A1:H5\"/>"));
+        QVERIFY(table.Styles.contains("dd.mm.yyyy"));
+        QVERIFY2(table.Styles.contains("#,##0.00&quot;\u00a0€&quot;"), table.Styles.constData());
+    }
+
+    void XlsxSumsWithoutTransfers()
+    {
+        m_model->SetGrouping(u"Nach Monat"_s);
+        const cTable table(Bytes(modExport::eFormat::Xlsx));
+        QVERIFY2(table.At(u"A4"_s).endsWith("(3)"_L1), qPrintable(table.At(u"A4"_s)));
+        QCOMPARE(table.At(u"H4"_s), u"SUMIF(B5:B7,\"<>Umbuchung\",H5:H7) -> -1234.61"_s);
+        QCOMPARE(table.At(u"H9"_s), u"SUMIFS(H2:H7,B2:B7,\"Einnahme\") -> 2500"_s);
+        QCOMPARE(table.At(u"H10"_s), u"SUMIFS(H2:H7,B2:B7,\"Ausgabe\") -> -1234.61"_s);
+        QCOMPARE(table.At(u"H11"_s), u"SUM(H9:H10) -> 1265.39"_s);
+    }
+
+    void XlsxSumsOfOneAccount()
+    {
+        cEntryListModel::cContent content = Content(u"Girokonto"_s);
+        content.StartBalance = 100000;
+        m_model->SetContent(content, {}, modWord::KeineGruppierung);
+        const cTable table(Bytes(modExport::eFormat::Xlsx));
+        QCOMPARE(table.At(u"H4"_s), u"-100"_s); // the transfer leaves the account
+        QCOMPARE(table.At(u"I5"_s), u"2165.39"_s);
+        QCOMPARE(table.At(u"H8"_s), u"SUMIFS(H2:H5,B2:B5,\"?*\",H2:H5,\"<0\") -> -1334.61"_s);
+    }
+
+    void StartBalancesAreNoIncome()
+    {
+        cEntryListModel::cContent content = Content();
+        content.Entries.prepend(Entry(QDate(2026, 1, 1), modWord::Einnahme, 50000, modWord::Startguthaben, {}));
+        m_model->SetContent(content, {}, modWord::KeineGruppierung);
+        const cTable table(Bytes(modExport::eFormat::Xlsx));
+        QCOMPARE(table.At(u"H8"_s), u"SUMIFS(H2:H6,C2:C6,\"Allgemein; Startguthaben\") -> 500"_s);
+        QCOMPARE(table.At(u"H9"_s), u"SUMIFS(H2:H6,B2:B6,\"Einnahme\",C2:C6,\"<>Allgemein; Startguthaben\") -> 2500"_s);
+        QCOMPARE(table.At(u"H11"_s), u"SUM(H8:H10) -> 1765.39"_s);
+        const QString html = QString::fromUtf8(Bytes(modExport::eFormat::Html));
+        const qsizetype foot = html.indexOf(u"<tfoot>"_s);
+        QVERIFY(html.indexOf(u"Startguthaben"_s, foot) > foot);
+        QVERIFY(html.indexOf(u"2.500,00"_s, foot) > foot);
+    }
+
+    void XlsxOfASettlement() const
+    {
+        cCountedEntry counted{{}, u"Anna"_s, modPeople::Equal({u"Anna"_s, u"Ben"_s}), -1250};
+        counted.Entry.EntryDate = QDate(2026, 3, 1);
+        counted.Entry.EntryAccount = u"Girokonto"_s;
+        counted.Entry.EntryDescription = u"=1+1"_s;
+        cSettlement settlement;
+        settlement.People = {{u"Anna"_s, -1250, -625, 0}, {u"Ben"_s, 0, -625, 0}};
+        settlement.Payments = {{u"Anna"_s, u"Ben"_s, 625}};
+        settlement.Counted = {counted};
+        const cTable table(modSettlementExport::Xlsx(settlement, m_format.Format).Bytes);
+        QCOMPARE(table.Row(2),
+                 QStringList({u"46082"_s, u"=1+1"_s, u"Girokonto"_s, u"Anna"_s, u"Anna, Ben zu gleichen Teilen"_s,
+                              u"-12.5"_s}));
+        QCOMPARE(table.Row(5), QStringList({{}, u"Anna"_s, u"-12.5"_s, u"-6.25"_s, u"0"_s, u"-6.25"_s}));
+        QCOMPARE(table.Row(9), QStringList({{}, u"Anna"_s, u"Ben"_s, {}, {}, u"6.25"_s}));
+        QVERIFY(table.Sheet.contains("<autoFilter ref=\"A1:F2\"/>"));
+    }
+
+    void XlsxKeepsOddDatesAndTexts()
+    {
+        cEntryListModel::cContent content;
+        content.Entries = {
+            Entry(QDate(1899, 12, 31), modWord::Ausgabe, 100, u"Auto"_s, QString(40000, u'ä')),
+            Entry(QDate(1900, 3, 1), modWord::Ausgabe, 100, u"Auto"_s, u"\u0001\uFFFE \U0001F600"_s),
+        };
+        m_model->SetContent(content, {}, modWord::KeineGruppierung);
+        cEntryExtract extract = Extract();
+        extract.Title = u"Konto \u001B[31m"_s;
+        const cTable table(modExport::Write(modExport::eFormat::Xlsx, {extract, m_format.Format, m_progress})
+                               .Bytes.value_or(QByteArray()));
+        QVERIFY(table.IsWellFormed);
+        for (const QByteArray& part : {table.Sheet, table.Core}) {
+            QVERIFY(!part.isEmpty() && !part.contains('\x1B'));
+        }
+        QCOMPARE(table.At(u"A2"_s), u"31.12.1899"_s);
+        QCOMPARE(table.At(u"A3"_s), u"61"_s);
+        QCOMPARE(table.At(u"E2"_s).size(), 32767);
+        QVERIFY(table.At(u"E3"_s).endsWith(u"\U0001F600"_s));
+    }
+
+    // Of the temporary files, on another disk than the target.
+    void XlsxNoticesFullDisk()
+    {
+        cEntryListModel::cContent content;
+        content.Entries = cEntryItemList(2000, Content().Entries.constFirst());
+        m_model->SetContent(content, {}, modWord::KeineGruppierung);
+        QVERIFY(!Bytes(modExport::eFormat::Xlsx).isEmpty());
+        const cNoRoom room(100'000); // enough for what is packed
+        QVERIFY(Bytes(modExport::eFormat::Xlsx).isEmpty());
+    }
+
+    void HtmlStandsAlone()
+    {
+        m_model->SetGrouping(u"Nach Monat"_s);
+        const QString html = QString::fromUtf8(Bytes(modExport::eFormat::Html));
+        QVERIFY(html.contains(u"<title>Einträge &amp; mehr</title>"_s));
+        QVERIFY(html.contains("=1+1 &lt;b&gt;"_L1) && !html.contains("<b>"_L1));
+        QVERIFY(html.contains("zwei<br>Zeilen"_L1));
+        for (const QString& outside : {u"http"_s, u"src="_s, u"href="_s, u"url("_s, u"@import"_s, u"<script"_s}) {
+            QVERIFY2(!html.contains(outside), qPrintable(outside));
+        }
+        QCOMPARE(html.count("<tr class=\"g\">"_L1), 2);
+        QCOMPARE(html.count("<tr"_L1), 1 + 2 + 4 + 3);
+        QVERIFY(html.contains(u"<th colspan=\"7\">Summe</th><th class=\"m\">1.265,39\u00a0€</th>"_s));
+    }
+
+    void QifOfOneAccount()
+    {
+        m_model->SetContent(Content(u"Sparkonto"_s), {}, modWord::KeineGruppierung);
+        m_model->SetFilter(u"Rücklage"_s);
+        QCOMPARE(QString::fromUtf8(Bytes(modExport::eFormat::Qif)),
+                 u"!Type:Bank\nD02.03.2026\nT100.00\nPRücklage\nL[Girokonto]\n^\n"_s);
+    }
+
+    void QifOfAllAccounts()
+    {
+        QCOMPARE(QString::fromUtf8(Bytes(modExport::eFormat::Qif)),
+                 u"!Account\nNGirokonto\nTBank\n^\n!Type:Bank\n"
+                 "D27.02.2026\nT2500.00\nPLohn; \"Februar\"\nLEinkommen:Lohn - Gehalt\n^\n"
+                 "D01.03.2026\nT-1234.56\nP=1+1 <b>\nMMonatlich, Nachzahlung\nLWohnung:Miete\n^\n"
+                 "D02.03.2026\nT-100.00\nPRücklage\nL[Sparkonto]\n^\n"
+                 "D09.03.2026\nT-0.05\nPzwei Zeilen\n^\n"
+                 "!Account\nNSparkonto\nTBank\n^\n!Type:Bank\n"
+                 "D02.03.2026\nT100.00\nPRücklage\nL[Girokonto]\n^\n"_s);
+    }
+
+    void FormatComesFromTheEnding_data()
+    {
+        // start: empty: refused
+        const cTestRows<QString, QByteArray> row("name", "start");
+        row("csv", u"a.csv"_s, QByteArray("\xEF\xBB\xBF"));
+        row("no ending", u"a"_s, QByteArray("\xEF\xBB\xBF"));
+        row("text", u"a.txt"_s, QByteArray("\xEF\xBB\xBF"));
+        row("Excel, in capitals", u"a.XLSX"_s, QByteArray("PK"));
+        row("html", u"a.htm"_s, QByteArray("<!DOCTYPE html>"));
+        row("qif", u"a.qif"_s, QByteArray("!Account"));
+        row("another program's file", u"a.pdf"_s, {});
+        row("a book", u"data.db"_s, {});
+    }
+
+    void FormatComesFromTheEnding()
+    {
+        QFETCH(const QString, name);
+        QFETCH(const QByteArray, start);
+        const cTestFile folder;
+        cTestBook book;
+        cFakeUser& user = book.User;
+        user.SavePath = folder.Path(name);
+        const cEntryExport::eDone done = cEntryExport(book.Tools, m_progress).Run(Extract(), QDate(2026, 3, 15));
+        QCOMPARE(done, start.isEmpty() ? cEntryExport::eDone::Failed : cEntryExport::eDone::Written);
+        QCOMPARE(QFile::exists(user.SavePath), !start.isEmpty());
+        QVERIFY(cTestFile::Bytes(user.SavePath).startsWith(start));
+        QCOMPARE(user.Asked,
+                 QStringList(u"CSV-Datei|*.csv|Excel-Datei|*.xlsx|HTML-Datei|*.html|QIF-Datei|*.qif|"
+                             "Alle Dateien|*.*"_s));
+        QCOMPARE(user.LastProposal, u"Kontorelle-Einträge-2026-03-15"_s);
+        QVERIFY2(user.Shown.value(0).contains(start.isEmpty()
+                                                  ? u".csv, .xlsx, .html, .qif"_s
+                                                  : u"4 Einträge wurden nach '%1' exportiert."_s.arg(user.SavePath)),
+                 qPrintable(user.Shown.value(0)));
+    }
+
+    void FailureKeepsTheOldFile()
+    {
+        const cTestFile folder;
+        cTestBook book;
+        cFakeUser& user = book.User;
+        user.SavePath = folder.Path(u"a.csv"_s);
+        cTestFile::Write(user.SavePath, "old");
+        cEntryListModel::cContent content;
+        content.Entries = cEntryItemList(2000, Content().Entries.constFirst());
+        m_model->SetContent(content, {}, modWord::KeineGruppierung);
+        cFakeStop cancelled;
+        QCOMPARE(cEntryExport(book.Tools, cancelled).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::GivenUp);
+        QVERIFY(user.Shown.isEmpty());
+        QCOMPARE(cTestFile::Bytes(user.SavePath), QByteArray("old"));
+
+        user.SavePath = folder.Path(u"missing/a.csv"_s);
+        QCOMPARE(cEntryExport(book.Tools, m_progress).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::Failed);
+        QVERIFY2(user.Shown.value(0).contains(user.SavePath), qPrintable(user.Shown.value(0)));
+    }
+
+    void NothingToExport()
+    {
+        cTestBook book;
+        cFakeUser& user = book.User;
+        m_model->SetFilter(u"gibt es nicht"_s);
+        QCOMPARE(cEntryExport(book.Tools, m_progress).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::Failed);
+        QVERIFY(user.Asked.isEmpty());
+        QCOMPARE(user.Shown.size(), 1);
+    }
+
+    void ViewInWords()
+    {
+        cViewState view;
+        view.Period = u"Letzter Monat"_s;
+        view.Account = modWord::AlleKonten;
+        view.Type = modWord::AlleBuchungsarten;
+        view.Grouping = modWord::KeineGruppierung;
+        const modPeriod::cRange range{QDate(2026, 2, 1), QDate(2026, 2, 28)};
+        QCOMPARE(modViewText::Lines(view, range),
+                 QStringList({u"Zeitraum: Letzter Monat (01.02.2026 bis 28.02.2026)"_s, u"Konto: Alle Konten"_s}));
+        view.Account = u"Girokonto"_s;
+        view.Type = modWord::Ausgabe;
+        view.Filter = u" Miete "_s;
+        view.Grouping = u"Nach Woche"_s;
+        view.ShowsFuture = false;
+        QCOMPARE(modViewText::Title(view), u"Einträge: Girokonto"_s);
+        QCOMPARE(modViewText::Lines(view, range).mid(1),
+                 QStringList({u"Konto: Girokonto"_s, u"Buchungsart: Ausgabe"_s, u"Filter: Miete"_s,
+                              u"Gruppierung: Nach Woche"_s, u"Ausgeblendet: zukünftige"_s}));
+        view.Period = u"Buchungen bis heute"_s;
+        QCOMPARE(modViewText::Lines(view, {QDate(1001, 1, 1), QDate(2026, 3, 15)}).constFirst(),
+                 u"Zeitraum: Buchungen bis heute (15.03.2026)"_s);
+    }
 
 private:
     [[nodiscard]] cEntryExtract Extract() const
@@ -193,346 +466,19 @@ private:
         extract.View = {u"Zeitraum: Alle Buchungen"_s};
         return extract;
     }
+
     [[nodiscard]] QByteArray Bytes(modExport::eFormat format)
     {
         const cEntryExtract extract = Extract();
         return modExport::Write(format, {extract, m_format.Format, m_progress}).Bytes.value_or(QByteArray());
     }
+
     [[nodiscard]] QStringList Lines(modExport::eFormat format) { return QString::fromUtf8(Bytes(format)).split(u'\n'); }
 
     cTestFormat m_format;
     cNoProgress m_progress;
     std::unique_ptr<cEntryListModel> m_model;
 };
-
-void testExport::init()
-{
-    m_model = std::make_unique<cEntryListModel>(m_format.Format);
-    m_model->SetContent(Content(), {}, modWord::KeineGruppierung);
-}
-
-void testExport::TakesWhatTheListShows()
-{
-    m_model->sort(cEntryListModel::Date, Qt::DescendingOrder);
-    m_model->SetGrouping(u"Nach Monat"_s);
-    m_model->SetFilter(u"girokonto"_s);
-    const cEntryExtract extract = cEntryExtract::From(*m_model);
-    QCOMPARE(extract.Groups.size(), 2U);
-    qint64 sum = 0;
-    for (const cEntryExtract::cGroup& group : extract.Groups) {
-        qint64 groupSum = 0;
-        for (qsizetype row = group.First; row < group.First + group.Count; ++row) {
-            groupSum += extract.Rows[static_cast<std::size_t>(row)].Effect;
-        }
-        QCOMPARE(groupSum, group.Sum);
-        sum += group.Sum;
-    }
-    QCOMPARE(sum, m_model->Sums().Total());
-    QCOMPARE(extract.Total(), m_model->Sums().Total());
-    QCOMPARE(extract.Rows.front().Entry.EntryDate, QDate(2026, 2, 27)); // groups upwards, rows downwards
-    QCOMPARE(extract.Rows[1].Entry.EntryDate, QDate(2026, 3, 9));
-    m_model->SetFilter(u"miete"_s);
-    QCOMPARE(cEntryExtract::From(*m_model).Rows.size(), 1U);
-}
-
-void testExport::CsvIsForTablePrograms()
-{
-    const QByteArray bytes = Bytes(modExport::eFormat::Csv);
-    QVERIFY(bytes.startsWith("\xEF\xBB\xBF"));
-    QCOMPARE(
-        QString::fromUtf8(bytes.mid(3)),
-        u"Datum;Buchungsart;Kategorie;Konto;Zielkonto;Beschreibung;Intervall;Betrag\r\n"
-        "27.02.2026;Einnahme;\"Einkommen; Lohn / Gehalt\";Girokonto;;\"Lohn; \"\"Februar\"\"\";Einmalig;2500,00\r\n"
-        "01.03.2026;Ausgabe;\"Wohnung; Miete\";Girokonto;;'=1+1 <b>;Monatlich, korrigiert;-1234,56\r\n"
-        "02.03.2026;Umbuchung;Geldanlage;Girokonto;Sparkonto;Rücklage;Einmalig;100,00\r\n"
-        "09.03.2026;Ausgabe;;Girokonto;;\"zwei\nZeilen\";Einmalig;-0,05\r\n"_s);
-}
-
-void testExport::CsvKeepsFormulasAsText_data()
-{
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("field");
-
-    QTest::newRow("formula") << u"=SUM(A1)"_s << u"'=SUM(A1)"_s;
-    QTest::newRow("plus, as in phone numbers") << u"+49 30 1"_s << u"'+49 30 1"_s;
-    QTest::newRow("minus") << u"-2"_s << u"'-2"_s;
-    QTest::newRow("at") << u"@home"_s << u"'@home"_s;
-    QTest::newRow("tabulator before it") << u"\t=1"_s << u"'\t=1"_s;
-    QTest::newRow("quoted as well") << u"=A;B"_s << u"\"'=A;B\""_s;
-    QTest::newRow("sign inside") << u"Miete - März"_s << u"Miete - März"_s;
-}
-
-void testExport::CsvKeepsFormulasAsText()
-{
-    QFETCH(const QString, text);
-    QFETCH(const QString, field);
-    cEntryListModel::cContent content;
-    content.Entries = {Entry(QDate(2026, 3, 1), modWord::Ausgabe, 100, u"Auto"_s, text)};
-    m_model->SetContent(content, {}, modWord::KeineGruppierung);
-    QCOMPARE(Lines(modExport::eFormat::Csv).at(1),
-             u"01.03.2026;Ausgabe;Auto;Girokonto;"_s + field + u";Einmalig;-1,00\r"_s);
-}
-
-void testExport::CsvNamesTheGroup()
-{
-    m_model->SetGrouping(u"Nach Buchungsart"_s);
-    QStringList starts;
-    const QStringList lines = Lines(modExport::eFormat::Csv);
-    for (const QString& line : lines) {
-        starts.append(line.section(u';', 0, 1));
-    }
-    QCOMPARE(starts.mid(1, 2), QStringList({u"Ausgabe;01.03.2026"_s, u"Ausgabe;09.03.2026"_s}));
-    QVERIFY(starts.contains(u"Umbuchung;02.03.2026"_s));
-}
-
-void testExport::XlsxHoldsDatesAndNumbers()
-{
-    const cTable table(Bytes(modExport::eFormat::Xlsx));
-    QCOMPARE(table.Row(1).size(), 8);
-    QCOMPARE(table.Row(3),
-             QStringList({u"46082"_s,
-                          u"Ausgabe"_s,
-                          u"Wohnung; Miete"_s,
-                          u"Girokonto"_s,
-                          {},
-                          u"=1+1 <b>"_s,
-                          u"Monatlich, korrigiert"_s,
-                          u"-1234.56"_s}));
-    QVERIFY(table.Sheet.contains("state=\"frozen\""));
-    QVERIFY(table.Sheet.contains("<autoFilter ref=\"A1:H5\"/>"));
-    QVERIFY(table.Styles.contains("dd.mm.yyyy"));
-    QVERIFY2(table.Styles.contains("#,##0.00&quot;\u00a0€&quot;"), table.Styles.constData());
-}
-
-void testExport::XlsxSumsWithoutTransfers()
-{
-    m_model->SetGrouping(u"Nach Monat"_s);
-    const cTable table(Bytes(modExport::eFormat::Xlsx));
-    QVERIFY2(table.At(u"A4"_s).endsWith("(3)"_L1), qPrintable(table.At(u"A4"_s)));
-    QCOMPARE(table.At(u"H4"_s), u"SUMIF(B5:B7,\"<>Umbuchung\",H5:H7) -> -1234.61"_s);
-    QCOMPARE(table.At(u"H9"_s), u"SUMIFS(H2:H7,B2:B7,\"Einnahme\") -> 2500"_s);
-    QCOMPARE(table.At(u"H10"_s), u"SUMIFS(H2:H7,B2:B7,\"Ausgabe\") -> -1234.61"_s);
-    QCOMPARE(table.At(u"H11"_s), u"SUM(H9:H10) -> 1265.39"_s);
-}
-
-void testExport::XlsxSumsOfOneAccount()
-{
-    cEntryListModel::cContent content = Content(u"Girokonto"_s);
-    content.StartBalance = 100000;
-    m_model->SetContent(content, {}, modWord::KeineGruppierung);
-    const cTable table(Bytes(modExport::eFormat::Xlsx));
-    QCOMPARE(table.At(u"H4"_s), u"-100"_s); // the transfer leaves the account
-    QCOMPARE(table.At(u"I5"_s), u"2165.39"_s);
-    QCOMPARE(table.At(u"H8"_s), u"SUMIFS(H2:H5,B2:B5,\"?*\",H2:H5,\"<0\") -> -1334.61"_s);
-}
-
-void testExport::StartBalancesAreNoIncome()
-{
-    cEntryListModel::cContent content = Content();
-    content.Entries.prepend(Entry(QDate(2026, 1, 1), modWord::Einnahme, 50000, modWord::Startguthaben, {}));
-    m_model->SetContent(content, {}, modWord::KeineGruppierung);
-    const cTable table(Bytes(modExport::eFormat::Xlsx));
-    QCOMPARE(table.At(u"H8"_s), u"SUMIFS(H2:H6,C2:C6,\"Allgemein; Startguthaben\") -> 500"_s);
-    QCOMPARE(table.At(u"H9"_s), u"SUMIFS(H2:H6,B2:B6,\"Einnahme\",C2:C6,\"<>Allgemein; Startguthaben\") -> 2500"_s);
-    QCOMPARE(table.At(u"H11"_s), u"SUM(H8:H10) -> 1765.39"_s);
-    const QString html = QString::fromUtf8(Bytes(modExport::eFormat::Html));
-    const qsizetype foot = html.indexOf(u"<tfoot>"_s);
-    QVERIFY(html.indexOf(u"Startguthaben"_s, foot) > foot);
-    QVERIFY(html.indexOf(u"2.500,00"_s, foot) > foot);
-}
-
-void testExport::XlsxOfASettlement()
-{
-    cCountedEntry counted{{}, u"Anna"_s, modPeople::Equal({u"Anna"_s, u"Ben"_s}), -1250};
-    counted.Entry.EntryDate = QDate(2026, 3, 1);
-    counted.Entry.EntryAccount = u"Girokonto"_s;
-    counted.Entry.EntryDescription = u"=1+1"_s;
-    cSettlement settlement;
-    settlement.People = {{u"Anna"_s, -1250, -625, 0}, {u"Ben"_s, 0, -625, 0}};
-    settlement.Payments = {{u"Anna"_s, u"Ben"_s, 625}};
-    settlement.Counted = {counted};
-    const cTable table(modSettlementExport::Xlsx(settlement, m_format.Format).Bytes);
-    QCOMPARE(
-        table.Row(2),
-        QStringList({u"46082"_s, u"=1+1"_s, u"Girokonto"_s, u"Anna"_s, u"Anna, Ben zu gleichen Teilen"_s, u"-12.5"_s}));
-    QCOMPARE(table.Row(5), QStringList({{}, u"Anna"_s, u"-12.5"_s, u"-6.25"_s, u"0"_s, u"-6.25"_s}));
-    QCOMPARE(table.Row(9), QStringList({{}, u"Anna"_s, u"Ben"_s, {}, {}, u"6.25"_s}));
-    QVERIFY(table.Sheet.contains("<autoFilter ref=\"A1:F2\"/>"));
-}
-
-void testExport::XlsxKeepsOddDatesAndTexts()
-{
-    cEntryListModel::cContent content;
-    content.Entries = {
-        Entry(QDate(1899, 12, 31), modWord::Ausgabe, 100, u"Auto"_s, QString(40000, u'ä')),
-        Entry(QDate(1900, 3, 1), modWord::Ausgabe, 100, u"Auto"_s, u"\u0001\uFFFE \U0001F600"_s),
-    };
-    m_model->SetContent(content, {}, modWord::KeineGruppierung);
-    cEntryExtract extract = Extract();
-    extract.Title = u"Konto \u001B[31m"_s;
-    const cTable table(modExport::Write(modExport::eFormat::Xlsx, {extract, m_format.Format, m_progress})
-                           .Bytes.value_or(QByteArray()));
-    QVERIFY(table.IsWellFormed);
-    for (const QByteArray& part : {table.Sheet, table.Core}) {
-        QVERIFY(!part.isEmpty() && !part.contains('\x1B'));
-    }
-    QCOMPARE(table.At(u"A2"_s), u"31.12.1899"_s);
-    QCOMPARE(table.At(u"A3"_s), u"61"_s);
-    QCOMPARE(table.At(u"E2"_s).size(), 32767);
-    QVERIFY(table.At(u"E3"_s).endsWith(u"\U0001F600"_s));
-}
-
-// Of the temporary files, on another disk than the target.
-void testExport::XlsxNoticesFullDisk()
-{
-    cEntryListModel::cContent content;
-    content.Entries = cEntryItemList(2000, Content().Entries.constFirst());
-    m_model->SetContent(content, {}, modWord::KeineGruppierung);
-    QVERIFY(!Bytes(modExport::eFormat::Xlsx).isEmpty());
-    const cNoRoom room(100'000); // enough for what is packed
-    QVERIFY(Bytes(modExport::eFormat::Xlsx).isEmpty());
-}
-
-void testExport::HtmlStandsAlone()
-{
-    m_model->SetGrouping(u"Nach Monat"_s);
-    const QString html = QString::fromUtf8(Bytes(modExport::eFormat::Html));
-    QVERIFY(html.contains(u"<title>Einträge &amp; mehr</title>"_s));
-    QVERIFY(html.contains("=1+1 &lt;b&gt;"_L1) && !html.contains("<b>"_L1));
-    QVERIFY(html.contains("zwei<br>Zeilen"_L1));
-    for (const QString& outside : {u"http"_s, u"src="_s, u"href="_s, u"url("_s, u"@import"_s, u"<script"_s}) {
-        QVERIFY2(!html.contains(outside), qPrintable(outside));
-    }
-    QCOMPARE(html.count("<tr class=\"g\">"_L1), 2);
-    QCOMPARE(html.count("<tr"_L1), 1 + 2 + 4 + 3);
-    QVERIFY(html.contains(u"<th colspan=\"7\">Summe</th><th class=\"m\">1.265,39\u00a0€</th>"_s));
-}
-
-void testExport::QifOfOneAccount()
-{
-    m_model->SetContent(Content(u"Sparkonto"_s), {}, modWord::KeineGruppierung);
-    m_model->SetFilter(u"Rücklage"_s);
-    QCOMPARE(QString::fromUtf8(Bytes(modExport::eFormat::Qif)),
-             u"!Type:Bank\nD02.03.2026\nT100.00\nPRücklage\nL[Girokonto]\n^\n"_s);
-}
-
-void testExport::QifOfAllAccounts()
-{
-    QCOMPARE(QString::fromUtf8(Bytes(modExport::eFormat::Qif)),
-             u"!Account\nNGirokonto\nTBank\n^\n!Type:Bank\n"
-             "D27.02.2026\nT2500.00\nPLohn; \"Februar\"\nLEinkommen:Lohn - Gehalt\n^\n"
-             "D01.03.2026\nT-1234.56\nP=1+1 <b>\nMMonatlich, Nachzahlung\nLWohnung:Miete\n^\n"
-             "D02.03.2026\nT-100.00\nPRücklage\nL[Sparkonto]\n^\n"
-             "D09.03.2026\nT-0.05\nPzwei Zeilen\n^\n"
-             "!Account\nNSparkonto\nTBank\n^\n!Type:Bank\n"
-             "D02.03.2026\nT100.00\nPRücklage\nL[Girokonto]\n^\n"_s);
-}
-
-void testExport::FormatComesFromTheEnding_data()
-{
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("start"); // empty: refused
-
-    QTest::newRow("csv") << u"a.csv"_s << QByteArray("\xEF\xBB\xBF");
-    QTest::newRow("no ending") << u"a"_s << QByteArray("\xEF\xBB\xBF");
-    QTest::newRow("text") << u"a.txt"_s << QByteArray("\xEF\xBB\xBF");
-    QTest::newRow("Excel, in capitals") << u"a.XLSX"_s << QByteArray("PK");
-    QTest::newRow("html") << u"a.htm"_s << QByteArray("<!DOCTYPE html>");
-    QTest::newRow("qif") << u"a.qif"_s << QByteArray("!Account");
-    QTest::newRow("another program's file") << u"a.pdf"_s << QByteArray();
-    QTest::newRow("a book") << u"data.db"_s << QByteArray();
-}
-
-void testExport::FormatComesFromTheEnding()
-{
-    QFETCH(const QString, name);
-    QFETCH(const QByteArray, start);
-    QTemporaryDir folder;
-    cTestBook book;
-    cFakeUser& user = book.User;
-    user.SavePath = folder.filePath(name);
-    const cEntryExport::eDone done = cEntryExport(book.Tools, m_progress).Run(Extract(), QDate(2026, 3, 15));
-    QFile file(user.SavePath);
-    if (start.isEmpty()) {
-        QCOMPARE(done, cEntryExport::eDone::Failed);
-        QVERIFY2(user.Shown.value(0).contains(".csv, .xlsx, .html, .qif"_L1), qPrintable(user.Shown.value(0)));
-        QVERIFY(!file.exists());
-        return;
-    }
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QVERIFY(file.readAll().startsWith(start));
-}
-
-void testExport::SaysWhatWasWritten()
-{
-    QTemporaryDir folder;
-    cTestBook book;
-    cFakeUser& user = book.User;
-    user.SavePath = folder.filePath(u"a.csv"_s);
-    QCOMPARE(cEntryExport(book.Tools, m_progress).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::Written);
-    QCOMPARE(user.Asked,
-             QStringList(u"CSV-Datei|*.csv|Excel-Datei|*.xlsx|HTML-Datei|*.html|QIF-Datei|*.qif|"
-                         "Alle Dateien|*.*"_s));
-    QCOMPARE(user.LastProposal, u"Kontorelle-Einträge-2026-03-15"_s);
-    QCOMPARE(user.Shown, QStringList(u"4 Einträge wurden nach '%1' exportiert."_s.arg(user.SavePath)));
-}
-
-void testExport::FailureKeepsTheOldFile()
-{
-    QTemporaryDir folder;
-    cTestBook book;
-    cFakeUser& user = book.User;
-    user.SavePath = folder.filePath(u"a.csv"_s);
-    QFile file(user.SavePath);
-    QVERIFY(file.open(QIODevice::WriteOnly) && file.write("old") == 3);
-    file.close();
-    cEntryListModel::cContent content;
-    content.Entries = cEntryItemList(2000, Content().Entries.constFirst());
-    m_model->SetContent(content, {}, modWord::KeineGruppierung);
-    cCancelled cancelled;
-    QCOMPARE(cEntryExport(book.Tools, cancelled).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::GivenUp);
-    QVERIFY(user.Shown.isEmpty());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll(), QByteArray("old"));
-
-    user.SavePath = folder.filePath(u"missing/a.csv"_s);
-    QCOMPARE(cEntryExport(book.Tools, m_progress).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::Failed);
-    QVERIFY2(user.Shown.value(0).contains(user.SavePath), qPrintable(user.Shown.value(0)));
-}
-
-void testExport::NothingToExport()
-{
-    cTestBook book;
-    cFakeUser& user = book.User;
-    m_model->SetFilter(u"gibt es nicht"_s);
-    QCOMPARE(cEntryExport(book.Tools, m_progress).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::Failed);
-    QVERIFY(user.Asked.isEmpty());
-    QCOMPARE(user.Shown.size(), 1);
-}
-
-void testExport::ViewInWords()
-{
-    cViewState view;
-    view.Period = u"Letzter Monat"_s;
-    view.Account = modWord::AlleKonten;
-    view.Type = modWord::AlleBuchungsarten;
-    view.Grouping = modWord::KeineGruppierung;
-    const modPeriod::cRange range{QDate(2026, 2, 1), QDate(2026, 2, 28)};
-    QCOMPARE(modViewText::Lines(view, range),
-             QStringList({u"Zeitraum: Letzter Monat (01.02.2026 bis 28.02.2026)"_s, u"Konto: Alle Konten"_s}));
-    view.Account = u"Girokonto"_s;
-    view.Type = modWord::Ausgabe;
-    view.Filter = u" Miete "_s;
-    view.Grouping = u"Nach Woche"_s;
-    view.ShowsFuture = false;
-    QCOMPARE(modViewText::Title(view), u"Einträge: Girokonto"_s);
-    QCOMPARE(modViewText::Lines(view, range).mid(1),
-             QStringList({u"Konto: Girokonto"_s, u"Buchungsart: Ausgabe"_s, u"Filter: Miete"_s,
-                          u"Gruppierung: Nach Woche"_s, u"Ausgeblendet: zukünftige"_s}));
-    view.Period = u"Buchungen bis heute"_s;
-    QCOMPARE(modViewText::Lines(view, {QDate(1001, 1, 1), QDate(2026, 3, 15)}).constFirst(),
-             u"Zeitraum: Buchungen bis heute (15.03.2026)"_s);
-}
 
 TEST_CLASS(testExport, QCoreApplication)
 #include "testExport.moc"

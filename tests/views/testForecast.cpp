@@ -1,4 +1,5 @@
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/chart/cForecast.h"
 #include "views/main/cAccountListModel.h"
@@ -18,12 +19,7 @@ struct cHousehold
     cHousehold()
     {
         Prepare(Book.Data.SetStartGuthaben(u"Girokonto"_s, 100000, QDate(2026, 1, 1)));
-        Rent = Book.Add([](cEntryItem& entry) {
-            entry.EntryDate = QDate(2026, 3, 20);
-            entry.EntryInterval = u"Monatlich"_s;
-            entry.EntryValue = 30000;
-            entry.EntryDescription = u"Miete"_s;
-        });
+        Rent = Book.Spend(QDate(2026, 3, 20), 30000, u"Miete"_s, u"Monatlich"_s);
     }
 
     static void Prepare(bool isDone)
@@ -38,17 +34,6 @@ struct cHousehold
         cTemplateItem item = *Book.Data.FindAccount(account);
         item.TemplateDefaultValue = amount;
         Prepare(Book.Data.ChangeTemplate(item));
-    }
-
-    void Correct(QDate start, QDate end, qint64 cents)
-    {
-        cEntryItemFixMod fixMod;
-        fixMod.EntryRelation = Rent.ID;
-        fixMod.EntryModType = modWord::Betrag;
-        fixMod.EntryStartDate = start;
-        fixMod.EntryEndDate = end;
-        fixMod.EntryValue = cents;
-        Prepare(Book.Data.AddNewEntryMod(fixMod));
     }
 
     QList<cLimitWarning> Warnings() { return cForecast(Book.Data, today).Warnings(); }
@@ -77,19 +62,14 @@ private Q_SLOTS:
     void Foresees()
     {
         cHousehold household;
-        household.Correct(QDate(2026, 4, 1), QDate(2026, 4, 30), 45000); // the rent of April
+        household.Book.Correct(household.Rent.ID, QDate(2026, 4, 1), QDate(2026, 4, 30), 45000); // the rent of April
         (void)household.Book.Add([](cEntryItem& entry) {
             entry.EntryDate = QDate(2026, 2, 1);
             entry.EntryDateEnd = QDate(2026, 4, 10);
             entry.EntryInterval = u"Monatlich"_s;
             entry.EntryValue = 1000;
         });
-        (void)household.Book.Add([](cEntryItem& entry) {
-            entry.EntryDate = QDate(2026, 5, 5);
-            entry.EntryType = modWord::Umbuchung;
-            entry.EntryAccountMove = u"Sparkonto"_s;
-            entry.EntryValue = 5000;
-        });
+        household.Book.Move(u"Girokonto"_s, u"Sparkonto"_s, 5000, QDate(2026, 5, 5));
         const cBalanceDays days = cForecast(household.Book.Data, today).Ahead(12, cForecast::eAverage::Without);
         const QString giro = u"Girokonto"_s;
         QCOMPARE(days.First, today);
@@ -108,10 +88,7 @@ private Q_SLOTS:
     {
         cHousehold household;
         for (const int day : {1, 8}) {
-            (void)household.Book.Add([day](cEntryItem& entry) {
-                entry.EntryDate = QDate(2026, 2, day);
-                entry.EntryValue = 21500; // 430 euros in the 43 days from 1 February on
-            });
+            household.Book.Spend(QDate(2026, 2, day), 21500); // 430 euros in the 43 days from 1 February on
         }
         cForecast forecast(household.Book.Data, today);
         const cBalanceDays without = forecast.Ahead(1, cForecast::eAverage::Without);
@@ -123,18 +100,14 @@ private Q_SLOTS:
 
     void Warns_data()
     {
-        QTest::addColumn<QString>("limit");
-        QTest::addColumn<QDate>("day");
-        QTest::addColumn<qint64>("balance");
-        QTest::addColumn<QString>("entry");
-
-        QTest::newRow("none") << QString() << QDate() << qint64(0) << QString();
-        QTest::newRow("holds for 60 days") << u"100.00"_s << QDate() << qint64(0) << QString();
-        QTest::newRow("second rent") << u"400.01"_s << QDate(2026, 4, 20) << qint64(40000) << u"Miete"_s;
-        QTest::newRow("exactly at the limit") << u"400.00"_s << QDate() << qint64(0) << QString();
-        QTest::newRow("first rent") << u"900.00"_s << QDate(2026, 3, 20) << qint64(70000) << u"Miete"_s;
-        QTest::newRow("already below") << u"1000.01"_s << today << qint64(100000) << QString();
-        QTest::newRow("zero is a limit, and holds") << u"0.00"_s << QDate() << qint64(0) << QString();
+        const cTestRows<QString, QDate, qint64, QString> row("limit", "day", "balance", "entry");
+        row("none", {}, {}, 0, {});
+        row("holds for 60 days", u"100.00"_s, {}, 0, {});
+        row("second rent", u"400.01"_s, QDate(2026, 4, 20), 40000, u"Miete"_s);
+        row("exactly at the limit", u"400.00"_s, {}, 0, {});
+        row("first rent", u"900.00"_s, QDate(2026, 3, 20), 70000, u"Miete"_s);
+        row("already below", u"1000.01"_s, today, 100000, {});
+        row("zero is a limit, and holds", u"0.00"_s, {}, 0, {});
     }
 
     void Warns()
@@ -157,17 +130,13 @@ private Q_SLOTS:
     {
         cHousehold household;
         household.SetLimit(u"Girokonto"_s, u"500.00"_s);
-        const auto add = [&](const QString& type, qint64 cents, const QString& text) {
-            (void)household.Book.Add([&](cEntryItem& entry) {
-                entry.EntryDate = QDate(2026, 3, 20);
-                entry.EntryType = type;
-                entry.EntryValue = cents;
-                entry.EntryDescription = text;
-            });
-        };
-        add(modWord::Ausgabe, 10000, u"Strom"_s);
-        add(modWord::Ausgabe, 20000, u"Werkstatt"_s);
-        add(modWord::Einnahme, 9000, u"Erstattung"_s);
+        household.Book.Spend(QDate(2026, 3, 20), 10000, u"Strom"_s);
+        household.Book.Spend(QDate(2026, 3, 20), 20000, u"Werkstatt"_s);
+        household.Book.Add([](cEntryItem& entry) {
+            entry.EntryDate = QDate(2026, 3, 20);
+            entry.EntryType = modWord::Einnahme;
+            entry.EntryValue = 9000;
+        });
         const QList<cLimitWarning> warnings = household.Warnings();
         QCOMPARE(warnings.size(), 1);
         QCOMPARE(warnings.first().Cents, 49000);

@@ -1,7 +1,7 @@
 #include "base/cProgress.h"
-#include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/cImportReview.h"
@@ -24,19 +24,6 @@ constexpr const char* plain = "Tag;Was;Preis;Wert;Stand\n"
                               "04.02.2026;Miete;3,00;-660,00;gebucht\n"
                               "05.02.2026;Kiosk am Bahnhof;4,00;-1,00;geplant\n";
 
-// The progress of a user who stops after some steps.
-class cStopped final : public cProgress
-{
-public:
-    void showProgressBar(int /*maximum*/) override {}
-    void addProgressValue(int /*steps*/) override {}
-    void hideProgressBar() override {}
-    [[nodiscard]] bool IsCancelled() const override { return ++m_asked > 3; }
-
-private:
-    mutable int m_asked = 0;
-};
-
 // A new book whose assistant does what the test says.
 struct cPage : cTestBook
 {
@@ -52,17 +39,14 @@ struct cPage : cTestBook
 
     QString Write(const QString& name, const QByteArray& content)
     {
-        QFile file(Shell.Folder(u"data"_s) + u'/' + name);
-        if (!file.open(QIODevice::WriteOnly) || file.write(content) != content.size()) {
-            qFatal("no file");
-        }
-        return file.fileName();
+        const QString path = Shell.Folder(u"data"_s) + u'/' + name;
+        cTestFile::Write(path, content);
+        return path;
     }
 
-    void Import(const QStringList& paths)
+    void Import(const QStringList& paths, cStatementFiles::eAssist assist = cStatementFiles::eAssist::WhereNeeded)
     {
-        cNoProgress progress;
-        Review.Files().ImportFiles(paths, progress);
+        Review.Files().ImportFiles(paths, Progress, assist);
     }
 
     QStringList Purposes()
@@ -78,6 +62,7 @@ struct cPage : cTestBook
     fnChange Answer = [](cImportAssistant& assistant) { assistant.SetAccount(u"4711"_s); };
     bool IsConfirmed = true;
     int Opened = 0;
+    cNoProgress Progress;
     cImportReview Review{Tools};
 };
 
@@ -109,50 +94,44 @@ class testImportAssistant : public QObject
 private Q_SLOTS:
     void ShowsWhatAChoiceDoes_data()
     {
-        QTest::addColumn<QByteArray>("file");
-        QTest::addColumn<fnChange>("change");
-        QTest::addColumn<QString>("row");
+        const cTestRows<QByteArray, fnChange, QString> row("file", "change", "row");
         const fnChange nothing = [](cImportAssistant&) {};
         const QByteArray dollars = "Date;Details;Amount\n02/03/2026;Lunch;\"1,234\"\n";
         const QByteArray dkb = "Buchungsdatum;Zahlungsempfänger*in;Verwendungszweck;Betrag (€)\n"
                                "03.02.26;Kiosk;Zeitung;-4,20\n";
-        QTest::newRow("as guessed") << QByteArray(plain) << nothing << u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s;
-        QTest::newRow("another amount") << QByteArray(plain) << Mean(2, u"Betrag"_s)
-                                        << u"03.02.2026||Bräzeln am Markt|2,00 €|"_s;
-        QTest::newRow("a meaning moves") << QByteArray(plain) << Mean(1, u"Empfänger/Auftraggeber"_s)
-                                         << u"03.02.2026|Bräzeln am Markt||-4,20 €|"_s;
-        QTest::newRow("no day") << QByteArray(plain) << Mean(0, u"nicht lesen"_s) << u"||||"_s;
-        QTest::newRow("character set") << QByteArray(plain) << Take(eField::Charset, u"CP850 (DOS)"_s)
-                                       << u"03.02.2026||Brõzeln am Markt|-4,20 €|"_s;
-        QTest::newRow("no header") << QByteArray(plain)
-                                   << fnChange([](cImportAssistant& assistant) { assistant.SetHeaderLine(0); })
-                                   << u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s;
-        QTest::newRow("header further down")
-            << QByteArray(plain) << fnChange([](cImportAssistant& assistant) { assistant.SetHeaderLine(3); })
-            << u"05.02.2026||Kiosk am Bahnhof|-1,00 €|"_s;
-        QTest::newRow("sign") << QByteArray(plain) << Take(eField::Sign, u"umgekehrt (Ausgaben ohne Minus)"_s)
-                              << u"03.02.2026||Bräzeln am Markt|4,20 €|"_s;
-        QTest::newRow("German number") << dollars << Take(eField::Number, u"1.234,50"_s)
-                                       << u"02.03.2026||Lunch|1,23 €|"_s;
-        QTest::newRow("English number") << dollars << Take(eField::Number, u"1,234.50"_s)
-                                        << u"02.03.2026||Lunch|1.234,00 €|"_s;
-        QTest::newRow("month first") << dollars << Take(eField::Date, u"Monat, Tag, Jahr"_s)
-                                     << u"03.02.2026||Lunch|1,23 €|"_s;
-        QTest::newRow("separator") << QByteArray("Datum|Text|Betrag\n03.02.2026|Kiosk|-4,20\n")
-                                   << Take(eField::Separator, u"senkrechter Strich"_s)
-                                   << u"03.02.2026||Kiosk|-4,20 €|"_s;
-        QTest::newRow("two-digit year") << dkb << nothing << u"03.02.2026|Kiosk|Zeitung|-4,20 €|"_s;
-        QTest::newRow("taken back") << QByteArray(plain) << fnChange([](cImportAssistant& assistant) {
-            assistant.SetHeaderLine(3);
-            assistant.Reset();
-        }) << u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s;
+        row("as guessed", plain, nothing, u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s);
+        row("another amount", plain, Mean(2, u"Betrag"_s), u"03.02.2026||Bräzeln am Markt|2,00 €|"_s);
+        row("a meaning moves", plain, Mean(1, u"Empfänger/Auftraggeber"_s), u"03.02.2026|Bräzeln am Markt||-4,20 €|"_s);
+        row("no day", plain, Mean(0, u"nicht lesen"_s), u"||||"_s);
+        row("character set", plain, Take(eField::Charset, u"CP850 (DOS)"_s),
+            u"03.02.2026||Brõzeln am Markt|-4,20 €|"_s);
+        row(
+            "no header", plain, [](cImportAssistant& assistant) { assistant.SetHeaderLine(0); },
+            u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s);
+        row(
+            "header further down", plain, [](cImportAssistant& assistant) { assistant.SetHeaderLine(3); },
+            u"05.02.2026||Kiosk am Bahnhof|-1,00 €|"_s);
+        row("sign", plain, Take(eField::Sign, u"umgekehrt (Ausgaben ohne Minus)"_s),
+            u"03.02.2026||Bräzeln am Markt|4,20 €|"_s);
+        row("German number", dollars, Take(eField::Number, u"1.234,50"_s), u"02.03.2026||Lunch|1,23 €|"_s);
+        row("English number", dollars, Take(eField::Number, u"1,234.50"_s), u"02.03.2026||Lunch|1.234,00 €|"_s);
+        row("month first", dollars, Take(eField::Date, u"Monat, Tag, Jahr"_s), u"03.02.2026||Lunch|1,23 €|"_s);
+        row("separator", QByteArray("Datum|Text|Betrag\n03.02.2026|Kiosk|-4,20\n"),
+            Take(eField::Separator, u"senkrechter Strich"_s), u"03.02.2026||Kiosk|-4,20 €|"_s);
+        row("two-digit year", dkb, nothing, u"03.02.2026|Kiosk|Zeitung|-4,20 €|"_s);
+        row(
+            "taken back", plain,
+            [](cImportAssistant& assistant) {
+                assistant.SetHeaderLine(3);
+                assistant.Reset();
+            },
+            u"03.02.2026||Bräzeln am Markt|-4,20 €|"_s);
     }
 
     void ShowsWhatAChoiceDoes()
     {
         QFETCH(QByteArray, file);
         QFETCH(fnChange, change);
-        QFETCH(QString, row);
         cPage page;
         page.IsConfirmed = false;
         QString shown;
@@ -161,9 +140,8 @@ private Q_SLOTS:
             const cImportAssistant::cRow first = assistant.Rows().value(0);
             shown = QStringList{first.Day, first.Name, first.Purpose, first.Amount, first.Remark}.join(u'|');
         };
-        cNoProgress progress;
-        page.Review.Files().ImportFiles({page.Write(u"a.csv"_s, file)}, progress, cStatementFiles::eAssist::Always);
-        QCOMPARE(shown.replace(u'\u00A0', u' '), row);
+        page.Import({page.Write(u"a.csv"_s, file)}, cStatementFiles::eAssist::Always);
+        QTEST(shown.replace(u'\u00A0', u' '), "row");
         QCOMPARE(page.Data.GetImportEntries().size(), 0); // the user gave up
     }
 
@@ -240,8 +218,7 @@ private Q_SLOTS:
             QCOMPARE(assistant.Account(), u"4711"_s);
             QCOMPARE(assistant.BankCode(), u"12030000"_s);
         };
-        cNoProgress progress;
-        page.Review.Files().ImportFiles({first}, progress, cStatementFiles::eAssist::Always);
+        page.Import({first}, cStatementFiles::eAssist::Always);
         QCOMPARE(page.Opened, 3);
     }
 
@@ -252,9 +229,8 @@ private Q_SLOTS:
         page.Answer = [&](cImportAssistant& assistant) { assistant.SetAccount(QString::number(4711 + page.Opened)); };
         const QString first = page.Write(u"1.csv"_s, plain);
         const QString second = page.Write(u"2.csv"_s, QByteArray(plain).replace("2026", "2025"));
-        cNoProgress progress;
         for (int account = 0; account < 2; ++account) {
-            page.Review.Files().ImportFiles({first}, progress, cStatementFiles::eAssist::Always);
+            page.Import({first}, cStatementFiles::eAssist::Always);
         }
         page.Import({first, second});
         QCOMPARE(page.Opened, 4);
@@ -269,9 +245,8 @@ private Q_SLOTS:
             Mean(3, u"Verwendungszweck"_s)(assistant);
             assistant.SetAccount(u"4711"_s);
         };
-        cNoProgress progress;
         const QString paypal = QStringLiteral(TEST_DATA "/csv/paypal.csv");
-        page.Review.Files().ImportFiles({paypal}, progress, cStatementFiles::eAssist::Always);
+        page.Import({paypal}, cStatementFiles::eAssist::Always);
         const QStringList changed = page.Purposes();
         QVERIFY(!changed.isEmpty());
         page.Import({paypal}); // through the memory alone: also what the layout leaves out
@@ -286,10 +261,9 @@ private Q_SLOTS:
             QVERIFY(!assistant.AsksAccount() && !assistant.IsTable());
             assistant.SetAvoidsDuplicates(false);
         };
-        cNoProgress progress;
         const QString file = QStringLiteral(TEST_DATA "/mt940/giro.sta");
         for (int run = 0; run < 2; ++run) {
-            page.Review.Files().ImportFiles({file}, progress, cStatementFiles::eAssist::Always);
+            page.Import({file}, cStatementFiles::eAssist::Always);
         }
         QCOMPARE(page.Data.GetImportEntries().size(), 10);
     }
@@ -313,9 +287,7 @@ private Q_SLOTS:
         for (int i = 0; i < 20'000; ++i) {
             csv += "03.02.2026;Einkauf Nummer " + QByteArray::number(i) + " am Markt;-1,00\n";
         }
-        cNoProgress progress;
-        page.Review.Files().ImportFiles({page.Write(u"a.ofx"_s, ofx), page.Write(u"a.csv"_s, csv)}, progress,
-                                        cStatementFiles::eAssist::Always);
+        page.Import({page.Write(u"a.ofx"_s, ofx), page.Write(u"a.csv"_s, csv)}, cStatementFiles::eAssist::Always);
         QCOMPARE(texts.value(0), u"2"_s);
         QVERIFY(texts.value(1).toInt() > 5'000 && texts.value(1).toInt() < 20'000);
     }
@@ -326,14 +298,13 @@ private Q_SLOTS:
         page.Import({page.Write(u"a.csv"_s, plain)});
         QCOMPARE(page.Purposes().size(), 3);
         const int booked = page.Data.GetImportEntries().first().ID;
-        cNoProgress progress;
-        page.Review.Book({booked}, progress);
+        page.Review.Book({booked}, page.Progress);
         page.Answer = [](cImportAssistant& assistant) {
             Mean(2, u"Betrag"_s)(assistant);
             assistant.ChooseReading(0);
         };
         QVERIFY(page.Review.Files().CanReadAgain());
-        page.Review.Files().ReadAgain(progress);
+        page.Review.Files().ReadAgain(page.Progress);
         const cImportEntryList rows = page.Data.GetImportEntries();
         QCOMPARE(rows.size(), 4); // the booked one stays
         QCOMPARE(rows.first().ID, booked);
@@ -342,14 +313,14 @@ private Q_SLOTS:
         QCOMPARE(page.Data.GetImportEntries().size(), 3);
         QCOMPARE(page.Data.GetImportEntries().last().ImportValue, -100);
         page.IsConfirmed = false;
-        page.Review.Files().ReadAgain(progress);
+        page.Review.Files().ReadAgain(page.Progress);
         QCOMPARE(page.Data.GetImportEntries().size(), 3);
     }
 
     void AStoppedFileBringsNothing()
     {
         cPage page;
-        cStopped progress;
+        cFakeStop progress(3);
         page.Review.Files().ImportFiles({QStringLiteral(TEST_DATA "/mt940/giro.sta")}, progress);
         QCOMPARE(page.Data.GetImportEntries().size(), 0);
         QCOMPARE(page.Review.Summary(), QStringList(u"giro.sta: abgebrochen, nichts davon übernommen."_s));
@@ -401,8 +372,7 @@ private Q_SLOTS:
     void OffersAllStatements()
     {
         cPage page;
-        cNoProgress progress;
-        page.Review.Files().ChooseFiles(progress);
+        page.Review.Files().ChooseFiles(page.Progress);
         const QStringList filter = page.User.Asked.value(0).split(u'|');
         QVERIFY(filter.value(1).contains(u"*.sta;") && filter.value(1).contains(u"*.zip;")); // shown by default
         QCOMPARE(filter.value(2), u"CSV/XLS/MT940/MT942/OFX/QIF-Datei"_s);

@@ -1,18 +1,16 @@
 #include "base/cProgress.h"
-#include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
 #include "model/modSplit.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/sheet/cManyChange.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
 
-#include <QFile>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -34,17 +32,9 @@ struct cPage : cTestBook
     }
 
     // A row of the giro account that came without a file.
-    template <typename tChange>
-    void AddRow(tChange change)
+    void AddRow(const QString& name)
     {
-        cImportEntry row;
-        row.ImportAccount = u"1234567"_s;
-        row.ImportDate = QDate(2026, 1, 20);
-        row.ImportValue = -750;
-        change(row);
-        if (!Data.AddNewImportEntry(row)) {
-            qFatal("row not added");
-        }
+        Stage(u"1234567"_s, QDate(2026, 1, 20), -750, name);
         Review.Refresh();
     }
 
@@ -185,11 +175,10 @@ private Q_SLOTS:
 
     void AsksOnceAboutEqualRows_data()
     {
-        QTest::addColumn<eAnswer>("answer");
-        QTest::addColumn<int>("staged");
-        QTest::addColumn<int>("leftOut"); // by the second reading of the files
-        QTest::newRow("taken") << eAnswer::Yes << 2 << 4;
-        QTest::newRow("left out") << eAnswer::No << 1 << 4;
+        // leftOut: by the second reading of the files
+        const cTestRows<eAnswer, int, int> row("answer", "staged", "leftOut");
+        row("taken", eAnswer::Yes, 2, 4);
+        row("left out", eAnswer::No, 1, 4);
     }
 
     // Two files overlap, and each has a ticket twice: that is one more row, asked about once.
@@ -197,14 +186,12 @@ private Q_SLOTS:
     {
         QFETCH(const eAnswer, answer);
         cPage page;
-        QTemporaryDir folder;
-        QStringList files;
-        for (const QString& name : {u"a.csv"_s, u"b.csv"_s}) {
-            files.append(folder.filePath(name));
-            QFile file(files.constLast());
-            QVERIFY(file.open(QIODevice::WriteOnly));
-            file.write("IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag\n"
-                       "03.05.2026;Fahrkarte;-2,00\n03.05.2026;Fahrkarte;-2,00\n");
+        const cTestFile folder;
+        const QStringList files{folder.Path(u"a.csv"_s), folder.Path(u"b.csv"_s)};
+        for (const QString& file : files) {
+            cTestFile::Write(file,
+                             "IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag\n"
+                             "03.05.2026;Fahrkarte;-2,00\n03.05.2026;Fahrkarte;-2,00\n");
         }
         page.User.Answers = {answer};
         page.User.Choices = {u"Girokonto"_s};
@@ -223,21 +210,16 @@ private Q_SLOTS:
     void FirstStatementBringsTheStartBalance()
     {
         cPage page;
-        page.Add(
-            [](cEntryItem& entry) { entry.EntryDate = QDate(2026, 4, 30); }); // 10.00, which the bank books on May 2nd
-        page.Add([](cEntryItem& entry) {
-            entry.EntryDate = QDate(2026, 3, 1);
-            entry.EntryValue = 500;
-        });
-        QTemporaryDir folder;
-        QFile file(folder.filePath(u"a.csv"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write("IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag;Saldo\n"
-                   "04.05.2026;Kiosk;-3,00;87,00\n02.05.2026;Markt;-10,00;90,00\n");
-        file.close();
+        page.Spend(QDate(2026, 4, 30), 1000); // which the bank books on May 2nd
+        page.Spend(QDate(2026, 3, 1), 500);
+        const cTestFile folder;
+        const QString file = folder.Path(u"a.csv"_s);
+        cTestFile::Write(file,
+                         "IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag;Saldo\n"
+                         "04.05.2026;Kiosk;-3,00;87,00\n02.05.2026;Markt;-10,00;90,00\n");
         page.User.Choices = {u"Girokonto"_s};
         page.User.Answers = {eAnswer::Yes};
-        page.Review.Files().ImportFiles({file.fileName()}, page.Progress);
+        page.Review.Files().ImportFiles({file}, page.Progress);
         QVERIFY2(page.User.Asked.constLast().startsWith(u"Am 04.05.2026 waren laut Kontoauszug 87,00"_s + space
                                                         + u"€ auf dem Konto 'Girokonto'."),
                  qPrintable(page.User.Asked.constLast()));
@@ -246,7 +228,7 @@ private Q_SLOTS:
         QCOMPARE(start->EntryValue, 10500);
         QCOMPARE(start->EntryDate, QDate(2026, 3, 1));
         page.User.Asked.clear();
-        page.Review.Files().ImportFiles({file.fileName()}, page.Progress);
+        page.Review.Files().ImportFiles({file}, page.Progress);
         QCOMPARE(page.User.Asked, QStringList());
     }
 
@@ -280,11 +262,11 @@ private Q_SLOTS:
     {
         cPage page;
         page.ImportFixture();
-        page.AddRow([](cImportEntry& row) { row.ImportPurpose = u"Geschenk"_s; });
+        page.AddRow(u"Geschenk"_s);
         const int last = page.AllIds().last();
         QVERIFY(page.Review.Choose({last}, u"Freizeit; Geschenke"_s, {}));
         QVERIFY(page.Data.DeleteImport(last));
-        page.AddRow([](cImportEntry& row) { row.ImportPurpose = u"etwas ganz anderes"_s; });
+        page.AddRow(u"etwas ganz anderes"_s);
         QCOMPARE(page.AllIds().last(), last);
         QCOMPARE(page.Cell(5, cStagedListModel::Reason), u"keine Regel passt"_s);
     }
@@ -320,23 +302,18 @@ private Q_SLOTS:
 
     void FiltersAndSorts_data()
     {
-        QTest::addColumn<QString>("filter");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<QStringList>("names");
+        const cTestRows<QString, int, QStringList> row("filter", "column", "names");
         const QString rewe = u"REWE Markt Hohenfels"_s;
         const QString rent = u"Hausverwaltung Tannert  und Sohn"_s;
         const QString work = u"Werkzeugbau Ammersbek GmbH"_s;
         const QString own = u"Jonte Sandmeier"_s;
-        QTest::newRow("by amount") << QString() << int{cStagedListModel::Amount}
-                                   << QStringList{rent, own, rewe, own, work};
-        QTest::newRow("by name") << QString() << int{cStagedListModel::Counterparty}
-                                 << QStringList{rent, own, own, rewe, work};
-        QTest::newRow("by proposal") << QString() << int{cStagedListModel::Category}
-                                     << QStringList{own, own, work, rewe, rent};
-        QTest::newRow("umlaut as typed") << u"rücklage"_s << int{cStagedListModel::Date} << QStringList{own, own};
-        QTest::newRow("two words") << u"miete linden"_s << int{cStagedListModel::Date} << QStringList{rent};
-        QTest::newRow("amount") << u"2.410,55"_s << int{cStagedListModel::Date} << QStringList{work};
-        QTest::newRow("nothing") << u"xyz"_s << int{cStagedListModel::Date} << QStringList();
+        row("by amount", {}, cStagedListModel::Amount, {rent, own, rewe, own, work});
+        row("by name", {}, cStagedListModel::Counterparty, {rent, own, own, rewe, work});
+        row("by proposal", {}, cStagedListModel::Category, {own, own, work, rewe, rent});
+        row("umlaut as typed", u"rücklage"_s, cStagedListModel::Date, {own, own});
+        row("two words", u"miete linden"_s, cStagedListModel::Date, {rent});
+        row("amount", u"2.410,55"_s, cStagedListModel::Date, {work});
+        row("nothing", u"xyz"_s, cStagedListModel::Date, {});
     }
 
     void FiltersAndSorts()
@@ -375,7 +352,7 @@ private Q_SLOTS:
     {
         cPage page;
         page.ImportFixture();
-        page.AddRow([](cImportEntry& row) { row.ImportBeneficiary = u"Unbekannt GmbH"_s; });
+        page.AddRow(u"Unbekannt GmbH"_s);
         page.Review.AcceptProposals(page.Progress); // the user says no
         QCOMPARE(page.User.Asked.last(),
                  u"5 der gezeigten Umsätze haben einen sicheren Vorschlag und werden neu gebucht.\nOffen "
@@ -401,7 +378,7 @@ private Q_SLOTS:
     {
         cPage page;
         page.ImportFixture();
-        page.AddRow([](cImportEntry& row) { row.ImportBeneficiary = u"Unbekannt GmbH"_s; });
+        page.AddRow(u"Unbekannt GmbH"_s);
         page.Review.View().SetGrouping(static_cast<int>(modStagedGroup::eGrouping::Plan));
         cStagedListModel& rows = page.Review.Rows();
         QStringList groups;
@@ -448,7 +425,7 @@ private Q_SLOTS:
     {
         cPage page;
         page.ImportFixture();
-        page.AddRow([](cImportEntry& row) { row.ImportBeneficiary = u"Unbekannt GmbH"_s; });
+        page.AddRow(u"Unbekannt GmbH"_s);
         const int id = page.AllIds().last();
         page.Review.View().SetUncategorisedOnly(true);
         QCOMPARE(page.AllIds(), QList<int>{id});
@@ -505,23 +482,6 @@ private Q_SLOTS:
         QCOMPARE(page.Data.CountEntries(), 0);
     }
 
-    // "auto" and "bar" are part of many words.
-    void AmbiguousKeywordsComeLast()
-    {
-        cPage page;
-        page.ImportFixture();
-        page.User.Answers = {eAnswer::Yes};
-        page.Review.AcceptProposals(page.Progress);
-        page.AddRow([](cImportEntry& row) { row.ImportPurpose = u"Shell Autohof"_s; });
-        page.AddRow([](cImportEntry& row) { row.ImportPurpose = u"GA NR123 Bargeld"_s; });
-        page.Review.View().SetFilter(u"autohof"_s);
-        QCOMPARE(page.Cell(0, cStagedListModel::Category), u"Auto; Benzin"_s);
-        page.Review.View().SetFilter(u"bargeld"_s);
-        QCOMPARE(page.Cell(0, cStagedListModel::Category), u"Allgemein; Barauszahlung"_s);
-        page.Review.AcceptProposals(page.Progress); // nothing to be booked unseen
-        QVERIFY(page.User.Shown.last().startsWith(u"Keiner der gezeigten Umsätze hat einen sicheren Vorschlag."));
-    }
-
     void AsksBeforeBookingTwice()
     {
         cPage page;
@@ -529,7 +489,8 @@ private Q_SLOTS:
         cImportEntry rewe = page.Data.GetImportEntries().constFirst();
         const int first = rewe.ID;
         rewe.ImportPurpose = u"Kartenzahlung 4711"_s; // the same in another file
-        page.AddRow([&](cImportEntry& row) { row = rewe; });
+        QVERIFY(page.Data.AddNewImportEntry(rewe));
+        page.Review.Refresh();
         const int second = page.Data.GetImportEntries().constLast().ID;
         QCOMPARE(page.Cell(0, cStagedListModel::State), u"doppelt?"_s);
         QVERIFY(page.Cell(0, cStagedListModel::Reason).startsWith(u"gleicher Tag, Betrag und"));
@@ -550,7 +511,7 @@ private Q_SLOTS:
     {
         cPage page;
         QVERIFY(page.Review.StartImportReview() == nullptr);
-        page.AddRow([](cImportEntry& row) { row.ImportBeneficiary = u"Von früher"_s; });
+        page.AddRow(u"Von früher"_s);
         page.ImportFixture();
         QVERIFY(page.Review.StartImportReview(1) == nullptr); // nobody knows with which file it came
         const std::unique_ptr<cImportReview> window = page.Review.StartImportReview();
@@ -587,10 +548,9 @@ private Q_SLOTS:
     void SaysWhyAFileIsRefused()
     {
         cPage page;
-        QFile file(page.Shell.Folder(u"data"_s) + u"/auszug.pdf");
-        QVERIFY(file.open(QIODevice::WriteOnly) && file.write("%PDF") == 4);
-        file.close();
-        page.Review.Files().ImportFiles({file.fileName()}, page.Progress);
+        const cTestFile folder;
+        cTestFile::Write(folder.Path(u"auszug.pdf"_s), "%PDF");
+        page.Review.Files().ImportFiles({folder.Path(u"auszug.pdf"_s)}, page.Progress);
         QVERIFY(page.User.Shown.value(0).startsWith(u"auszug.pdf\nDieses Format kann nicht eingelesen werden"));
         QVERIFY(page.Review.Summary().first().startsWith(u"auszug.pdf: nicht eingelesen."));
     }

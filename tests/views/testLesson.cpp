@@ -3,8 +3,8 @@
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "import/stage/cStaging.h"
-#include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryWriter.h"
 #include "views/statement/cLesson.h"
@@ -63,18 +63,13 @@ private Q_SLOTS:
 
     void RuleHoldsForThePayee_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("purpose");
-        QTest::addColumn<QString>("otherName");
-        QTest::addColumn<QString>("otherPurpose");
-        QTest::newRow("whole name") << u"Kern und Partner"_s << u"1"_s << u"kern und partner"_s << u"2"_s;
-        QTest::newRow("store number") << u"HOFLADEN KERN 4711//Talheim/DE"_s << u"1"_s
-                                      << u"HOFLADEN KERN 0815//Ulm/DE"_s << u"2"_s;
-        QTest::newRow("PayPal") << u"PayPal Europe"_s << u"1.PP Ihr Einkauf bei Hofladen Kern"_s << u"PayPal Europe"_s
-                                << u"2.PP Ihr Einkauf bei Hofladen Kern"_s;
-        QTest::newRow("signs of patterns")
-            << u"SumUp *KERN [NORD] 4711"_s << u"1"_s << u"SumUp *KERN [NORD] 0815"_s << u"2"_s;
-        QTest::newRow("short name") << u"DM 4711//Ulm/DE"_s << u"1"_s << u"DM 4711//Ulm/DE"_s << u"2"_s;
+        const cTestRows<QString, QString, QString, QString> row("name", "purpose", "otherName", "otherPurpose");
+        row("whole name", u"Kern und Partner"_s, u"1"_s, u"kern und partner"_s, u"2"_s);
+        row("store number", u"HOFLADEN KERN 4711//Talheim/DE"_s, u"1"_s, u"HOFLADEN KERN 0815//Ulm/DE"_s, u"2"_s);
+        row("PayPal", u"PayPal Europe"_s, u"1.PP Ihr Einkauf bei Hofladen Kern"_s, u"PayPal Europe"_s,
+            u"2.PP Ihr Einkauf bei Hofladen Kern"_s);
+        row("signs of patterns", u"SumUp *KERN [NORD] 4711"_s, u"1"_s, u"SumUp *KERN [NORD] 0815"_s, u"2"_s);
+        row("short name", u"DM 4711//Ulm/DE"_s, u"1"_s, u"DM 4711//Ulm/DE"_s, u"2"_s);
     }
 
     void RuleHoldsForThePayee()

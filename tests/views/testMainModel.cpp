@@ -1,7 +1,7 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modAccountLines.h"
@@ -37,24 +37,9 @@ public:
             e.EntryCategory = u"Einkommen; Lohn / Gehalt"_s;
             e.EntryDescription = u"Gehalt Müller KG"_s;
         });
-        Book.Add([](cEntryItem& e) {
-            e.EntryDate = QDate(2026, 2, 2);
-            e.EntryType = modWord::Umbuchung;
-            e.EntryAccountMove = u"Sparkonto"_s;
-            e.EntryValue = 30000;
-            e.EntryCategory = u"Geldanlage"_s;
-        });
-        Rent = Book.Add([](cEntryItem& e) {
-            e.EntryDate = QDate(2026, 1, 1);
-            e.EntryInterval = u"Monatlich"_s;
-            e.EntryValue = 70000;
-            e.EntryCategory = u"Wohnung; Miete"_s;
-            e.EntryDescription = u"Miete"_s;
-        });
-        Future = Book.Add([](cEntryItem& e) {
-            e.EntryDate = QDate(2026, 3, 20);
-            e.EntryValue = 4000;
-        });
+        Book.Move(u"Girokonto"_s, u"Sparkonto"_s, 30000, QDate(2026, 2, 2));
+        Rent = Book.Spend(QDate(2026, 1, 1), 70000, u"Miete"_s, u"Monatlich"_s);
+        Future = Book.Spend(QDate(2026, 3, 20), 4000);
         Start();
     }
 
@@ -113,9 +98,7 @@ private Q_SLOTS:
     void UnreadableBookIsNotEmpty() const
     {
         cScene scene;
-        const QString path = scene.Book.Path();
-        cTestFile::Damage(path, "data");
-        scene.Book.Database.Open(path, eOpenMode::ReadWrite);
+        scene.Book.Damage("data");
         scene.Model->BookChanged();
         cScene::Settle();
         QCOMPARE(scene.Model->EmptyTitle(), u"Das Buch konnte nicht gelesen werden"_s);
@@ -128,407 +111,359 @@ private Q_SLOTS:
         QVERIFY(!scene.Model->IsEnabled(modCommand::NewEntry));
     }
 
-    void SumsFollowTheView_data();
-    void SumsFollowTheView();
-    void NewBookStartsWithTheResetView();
-    void MissingSwitchesAreOn();
-    void ResetAsksFirst();
-    void NewVersionResetsTheView();
-    void RestoresTheView();
-    void FreePeriodStartsWithTheShownDays();
-    void FreeDaysThatCanBeNoPeriodAreReplaced_data();
-    void FreeDaysThatCanBeNoPeriodAreReplaced();
-    void NextPeriodAsksForHiddenEntries();
-    void BalancesToTodayOrOfThePeriod();
-    void RunningBalanceBeginsBeforeThePeriod();
-    void FilterKeepsWhatIsLoaded();
-    void DeletesAfterSayingWhatASeriesMeans();
-    void UndoBringsTheBookBack();
-    void CommandsDispatch();
-    void RenamesAnAccountWithItsEntries();
-    void ChangedRowsOutOfSightAreToldOf();
-    void ReadOnlyBookOffersNoWriting();
-    void OpenRowsCountForTheirAccount();
+    void SumsFollowTheView_data()
+    {
+        const cTestRows<QString, QString, QString, const cSettingKey*, qsizetype, qint64, qint64, qint64> row(
+            "period", "account", "type", "switchedOff", "count", "income", "expense", "total");
+        const cSettingKey* const none = nullptr;
+        const QString year = u"Aktuelles Jahr"_s;
+        const QString all = modWord::AlleKonten;
+        const QString types = modWord::AlleBuchungsarten;
+        row("whole year, transfers neutral", year, all, types, none, 15, 200000, 844000, -644000);
+        row("without future", year, all, types, &modSettingKey::ViewFuture, 5, 200000, 210000, -10000);
+        row("only recurring", year, all, types, &modSettingKey::ViewSingle, 12, 0, 840000, -840000);
+        row("only one-off", year, all, types, &modSettingKey::ViewFix, 3, 200000, 4000, 196000);
+        row("transfer out of the account", year, u"Girokonto"_s, u"Umbuchung"_s, none, 1, 0, 30000, -30000);
+        row("transfer into the account is income", year, u"Sparkonto"_s, u"Einnahme"_s, none, 1, 30000, 0, 30000);
+        row("start balance hidden", u"Letztes Jahr"_s, all, types, &modSettingKey::ViewStart, 0, 0, 0, 0);
+        row("start balance is no income, but part of the sum", u"Letztes Jahr"_s, all, types, none, 1, 0, 0, 50000);
+        row("until today", u"Buchungen bis heute"_s, all, types, none, 6, 200000, 210000, 40000);
+    }
+
+    void SumsFollowTheView()
+    {
+        QFETCH(QString, period);
+        QFETCH(QString, account);
+        QFETCH(QString, type);
+        QFETCH(const cSettingKey*, switchedOff);
+
+        cScene scene;
+        if (switchedOff != nullptr) {
+            scene.Model->ToggleView(*switchedOff);
+        }
+        scene.Model->ChoosePeriod(period);
+        scene.Model->ChooseAccount(account);
+        scene.Model->ChooseType(type);
+
+        const cEntrySums sums = scene.Model->Entries().Sums();
+        QTEST(sums.Count, "count");
+        QTEST(sums.Income, "income");
+        QTEST(sums.Expense, "expense");
+        QTEST(sums.Total(), "total");
+        QCOMPARE(scene.Model->StartText().isEmpty(), sums.Total() == sums.Income - sums.Expense);
+    }
+
+    void NewBookStartsWithTheResetView()
+    {
+        cTestBook book;
+        cFakeNavigator navigator;
+        cMainModel model(book.Tools, {book.Configuration, book.Shell, navigator, book.Path()});
+        model.RestoreView(true);
+
+        QCOMPARE(model.View().Period, modWord::AlleBuchungen);
+        for (const cSettingKey& key :
+             {modSettingKey::ViewSingle, modSettingKey::ViewFix, modSettingKey::ViewFuture, modSettingKey::ViewStart}) {
+            QVERIFY2(model.IsChecked(key), qPrintable(key.Name()));
+        }
+        QVERIFY(!model.IsChecked(modSettingKey::ViewAllBalances));
+        QVERIFY(model.EmptyHint().contains(u"Strg+N"_s));
+        QVERIFY(model.Hint().isEmpty()); // there is nothing that could reach to 2050
+    }
+
+    // Only the period is stored, as a book of an older version may have it.
+    void MissingSwitchesAreOn()
+    {
+        cScene scene;
+        scene.Book.Settings->Set(modSettingKey::MainPeriod, u"Letztes Jahr"_s);
+        scene.Start();
+        QCOMPARE(scene.Model->Entries().rowCount(), 1);
+        QCOMPARE(scene.Model->TotalText(), Euro(u"500,00"_s));
+        QVERIFY(scene.Balances().contains(u"Gesamt "_s + Euro(u"400,00"_s)));
+        QVERIFY(scene.Model->IsChecked(modSettingKey::ViewStart));
+    }
+
+    void ResetAsksFirst()
+    {
+        cScene scene;
+        scene.Model->ChooseAccount(u"Sparkonto"_s);
+        scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
+        scene.Model->Execute(modCommand::ResetView);
+        QCOMPARE(scene.Model->View().Account, u"Sparkonto"_s);
+        scene.Model->Execute(modCommand::ResetView);
+        QCOMPARE(scene.Model->View().Account, modWord::AlleKonten);
+    }
+
+    void NewVersionResetsTheView()
+    {
+        cScene scene;
+        scene.Model->ToggleView(modSettingKey::ViewFix);
+        scene.Model->ToggleView(modSettingKey::ViewStart);
+        scene.Model->SaveListLayout(modSettingKey::MainList, u"x"_s);
+        scene.Model->ChooseAccount(u"Sparkonto"_s);
+        scene.Start(true);
+
+        QCOMPARE(scene.Model->View().Period, modWord::AlleBuchungen);
+        QCOMPARE(scene.Model->View().Account, modWord::AlleKonten);
+        QVERIFY(scene.Model->IsChecked(modSettingKey::ViewFix));
+        QVERIFY(!scene.Model->IsChecked(modSettingKey::ViewAllBalances));
+        QVERIFY(!scene.Model->IsChecked(modSettingKey::ViewStart)); // a reset leaves it alone
+        QVERIFY(scene.Model->Layout(modSettingKey::MainList).isEmpty());
+        QVERIFY(!scene.Model->Hint().isEmpty()); // the list reaches to 2050 now, and says so
+    }
+
+    void RestoresTheView()
+    {
+        cScene scene;
+        scene.Model->ChoosePeriod(u"Letzter Monat"_s);
+        scene.Model->ChooseAccount(u"Sparkonto"_s);
+        scene.Model->ChooseGrouping(u"Nach Monat"_s);
+        scene.Model->TypeFilter(u"bäcker"_s);
+        cScene::Settle();
+        scene.Model->SaveLayout({}); // on closing, also what was typed just before
+        scene.Start();
+        QCOMPARE(scene.Model->View().Period, u"Letzter Monat"_s);
+        QCOMPARE(scene.Model->View().Account, u"Sparkonto"_s);
+        QCOMPARE(scene.Model->View().Grouping, u"Nach Monat"_s);
+        QCOMPARE(scene.Model->View().Filter, u"bäcker"_s);
+
+        scene.Book.Settings->Set(modSettingKey::MainAccount, u"Aufgelöstes Konto"_s);
+        scene.Book.Settings->Set(modSettingKey::MainPeriod, u"Irgendwann"_s);
+        scene.Start();
+        QCOMPARE(scene.Model->View().Account, modWord::AlleKonten);
+        QCOMPARE(scene.Model->View().Period, u"Aktuelles Jahr"_s);
+    }
+
+    void FreePeriodStartsWithTheShownDays()
+    {
+        cScene scene;
+        scene.Model->ChoosePeriod(u"Letzter Monat"_s);
+        scene.Model->ChooseFreeRange({QDate(2026, 1, 1), QDate(2026, 1, 31)}); // not the free period: nothing happens
+        QCOMPARE(scene.Model->ShownRange().Start, QDate(2026, 2, 1));
+        scene.Model->ChoosePeriod(modWord::FreierZeitraum);
+        QCOMPARE(scene.Model->ShownRange().End, QDate(2026, 2, 28));
+        scene.Model->ChooseFreeRange({QDate(2026, 1, 1), QDate(2026, 1, 31)});
+        QCOMPARE(scene.Model->Entries().Sums().Count, 2);
+        QCOMPARE(scene.Book.Settings->Get(modSettingKey::MainPeriodEnd), u"2026-01-31"_s);
+        scene.Model->ChooseFreeRange({QDate(2026, 3, 1), QDate(2026, 1, 31)}); // the other day comes along
+        QCOMPARE(scene.Model->ShownRange(), (modPeriod::cRange{QDate(2026, 3, 1), QDate(2026, 3, 1)}));
+        scene.Model->ResetView();
+        scene.Model->ChoosePeriod(u"Letzter Monat"_s);
+        scene.Model->ChoosePeriod(modWord::FreierZeitraum);
+        QCOMPARE(scene.Model->ShownRange().Start, QDate(2026, 2, 1)); // what was chosen before the reset is gone
+    }
+
+    void FreeDaysThatCanBeNoPeriodAreReplaced_data()
+    {
+        const cTestRows<QString, QString, QDate, QDate> row("start", "end", "first", "last");
+        const QDate newYear(2026, 1, 1);
+        const QDate newYearsEve(2026, 12, 31);
+        row("a period", u"2025-02-01"_s, u"2025-02-28"_s, QDate(2025, 2, 1), QDate(2025, 2, 28));
+        row("open at one side", {}, u"2025-02-28"_s, {}, QDate(2025, 2, 28));
+        row("nothing stored", {}, {}, newYear, newYearsEve);
+        row("end before start", u"2026-03-01"_s, u"2026-01-31"_s, newYear, newYearsEve);
+        row("unreadable", u"2026-03-01"_s, u"31.12.2026"_s, newYear, newYearsEve);
+        row("open sides of older versions", u"1000-01-01"_s, u"1000-01-01"_s, newYear, newYearsEve);
+    }
+
+    void FreeDaysThatCanBeNoPeriodAreReplaced()
+    {
+        QFETCH(QString, start);
+        QFETCH(QString, end);
+        cScene scene;
+        scene.Book.Settings->Set(modSettingKey::MainPeriod, modWord::FreierZeitraum);
+        scene.Book.Settings->Set(modSettingKey::MainPeriodStart, start);
+        scene.Book.Settings->Set(modSettingKey::MainPeriodEnd, end);
+        scene.Start();
+        QTEST(scene.Model->ShownRange().Start, "first");
+        QTEST(scene.Model->ShownRange().End, "last");
+    }
+
+    void NextPeriodAsksForHiddenEntries()
+    {
+        cScene scene;
+        scene.Model->ToggleView(modSettingKey::ViewFuture);
+        scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
+        scene.Model->ChoosePeriod(u"Nächstes Jahr"_s);
+        QVERIFY(!scene.Model->IsChecked(modSettingKey::ViewFuture));
+        QCOMPARE(scene.Model->Entries().rowCount(), 0);
+        scene.Model->ChoosePeriod(u"Nächster Monat"_s);
+        QVERIFY(scene.Model->IsChecked(modSettingKey::ViewFuture));
+        QCOMPARE(scene.Model->Entries().rowCount(), 1);
+        scene.Model->ChoosePeriod(u"Nächstes Quartal"_s);
+        QCOMPARE(scene.Book.User.Asked.size(), 2);
+        QCOMPARE(scene.Book.User.Asked.constFirst(),
+                 u"Zukünftige Buchungen werden momentan nicht angezeigt. Soll die Anzeige aktiviert werden?"_s);
+    }
+
+    void BalancesToTodayOrOfThePeriod()
+    {
+        cScene scene;
+        QCOMPARE(scene.Balances(),
+                 QStringList({u"Girokonto "_s + Euro(u"100,00"_s), u"Sparkonto "_s + Euro(u"300,00"_s),
+                              u"Bargeld "_s + Euro(u"0,00"_s), u"Gesamt "_s + Euro(u"400,00"_s)}));
+        scene.Model->ToggleView(modSettingKey::ViewAllBalances);
+        scene.Model->ChoosePeriod(u"Letzter Monat"_s);
+        cScene::Settle();
+        QCOMPARE(scene.Balances(),
+                 QStringList({u"Girokonto "_s + Euro(u"-1.000,00"_s), u"Sparkonto "_s + Euro(u"300,00"_s),
+                              u"Bargeld "_s + Euro(u"0,00"_s), u"Gesamt "_s + Euro(u"-700,00"_s)}));
+    }
+
+    void RunningBalanceBeginsBeforeThePeriod()
+    {
+        cScene scene;
+        scene.Model->ChoosePeriod(u"Letzter Monat"_s);
+        scene.Model->ChooseAccount(u"Girokonto"_s);
+        cEntryListModel& list = scene.Model->Entries();
+        QCOMPARE(list.index(0, cEntryListModel::Balance).data().toString(),
+                 Euro(u"1.100,00"_s)); // 500 + 2000 - 700 - 700
+        QCOMPARE(list.index(1, cEntryListModel::Balance).data().toString(), Euro(u"800,00"_s)); // the transfer out
+        list.sort(cEntryListModel::Amount, Qt::AscendingOrder);
+        QVERIFY(list.index(0, cEntryListModel::Balance).data().toString().isEmpty());
+    }
+
+    void FilterKeepsWhatIsLoaded()
+    {
+        cScene scene;
+        const QSignalSpy changed(scene.Model.get(), &cMainModel::EntriesChanged);
+        scene.Model->TypeFilter(u"mueller gehalt"_s);
+        QVERIFY(changed.isEmpty()); // the field is still being typed into
+        cScene::Settle();
+        QCOMPARE(scene.Model->Entries().rowCount(), 1);
+        QCOMPARE(scene.Model->IncomeText(), Euro(u"2.000,00"_s));
+        scene.Model->TypeFilter({});
+        cScene::Settle();
+        QCOMPARE(scene.Model->Entries().rowCount(), 15);
+    }
+
+    void DeletesAfterSayingWhatASeriesMeans()
+    {
+        cScene scene;
+        QVERIFY(!scene.Model->IsEnabled(modCommand::DeleteEntry));
+        cEntryItem march = scene.Rent;
+        march.EntryDate = QDate(2026, 3, 1);
+        scene.Select({scene.Rent, march});
+        scene.Book.User.Decisions = {-1, 1};
+        scene.Model->Execute(modCommand::DeleteEntry);
+        QCOMPARE(scene.Book.Data.CountEntries(), 5);
+        QVERIFY(scene.Book.User.Asked.constFirst().contains(u"Monatlich seit 01.01.2026"_s));
+        scene.Model->Execute(modCommand::DeleteEntry);
+        QCOMPARE(scene.Book.Data.CountEntries(), 4);
+        QCOMPARE(scene.Model->Entries().rowCount(), 3);
+        QVERIFY(scene.Model->MenuText(modCommand::Undo).endsWith(scene.Book.Data.Journal().UndoName()));
+        scene.Model->Execute(modCommand::DeleteEntry); // nothing is selected any more
+        QCOMPARE(scene.Book.User.Asked.size(), 2);
+    }
+
+    void UndoBringsTheBookBack()
+    {
+        cScene scene;
+        const QSignalSpy released(scene.Model.get(), &cMainModel::StagedRowsReleased);
+        QVERIFY(!scene.Model->IsEnabled(modCommand::Undo));
+        scene.Select({scene.Rent});
+        scene.Model->Execute(modCommand::SkipPeriod);
+        scene.Book.User.Decisions = {1};
+        scene.Select({scene.Rent});
+        scene.Model->Execute(modCommand::DeleteEntry);
+        QCOMPARE(scene.Model->Entries().rowCount(), 3);
+        scene.Model->Execute(modCommand::Undo);
+        QCOMPARE(scene.Model->Entries().rowCount(), 15);
+        QCOMPARE(scene.Book.Data.GetEntryMods(scene.Rent.ID).size(), 1);
+        QCOMPARE(released.size(), 2); // bank rows may have come back with it
+        scene.Model->Execute(modCommand::Undo);
+        QVERIFY(scene.Book.Data.GetEntryMods(scene.Rent.ID).isEmpty());
+        QVERIFY(!scene.Model->IsEnabled(modCommand::Undo));
+        scene.Model->Execute(modCommand::Redo);
+        QCOMPARE(scene.Book.Data.GetEntryMods(scene.Rent.ID).size(), 1);
+    }
+
+    void CommandsDispatch()
+    {
+        cScene scene;
+        scene.Select({scene.Future});
+        for (const int id : {100, 101, 103, 108, 115, 120, 107}) {
+            QVERIFY(scene.Model->Execute(id));
+        }
+        // 120 needs an occurrence of a series
+        const QString future = u"Eintrag %1 2026-03-20"_s.arg(scene.Future.ID);
+        QCOMPARE(scene.Navigator.Opened,
+                 QStringList({u"neu"_s, future, u"103"_s, u"108"_s, u"Kategorien "_s, u"Ende"_s}));
+        scene.Model->Execute(modCommand::ViewFix);
+        QVERIFY(!cSettings::ToBool(scene.Book.Settings->Get(modSettingKey::ViewFix)));
+        QVERIFY(!scene.Model->Execute(999));
+        QCOMPARE(modCommand::Keys(*modCommand::Find(100)), QStringList({u"Ctrl+N"_s, u"F5"_s})); // F5 does not refresh
+    }
+
+    void RenamesAnAccountWithItsEntries()
+    {
+        cScene scene;
+        scene.Book.User.Choices = {u"  Haushalts;konto "_s};
+        scene.Book.User.Answers = {eAnswer::Yes};
+        scene.Model->ChooseAccount(u"Girokonto"_s);
+        scene.Model->RenameAccount(u"Girokonto"_s);
+        QCOMPARE(scene.Book.Data.CountEntriesOfAccount(u"Girokonto"_s), 0);
+        QCOMPARE(scene.Book.Data.CountEntriesOfAccount(u"Haushaltskonto"_s), 5);
+        QCOMPARE(scene.Model->View().Account, u"Haushaltskonto"_s);
+        QCOMPARE(scene.Model->Entries().rowCount(), 15);
+        scene.Model->Execute(modCommand::Undo);
+        QCOMPARE(scene.Model->View().Account, u"Girokonto"_s);
+        QCOMPARE(scene.Model->Entries().rowCount(), 15);
+    }
+
+    void ChangedRowsOutOfSightAreToldOf()
+    {
+        cScene scene;
+        const QList<cEntryListModel::cKey> rows{{scene.Future.ID, scene.Future.EntryDate}};
+        QSignalSpy told(scene.Model.get(), &cMainModel::Told);
+        scene.Model->ChooseAccount(scene.Future.EntryAccount);
+        for (const cManyFields& fields :
+             {cManyFields{.Description = u"Neu"_s}, cManyFields{.Account = u"Sparkonto"_s}}) {
+            QCOMPARE(cManyChange(scene.Book.Tools, rows).Save(fields), cManyChange::eSaved::Saved);
+            scene.Model->ManyChanged(rows, rows);
+        }
+        QCOMPARE(told.at(0).first().toString(), u"Eintrag 'Neu' geändert."_s);
+        QVERIFY2(told.at(1).first().toString().contains(u"blendet"_s), qPrintable(told.at(1).first().toString()));
+    }
+
+    void ReadOnlyBookOffersNoWriting()
+    {
+        cScene scene;
+        const QString path = scene.Book.Path();
+        scene.Model.reset();
+        scene.Book.Database.Open(path, eOpenMode::ReadOnly);
+        scene.Start();
+        scene.Select({scene.Future});
+        QVERIFY(!scene.Model->IsEnabled(modCommand::NewEntry));
+        QVERIFY(!scene.Model->IsEnabled(modCommand::DeleteEntry));
+        scene.Model->ChoosePeriod(u"Letzter Monat"_s);
+        scene.Model->ToggleView(modSettingKey::ViewFix);
+        QCOMPARE(scene.Model->Entries().rowCount(), 1);
+        QCOMPARE(scene.Book.User.Shown, QStringList()); // looking around writes nothing and complains about nothing
+    }
+
+    void OpenRowsCountForTheirAccount()
+    {
+        cScene scene;
+        scene.Book.Stage(u"4711"_s, QDate(2026, 3, 1), -500);
+        scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Sparkonto"_s);
+        scene.Model->BookChanged();
+        cScene::Settle();
+        const cAccountListModel& accounts = scene.Model->AccountList();
+        QCOMPARE(accounts.index(2, cAccountListModel::Name).data().toString(), u"Sparkonto"_s);
+        QCOMPARE(accounts.index(2, cAccountListModel::Open).data().toString(), u"1"_s);
+
+        // Numbers without account, or with one that is gone, count in the total.
+        scene.Book.Stage(u"0815"_s, QDate(2026, 3, 1), -500);
+        scene.Book.Stage(u"999"_s, QDate(2026, 3, 1), -500);
+        scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"999"_s), u"Weg"_s);
+        const modAccountLines::cLines lines =
+            modAccountLines::Load(scene.Book.Data, *scene.Book.Settings, QDate(2026, 3, 1));
+        QCOMPARE(lines.Open, 3);
+        QCOMPARE(std::accumulate(lines.Accounts.begin(), lines.Accounts.end(), 0,
+                                 [](int sum, const cAccountLine& line) { return sum + line.Open; }),
+                 1);
+    }
 };
-
-void testMainModel::SumsFollowTheView_data()
-{
-    QTest::addColumn<QString>("period");
-    QTest::addColumn<QString>("account");
-    QTest::addColumn<QString>("type");
-    QTest::addColumn<const cSettingKey*>("switchedOff");
-    QTest::addColumn<int>("count");
-    QTest::addColumn<qint64>("income");
-    QTest::addColumn<qint64>("expense");
-    QTest::addColumn<qint64>("total");
-
-    const cSettingKey* const none = nullptr;
-    const QString year = u"Aktuelles Jahr"_s;
-    const QString all = modWord::AlleKonten;
-    const QString types = modWord::AlleBuchungsarten;
-    QTest::newRow("whole year, transfers neutral")
-        << year << all << types << none << 15 << qint64(200000) << qint64(844000) << qint64(-644000);
-    QTest::newRow("without future") << year << all << types << &modSettingKey::ViewFuture << 5 << qint64(200000)
-                                    << qint64(210000) << qint64(-10000);
-    QTest::newRow("only recurring") << year << all << types << &modSettingKey::ViewSingle << 12 << qint64(0)
-                                    << qint64(840000) << qint64(-840000);
-    QTest::newRow("only one-off") << year << all << types << &modSettingKey::ViewFix << 3 << qint64(200000)
-                                  << qint64(4000) << qint64(196000);
-    QTest::newRow("transfer out of the account")
-        << year << u"Girokonto"_s << u"Umbuchung"_s << none << 1 << qint64(0) << qint64(30000) << qint64(-30000);
-    QTest::newRow("transfer into the account is income")
-        << year << u"Sparkonto"_s << u"Einnahme"_s << none << 1 << qint64(30000) << qint64(0) << qint64(30000);
-    QTest::newRow("start balance hidden")
-        << u"Letztes Jahr"_s << all << types << &modSettingKey::ViewStart << 0 << qint64(0) << qint64(0) << qint64(0);
-    QTest::newRow("start balance is no income, but part of the sum")
-        << u"Letztes Jahr"_s << all << types << none << 1 << qint64(0) << qint64(0) << qint64(50000);
-    QTest::newRow("until today") << u"Buchungen bis heute"_s << all << types << none << 6 << qint64(200000)
-                                 << qint64(210000) << qint64(40000);
-}
-
-void testMainModel::SumsFollowTheView()
-{
-    QFETCH(QString, period);
-    QFETCH(QString, account);
-    QFETCH(QString, type);
-    QFETCH(const cSettingKey*, switchedOff);
-    QFETCH(int, count);
-    QFETCH(qint64, income);
-    QFETCH(qint64, expense);
-    QFETCH(qint64, total);
-
-    cScene scene;
-    if (switchedOff != nullptr) {
-        scene.Model->ToggleView(*switchedOff);
-    }
-    scene.Model->ChoosePeriod(period);
-    scene.Model->ChooseAccount(account);
-    scene.Model->ChooseType(type);
-
-    const cEntrySums sums = scene.Model->Entries().Sums();
-    QCOMPARE(sums.Count, count);
-    QCOMPARE(sums.Income, income);
-    QCOMPARE(sums.Expense, expense);
-    QCOMPARE(sums.Total(), total);
-    QCOMPARE(scene.Model->StartText().isEmpty(), total == income - expense);
-}
-
-void testMainModel::NewBookStartsWithTheResetView()
-{
-    cTestBook book;
-    cFakeNavigator navigator;
-    cMainModel model(book.Tools, {book.Configuration, book.Shell, navigator, book.Path()});
-    model.RestoreView(true);
-
-    QCOMPARE(model.View().Period, modWord::AlleBuchungen);
-    for (const cSettingKey& key :
-         {modSettingKey::ViewSingle, modSettingKey::ViewFix, modSettingKey::ViewFuture, modSettingKey::ViewStart}) {
-        QVERIFY2(model.IsChecked(key), qPrintable(key.Name()));
-    }
-    QVERIFY(!model.IsChecked(modSettingKey::ViewAllBalances));
-    QVERIFY(model.EmptyHint().contains(u"Strg+N"_s));
-    QVERIFY(model.Hint().isEmpty()); // there is nothing that could reach to 2050
-}
-
-// Only the period is stored, as a book of an older version may have it.
-void testMainModel::MissingSwitchesAreOn()
-{
-    cScene scene;
-    scene.Book.Settings->Set(modSettingKey::MainPeriod, u"Letztes Jahr"_s);
-    scene.Start();
-    QCOMPARE(scene.Model->Entries().rowCount(), 1);
-    QCOMPARE(scene.Model->TotalText(), Euro(u"500,00"_s));
-    QVERIFY(scene.Balances().contains(u"Gesamt "_s + Euro(u"400,00"_s)));
-    QVERIFY(scene.Model->IsChecked(modSettingKey::ViewStart));
-}
-
-void testMainModel::ResetAsksFirst()
-{
-    cScene scene;
-    scene.Model->ChooseAccount(u"Sparkonto"_s);
-    scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
-    scene.Model->Execute(modCommand::ResetView);
-    QCOMPARE(scene.Model->View().Account, u"Sparkonto"_s);
-    scene.Model->Execute(modCommand::ResetView);
-    QCOMPARE(scene.Model->View().Account, modWord::AlleKonten);
-}
-
-void testMainModel::NewVersionResetsTheView()
-{
-    cScene scene;
-    scene.Model->ToggleView(modSettingKey::ViewFix);
-    scene.Model->ToggleView(modSettingKey::ViewStart);
-    scene.Model->SaveListLayout(modSettingKey::MainList, u"x"_s);
-    scene.Model->ChooseAccount(u"Sparkonto"_s);
-    scene.Start(true);
-
-    QCOMPARE(scene.Model->View().Period, modWord::AlleBuchungen);
-    QCOMPARE(scene.Model->View().Account, modWord::AlleKonten);
-    QVERIFY(scene.Model->IsChecked(modSettingKey::ViewFix));
-    QVERIFY(!scene.Model->IsChecked(modSettingKey::ViewAllBalances));
-    QVERIFY(!scene.Model->IsChecked(modSettingKey::ViewStart)); // a reset leaves it alone
-    QVERIFY(scene.Model->Layout(modSettingKey::MainList).isEmpty());
-    QVERIFY(!scene.Model->Hint().isEmpty()); // the list reaches to 2050 now, and says so
-}
-
-void testMainModel::RestoresTheView()
-{
-    cScene scene;
-    scene.Model->ChoosePeriod(u"Letzter Monat"_s);
-    scene.Model->ChooseAccount(u"Sparkonto"_s);
-    scene.Model->ChooseGrouping(u"Nach Monat"_s);
-    scene.Model->TypeFilter(u"bäcker"_s);
-    cScene::Settle();
-    scene.Model->SaveLayout({}); // on closing, also what was typed just before
-    scene.Start();
-    QCOMPARE(scene.Model->View().Period, u"Letzter Monat"_s);
-    QCOMPARE(scene.Model->View().Account, u"Sparkonto"_s);
-    QCOMPARE(scene.Model->View().Grouping, u"Nach Monat"_s);
-    QCOMPARE(scene.Model->View().Filter, u"bäcker"_s);
-
-    scene.Book.Settings->Set(modSettingKey::MainAccount, u"Aufgelöstes Konto"_s);
-    scene.Book.Settings->Set(modSettingKey::MainPeriod, u"Irgendwann"_s);
-    scene.Start();
-    QCOMPARE(scene.Model->View().Account, modWord::AlleKonten);
-    QCOMPARE(scene.Model->View().Period, u"Aktuelles Jahr"_s);
-}
-
-void testMainModel::FreePeriodStartsWithTheShownDays()
-{
-    cScene scene;
-    scene.Model->ChoosePeriod(u"Letzter Monat"_s);
-    scene.Model->ChooseFreeRange({QDate(2026, 1, 1), QDate(2026, 1, 31)}); // not the free period: nothing happens
-    QCOMPARE(scene.Model->ShownRange().Start, QDate(2026, 2, 1));
-    scene.Model->ChoosePeriod(modWord::FreierZeitraum);
-    QCOMPARE(scene.Model->ShownRange().End, QDate(2026, 2, 28));
-    scene.Model->ChooseFreeRange({QDate(2026, 1, 1), QDate(2026, 1, 31)});
-    QCOMPARE(scene.Model->Entries().Sums().Count, 2);
-    QCOMPARE(scene.Book.Settings->Get(modSettingKey::MainPeriodEnd), u"2026-01-31"_s);
-    scene.Model->ChooseFreeRange({QDate(2026, 3, 1), QDate(2026, 1, 31)}); // the other day comes along
-    QCOMPARE(scene.Model->ShownRange(), (modPeriod::cRange{QDate(2026, 3, 1), QDate(2026, 3, 1)}));
-    scene.Model->ResetView();
-    scene.Model->ChoosePeriod(u"Letzter Monat"_s);
-    scene.Model->ChoosePeriod(modWord::FreierZeitraum);
-    QCOMPARE(scene.Model->ShownRange().Start, QDate(2026, 2, 1)); // what was chosen before the reset is gone
-}
-
-void testMainModel::FreeDaysThatCanBeNoPeriodAreReplaced_data()
-{
-    QTest::addColumn<QString>("start");
-    QTest::addColumn<QString>("end");
-    QTest::addColumn<QDate>("first");
-    QTest::addColumn<QDate>("last");
-    const QDate newYear(2026, 1, 1);
-    const QDate newYearsEve(2026, 12, 31);
-    QTest::newRow("a period") << u"2025-02-01"_s << u"2025-02-28"_s << QDate(2025, 2, 1) << QDate(2025, 2, 28);
-    QTest::newRow("open at one side") << QString() << u"2025-02-28"_s << QDate() << QDate(2025, 2, 28);
-    QTest::newRow("nothing stored") << QString() << QString() << newYear << newYearsEve;
-    QTest::newRow("end before start") << u"2026-03-01"_s << u"2026-01-31"_s << newYear << newYearsEve;
-    QTest::newRow("unreadable") << u"2026-03-01"_s << u"31.12.2026"_s << newYear << newYearsEve;
-    QTest::newRow("open sides of older versions") << u"1000-01-01"_s << u"1000-01-01"_s << newYear << newYearsEve;
-}
-
-void testMainModel::FreeDaysThatCanBeNoPeriodAreReplaced()
-{
-    QFETCH(QString, start);
-    QFETCH(QString, end);
-    cScene scene;
-    scene.Book.Settings->Set(modSettingKey::MainPeriod, modWord::FreierZeitraum);
-    scene.Book.Settings->Set(modSettingKey::MainPeriodStart, start);
-    scene.Book.Settings->Set(modSettingKey::MainPeriodEnd, end);
-    scene.Start();
-    QTEST(scene.Model->ShownRange().Start, "first");
-    QTEST(scene.Model->ShownRange().End, "last");
-}
-
-void testMainModel::NextPeriodAsksForHiddenEntries()
-{
-    cScene scene;
-    scene.Model->ToggleView(modSettingKey::ViewFuture);
-    scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
-    scene.Model->ChoosePeriod(u"Nächstes Jahr"_s);
-    QVERIFY(!scene.Model->IsChecked(modSettingKey::ViewFuture));
-    QCOMPARE(scene.Model->Entries().rowCount(), 0);
-    scene.Model->ChoosePeriod(u"Nächster Monat"_s);
-    QVERIFY(scene.Model->IsChecked(modSettingKey::ViewFuture));
-    QCOMPARE(scene.Model->Entries().rowCount(), 1);
-    scene.Model->ChoosePeriod(u"Nächstes Quartal"_s);
-    QCOMPARE(scene.Book.User.Asked.size(), 2);
-    QCOMPARE(scene.Book.User.Asked.constFirst(),
-             u"Zukünftige Buchungen werden momentan nicht angezeigt. Soll die Anzeige aktiviert werden?"_s);
-}
-
-void testMainModel::BalancesToTodayOrOfThePeriod()
-{
-    cScene scene;
-    QCOMPARE(scene.Balances(),
-             QStringList({u"Girokonto "_s + Euro(u"100,00"_s), u"Sparkonto "_s + Euro(u"300,00"_s),
-                          u"Bargeld "_s + Euro(u"0,00"_s), u"Gesamt "_s + Euro(u"400,00"_s)}));
-    scene.Model->ToggleView(modSettingKey::ViewAllBalances);
-    scene.Model->ChoosePeriod(u"Letzter Monat"_s);
-    cScene::Settle();
-    QCOMPARE(scene.Balances(),
-             QStringList({u"Girokonto "_s + Euro(u"-1.000,00"_s), u"Sparkonto "_s + Euro(u"300,00"_s),
-                          u"Bargeld "_s + Euro(u"0,00"_s), u"Gesamt "_s + Euro(u"-700,00"_s)}));
-}
-
-void testMainModel::RunningBalanceBeginsBeforeThePeriod()
-{
-    cScene scene;
-    scene.Model->ChoosePeriod(u"Letzter Monat"_s);
-    scene.Model->ChooseAccount(u"Girokonto"_s);
-    cEntryListModel& list = scene.Model->Entries();
-    QCOMPARE(list.index(0, cEntryListModel::Balance).data().toString(), Euro(u"1.100,00"_s)); // 500 + 2000 - 700 - 700
-    QCOMPARE(list.index(1, cEntryListModel::Balance).data().toString(), Euro(u"800,00"_s));   // the transfer out
-    list.sort(cEntryListModel::Amount, Qt::AscendingOrder);
-    QVERIFY(list.index(0, cEntryListModel::Balance).data().toString().isEmpty());
-}
-
-void testMainModel::FilterKeepsWhatIsLoaded()
-{
-    cScene scene;
-    const QSignalSpy changed(scene.Model.get(), &cMainModel::EntriesChanged);
-    scene.Model->TypeFilter(u"mueller gehalt"_s);
-    QVERIFY(changed.isEmpty()); // the field is still being typed into
-    cScene::Settle();
-    QCOMPARE(scene.Model->Entries().rowCount(), 1);
-    QCOMPARE(scene.Model->IncomeText(), Euro(u"2.000,00"_s));
-    scene.Model->TypeFilter({});
-    cScene::Settle();
-    QCOMPARE(scene.Model->Entries().rowCount(), 15);
-}
-
-void testMainModel::DeletesAfterSayingWhatASeriesMeans()
-{
-    cScene scene;
-    QVERIFY(!scene.Model->IsEnabled(modCommand::DeleteEntry));
-    cEntryItem march = scene.Rent;
-    march.EntryDate = QDate(2026, 3, 1);
-    scene.Select({scene.Rent, march});
-    scene.Book.User.Decisions = {-1, 1};
-    scene.Model->Execute(modCommand::DeleteEntry);
-    QCOMPARE(scene.Book.Data.CountEntries(), 5);
-    QVERIFY(scene.Book.User.Asked.constFirst().contains(u"Monatlich seit 01.01.2026"_s));
-    scene.Model->Execute(modCommand::DeleteEntry);
-    QCOMPARE(scene.Book.Data.CountEntries(), 4);
-    QCOMPARE(scene.Model->Entries().rowCount(), 3);
-    QVERIFY(scene.Model->MenuText(modCommand::Undo).endsWith(scene.Book.Data.Journal().UndoName()));
-    scene.Model->Execute(modCommand::DeleteEntry); // nothing is selected any more
-    QCOMPARE(scene.Book.User.Asked.size(), 2);
-}
-
-void testMainModel::UndoBringsTheBookBack()
-{
-    cScene scene;
-    const QSignalSpy released(scene.Model.get(), &cMainModel::StagedRowsReleased);
-    QVERIFY(!scene.Model->IsEnabled(modCommand::Undo));
-    scene.Select({scene.Rent});
-    scene.Model->Execute(modCommand::SkipPeriod);
-    scene.Book.User.Decisions = {1};
-    scene.Select({scene.Rent});
-    scene.Model->Execute(modCommand::DeleteEntry);
-    QCOMPARE(scene.Model->Entries().rowCount(), 3);
-    scene.Model->Execute(modCommand::Undo);
-    QCOMPARE(scene.Model->Entries().rowCount(), 15);
-    QCOMPARE(scene.Book.Data.GetEntryMods(scene.Rent.ID).size(), 1);
-    QCOMPARE(released.size(), 2); // bank rows may have come back with it
-    scene.Model->Execute(modCommand::Undo);
-    QVERIFY(scene.Book.Data.GetEntryMods(scene.Rent.ID).isEmpty());
-    QVERIFY(!scene.Model->IsEnabled(modCommand::Undo));
-    scene.Model->Execute(modCommand::Redo);
-    QCOMPARE(scene.Book.Data.GetEntryMods(scene.Rent.ID).size(), 1);
-}
-
-void testMainModel::CommandsDispatch()
-{
-    cScene scene;
-    scene.Select({scene.Future});
-    for (const int id : {100, 101, 103, 108, 115, 120, 107}) {
-        QVERIFY(scene.Model->Execute(id));
-    }
-    // 120 needs an occurrence of a series
-    const QString future = u"Eintrag %1 2026-03-20"_s.arg(scene.Future.ID);
-    QCOMPARE(scene.Navigator.Opened, QStringList({u"neu"_s, future, u"103"_s, u"108"_s, u"Kategorien "_s, u"Ende"_s}));
-    scene.Model->Execute(modCommand::ViewFix);
-    QVERIFY(!cSettings::ToBool(scene.Book.Settings->Get(modSettingKey::ViewFix)));
-    QVERIFY(!scene.Model->Execute(999));
-    QCOMPARE(modCommand::Keys(*modCommand::Find(100)), QStringList({u"Ctrl+N"_s, u"F5"_s})); // F5 does not refresh
-}
-
-void testMainModel::RenamesAnAccountWithItsEntries()
-{
-    cScene scene;
-    scene.Book.User.Choices = {u"  Haushalts;konto "_s};
-    scene.Book.User.Answers = {eAnswer::Yes};
-    scene.Model->ChooseAccount(u"Girokonto"_s);
-    scene.Model->RenameAccount(u"Girokonto"_s);
-    QCOMPARE(scene.Book.Data.CountEntriesOfAccount(u"Girokonto"_s), 0);
-    QCOMPARE(scene.Book.Data.CountEntriesOfAccount(u"Haushaltskonto"_s), 5);
-    QCOMPARE(scene.Model->View().Account, u"Haushaltskonto"_s);
-    QCOMPARE(scene.Model->Entries().rowCount(), 15);
-    scene.Model->Execute(modCommand::Undo);
-    QCOMPARE(scene.Model->View().Account, u"Girokonto"_s);
-    QCOMPARE(scene.Model->Entries().rowCount(), 15);
-}
-
-void testMainModel::ChangedRowsOutOfSightAreToldOf()
-{
-    cScene scene;
-    const QList<cEntryListModel::cKey> rows{{scene.Future.ID, scene.Future.EntryDate}};
-    QSignalSpy told(scene.Model.get(), &cMainModel::Told);
-    scene.Model->ChooseAccount(scene.Future.EntryAccount);
-    for (const cManyFields& fields : {cManyFields{.Description = u"Neu"_s}, cManyFields{.Account = u"Sparkonto"_s}}) {
-        QCOMPARE(cManyChange(scene.Book.Tools, rows).Save(fields), cManyChange::eSaved::Saved);
-        scene.Model->ManyChanged(rows, rows);
-    }
-    QCOMPARE(told.at(0).first().toString(), u"Eintrag 'Neu' geändert."_s);
-    QVERIFY2(told.at(1).first().toString().contains(u"blendet"_s), qPrintable(told.at(1).first().toString()));
-}
-
-void testMainModel::ReadOnlyBookOffersNoWriting()
-{
-    cScene scene;
-    const QString path = scene.Book.Path();
-    scene.Model.reset();
-    scene.Book.Database.Open(path, eOpenMode::ReadOnly);
-    scene.Start();
-    scene.Select({scene.Future});
-    QVERIFY(!scene.Model->IsEnabled(modCommand::NewEntry));
-    QVERIFY(!scene.Model->IsEnabled(modCommand::DeleteEntry));
-    scene.Model->ChoosePeriod(u"Letzter Monat"_s);
-    scene.Model->ToggleView(modSettingKey::ViewFix);
-    QCOMPARE(scene.Model->Entries().rowCount(), 1);
-    QCOMPARE(scene.Book.User.Shown, QStringList()); // looking around writes nothing and complains about nothing
-}
-
-void testMainModel::OpenRowsCountForTheirAccount()
-{
-    cScene scene;
-    cImportEntry row;
-    row.ImportAccount = u"4711"_s;
-    row.ImportDate = QDate(2026, 3, 1);
-    row.ImportValue = -500;
-    QVERIFY(scene.Book.Data.AddNewImportEntry(row));
-    scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Sparkonto"_s);
-    scene.Model->BookChanged();
-    cScene::Settle();
-    const cAccountListModel& accounts = scene.Model->AccountList();
-    QCOMPARE(accounts.index(2, cAccountListModel::Name).data().toString(), u"Sparkonto"_s);
-    QCOMPARE(accounts.index(2, cAccountListModel::Open).data().toString(), u"1"_s);
-
-    // Numbers without account, or with one that is gone, count in the total.
-    row.ImportAccount = u"0815"_s;
-    QVERIFY(scene.Book.Data.AddNewImportEntry(row));
-    row.ImportAccount = u"999"_s;
-    QVERIFY(scene.Book.Data.AddNewImportEntry(row));
-    scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"999"_s), u"Weg"_s);
-    const modAccountLines::cLines lines =
-        modAccountLines::Load(scene.Book.Data, *scene.Book.Settings, QDate(2026, 3, 1));
-    QCOMPARE(lines.Open, 3);
-    QCOMPARE(std::accumulate(lines.Accounts.begin(), lines.Accounts.end(), 0,
-                             [](int sum, const cAccountLine& line) { return sum + line.Open; }),
-             1);
-}
 
 TEST_CLASS(testMainModel, QCoreApplication)
 #include "testMainModel.moc"

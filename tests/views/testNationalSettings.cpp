@@ -1,5 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/book/cNationalSettings.h"
 
@@ -27,14 +28,10 @@ class testNationalSettings final : public QObject
 private Q_SLOTS:
     void Preview_data() const
     {
-        QTest::addColumn<QString>("format");
-        QTest::addColumn<QString>("currency");
-        QTest::addColumn<QString>("amount");
-        QTest::addColumn<QString>("negative");
-        QTest::newRow("german") << u"de-DE"_s << QString() << QString(u"1.234,56"_s + space + u'€')
-                                << QString(u"-1.234,56"_s + space + u'€');
-        QTest::newRow("the currency decides") << u"de-DE"_s << u"en-GB"_s << u"£1,234.56"_s << u"(£1,234.56)"_s;
-        QTest::newRow("repaired form") << u"de-DE"_s << u"id-ID"_s << u"1.234,56"_s << u"-1.234,56"_s;
+        const cTestRows<QString, QString, QString, QString> row("format", "currency", "amount", "negative");
+        row("german", u"de-DE"_s, {}, QString(u"1.234,56"_s + space + u'€'), QString(u"-1.234,56"_s + space + u'€'));
+        row("the currency decides", u"de-DE"_s, u"en-GB"_s, u"£1,234.56"_s, u"(£1,234.56)"_s);
+        row("repaired form", u"de-DE"_s, u"id-ID"_s, u"1.234,56"_s, u"-1.234,56"_s);
     }
 
     void Preview() const

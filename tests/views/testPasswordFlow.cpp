@@ -1,6 +1,7 @@
 #include "core/modPassword.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/book/cPasswordFlow.h"
 
@@ -33,17 +34,12 @@ private Q_SLOTS:
 
     void Objections_data() const
     {
-        QTest::addColumn<QString>("old");
-        QTest::addColumn<QString>("password");
-        QTest::addColumn<QString>("repeated");
-        QTest::addColumn<eResult>("result");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("nothing typed") << u"alt"_s << QString() << QString() << eResult::Refused
-                                       << u"Bitte geben Sie ein neues Passwort ein."_s;
-        QTest::newRow("mistyped") << u"alt"_s << u"neu"_s << u"nue"_s << eResult::Refused
-                                  << u"Die beiden neuen Passwörter stimmen nicht überein."_s;
-        QTest::newRow("the old one is wrong")
-            << u"Alt"_s << u"neu"_s << u"neu"_s << eResult::WrongPassword << QString();
+        const cTestRows<QString, QString, QString, eResult, QString> row("old", "password", "repeated", "result",
+                                                                         "message");
+        row("nothing typed", u"alt"_s, {}, {}, eResult::Refused, u"Bitte geben Sie ein neues Passwort ein."_s);
+        row("mistyped", u"alt"_s, u"neu"_s, u"nue"_s, eResult::Refused,
+            u"Die beiden neuen Passwörter stimmen nicht überein."_s);
+        row("the old one is wrong", u"Alt"_s, u"neu"_s, u"neu"_s, eResult::WrongPassword, {});
     }
 
     void Objections() const

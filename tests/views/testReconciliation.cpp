@@ -31,29 +31,13 @@ struct cScene : cTestBook
     // A row of May, assigned to the entry with this ID.
     int Row(int day, int cents, const QString& name, int entry = -1)
     {
-        cImportEntry row;
-        row.ImportAccount = number;
-        row.ImportDate = QDate(2026, 5, day);
-        row.ImportValue = cents;
-        row.ImportBeneficiary = name;
-        row.ImportAssigned = entry > 0;
-        row.ImportAssignedEntry = entry;
-        if (!Data.AddNewImportEntry(row)) {
-            qFatal("row not added");
-        }
-        return row.ID;
+        return Stage(number, QDate(2026, 5, day), cents, name, entry).ID;
     }
 
     // An expense of May.
     int Entry(int day, int cents, const QString& name, const QString& interval = modWord::Einmalig)
     {
-        return Add([&](cEntryItem& entry) {
-                   entry.EntryDate = QDate(2026, 5, day);
-                   entry.EntryValue = cents;
-                   entry.EntryDescription = name;
-                   entry.EntryInterval = interval;
-               })
-            .ID;
+        return Spend(QDate(2026, 5, day), cents, name, interval).ID;
     }
 };
 
@@ -172,12 +156,7 @@ private Q_SLOTS:
     void NamesNothingThatIsRight()
     {
         cScene scene;
-        const cEntryItem transfer = scene.Add([](cEntryItem& entry) {
-            entry.EntryDate = QDate(2026, 5, 4);
-            entry.EntryType = modWord::Umbuchung;
-            entry.EntryAccount = u"Sparkonto"_s;
-            entry.EntryAccountMove = u"Girokonto"_s;
-        });
+        const cEntryItem transfer = scene.Move(u"Sparkonto"_s, u"Girokonto"_s, 1000, QDate(2026, 5, 4));
         scene.Row(6, 1000, u"Übertrag"_s, transfer.ID);
         scene.Row(10, -6000, u"Miete"_s, scene.Entry(10, 6000, u"Miete"_s, u"Monatlich"_s));
         cReconcileListModel model(scene.Tools);

@@ -3,6 +3,7 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cContracts.h"
 #include "views/entry/cEntryEditor.h"
@@ -89,15 +90,13 @@ private Q_SLOTS:
 
     void RemindsOfContracts_data()
     {
-        QTest::addColumn<QDate>("cancelBy");
-        QTest::addColumn<QDate>("end");
-        QTest::addColumn<bool>("isReminded");
+        const cTestRows<QDate, QDate, bool> row("cancelBy", "end", "isReminded");
         const QDate never = modRecurrence::OpenEnd;
-        QTest::newRow("today is the last day") << QDate(2026, 3, 15) << never << true;
-        QTest::newRow("yesterday was") << QDate(2026, 3, 14) << never << false;
-        QTest::newRow("in a month") << QDate(2026, 4, 13) << never << true;
-        QTest::newRow("later") << QDate(2026, 4, 14) << never << false;
-        QTest::newRow("ends by itself before") << QDate(2026, 4, 13) << QDate(2026, 4, 1) << false;
+        row("today is the last day", QDate(2026, 3, 15), never, true);
+        row("yesterday was", QDate(2026, 3, 14), never, false);
+        row("in a month", QDate(2026, 4, 13), never, true);
+        row("later", QDate(2026, 4, 14), never, false);
+        row("ends by itself before", QDate(2026, 4, 13), QDate(2026, 4, 1), false);
     }
 
     void RemindsOfContracts()
@@ -158,11 +157,7 @@ private Q_SLOTS:
         scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"111"_s), u"Girokonto"_s);
         (void)scene.AddSeries(QDate(2026, 3, 1), u"Miete"_s);
         const auto import = [&](QDate day, qint64 cents) {
-            cImportEntry row;
-            row.ImportAccount = u"111"_s;
-            row.ImportDate = day;
-            row.ImportValue = cents;
-            QVERIFY(scene.Book.Data.AddNewImportEntry(row));
+            scene.Book.Stage(u"111"_s, day, cents);
             scene.Model.StatementsChanged();
         };
         scene.Model.Start();
@@ -189,9 +184,9 @@ private Q_SLOTS:
 
     void RemindsOnceOfWhatWasChangedFromADayOn_data()
     {
-        QTest::addColumn<bool>("isSplit");
-        QTest::newRow("one entry") << false;
-        QTest::newRow("a split one, the marked part of which goes") << true;
+        const cTestRows<bool> row("isSplit");
+        row("one entry", false);
+        row("a split one, the marked part of which goes", true);
     }
 
     void RemindsOnceOfWhatWasChangedFromADayOn()

@@ -1,8 +1,8 @@
 #include "core/modDemo.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
-#include "store/cDataAccess.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
 #include "views/report/cReportExport.h"
@@ -103,491 +103,374 @@ class testReport final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void Html_data();
-    void Html();
-    void HtmlOfTheDemo_data();
-    void HtmlOfTheDemo();
-    void HundredsOfCategories();
-    void Figures_data();
-    void Figures();
-    void Averages_data();
-    void Averages();
-    void AveragesOfOpenPeriods_data();
-    void AveragesOfOpenPeriods();
-    void MonthsOfALimit_data();
-    void MonthsOfALimit();
-    void Links_data();
-    void Links();
-    void LinksLeadBackToTheirLines();
-    void TagsCountInEach();
-    void Tree();
-    void SourceAsksOnce();
-    void SumsGiveTheFiguresOfTheirEntries_data();
-    void SumsGiveTheFiguresOfTheirEntries();
-    void FutureAndStartFollowTheView();
-    void Tables();
-    void SavedByEnding();
-};
-
-void testReport::Html_data()
-{
-    QTest::addColumn<cReportWish>("wish");
-    QTest::addColumn<QStringList>("entries");
-    QTest::addColumn<QStringList>("limits");
-    const QDate day(2026, 3, 10);
-    const modPeriod::cRange oneDay{day, day};
-    QTest::newRow("namen") << Wish(eReport::Sum, year2026)
-                           << QStringList{u"2026-02-01 Einnahme 5000 A&B <b>; \"x|y\" (z)"_s,
-                                          u"2026-02-01 Ausgabe 1000 Wohnung; Miete"_s,
-                                          u"2026-02-02 Ausgabe 1500 Wohnung"_s, u"2026-02-03 Ausgabe 500 "_s,
-                                          u"2026-02-03 Ausgabe 2500 ; Allein"_s}
-                           << QStringList{};
-    cReportWish print = Wish(eReport::Sum, oneDay);
-    print.Links = eReportLinks::Off;
-    print.Account = u"Rosi's <Konto>"_s;
-    QTest::newRow("druck") << print << QStringList{u"2026-03-10 Ausgabe 1234567 Wohnung; Miete"_s} << QStringList{};
-    QTest::newRow("ein-tag") << Wish(eReport::Average, oneDay)
-                             << QStringList{u"2026-03-10 Einnahme 3000 Lohn; Gehalt"_s,
-                                            u"2026-03-10 Ausgabe 1000 Wohnung; Miete"_s}
-                             << QStringList{};
-    QTest::newRow("schaltjahr") << Wish(eReport::Average, {QDate(2024, 1, 1), QDate(2024, 12, 31)})
-                                << QStringList{u"2024-02-29 Ausgabe 120000 Wohnung; Miete"_s,
-                                               u"2024-03-01 Einnahme 120000 Lohn; Gehalt"_s}
-                                << QStringList{};
-    QTest::newRow("offen") << Wish(eReport::Average, {}) << QStringList{u"2026-03-10 Ausgabe 120000 Wohnung; Miete"_s}
-                           << QStringList{};
-    QTest::newRow("limits") << Wish(eReport::Limit, modPeriod::Month(day, 0))
-                            << QStringList{u"2026-03-01 Ausgabe 450 A; 045"_s,
-                                           u"2026-03-01 Ausgabe 1000 A; 100"_s,
-                                           u"2026-03-01 Ausgabe 1004 A; 100,4"_s,
-                                           u"2026-03-01 Ausgabe 1500 A; 150"_s,
-                                           u"2026-03-01 Ausgabe 1800 A; 180"_s,
-                                           u"2026-03-01 Ausgabe 2500 A; 250"_s,
-                                           u"2026-03-01 Einnahme 500 A; erstattet"_s}
-                            << QStringList{u"A; 000=10.00"_s,   u"A; 045=10.00"_s,       u"A; 100=10.00"_s,
-                                           u"A; 100,4=10.00"_s, u"A; 150=10.00"_s,       u"A; 180=10.00"_s,
-                                           u"A; 250=10.00"_s,   u"A; erstattet=10.00"_s, u"A; ohne="_s};
-}
-
-void testReport::Html()
-{
-    QFETCH(cReportWish, wish);
-    QFETCH(QStringList, entries);
-    QFETCH(QStringList, limits);
-    const cTestFormat format;
-    const cReportFigures figures = modReport::Figures(Entries(entries), Limits(limits), wish);
-    CompareWithFile(modReportHtml::Html(figures, wish, format.Format), QString::fromUtf8(QTest::currentDataTag()));
-}
-
-void testReport::HtmlOfTheDemo_data()
-{
-    QTest::addColumn<eReport>("type");
-    QTest::addColumn<QString>("account");
-    QTest::addColumn<modPeriod::cRange>("range");
-    const modPeriod::cRange month = modPeriod::Month(QDate(2026, 2, 1), 0);
-    QTest::newRow("beispiel-summe") << eReport::Sum << u"Bargeld"_s << month;
-    QTest::newRow("beispiel-durchschnitt") << eReport::Average << u"Sparkonto"_s << year2026;
-    QTest::newRow("beispiel-limit") << eReport::Limit << QString() << month;
-}
-
-void testReport::HtmlOfTheDemo()
-{
-    QFETCH(eReport, type);
-    QFETCH(QString, account);
-    QFETCH(modPeriod::cRange, range);
-    cTestBook book;
-    book.Clock.Day = QDate(2026, 3, 15);
-    QVERIFY(modDemo::Write(book.Data, {book.Clock.Day, 1, 0}));
-    book.Settings->ResetViewDefaults();
-    cReportSource source(book.Tools);
-    const cReportWish wish = source.Wish(type, account, modWord::FreierZeitraum, range);
-    CompareWithFile(source.Html(wish), QString::fromUtf8(QTest::currentDataTag()));
-}
-
-void testReport::HundredsOfCategories()
-{
-    QStringList lines;
-    for (int i = 0; i < 300; ++i) {
-        lines.append(u"2026-02-01 Ausgabe %1 Gruppe %2; Kategorie %3"_s.arg(i + 1).arg(i % 20).arg(i));
+    void Html_data()
+    {
+        const cTestRows<cReportWish, QStringList, QStringList> row("wish", "entries", "limits");
+        const QDate day(2026, 3, 10);
+        const modPeriod::cRange oneDay{day, day};
+        row("namen", Wish(eReport::Sum, year2026),
+            {u"2026-02-01 Einnahme 5000 A&B <b>; \"x|y\" (z)"_s, u"2026-02-01 Ausgabe 1000 Wohnung; Miete"_s,
+             u"2026-02-02 Ausgabe 1500 Wohnung"_s, u"2026-02-03 Ausgabe 500 "_s, u"2026-02-03 Ausgabe 2500 ; Allein"_s},
+            {});
+        cReportWish print = Wish(eReport::Sum, oneDay);
+        print.Links = eReportLinks::Off;
+        print.Account = u"Rosi's <Konto>"_s;
+        row("druck", print, {u"2026-03-10 Ausgabe 1234567 Wohnung; Miete"_s}, {});
+        row("ein-tag", Wish(eReport::Average, oneDay),
+            {u"2026-03-10 Einnahme 3000 Lohn; Gehalt"_s, u"2026-03-10 Ausgabe 1000 Wohnung; Miete"_s}, {});
+        row("schaltjahr", Wish(eReport::Average, {QDate(2024, 1, 1), QDate(2024, 12, 31)}),
+            {u"2024-02-29 Ausgabe 120000 Wohnung; Miete"_s, u"2024-03-01 Einnahme 120000 Lohn; Gehalt"_s}, {});
+        row("offen", Wish(eReport::Average, {}), {u"2026-03-10 Ausgabe 120000 Wohnung; Miete"_s}, {});
+        row("limits", Wish(eReport::Limit, modPeriod::Month(day, 0)),
+            {u"2026-03-01 Ausgabe 450 A; 045"_s, u"2026-03-01 Ausgabe 1000 A; 100"_s,
+             u"2026-03-01 Ausgabe 1004 A; 100,4"_s, u"2026-03-01 Ausgabe 1500 A; 150"_s,
+             u"2026-03-01 Ausgabe 1800 A; 180"_s, u"2026-03-01 Ausgabe 2500 A; 250"_s,
+             u"2026-03-01 Einnahme 500 A; erstattet"_s},
+            {u"A; 000=10.00"_s, u"A; 045=10.00"_s, u"A; 100=10.00"_s, u"A; 100,4=10.00"_s, u"A; 150=10.00"_s,
+             u"A; 180=10.00"_s, u"A; 250=10.00"_s, u"A; erstattet=10.00"_s, u"A; ohne="_s});
     }
-    const cReportWish wish = Wish(eReport::Sum, year2026);
-    const cReportFigures figures = modReport::Figures(Entries(lines), {}, wish);
-    QCOMPARE(figures.Expense.Amount.Cents, 300 * 301 / 2);
-    QCOMPARE(figures.Expense.Groups.size(), 20);
-    QCOMPARE(figures.Expense.Groups.at(2).Name, u"Gruppe 2"_s); // numbers in names as numbers
-    const cTestFormat format;
-    const QString html = modReportHtml::Html(figures, wish, format.Format);
-    QCOMPARE(html.count(u"SHOWENTRIES://Ausgaben|"_s), 320);
-    QCOMPARE(html.count(u"<div"_s), html.count(u"</div>"_s));
-}
 
-void testReport::Figures_data()
-{
-    QTest::addColumn<cReportWish>("wish");
-    QTest::addColumn<QStringList>("entries");
-    QTest::addColumn<QStringList>("limits");
-    QTest::addColumn<QString>("income");
-    QTest::addColumn<QString>("expense");
-    const QStringList none;
-    cReportWish sum = Wish(eReport::Sum, year2026);
-    QTest::newRow("German order") << sum
-                                  << QStringList{u"2026-01-01 Ausgabe 1 Zoo; B"_s, u"2026-01-01 Ausgabe 2 Ärzte; Ö"_s,
-                                                 u"2026-01-01 Ausgabe 3 Auto; C"_s, u"2026-01-01 Ausgabe 4 Auto"_s,
-                                                 u"2026-01-01 Ausgabe 5 Auto; Zubehör"_s}
-                                  << none << QString()
-                                  << u"Ärzte 2: Ö (Ärzte) 2 | Auto 12: C (Auto) 3, Sonstiges (Auto) 4, Zubehör (Auto) "
-                                     "5 | Zoo 1: B (Zoo) 1"_s;
-    sum.Order = eReportOrder::ByAmount;
-    QTest::newRow("by amount") << sum
-                               << QStringList{u"2026-01-01 Ausgabe 1 A; X"_s, u"2026-01-01 Ausgabe 4 B; Y"_s,
-                                              u"2026-01-01 Ausgabe 3 A; Z"_s, u"2026-01-01 Ausgabe 2 C; A"_s}
-                               << none << QString() << u"A 4: Z (A) 3, X (A) 1 | B 4: Y (B) 4 | C 2: A (C) 2"_s;
-    sum.Order = eReportOrder::ByName;
-    const QStringList mixed{u"2026-01-01 Einnahme 700 Allgemein; Startguthaben"_s,
-                            u"2026-01-01 Umbuchung 900 Sparen; Rücklage"_s,
-                            u"2026-01-01 Einnahme 20 A; X"_s,
-                            u"2026-01-01 Ausgabe 50 A; X"_s,
-                            u"2026-01-02 Ausgabe 7 Keine Angabe"_s,
-                            u"2026-01-02 Ausgabe 6 "_s};
-    QTest::newRow("transfers never, start balances shown")
-        << sum << mixed << none << u"A 20: X (A) 20 | Allgemein 700: Startguthaben (Allgemein) 700"_s
-        << u"A 50: X (A) 50 | Keine Angabe 13: Sonstiges (Keine Angabe) 13"_s;
-    sum.ShowsStart = false;
-    QTest::newRow("start balances hidden") << sum << mixed << none << u"A 20: X (A) 20"_s
-                                           << u"A 50: X (A) 50 | Keine Angabe 13: Sonstiges (Keine Angabe) 13"_s;
-    QTest::newRow("averages know no start balances")
-        << Wish(eReport::Average, year2026) << QStringList{mixed.constFirst()} << none << QString() << QString();
-    const QStringList limits{u"A; X=1.00"_s, u"A; Y=0"_s, u"A; Z=2,50"_s, u"Lohn; Gehalt=2500=Einnahme"_s};
-    cReportWish limit = Wish(eReport::Limit, modPeriod::Month(QDate(2026, 1, 1), 0));
-    QTest::newRow("refunds lessen what was spent")
-        << limit << mixed << limits << QString() << u"A 30: X (A) 30, Z (A) 0"_s;
-    limit.Spending = eReportSpending::Gross;
-    QTest::newRow("gross") << limit << mixed << limits << QString() << u"A 50: X (A) 50, Z (A) 0"_s;
-}
-
-void testReport::Figures()
-{
-    QFETCH(cReportWish, wish);
-    QFETCH(QStringList, entries);
-    QFETCH(QStringList, limits);
-    const cReportFigures figures = modReport::Figures(Entries(entries), Limits(limits), wish);
-    QTEST(Plain(figures.Income), "income");
-    QTEST(Plain(figures.Expense), "expense");
-}
-
-void testReport::Averages_data()
-{
-    QTest::addColumn<modPeriod::cRange>("range");
-    QTest::addColumn<qint64>("days");
-    QTest::addColumn<qint64>("yearBasis");
-    QTest::addColumn<qint64>("average"); // of 1,000.00
-    QTest::newRow("common year") << year2026 << 364LL << 364LL << 8333LL;
-    QTest::newRow("leap year") << modPeriod::cRange{QDate(2024, 1, 1), QDate(2024, 12, 31)} << 365LL << 365LL << 8333LL;
-    QTest::newRow("one day") << modPeriod::cRange{QDate(2026, 5, 5), QDate(2026, 5, 5)} << 1LL << 364LL << 3033333LL;
-    QTest::newRow("quarter") << modPeriod::cRange{QDate(2026, 1, 1), QDate(2026, 3, 31)} << 89LL << 364LL << 34082LL;
-    QTest::newRow("two months of two years")
-        << modPeriod::cRange{QDate(2025, 12, 1), QDate(2026, 1, 31)} << 61LL << 729LL << 49795LL;
-    QTest::newRow("two years") << modPeriod::cRange{QDate(2025, 1, 1), QDate(2026, 12, 31)} << 729LL << 729LL << 4167LL;
-}
-
-void testReport::Averages()
-{
-    QFETCH(modPeriod::cRange, range);
-    const cReportWish wish = Wish(eReport::Average, range);
-    const cReportBasis basis = modReport::Basis(wish, {});
-    QTEST(basis.Days, "days");
-    QTEST(basis.YearBasis, "yearBasis");
-    QTEST(modReport::PerMonth(100000, basis), "average");
-}
-
-// What comes every month is its own average, however the period is chosen: open sides are those of the entries that
-// count.
-void testReport::AveragesOfOpenPeriods_data()
-{
-    QTest::addColumn<modPeriod::cRange>("range");
-    QTest::newRow("open") << modPeriod::cRange{};
-    QTest::newRow("up to today") << modPeriod::cRange{QDate(1001, 1, 1), QDate(2026, 12, 31)};
-    QTest::newRow("open end") << modPeriod::cRange{QDate(2025, 1, 1), {}};
-    QTest::newRow("two years") << modPeriod::cRange{QDate(2025, 1, 1), QDate(2026, 12, 31)};
-}
-
-void testReport::AveragesOfOpenPeriods()
-{
-    QFETCH(modPeriod::cRange, range);
-    QStringList lines{u"1999-01-01 Einnahme 700 Allgemein; Startguthaben"_s, u"2040-01-01 Umbuchung 900 Sparen"_s};
-    for (QDate day(2025, 1, 28); day.year() < 2027; day = day.addMonths(1)) {
-        lines.append(day.toString(Qt::ISODate) + u" Ausgabe 100000 Wohnung; Miete"_s);
+    void Html()
+    {
+        QFETCH(cReportWish, wish);
+        QFETCH(QStringList, entries);
+        QFETCH(QStringList, limits);
+        const cTestFormat format;
+        const cReportFigures figures = modReport::Figures(Entries(entries), Limits(limits), wish);
+        CompareWithFile(modReportHtml::Html(figures, wish, format.Format), QString::fromUtf8(QTest::currentDataTag()));
     }
-    const cReportFigures figures = modReport::Figures(Entries(lines), {}, Wish(eReport::Average, range));
-    QCOMPARE(Plain(figures.Expense), u"Wohnung 100000: Miete (Wohnung) 100000"_s);
-}
 
-void testReport::MonthsOfALimit_data()
-{
-    QTest::addColumn<modPeriod::cRange>("range");
-    QTest::addColumn<int>("months");
-    QTest::newRow("year") << year2026 << 12;
-    QTest::newRow("two days of two months") << modPeriod::cRange{QDate(2026, 1, 31), QDate(2026, 2, 1)} << 2;
-    QTest::newRow("over the year") << modPeriod::cRange{QDate(2025, 12, 15), QDate(2026, 1, 15)} << 2;
-    QTest::newRow("open: the months with entries") << modPeriod::cRange{} << 4;
-    QTest::newRow("up to today") << modPeriod::cRange{QDate(1001, 1, 1), QDate(2026, 6, 1)} << 5;
-    QTest::newRow("open end") << modPeriod::cRange{QDate(2026, 1, 1), {}} << 5;
-}
-
-void testReport::MonthsOfALimit()
-{
-    QFETCH(modPeriod::cRange, range);
-    const cEntryItemList entries = Entries({u"2026-05-01 Ausgabe 1 A; X"_s, u"2026-02-28 Ausgabe 1 A; X"_s});
-    QTEST(modReport::Figures(entries, {}, Wish(eReport::Limit, range)).Basis.Months, "months");
-}
-
-void testReport::Links_data()
-{
-    using namespace modReportLink;
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<cLink>("link");
-    const modPeriod::cRange range{QDate(2026, 1, 1), QDate(2026, 1, 31)};
-    const auto shown = [&](const cReportNode& node, const QString& path) {
-        return cLink(cShowEntries{node, node, range, {}, path});
-    };
-    const QString head = u"SHOWENTRIES://Ausgaben|01.01.2026|31.01.2026|Alle%20Konten|"_s;
-    const cReportNode car{eReportKind::Expense, u"Auto"_s, u"Neue Reifen"_s};
-    const cReportNode group{eReportKind::Expense, u"Auto"_s};
-    QTest::newRow("blanks as codes") << head + u"Auto;%20Neue%20Reifen"_s << shown(car, u"Auto; Neue Reifen"_s);
-    QTest::newRow("slash at the end") << head + u"Auto; Neue Reifen/"_s << shown(car, u"Auto; Neue Reifen"_s);
-    QTest::newRow("group") << head + u"Auto; "_s << shown(group, u"Auto"_s);
-    QTest::newRow("group, blank lost") << head + u"Auto;/"_s << shown(group, u"Auto"_s);
-    QTest::newRow("other letter case") << QString(head).replace(u"SHOWENTRIES"_s, u"showEntries"_s) + u"Auto;"_s
-                                       << shown(group, u"Auto"_s);
-    QTest::newRow("parenthesis") << head + u"Auto; Steuer (Kfz)"_s
-                                 << cLink(cShowEntries{{eReportKind::Expense, u"Auto"_s, u"Steuer (Kfz)"_s},
-                                                       {eReportKind::Expense, u"Auto"_s, u"Steuer"_s},
-                                                       range,
-                                                       {},
-                                                       u"Auto; Steuer (Kfz)"_s});
-    QTest::newRow("account") << u"SHOWENTRIES://Einnahmen|01.01.2026|31.01.2026|Giro|Lohn; Gehalt"_s
-                             << cLink(cShowEntries{{eReportKind::Income, u"Lohn"_s, u"Gehalt"_s},
-                                                   {eReportKind::Income, u"Lohn"_s, u"Gehalt"_s},
-                                                   range,
-                                                   u"Giro"_s,
-                                                   u"Lohn; Gehalt"_s});
-    QTest::newRow("printed") << u"SHOWENTRIES://||||"_s << cLink();
-    QTest::newRow("four fields") << u"SHOWENTRIES://Ausgaben|01.01.2026|31.01.2026|Giro"_s << cLink();
-    QTest::newRow("category") << u"editcategory://Auto;%20Steuer/"_s << cLink(cEditCategory{u"Auto; Steuer"_s});
-    QTest::newRow("page") << u"http://example.org/a%20b"_s << cLink(cOpenPage{u"http://example.org/a%20b"_s});
-    QTest::newRow("something else") << u"file:///etc/passwd"_s << cLink();
-}
-
-void testReport::Links()
-{
-    QFETCH(QString, text);
-    QTEST(modReportLink::Parse(text), "link");
-}
-
-// Also with names that hold what the link itself is made of.
-void testReport::LinksLeadBackToTheirLines()
-{
-    for (const QString& name : {u"Essen"_s, u"a|b"_s, u"Essen/Trinken/"_s, u"100%20"_s, u"5 % %25%2520"_s, u"X (Y)"_s,
-                                u"B; C"_s, u"Blank "_s, QString()}) {
-        modReportLink::cLine line;
-        line.Range = year2026;
-        line.Account = u"Konto|1/"_s;
-        line.Group = u"Haus"_s;
-        line.Category = name;
-        const modReportLink::cLink link = modReportLink::Parse(modReportLink::ShowEntries(line));
-        const auto* shown = std::get_if<modReportLink::cShowEntries>(&link);
-        QVERIFY2(shown != nullptr, qPrintable(name));
-        QCOMPARE(shown->Node.Group, u"Haus"_s);
-        QCOMPARE(shown->Node.Category.value_or(QString()), name);
-        QCOMPARE(shown->Account, u"Konto|1/"_s);
-        QCOMPARE(shown->Range, year2026);
+    void HtmlOfTheDemo_data()
+    {
+        const cTestRows<eReport, QString, modPeriod::cRange> row("type", "account", "range");
+        const modPeriod::cRange month = modPeriod::Month(QDate(2026, 2, 1), 0);
+        row("beispiel-summe", eReport::Sum, u"Bargeld"_s, month);
+        row("beispiel-durchschnitt", eReport::Average, u"Sparkonto"_s, year2026);
+        row("beispiel-limit", eReport::Limit, {}, month);
     }
-}
 
-// An entry with two tags stands in both groups and once in the sums; what has none comes last.
-void testReport::TagsCountInEach()
-{
-    cEntryItemList entries =
-        Entries({u"2026-02-01 Ausgabe 10000 Reisen; Hotel"_s, u"2026-02-02 Ausgabe 2500 Haushalt"_s,
-                 u"2026-02-03 Ausgabe 4000 "_s, u"2026-02-04 Einnahme 700 Reisen; Hotel"_s,
-                 u"2026-02-05 Umbuchung 9900 Geldanlage"_s});
-    const QStringList texts{u"Hotel #Urlaub #urlaub #kinder"_s, u"Eis #kinder"_s, u"Los #1"_s, u"zurück #URLAUB"_s,
-                            u"#urlaub"_s};
-    for (qsizetype i = 0; i < entries.size(); ++i) {
-        entries[i].EntryDescription = texts.at(i);
+    void HtmlOfTheDemo()
+    {
+        QFETCH(eReport, type);
+        QFETCH(QString, account);
+        QFETCH(modPeriod::cRange, range);
+        cTestBook book;
+        book.Clock.Day = QDate(2026, 3, 15);
+        QVERIFY(modDemo::Write(book.Data, {book.Clock.Day, 1, 0}));
+        book.Settings->ResetViewDefaults();
+        cReportSource source(book.Tools);
+        const cReportWish wish = source.Wish(type, account, modWord::FreierZeitraum, range);
+        CompareWithFile(source.Html(wish), QString::fromUtf8(QTest::currentDataTag()));
     }
-    const cTestFormat format;
-    const cReportWish wish = Wish(eReport::Tag, year2026);
-    const cReportFigures figures = modReport::Figures(entries, {}, wish);
-    QCOMPARE(Plain(figures.Expense),
-             u"#kinder 12500: Haushalt 2500, Reisen; Hotel 10000 | #Urlaub 10000: Reisen; Hotel "
-             "10000 | ohne Schlagwort 4000: Keine Angabe 4000"_s);
-    QCOMPARE(Plain(figures.Income), u"#Urlaub 700: Reisen; Hotel 700"_s);
-    QCOMPARE(figures.Expense.Amount, (cReportAmount{.Cents = 16500, .Sum = 16500, .Entries = 3}));
-    QVERIFY(modReportHtml::Html(figures, wish, format.Format).contains(modReport::Note(eReport::Tag)));
-    for (const cReportSection* section : {&figures.Income, &figures.Expense}) {
-        for (const cReportGroup& group : section->Groups) {
-            const cReportNode node{section->Kind, group.Name};
-            QCOMPARE(modReport::EntriesOf(entries, wish, node).size(), group.Amount.Entries);
-            for (const cReportCategory& category : group.Categories) {
-                const cReportNode part{section->Kind, group.Name, category.Name};
-                QCOMPARE(modReport::EntriesOf(entries, wish, part).size(), category.Amount.Entries);
+
+    void Figures_data()
+    {
+        const cTestRows<cReportWish, QStringList, QStringList, QString, QString> row("wish", "entries", "limits",
+                                                                                     "income", "expense");
+        const QStringList none;
+        cReportWish sum = Wish(eReport::Sum, year2026);
+        row("German order, numbers as numbers", sum,
+            {u"2026-01-01 Ausgabe 1 Zoo 10; B"_s, u"2026-01-01 Ausgabe 6 Zoo 2; B"_s,
+             u"2026-01-01 Ausgabe 2 Ärzte; Ö"_s, u"2026-01-01 Ausgabe 3 Auto; C"_s, u"2026-01-01 Ausgabe 4 Auto"_s,
+             u"2026-01-01 Ausgabe 5 Auto; Zubehör"_s},
+            none, {},
+            u"Ärzte 2: Ö (Ärzte) 2 | Auto 12: C (Auto) 3, Sonstiges (Auto) 4, Zubehör (Auto) "
+            "5 | Zoo 2 6: B (Zoo 2) 6 | Zoo 10 1: B (Zoo 10) 1"_s);
+        sum.Order = eReportOrder::ByAmount;
+        row("by amount", sum,
+            {u"2026-01-01 Ausgabe 1 A; X"_s, u"2026-01-01 Ausgabe 4 B; Y"_s, u"2026-01-01 Ausgabe 3 A; Z"_s,
+             u"2026-01-01 Ausgabe 2 C; A"_s},
+            none, {}, u"A 4: Z (A) 3, X (A) 1 | B 4: Y (B) 4 | C 2: A (C) 2"_s);
+        sum.Order = eReportOrder::ByName;
+        const QStringList mixed{u"2026-01-01 Einnahme 700 Allgemein; Startguthaben"_s,
+                                u"2026-01-01 Umbuchung 900 Sparen; Rücklage"_s,
+                                u"2026-01-01 Einnahme 20 A; X"_s,
+                                u"2026-01-01 Ausgabe 50 A; X"_s,
+                                u"2026-01-02 Ausgabe 7 Keine Angabe"_s,
+                                u"2026-01-02 Ausgabe 6 "_s};
+        row("transfers never, start balances shown", sum, mixed, none,
+            u"A 20: X (A) 20 | Allgemein 700: Startguthaben (Allgemein) 700"_s,
+            u"A 50: X (A) 50 | Keine Angabe 13: Sonstiges (Keine Angabe) 13"_s);
+        sum.ShowsStart = false;
+        row("start balances hidden", sum, mixed, none, u"A 20: X (A) 20"_s,
+            u"A 50: X (A) 50 | Keine Angabe 13: Sonstiges (Keine Angabe) 13"_s);
+        row("averages know no start balances", Wish(eReport::Average, year2026), {mixed.constFirst()}, none, {}, {});
+        const QStringList limits{u"A; X=1.00"_s, u"A; Y=0"_s, u"A; Z=2,50"_s, u"Lohn; Gehalt=2500=Einnahme"_s};
+        cReportWish limit = Wish(eReport::Limit, modPeriod::Month(QDate(2026, 1, 1), 0));
+        row("refunds lessen what was spent", limit, mixed, limits, {}, u"A 30: X (A) 30, Z (A) 0"_s);
+        limit.Spending = eReportSpending::Gross;
+        row("gross", limit, mixed, limits, {}, u"A 50: X (A) 50, Z (A) 0"_s);
+    }
+
+    void Figures()
+    {
+        QFETCH(cReportWish, wish);
+        QFETCH(QStringList, entries);
+        QFETCH(QStringList, limits);
+        const cReportFigures figures = modReport::Figures(Entries(entries), Limits(limits), wish);
+        QTEST(Plain(figures.Income), "income");
+        QTEST(Plain(figures.Expense), "expense");
+    }
+
+    // What comes every month is its own average, however the period is chosen: open sides are those of the entries that
+    // count.
+    void AveragesOfOpenPeriods_data()
+    {
+        const cTestRows<modPeriod::cRange> row("range");
+        row("open", {});
+        row("up to today", {QDate(1001, 1, 1), QDate(2026, 12, 31)});
+        row("open end", {QDate(2025, 1, 1), {}});
+        row("two years", {QDate(2025, 1, 1), QDate(2026, 12, 31)});
+    }
+
+    void AveragesOfOpenPeriods()
+    {
+        QFETCH(modPeriod::cRange, range);
+        QStringList lines{u"1999-01-01 Einnahme 700 Allgemein; Startguthaben"_s, u"2040-01-01 Umbuchung 900 Sparen"_s};
+        for (QDate day(2025, 1, 28); day.year() < 2027; day = day.addMonths(1)) {
+            lines.append(day.toString(Qt::ISODate) + u" Ausgabe 100000 Wohnung; Miete"_s);
+        }
+        const cReportFigures figures = modReport::Figures(Entries(lines), {}, Wish(eReport::Average, range));
+        QCOMPARE(Plain(figures.Expense), u"Wohnung 100000: Miete (Wohnung) 100000"_s);
+    }
+
+    void MonthsOfALimit_data()
+    {
+        const cTestRows<modPeriod::cRange, int> row("range", "months");
+
+        row("open: the months with entries", {}, 4);
+        row("up to today", {QDate(1001, 1, 1), QDate(2026, 6, 1)}, 5);
+        row("open end", {QDate(2026, 1, 1), {}}, 5);
+    }
+
+    void MonthsOfALimit()
+    {
+        QFETCH(modPeriod::cRange, range);
+        const cEntryItemList entries = Entries({u"2026-05-01 Ausgabe 1 A; X"_s, u"2026-02-28 Ausgabe 1 A; X"_s});
+        QTEST(modReport::Figures(entries, {}, Wish(eReport::Limit, range)).Basis.Months, "months");
+    }
+
+    void Links_data()
+    {
+        using namespace modReportLink;
+        const cTestRows<QString, cLink> row("text", "link");
+        const modPeriod::cRange range{QDate(2026, 1, 1), QDate(2026, 1, 31)};
+        const auto shown = [&](const cReportNode& node, const QString& path) {
+            return cLink(cShowEntries{node, node, range, {}, path});
+        };
+        const QString head = u"SHOWENTRIES://Ausgaben|01.01.2026|31.01.2026|Alle%20Konten|"_s;
+        const cReportNode car{eReportKind::Expense, u"Auto"_s, u"Neue Reifen"_s};
+        const cReportNode group{eReportKind::Expense, u"Auto"_s};
+        row("blanks as codes", head + u"Auto;%20Neue%20Reifen"_s, shown(car, u"Auto; Neue Reifen"_s));
+        row("slash at the end", head + u"Auto; Neue Reifen/"_s, shown(car, u"Auto; Neue Reifen"_s));
+        row("group", head + u"Auto; "_s, shown(group, u"Auto"_s));
+        row("group, blank lost", head + u"Auto;/"_s, shown(group, u"Auto"_s));
+        row("other letter case", QString(head).replace(u"SHOWENTRIES"_s, u"showEntries"_s) + u"Auto;"_s,
+            shown(group, u"Auto"_s));
+        row("parenthesis", head + u"Auto; Steuer (Kfz)"_s,
+            cLink(cShowEntries{{eReportKind::Expense, u"Auto"_s, u"Steuer (Kfz)"_s},
+                               {eReportKind::Expense, u"Auto"_s, u"Steuer"_s},
+                               range,
+                               {},
+                               u"Auto; Steuer (Kfz)"_s}));
+        row("account", u"SHOWENTRIES://Einnahmen|01.01.2026|31.01.2026|Giro|Lohn; Gehalt"_s,
+            cLink(cShowEntries{{eReportKind::Income, u"Lohn"_s, u"Gehalt"_s},
+                               {eReportKind::Income, u"Lohn"_s, u"Gehalt"_s},
+                               range,
+                               u"Giro"_s,
+                               u"Lohn; Gehalt"_s}));
+        row("printed", u"SHOWENTRIES://||||"_s, {});
+        row("four fields", u"SHOWENTRIES://Ausgaben|01.01.2026|31.01.2026|Giro"_s, {});
+        row("category", u"editcategory://Auto;%20Steuer/"_s, cLink(cEditCategory{u"Auto; Steuer"_s}));
+        row("page", u"http://example.org/a%20b"_s, cLink(cOpenPage{u"http://example.org/a%20b"_s}));
+        row("something else", u"file:///etc/passwd"_s, {});
+    }
+
+    void Links()
+    {
+        QFETCH(QString, text);
+        QTEST(modReportLink::Parse(text), "link");
+    }
+
+    // Also with names that hold what the link itself is made of.
+    void LinksLeadBackToTheirLines()
+    {
+        for (const QString& name : {u"Essen"_s, u"a|b"_s, u"Essen/Trinken/"_s, u"100%20"_s, u"5 % %25%2520"_s,
+                                    u"X (Y)"_s, u"B; C"_s, u"Blank "_s, QString()}) {
+            modReportLink::cLine line;
+            line.Range = year2026;
+            line.Account = u"Konto|1/"_s;
+            line.Group = u"Haus"_s;
+            line.Category = name;
+            const modReportLink::cLink link = modReportLink::Parse(modReportLink::ShowEntries(line));
+            const auto* shown = std::get_if<modReportLink::cShowEntries>(&link);
+            QVERIFY2(shown != nullptr, qPrintable(name));
+            QCOMPARE(shown->Node.Group, u"Haus"_s);
+            QCOMPARE(shown->Node.Category.value_or(QString()), name);
+            QCOMPARE(shown->Account, u"Konto|1/"_s);
+            QCOMPARE(shown->Range, year2026);
+        }
+    }
+
+    // An entry with two tags stands in both groups and once in the sums; what has none comes last.
+    void TagsCountInEach()
+    {
+        cEntryItemList entries =
+            Entries({u"2026-02-01 Ausgabe 10000 Reisen; Hotel"_s, u"2026-02-02 Ausgabe 2500 Haushalt"_s,
+                     u"2026-02-03 Ausgabe 4000 "_s, u"2026-02-04 Einnahme 700 Reisen; Hotel"_s,
+                     u"2026-02-05 Umbuchung 9900 Geldanlage"_s});
+        const QStringList texts{u"Hotel #Urlaub #urlaub #kinder"_s, u"Eis #kinder"_s, u"Los #1"_s, u"zurück #URLAUB"_s,
+                                u"#urlaub"_s};
+        for (qsizetype i = 0; i < entries.size(); ++i) {
+            entries[i].EntryDescription = texts.at(i);
+        }
+        const cTestFormat format;
+        const cReportWish wish = Wish(eReport::Tag, year2026);
+        const cReportFigures figures = modReport::Figures(entries, {}, wish);
+        QCOMPARE(Plain(figures.Expense),
+                 u"#kinder 12500: Haushalt 2500, Reisen; Hotel 10000 | #Urlaub 10000: Reisen; Hotel "
+                 "10000 | ohne Schlagwort 4000: Keine Angabe 4000"_s);
+        QCOMPARE(Plain(figures.Income), u"#Urlaub 700: Reisen; Hotel 700"_s);
+        QCOMPARE(figures.Expense.Amount, (cReportAmount{.Cents = 16500, .Sum = 16500, .Entries = 3}));
+        QVERIFY(modReportHtml::Html(figures, wish, format.Format).contains(modReport::Note(eReport::Tag)));
+        for (const cReportSection* section : {&figures.Income, &figures.Expense}) {
+            for (const cReportGroup& group : section->Groups) {
+                const cReportNode node{section->Kind, group.Name};
+                QCOMPARE(modReport::EntriesOf(entries, wish, node).size(), group.Amount.Entries);
+                for (const cReportCategory& category : group.Categories) {
+                    const cReportNode part{section->Kind, group.Name, category.Name};
+                    QCOMPARE(modReport::EntriesOf(entries, wish, part).size(), category.Amount.Entries);
+                }
             }
         }
     }
-}
 
-void testReport::Tree()
-{
-    const cTestFormat format;
-    cReportTreeModel tree(format.Format);
-    const QAbstractItemModelTester tester(&tree, QAbstractItemModelTester::FailureReportingMode::QtTest);
-    const cEntryItemList entries = Entries({u"2026-01-01 Einnahme 700 Lohn; Gehalt"_s, u"2026-01-01 Ausgabe 50 A; X"_s,
-                                            u"2026-01-01 Ausgabe 30 A"_s, u"2026-01-01 Ausgabe 20 A; X"_s});
-    tree.SetFigures(modReport::Figures(entries, {}, Wish(eReport::Sum, year2026)));
-    QCOMPARE(tree.rowCount(), 2);
-    QCOMPARE(tree.columnCount(), 2);
-    const cReportNode node{eReportKind::Expense, u"A"_s, u"X"_s};
-    const QModelIndex found = tree.FindNode(node);
-    QVERIFY(found.isValid());
-    QCOMPARE(tree.NodeAt(found), node);
-    QCOMPARE(found.siblingAtColumn(cReportTreeModel::Amount).data().toString(), format.Format.Cents(70));
-    QCOMPARE(found.parent(), tree.FindNode({eReportKind::Expense, u"A"_s}));
-    QCOMPARE(found.parent().parent(), tree.index(1, 0));
-    // What is booked on the main category itself is not the main category as a whole.
-    QCOMPARE(tree.FindNode({eReportKind::Expense, u"A"_s, QString()}).data().toString(), u"Sonstiges"_s);
-    QVERIFY(!tree.FindNode({eReportKind::Income, u"A"_s, u"X"_s}).isValid());
-    cReportWish limit = Wish(eReport::Limit, modPeriod::Month(QDate(2026, 1, 1), 0));
-    tree.SetFigures(modReport::Figures(entries, Limits({u"A; X=0.50"_s}), limit));
-    QCOMPARE(tree.rowCount(), 1);
-    QCOMPARE(tree.FindNode(node).siblingAtColumn(cReportTreeModel::Limit).data().toString(), format.Format.Cents(50));
-}
+    void Tree()
+    {
+        const cTestFormat format;
+        cReportTreeModel tree(format.Format);
+        const QAbstractItemModelTester tester(&tree, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        const cEntryItemList entries =
+            Entries({u"2026-01-01 Einnahme 700 Lohn; Gehalt"_s, u"2026-01-01 Ausgabe 50 A; X"_s,
+                     u"2026-01-01 Ausgabe 30 A"_s, u"2026-01-01 Ausgabe 20 A; X"_s});
+        tree.SetFigures(modReport::Figures(entries, {}, Wish(eReport::Sum, year2026)));
+        QCOMPARE(tree.rowCount(), 2);
+        QCOMPARE(tree.columnCount(), 2);
+        const cReportNode node{eReportKind::Expense, u"A"_s, u"X"_s};
+        const QModelIndex found = tree.FindNode(node);
+        QVERIFY(found.isValid());
+        QCOMPARE(tree.NodeAt(found), node);
+        QCOMPARE(found.siblingAtColumn(cReportTreeModel::Amount).data().toString(), format.Format.Cents(70));
+        QCOMPARE(found.parent(), tree.FindNode({eReportKind::Expense, u"A"_s}));
+        QCOMPARE(found.parent().parent(), tree.index(1, 0));
+        // What is booked on the main category itself is not the main category as a whole.
+        QCOMPARE(tree.FindNode({eReportKind::Expense, u"A"_s, QString()}).data().toString(), u"Sonstiges"_s);
+        QVERIFY(!tree.FindNode({eReportKind::Income, u"A"_s, u"X"_s}).isValid());
+        cReportWish limit = Wish(eReport::Limit, modPeriod::Month(QDate(2026, 1, 1), 0));
+        tree.SetFigures(modReport::Figures(entries, Limits({u"A; X=0.50"_s}), limit));
+        QCOMPARE(tree.rowCount(), 1);
+        QCOMPARE(tree.FindNode(node).siblingAtColumn(cReportTreeModel::Limit).data().toString(),
+                 format.Format.Cents(50));
+    }
 
-void testReport::SourceAsksOnce()
-{
-    cTestBook book;
-    const cEntryItem entry = book.Add([](cEntryItem&) {});
-    cReportSource source(book.Tools);
-    cReportWish wish = Wish(eReport::Sum, year2026);
-    QCOMPARE(source.Figures(wish).Expense.Amount.Cents, 1000);
-    QVERIFY(book.Data.DeleteEntry(entry.ID)); // nobody has told the source
-    wish.Type = eReport::Average;
-    wish.Order = eReportOrder::ByAmount;
-    QCOMPARE(source.Figures(wish).Expense.Amount.Sum, 1000);
-    wish.Account = u"Girokonto"_s;
-    QCOMPARE(source.Figures(wish).Expense.Amount.Sum, 0);
-    wish.Account.clear();
-    source.Forget();
-    QCOMPARE(source.Figures(wish).Expense.Amount.Sum, 0);
-}
+    void SourceAsksOnce()
+    {
+        cTestBook book;
+        const cEntryItem entry = book.Add([](cEntryItem&) {});
+        cReportSource source(book.Tools);
+        cReportWish wish = Wish(eReport::Sum, year2026);
+        QCOMPARE(source.Figures(wish).Expense.Amount.Cents, 1000);
+        QVERIFY(book.Data.DeleteEntry(entry.ID)); // nobody has told the source
+        wish.Type = eReport::Average;
+        wish.Order = eReportOrder::ByAmount;
+        QCOMPARE(source.Figures(wish).Expense.Amount.Sum, 1000);
+        wish.Account = u"Girokonto"_s;
+        QCOMPARE(source.Figures(wish).Expense.Amount.Sum, 0);
+        wish.Account.clear();
+        source.Forget();
+        QCOMPARE(source.Figures(wish).Expense.Amount.Sum, 0);
+    }
 
-void testReport::SumsGiveTheFiguresOfTheirEntries_data()
-{
-    QTest::addColumn<QString>("change");
-    QTest::newRow("plain days") << QString();
-    QTest::newRow("a day that only the database reads") << u"EntryDate = '2026-04-05 10:00' WHERE ID = 3"_s;
-    QTest::newRow("a day that nobody reads") << u"EntryDate = '2026-1-5' WHERE ID = 3"_s;
-    QTest::newRow("a series that nobody can place") << u"EntryDate = 'bald' WHERE EntryInterval = 'Monatlich'"_s;
-    QTest::newRow("no category") << u"EntryCategory = NULL WHERE ID = 3"_s;
-}
+    void SumsGiveTheFiguresOfTheirEntries_data()
+    {
+        const cTestRows<QString> row("change");
+        row("plain days", {});
+        row("a day that only the database reads", u"EntryDate = '2026-04-05 10:00' WHERE ID = 3"_s);
+        row("a day that nobody reads", u"EntryDate = '2026-1-5' WHERE ID = 3"_s);
+        row("a series that nobody can place", u"EntryDate = 'bald' WHERE EntryInterval = 'Monatlich'"_s);
+        row("no category", u"EntryCategory = NULL WHERE ID = 3"_s);
+    }
 
-// What the database adds up by itself makes the same report, to the month and the spelling of a tag.
-void testReport::SumsGiveTheFiguresOfTheirEntries()
-{
-    QFETCH(const QString, change);
-    cTestBook book;
-    const QList<std::pair<QDate, QString>> written{{QDate(2026, 7, 1), u"#Urlaub"_s},
-                                                   {QDate(2026, 3, 9), u"#Urlaub"_s},
-                                                   {QDate(2026, 2, 8), u"#urlaub 'n' #Meer"_s}};
-    for (const auto& each : written) {
-        book.Add([&](cEntryItem& entry) {
-            entry.EntryDate = each.first;
-            entry.EntryDescription = each.second;
+    // What the database adds up by itself makes the same report, to the month and the spelling of a tag.
+    void SumsGiveTheFiguresOfTheirEntries()
+    {
+        QFETCH(const QString, change);
+        cTestBook book;
+        const QList<std::pair<QDate, QString>> written{{QDate(2026, 7, 1), u"#Urlaub"_s},
+                                                       {QDate(2026, 3, 9), u"#Urlaub"_s},
+                                                       {QDate(2026, 2, 8), u"#urlaub 'n' #Meer"_s}};
+        for (const auto& each : written) {
+            book.Spend(each.first, 1000, each.second);
+        }
+        book.Add([](cEntryItem& entry) { entry.EntryType = modWord::Umbuchung; });
+        book.Add([](cEntryItem& entry) {
+            entry.EntryDate = QDate(2026, 1, 31);
+            entry.EntryDateEnd = QDate(2026, 5, 31);
+            entry.EntryType = modWord::Einnahme;
+            entry.EntryInterval = u"Monatlich"_s;
+            entry.EntryDescription = u"#MEER"_s;
         });
-    }
-    book.Add([](cEntryItem& entry) { entry.EntryType = modWord::Umbuchung; });
-    book.Add([](cEntryItem& entry) {
-        entry.EntryDate = QDate(2026, 1, 31);
-        entry.EntryDateEnd = QDate(2026, 5, 31);
-        entry.EntryType = modWord::Einnahme;
-        entry.EntryInterval = u"Monatlich"_s;
-        entry.EntryDescription = u"#MEER"_s;
-    });
-    if (!change.isEmpty()) {
-        book.Database.ExecuteScript("UPDATE data SET " + change.toStdString());
-    }
-    for (const modPeriod::cRange& range : {year2026, modPeriod::Month(QDate(2026, 3, 1), 0), modPeriod::cRange{}}) {
-        const cEntryQuery query{range.Start, range.End, {}, {}, {}, eBookingKind::All};
-        for (const eReport type : {eReport::Sum, eReport::Average, eReport::Tag}) {
-            const cReportFigures figures = modReport::Figures(book.Data.GetEntries(query), {}, Wish(type, range));
-            QCOMPARE(figures.Expense.Groups.isEmpty(), false);
-            QCOMPARE(modReport::Figures(book.Data.GetCategorySums(query), {}, Wish(type, range)), figures);
+        if (!change.isEmpty()) {
+            book.Database.ExecuteScript("UPDATE data SET " + change.toStdString());
+        }
+        for (const modPeriod::cRange& range : {year2026, modPeriod::Month(QDate(2026, 3, 1), 0), modPeriod::cRange{}}) {
+            const cEntryQuery query{range.Start, range.End, {}, {}, {}, eBookingKind::All};
+            for (const eReport type : {eReport::Sum, eReport::Average, eReport::Tag}) {
+                const cReportFigures figures = modReport::Figures(book.Data.GetEntries(query), {}, Wish(type, range));
+                QCOMPARE(figures.Expense.Groups.isEmpty(), false);
+                QCOMPARE(modReport::Figures(book.Data.GetCategorySums(query), {}, Wish(type, range)), figures);
+            }
         }
     }
-}
 
-void testReport::FutureAndStartFollowTheView()
-{
-    cTestBook book;
-    book.Clock.Day = QDate(2026, 3, 10);
-    book.Add([](cEntryItem&) {});
-    book.Add([](cEntryItem& entry) { entry.EntryDate = QDate(2026, 3, 11); });
-    QVERIFY(book.Data.SetStartGuthaben(u"Girokonto"_s, -500, QDate(2026, 1, 1)));
-    cReportSource source(book.Tools);
-    const auto expense = [&] {
-        const cReportWish wish = source.Wish(eReport::Sum, modWord::AlleKonten, modWord::AktuellesJahr, {});
-        return source.Figures(wish).Expense.Amount.Cents;
-    };
-    book.Settings->ResetViewDefaults();
-    QCOMPARE(expense(), 2500);
-    book.Settings->SetBool(modSettingKey::ViewFuture, false);
-    QCOMPARE(expense(), 1500);
-    book.Settings->SetBool(modSettingKey::ViewStart, false);
-    QCOMPARE(expense(), 1000);
-}
-
-void testReport::Tables()
-{
-    const cReportWish wish = Wish(eReport::Limit, modPeriod::Month(QDate(2026, 1, 1), 0));
-    const cEntryItemList entries = Entries({u"2026-01-01 Ausgabe 123456 @A; X;Y"_s, u"2026-01-01 Ausgabe 5 @A"_s});
-    const cReportFigures figures = modReport::Figures(entries, Limits({u"@A; X;Y=10.00"_s, u"@A; Z=1.00"_s}), wish);
-    QCOMPARE(modReportExport::Csv(figures),
-             QByteArray("\xEF\xBB\xBF"
-                        "Art;Sparte;Kategorie;Ausgegeben;Limit;Einträge\r\n"
-                        "Ausgaben;'@A;\"X;Y\";1234,56;10,00;1\r\n"
-                        "Ausgaben;'@A;Z;0,00;1,00;0\r\n"));
-    cReportWish plan = wish;
-    plan.Type = eReport::Budget;
-    QCOMPARE(modReportExport::Csv(modReport::Figures(entries, Limits({u"@A; X;Y=10.00"_s}), plan)),
-             QByteArray("\xEF\xBB\xBF"
-                        "Art;Sparte;Kategorie;Budget;Übertrag;Ausgegeben;Übrig;Einträge\r\n"
-                        "Ausgaben;'@A;\"X;Y\";10,00;0,00;1234,56;-1224,56;1\r\n"));
-}
-
-void testReport::SavedByEnding()
-{
-    cTestBook book;
-    book.Add([](cEntryItem&) {});
-    const QTemporaryDir folder;
-    cReportSource source(book.Tools);
-    cReportExport writer(book.Tools, source);
-    const cReportWish wish = Wish(eReport::Sum, year2026);
-    const QList<std::pair<QString, QByteArray>> files{{u"a.html"_s, "<!DOCTYPE html>"},
-                                                      {u"b.csv"_s,
-                                                       "\xEF\xBB\xBF"
-                                                       "Art;"},
-                                                      {u"c.xlsx"_s, "PK"}};
-    for (const auto& [name, start] : files) {
-        book.User.SavePath = folder.filePath(name);
-        QCOMPARE(writer.Run(wish), cReportExport::eDone::Written);
-        QFile file(folder.filePath(name));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        QVERIFY2(file.readAll().startsWith(start), qPrintable(name));
+    void Tables()
+    {
+        const cReportWish wish = Wish(eReport::Limit, modPeriod::Month(QDate(2026, 1, 1), 0));
+        const cEntryItemList entries = Entries({u"2026-01-01 Ausgabe 123456 @A; X;Y"_s, u"2026-01-01 Ausgabe 5 @A"_s});
+        const cReportFigures figures = modReport::Figures(entries, Limits({u"@A; X;Y=10.00"_s, u"@A; Z=1.00"_s}), wish);
+        QCOMPARE(modReportExport::Csv(figures),
+                 QByteArray("\xEF\xBB\xBF"
+                            "Art;Sparte;Kategorie;Ausgegeben;Limit;Einträge\r\n"
+                            "Ausgaben;'@A;\"X;Y\";1234,56;10,00;1\r\n"
+                            "Ausgaben;'@A;Z;0,00;1,00;0\r\n"));
+        cReportWish plan = wish;
+        plan.Type = eReport::Budget;
+        QCOMPARE(modReportExport::Csv(modReport::Figures(entries, Limits({u"@A; X;Y=10.00"_s}), plan)),
+                 QByteArray("\xEF\xBB\xBF"
+                            "Art;Sparte;Kategorie;Budget;Übertrag;Ausgegeben;Übrig;Einträge\r\n"
+                            "Ausgaben;'@A;\"X;Y\";10,00;0,00;1234,56;-1224,56;1\r\n"));
     }
-    book.User.SavePath = folder.filePath(u"d.doc"_s);
-    QCOMPARE(writer.Run(wish), cReportExport::eDone::Failed);
-    QVERIFY(!QFile::exists(folder.filePath(u"d.doc"_s)));
-}
+
+    void SavedByEnding()
+    {
+        cTestBook book;
+        book.Add([](cEntryItem&) {});
+        const cTestFile folder;
+        cReportSource source(book.Tools);
+        cReportExport writer(book.Tools, source);
+        const cReportWish wish = Wish(eReport::Sum, year2026);
+        const QList<std::pair<QString, QByteArray>> files{
+            {u"a.html"_s, "<!DOCTYPE html>"}, {u"b.csv"_s, "\xEF\xBB\xBF\x41rt;"}, {u"c.xlsx"_s, "PK"}};
+        for (const auto& [name, start] : files) {
+            book.User.SavePath = folder.Path(name);
+            QCOMPARE(writer.Run(wish), cReportExport::eDone::Written);
+            QVERIFY2(cTestFile::Bytes(book.User.SavePath).startsWith(start), qPrintable(name));
+        }
+        book.User.SavePath = folder.Path(u"d.doc"_s);
+        QCOMPARE(writer.Run(wish), cReportExport::eDone::Failed);
+        QVERIFY(!QFile::exists(book.User.SavePath));
+    }
+};
 
 TEST_CLASS(testReport, QCoreApplication)
 #include "testReport.moc"

@@ -237,7 +237,7 @@ qint64 testReportAgreement::Carried(const QString& path) const
     for (const cBooking& booking : m_bookings) {
         if (from.isValid() && booking.Day >= from && booking.Day < first && KeyOf(booking.Category) == path
             && booking.Type != modWord::Umbuchung) {
-            left += booking.Type == modWord::Einnahme ? booking.Cents : -booking.Cents;
+            left += booking.Effect();
         }
     }
     return left;

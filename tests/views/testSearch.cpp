@@ -1,5 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/list/cSearchModel.h"
 
@@ -53,17 +54,6 @@ struct cScene
             .ID;
     }
 
-    void Correct(QDate month, qint64 cents)
-    {
-        cEntryItemFixMod fixMod;
-        fixMod.EntryRelation = Series;
-        fixMod.EntryModType = modWord::Betrag;
-        fixMod.EntryStartDate = month;
-        fixMod.EntryEndDate = month.addMonths(1).addDays(-1);
-        fixMod.EntryValue = cents;
-        QVERIFY(Book.Data.AddNewEntryMod(fixMod));
-    }
-
     // "Rewe 10.03.", in the order of the results
     static QStringList Names(const cEntryItemList& entries)
     {
@@ -95,11 +85,7 @@ class testSearch final : public QObject
 private Q_SLOTS:
     void Finds_data()
     {
-        QTest::addColumn<cSearchQuery>("query");
-        QTest::addColumn<QStringList>("found");
-        const auto row = [](const char* name, const cSearchQuery& query, const QStringList& found) {
-            QTest::newRow(name) << query << found;
-        };
+        const cTestRows<cSearchQuery, QStringList> row("query", "found");
         row("word without umlaut", {.Text = u"mueller baeck"_s}, {u"Bäckerei Müller 01.07."_s});
         row("amount as text", {.Text = u"80,00"_s}, {u"Haushaltshilfe 02.05."_s});
         row("range of amounts, both ends", {.Least = 425, .Most = 1000},
@@ -124,18 +110,12 @@ private Q_SLOTS:
     void Finds()
     {
         QFETCH(const cSearchQuery, query);
-        QFETCH(const QStringList, found);
         cScene scene;
-        scene.Correct(QDate(2026, 2, 1), 3500);
-        scene.Correct(QDate(2026, 6, 1), 0);
-        cImportEntry row;
-        row.ImportAssigned = true;
-        row.ImportAssignedEntry = 1;
-        QVERIFY(scene.Book.Data.AddNewImportEntry(row));
-        row.ImportAssigned = false;
-        row.ImportAssignedEntry = -1;
-        QVERIFY(scene.Book.Data.AddNewImportEntry(row));
-        QCOMPARE(cScene::Names(scene.Search.Find(query)), found);
+        scene.Book.Correct(scene.Series, QDate(2026, 2, 1), QDate(2026, 2, 28), 3500);
+        scene.Book.Correct(scene.Series, QDate(2026, 6, 1), QDate(2026, 6, 30), 0);
+        scene.Book.Stage({}, {}, 0, {}, 1);
+        scene.Book.Stage({}, {}, 0);
+        QTEST(cScene::Names(scene.Search.Find(query)), "found");
     }
 
     void ShowsWhatWasFoundWithSums()
@@ -157,16 +137,7 @@ private Q_SLOTS:
     void UnderstandsAmounts_data()
     {
         using eRule = cSearchModel::eAmountRule;
-        QTest::addColumn<cSearchModel::cFields>("fields");
-        QTest::addColumn<int>("rows");
-        const auto row = [](const char* name, eRule rule, const QString& amount, const QString& to, int rows) {
-            cSearchModel::cFields fields;
-            fields.Text = u"giro"_s;
-            fields.AmountRule = rule;
-            fields.Amount = amount;
-            fields.AmountTo = to;
-            QTest::newRow(name) << fields << rows;
-        };
+        const cTestRows<eRule, QString, QString, int> row("rule", "amount", "to", "rows");
         row("exactly", eRule::Exactly, u"10"_s, {}, 1);
         row("with sign and euro", eRule::Exactly, u"-4,25 €"_s, {}, 1);
         row("calculated", eRule::Exactly, u"4+6"_s, {}, 1);
@@ -179,12 +150,13 @@ private Q_SLOTS:
 
     void UnderstandsAmounts()
     {
-        QFETCH(const cSearchModel::cFields, fields);
-        QFETCH(const int, rows);
+        QFETCH(const cSearchModel::eAmountRule, rule);
+        QFETCH(const QString, amount);
+        QFETCH(const QString, to);
         cScene scene;
-        scene.Model.Search(fields);
-        QCOMPARE(scene.Model.Entries().rowCount(), rows);
-        QCOMPARE(scene.Model.Hint().contains(u"kein Betrag"), !scene.Model.IsAmount(fields.Amount));
+        scene.Model.Search({.Text = u"giro"_s, .AmountRule = rule, .Amount = amount, .AmountTo = to});
+        QTEST(scene.Model.Entries().rowCount(), "rows");
+        QCOMPARE(scene.Model.Hint().contains(u"kein Betrag"), !scene.Model.IsAmount(amount));
     }
 
     void ReadsAmountsAsTheyAreShown()

@@ -1,7 +1,7 @@
+#include "cEditorBook.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/testBook.h"
-#include "views/entry/cEntryEditor.h"
+#include "support/cTestRows.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/entry/modCorrections.h"
 
@@ -14,14 +14,12 @@ namespace {
 const QString lossQuestion = u"Der Zeitraum für diesen Eintrag wurde modifiziert.\nDie manuellen Korrekturen gehen "
                              "dadurch verloren.\nSoll der Eintrag trotzdem gespeichert werden?"_s;
 
-// Rent of 10 euros on the 10th of each month since March 2026.
-cEntryItem AddRent(cTestBook& book)
+// A book with a rent of 10 euros on the 10th of each month since March 2026.
+struct cRentBook : cEditorBook
 {
-    return book.Add([](cEntryItem& entry) {
-        entry.EntryInterval = u"Monatlich"_s;
-        entry.EntryDescription = u"Miete"_s;
-    });
-}
+    const int Rent = Spend(QDate(2026, 3, 10), 1000, u"Miete"_s, u"Monatlich"_s).ID;
+    cSeriesChange Change{Tools};
+};
 
 // "2026-04-01 12.50 text" of each correction, by period.
 QStringList Corrections(cTestBook& book, int id)
@@ -44,269 +42,223 @@ class testSeriesChange final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void AsksWhatToEdit_data();
-    void AsksWhatToEdit();
-    void CorrectsOnePeriod();
-    void SkipsAndTakesBack();
-    void PeriodForm();
-    void PeriodFormMoves_data();
-    void PeriodFormMoves();
-    void PageOfCorrections();
-    void PageIsStoredWithTheEntry();
-    void FromHereSplitsTheSeries();
-    void FromHereAsksForLostCorrections_data();
-    void FromHereAsksForLostCorrections();
-    void FromHereTakesBankRowsAlong();
-};
-
-void testSeriesChange::AsksWhatToEdit_data()
-{
-    using enum cSeriesChange::eEdit;
-    QTest::addColumn<QString>("interval");
-    QTest::addColumn<QDate>("day");
-    QTest::addColumn<int>("choice");
-    QTest::addColumn<int>("options");
-    QTest::addColumn<int>("edit");
-    const QString monthly = u"Monatlich"_s;
-    const QDate may(2026, 5, 10);
-    QTest::newRow("this period") << monthly << may << 0 << 3 << int(Period);
-    QTest::newRow("from here") << monthly << may << 1 << 3 << int(FromHere);
-    QTest::newRow("whole") << monthly << may << 2 << 3 << int(Entry);
-    QTest::newRow("given up") << monthly << may << -1 << 3 << int(Nothing);
-    QTest::newRow("first occurrence") << monthly << QDate(2026, 3, 10) << 1 << 2 << int(Entry);
-    QTest::newRow("no occurrence") << monthly << QDate(2026, 5, 11) << 0 << 0 << int(Entry);
-    QTest::newRow("one-off") << modWord::Einmalig << QDate(2026, 3, 10) << 0 << 0 << int(Entry);
-}
-
-void testSeriesChange::AsksWhatToEdit()
-{
-    QFETCH(QString, interval);
-    QFETCH(QDate, day);
-    QFETCH(int, choice);
-    QFETCH(int, options);
-    cTestBook book;
-    const int id = book.Add([&](cEntryItem& entry) { entry.EntryInterval = interval; }).ID;
-    book.User.Decisions = {choice};
-    QTEST(int(cSeriesChange(book.Tools).AskWhatToEdit(id, day)), "edit");
-    QCOMPARE(book.User.LastDecision.Options.size(), options);
-}
-
-void testSeriesChange::CorrectsOnePeriod()
-{
-    cTestBook book;
-    const int id = AddRent(book).ID;
-    cSeriesChange change(book.Tools);
-    QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 1250, u"Nachzahlung"_s));
-    QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 31), -1300, u"neu"_s)); // same period, any day of it
-    QVERIFY(!change.CorrectPeriod(id, QDate(2026, 2, 10), 1, {}));          // before the series
-    QCOMPARE(Corrections(book, id), QStringList({u"2026-05-01 1300 neu"_s}));
-    QCOMPARE(book.Data.GetEntryMods(id).first().EntryEndDate, QDate(2026, 5, 31));
-    QCOMPARE(book.Data.Journal().UndoName(), u"Betrag von 'Miete' korrigiert"_s);
-    QVERIFY(book.Data.Journal().Undo());
-    QCOMPARE(Corrections(book, id), QStringList({u"2026-05-01 1250 Nachzahlung"_s}));
-}
-
-void testSeriesChange::SkipsAndTakesBack()
-{
-    cTestBook book;
-    const int id = AddRent(book).ID;
-    cSeriesChange change(book.Tools);
-    QVERIFY(!change.RemoveCorrection(id, QDate(2026, 4, 10)));
-    QVERIFY(change.SkipPeriod(id, QDate(2026, 4, 10)));
-    QCOMPARE(Corrections(book, id), QStringList({u"2026-04-01 0 Ausgelassen"_s}));
-    QVERIFY(change.RemoveCorrection(id, QDate(2026, 4, 10)));
-    QVERIFY(Corrections(book, id).isEmpty());
-}
-
-void testSeriesChange::PeriodForm()
-{
-    cTestBook book;
-    const int id = AddRent(book).ID;
-    cSeriesChange change(book.Tools);
-    cSeriesChange::cPeriodFields fields = change.StartPeriod(id, QDate(2026, 4, 10)).value();
-    QCOMPARE(fields.Title, u"'Miete' vom 01.04.2026 bis 30.04.2026"_s);
-    QCOMPARE(fields.Amount, u"10,00"_s);
-    QVERIFY(!fields.IsCorrected);
-    fields.Amount = u"zwölf"_s;
-    QCOMPARE(change.SavePeriod(fields), cSeriesChange::eSaved::BadAmount);
-    fields.Amount = u"10+2,5"_s;
-    QCOMPARE(change.SavePeriod(fields), cSeriesChange::eSaved::Saved);
-    fields = change.StartPeriod(id, QDate(2026, 4, 10)).value();
-    QCOMPARE(fields.Amount, u"12,50"_s);
-    QVERIFY(fields.IsCorrected);
-    QVERIFY(book.Settings->Set(modSettingKey::LanguageFormat, u"en-GB"_s));
-    book.Format.CultureChanged();
-    cSeriesChange british(book.Tools);
-    fields = british.StartPeriod(id, QDate(2026, 4, 10)).value();
-    QCOMPARE(fields.Amount, u"12.50"_s);
-    fields.Amount = u"1,234"_s;
-    QCOMPARE(british.SavePeriod(fields), cSeriesChange::eSaved::Saved);
-    QCOMPARE(book.Data.GetEntryMods(id).first().EntryValue, 123400);
-}
-
-void testSeriesChange::PeriodFormMoves_data()
-{
-    QTest::addColumn<QString>("day"); // as typed
-    QTest::addColumn<QString>("amount");
-    QTest::addColumn<int>("saved");
-    QTest::addColumn<QDate>("moved");
-    QTest::addColumn<QString>("comment"); // an own amount or day is not what the bank said
-    const int done = int(cSeriesChange::eSaved::Saved);
-    const QString bank = u"Laut Kontoauszug"_s;
-    QTest::newRow("as it was") << u"14.04.2026"_s << u"10,00"_s << done << QDate(2026, 4, 14) << bank;
-    QTest::newRow("another day") << u"2.5."_s << u"10"_s << done << QDate(2026, 5, 2) << QString();
-    QTest::newRow("planned day") << u"10.4."_s << u"10"_s << done << QDate() << QString();
-    QTest::newRow("no day") << u" "_s << u"10"_s << done << QDate() << QString();
-    QTest::newRow("another amount") << u"14.4."_s << u"11"_s << done << QDate(2026, 4, 14) << QString();
-    QTest::newRow("unreadable") << u"bald"_s << u"10"_s << int(cSeriesChange::eSaved::BadDay) << QDate(2026, 4, 14)
-                                << bank;
-}
-
-void testSeriesChange::PeriodFormMoves()
-{
-    QFETCH(const QString, day);
-    QFETCH(const QString, amount);
-    cTestBook book;
-    const int id = AddRent(book).ID;
-    QVERIFY(book.Data.AddNewEntryMod({0, id, modWord::Betrag, QDate(2026, 4, 1), QDate(2026, 4, 30), 1000,
-                                      u"Laut Kontoauszug"_s, QDate(2026, 4, 14)}));
-    cSeriesChange change(book.Tools);
-    cSeriesChange::cPeriodFields fields = change.StartPeriod(id, QDate(2026, 4, 10), book.Clock.Day).value();
-    QCOMPARE(fields.DayText, u"14.04.2026"_s);
-    fields.DayText = day;
-    fields.Amount = amount;
-    QTEST(int(change.SavePeriod(fields)), "saved");
-    const cEntryItemFixMod stored = book.Data.GetEntryMods(id).first();
-    QTEST(stored.EntryDay, "moved");
-    QTEST(stored.EntryComment, "comment");
-}
-
-void testSeriesChange::PageOfCorrections()
-{
-    using enum modCorrections::eSet;
-    cEntryFields fields;
-    fields.Interval = u"Wöchentlich"_s;
-    fields.Date = QDate(2026, 3, 2);
-    const QDate today(2026, 3, 15);
-    QCOMPARE(modCorrections::Set(u"30.3."_s, u"-5"_s, u"spät"_s, today, fields), Done);
-    QCOMPARE(modCorrections::Set(u"heute"_s, u"4+4"_s, u"früh"_s, today, fields), Done);
-    QCOMPARE(modCorrections::Set(u"10.3."_s, u"7"_s, u"früher"_s, today, fields), Done); // same week
-    QCOMPARE(modCorrections::Set(u"1.3."_s, u"7"_s, {}, today, fields), NoOccurrence);
-    QCOMPARE(modCorrections::Set(u"bald"_s, u"7"_s, {}, today, fields), BadDate);
-    QCOMPARE(modCorrections::Set(u"10.3."_s, u"viel"_s, {}, today, fields), BadAmount);
-    const QList<modCorrections::cLine> lines = modCorrections::Lines(fields);
-    QCOMPARE(lines.size(), 2);
-    QCOMPARE(lines.first().Label, u"Manuelle Korrektur vom 09.03.2026"_s);
-    QCOMPARE(lines.first().Period, u"09.03.2026 – 15.03.2026"_s);
-    QCOMPARE(lines.first().Amount, u"7,00"_s);
-    QCOMPARE(lines.last().Amount, u"5,00"_s);
-}
-
-void testSeriesChange::PageIsStoredWithTheEntry()
-{
-    cTestBook book;
-    const int id = AddRent(book).ID;
-    cSeriesChange change(book.Tools);
-    QVERIFY(change.CorrectPeriod(id, QDate(2026, 3, 10), 1, u"weg"_s));
-    QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 2, u"bleibt"_s));
-    QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 3, u"anders"_s));
-    cEntryEditor editor(book.Tools);
-    cEntryFields fields = editor.Load(id).value();
-    QVERIFY(editor.ShowsCorrections(fields));
-    QCOMPARE(modCorrections::Change(2, u"30"_s, u"geändert"_s, fields), modCorrections::eSet::Done);
-    modCorrections::Remove(0, fields);
-    QCOMPARE(modCorrections::Set(u"1.6."_s, u"4"_s, u"neu"_s, book.Clock.Day, fields), modCorrections::eSet::Done);
-    QCOMPARE(Corrections(book, id).size(), 3); // nothing is stored before the entry is
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    QCOMPARE(Corrections(book, id),
-             QStringList({u"2026-04-01 2 bleibt"_s, u"2026-05-01 3000 geändert"_s, u"2026-06-01 400 neu"_s}));
-    QVERIFY(book.User.Asked.isEmpty());
-    QVERIFY(book.Data.Journal().Undo());
-    QCOMPARE(Corrections(book, id),
-             QStringList({u"2026-03-01 1 weg"_s, u"2026-04-01 2 bleibt"_s, u"2026-05-01 3 anders"_s}));
-}
-
-void testSeriesChange::FromHereSplitsTheSeries()
-{
-    cTestBook book;
-    const int id = AddRent(book).ID;
-    cSeriesChange change(book.Tools);
-    QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 1, u"früher"_s));
-    QVERIFY(change.CorrectPeriod(id, QDate(2026, 5, 10), 2, u"dieser"_s));
-    QVERIFY(change.CorrectPeriod(id, QDate(2026, 8, 10), 3, u"später"_s));
-    cEntryEditor editor(book.Tools);
-    cEntryFields fields = editor.LoadFrom(id, QDate(2026, 5, 10)).value();
-    QCOMPARE(fields.Date, QDate(2026, 5, 10));
-    QCOMPARE(fields.Corrections.size(), 2);
-    fields.Amount = u"11"_s;
-    fields.DateText = u"20.5."_s; // another day of the month: the periods are the same
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    QVERIFY(book.User.Asked.isEmpty());
-
-    const cEntryItem old = book.Data.LoadEntry(id).value();
-    QCOMPARE(old.EntryDateEnd, QDate(2026, 5, 9));
-    QCOMPARE(old.EntryValue, 1000);
-    QCOMPARE(Corrections(book, id), QStringList({u"2026-04-01 1 früher"_s}));
-    const cEntryItem next = book.Data.LoadEntry(editor.SavedId()).value();
-    QVERIFY(next.ID != id);
-    QCOMPARE(next.EntryDate, QDate(2026, 5, 20));
-    QCOMPARE(next.EntryValue, 1100);
-    QCOMPARE(Corrections(book, next.ID), QStringList({u"2026-05-01 2 dieser"_s, u"2026-08-01 3 später"_s}));
-
-    QVERIFY(book.Data.Journal().Undo());
-    QCOMPARE(book.Data.CountEntries(), 1);
-    QCOMPARE(Corrections(book, id).size(), 3);
-    QCOMPARE(book.Data.LoadEntry(id)->EntryDateEnd, modRecurrence::OpenEnd);
-}
-
-void testSeriesChange::FromHereAsksForLostCorrections_data()
-{
-    QTest::addColumn<int>("answer");
-    QTest::addColumn<QStringList>("old");
-    QTest::addColumn<int>("entries");
-    const QString early = u"2026-04-01 1 früher"_s;
-    QTest::newRow("no saves nothing") << int(eAnswer::No) << QStringList({early, u"2026-08-01 3 später"_s}) << 1;
-    QTest::newRow("yes keeps the earlier ones") << int(eAnswer::Yes) << QStringList({early}) << 2;
-}
-
-void testSeriesChange::FromHereAsksForLostCorrections()
-{
-    QFETCH(int, answer);
-    QFETCH(QStringList, old);
-    QFETCH(int, entries);
-    cTestBook book;
-    const int id = AddRent(book).ID;
-    cSeriesChange change(book.Tools);
-    QVERIFY(change.CorrectPeriod(id, QDate(2026, 4, 10), 1, u"früher"_s));
-    QVERIFY(change.CorrectPeriod(id, QDate(2026, 8, 10), 3, u"später"_s));
-    cEntryEditor editor(book.Tools);
-    cEntryFields fields = editor.LoadFrom(id, QDate(2026, 5, 10)).value();
-    fields.Interval = u"Alle 3 Monate"_s;
-    book.User.Answers = {static_cast<eAnswer>(answer)};
-    (void)editor.Save(fields);
-    QCOMPARE(book.User.Asked, QStringList({lossQuestion}));
-    QCOMPARE(Corrections(book, id), old);
-    QCOMPARE(book.Data.CountEntries(), entries);
-    QVERIFY(entries == 1 || Corrections(book, editor.SavedId()).isEmpty());
-}
-
-void testSeriesChange::FromHereTakesBankRowsAlong()
-{
-    cTestBook book;
-    const int id = AddRent(book).ID;
-    for (const QDate day : {QDate(2026, 4, 11), QDate(2026, 5, 8)}) {
-        cImportEntry row;
-        row.ImportDate = day;
-        row.ImportAssigned = true;
-        row.ImportAssignedEntry = id;
-        QVERIFY(book.Data.AddNewImportEntry(row));
+    void AsksWhatToEdit_data()
+    {
+        using enum cSeriesChange::eEdit;
+        const cTestRows<QString, QDate, int, qsizetype, int> row("interval", "day", "choice", "options", "edit");
+        const QString monthly = u"Monatlich"_s;
+        const QDate may(2026, 5, 10);
+        row("this period", monthly, may, 0, 3, int(Period));
+        row("from here", monthly, may, 1, 3, int(FromHere));
+        row("whole", monthly, may, 2, 3, int(Entry));
+        row("given up", monthly, may, -1, 3, int(Nothing));
+        row("first occurrence", monthly, QDate(2026, 3, 10), 1, 2, int(Entry));
+        row("no occurrence", monthly, QDate(2026, 5, 11), 0, 0, int(Entry));
+        row("one-off", modWord::Einmalig, QDate(2026, 3, 10), 0, 0, int(Entry));
     }
-    cEntryEditor editor(book.Tools);
-    QCOMPARE(editor.Save(editor.LoadFrom(id, QDate(2026, 5, 10)).value()), cEntryEditor::eSaved::Saved);
-    const cImportEntryList rows = book.Data.GetImportEntries();
-    QCOMPARE(rows.at(0).ImportAssignedEntry, id);
-    QCOMPARE(rows.at(1).ImportAssignedEntry, editor.SavedId());
-}
+
+    void AsksWhatToEdit()
+    {
+        QFETCH(QString, interval);
+        QFETCH(QDate, day);
+        QFETCH(int, choice);
+        cTestBook book;
+        const int id = book.Add([&](cEntryItem& entry) { entry.EntryInterval = interval; }).ID;
+        book.User.Decisions = {choice};
+        QTEST(int(cSeriesChange(book.Tools).AskWhatToEdit(id, day)), "edit");
+        QTEST(book.User.LastDecision.Options.size(), "options");
+    }
+
+    void CorrectsOnePeriod()
+    {
+        cRentBook book;
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 5, 10), 1250, u"Nachzahlung"_s));
+        QVERIFY(
+            book.Change.CorrectPeriod(book.Rent, QDate(2026, 5, 31), -1300, u"neu"_s)); // same period, any day of it
+        QVERIFY(!book.Change.CorrectPeriod(book.Rent, QDate(2026, 2, 10), 1, {}));      // before the series
+        QCOMPARE(Corrections(book, book.Rent), QStringList({u"2026-05-01 1300 neu"_s}));
+        QCOMPARE(book.Data.GetEntryMods(book.Rent).first().EntryEndDate, QDate(2026, 5, 31));
+        QCOMPARE(book.Data.Journal().UndoName(), u"Betrag von 'Miete' korrigiert"_s);
+        QVERIFY(book.Data.Journal().Undo());
+        QCOMPARE(Corrections(book, book.Rent), QStringList({u"2026-05-01 1250 Nachzahlung"_s}));
+    }
+
+    void SkipsAndTakesBack()
+    {
+        cRentBook book;
+        QVERIFY(!book.Change.RemoveCorrection(book.Rent, QDate(2026, 4, 10)));
+        QVERIFY(book.Change.SkipPeriod(book.Rent, QDate(2026, 4, 10)));
+        QCOMPARE(Corrections(book, book.Rent), QStringList({u"2026-04-01 0 Ausgelassen"_s}));
+        QVERIFY(book.Change.RemoveCorrection(book.Rent, QDate(2026, 4, 10)));
+        QVERIFY(Corrections(book, book.Rent).isEmpty());
+    }
+
+    void PeriodForm()
+    {
+        cRentBook book;
+        cSeriesChange::cPeriodFields fields = book.Change.StartPeriod(book.Rent, QDate(2026, 4, 10)).value();
+        QCOMPARE(fields.Title, u"'Miete' vom 01.04.2026 bis 30.04.2026"_s);
+        QCOMPARE(fields.Amount, u"10,00"_s);
+        QVERIFY(!fields.IsCorrected);
+        fields.Amount = u"zwölf"_s;
+        QCOMPARE(book.Change.SavePeriod(fields), cSeriesChange::eSaved::BadAmount);
+        fields.Amount = u"10+2,5"_s;
+        QCOMPARE(book.Change.SavePeriod(fields), cSeriesChange::eSaved::Saved);
+        fields = book.Change.StartPeriod(book.Rent, QDate(2026, 4, 10)).value();
+        QCOMPARE(fields.Amount, u"12,50"_s);
+        QVERIFY(fields.IsCorrected);
+        QVERIFY(book.Settings->Set(modSettingKey::LanguageFormat, u"en-GB"_s));
+        book.Format.CultureChanged();
+        cSeriesChange british(book.Tools);
+        fields = british.StartPeriod(book.Rent, QDate(2026, 4, 10)).value();
+        QCOMPARE(fields.Amount, u"12.50"_s);
+        fields.Amount = u"1,234"_s;
+        QCOMPARE(british.SavePeriod(fields), cSeriesChange::eSaved::Saved);
+        QCOMPARE(book.Data.GetEntryMods(book.Rent).first().EntryValue, 123400);
+    }
+
+    void PeriodFormMoves_data()
+    {
+        // day: as typed; comment: an own amount or day is not what the bank said
+        const cTestRows<QString, QString, int, QDate, QString> row("day", "amount", "saved", "moved", "comment");
+        const int done = int(cSeriesChange::eSaved::Saved);
+        const QString bank = u"Laut Kontoauszug"_s;
+        row("as it was", u"14.04.2026"_s, u"10,00"_s, done, QDate(2026, 4, 14), bank);
+        row("another day", u"2.5."_s, u"10"_s, done, QDate(2026, 5, 2), {});
+        row("planned day", u"10.4."_s, u"10"_s, done, {}, {});
+        row("no day", u" "_s, u"10"_s, done, {}, {});
+        row("another amount", u"14.4."_s, u"11"_s, done, QDate(2026, 4, 14), {});
+        row("unreadable", u"bald"_s, u"10"_s, int(cSeriesChange::eSaved::BadDay), QDate(2026, 4, 14), bank);
+    }
+
+    void PeriodFormMoves()
+    {
+        QFETCH(const QString, day);
+        QFETCH(const QString, amount);
+        cRentBook book;
+        QVERIFY(book.Data.AddNewEntryMod({0, book.Rent, modWord::Betrag, QDate(2026, 4, 1), QDate(2026, 4, 30), 1000,
+                                          u"Laut Kontoauszug"_s, QDate(2026, 4, 14)}));
+        cSeriesChange::cPeriodFields fields =
+            book.Change.StartPeriod(book.Rent, QDate(2026, 4, 10), book.Clock.Day).value();
+        QCOMPARE(fields.DayText, u"14.04.2026"_s);
+        fields.DayText = day;
+        fields.Amount = amount;
+        QTEST(int(book.Change.SavePeriod(fields)), "saved");
+        const cEntryItemFixMod stored = book.Data.GetEntryMods(book.Rent).first();
+        QTEST(stored.EntryDay, "moved");
+        QTEST(stored.EntryComment, "comment");
+    }
+
+    void PageOfCorrections()
+    {
+        using enum modCorrections::eSet;
+        cEntryFields fields;
+        fields.Interval = u"Wöchentlich"_s;
+        fields.Date = QDate(2026, 3, 2);
+        const QDate today(2026, 3, 15);
+        QCOMPARE(modCorrections::Set(u"30.3."_s, u"-5"_s, u"spät"_s, today, fields), Done);
+        QCOMPARE(modCorrections::Set(u"heute"_s, u"4+4"_s, u"früh"_s, today, fields), Done);
+        QCOMPARE(modCorrections::Set(u"10.3."_s, u"7"_s, u"früher"_s, today, fields), Done); // same week
+        QCOMPARE(modCorrections::Set(u"1.3."_s, u"7"_s, {}, today, fields), NoOccurrence);
+        QCOMPARE(modCorrections::Set(u"bald"_s, u"7"_s, {}, today, fields), BadDate);
+        QCOMPARE(modCorrections::Set(u"10.3."_s, u"viel"_s, {}, today, fields), BadAmount);
+        const QList<modCorrections::cLine> lines = modCorrections::Lines(fields);
+        QCOMPARE(lines.size(), 2);
+        QCOMPARE(lines.first().Label, u"Manuelle Korrektur vom 09.03.2026"_s);
+        QCOMPARE(lines.first().Period, u"09.03.2026 – 15.03.2026"_s);
+        QCOMPARE(lines.first().Amount, u"7,00"_s);
+        QCOMPARE(lines.last().Amount, u"5,00"_s);
+    }
+
+    void PageIsStoredWithTheEntry()
+    {
+        cRentBook book;
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 3, 10), 1, u"weg"_s));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 4, 10), 2, u"bleibt"_s));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 5, 10), 3, u"anders"_s));
+        cEntryFields fields = book.Editor.Load(book.Rent).value();
+        QVERIFY(book.Editor.ShowsCorrections(fields));
+        QCOMPARE(modCorrections::Change(2, u"30"_s, u"geändert"_s, fields), modCorrections::eSet::Done);
+        modCorrections::Remove(0, fields);
+        QCOMPARE(modCorrections::Set(u"1.6."_s, u"4"_s, u"neu"_s, book.Clock.Day, fields), modCorrections::eSet::Done);
+        QCOMPARE(Corrections(book, book.Rent).size(), 3); // nothing is stored before the entry is
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(Corrections(book, book.Rent),
+                 QStringList({u"2026-04-01 2 bleibt"_s, u"2026-05-01 3000 geändert"_s, u"2026-06-01 400 neu"_s}));
+        QVERIFY(book.User.Asked.isEmpty());
+        QVERIFY(book.Data.Journal().Undo());
+        QCOMPARE(Corrections(book, book.Rent),
+                 QStringList({u"2026-03-01 1 weg"_s, u"2026-04-01 2 bleibt"_s, u"2026-05-01 3 anders"_s}));
+    }
+
+    void FromHereSplitsTheSeries()
+    {
+        cRentBook book;
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 4, 10), 1, u"früher"_s));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 5, 10), 2, u"dieser"_s));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 8, 10), 3, u"später"_s));
+        cEntryFields fields = book.Editor.LoadFrom(book.Rent, QDate(2026, 5, 10)).value();
+        QCOMPARE(fields.Date, QDate(2026, 5, 10));
+        QCOMPARE(fields.Corrections.size(), 2);
+        fields.Amount = u"11"_s;
+        fields.DateText = u"20.5."_s; // another day of the month: the periods are the same
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QVERIFY(book.User.Asked.isEmpty());
+
+        const cEntryItem old = book.Data.LoadEntry(book.Rent).value();
+        QCOMPARE(old.EntryDateEnd, QDate(2026, 5, 9));
+        QCOMPARE(old.EntryValue, 1000);
+        QCOMPARE(Corrections(book, book.Rent), QStringList({u"2026-04-01 1 früher"_s}));
+        const cEntryItem next = book.Data.LoadEntry(book.Editor.SavedId()).value();
+        QVERIFY(next.ID != book.Rent);
+        QCOMPARE(next.EntryDate, QDate(2026, 5, 20));
+        QCOMPARE(next.EntryValue, 1100);
+        QCOMPARE(Corrections(book, next.ID), QStringList({u"2026-05-01 2 dieser"_s, u"2026-08-01 3 später"_s}));
+
+        QVERIFY(book.Data.Journal().Undo());
+        QCOMPARE(book.Data.CountEntries(), 1);
+        QCOMPARE(Corrections(book, book.Rent).size(), 3);
+        QCOMPARE(book.Data.LoadEntry(book.Rent)->EntryDateEnd, modRecurrence::OpenEnd);
+    }
+
+    void FromHereAsksForLostCorrections_data()
+    {
+        const cTestRows<int, QStringList, int> row("answer", "old", "entries");
+        const QString early = u"2026-04-01 1 früher"_s;
+        row("no saves nothing", int(eAnswer::No), {early, u"2026-08-01 3 später"_s}, 1);
+        row("yes keeps the earlier ones", int(eAnswer::Yes), {early}, 2);
+    }
+
+    void FromHereAsksForLostCorrections()
+    {
+        QFETCH(int, answer);
+        QFETCH(int, entries);
+        cRentBook book;
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 4, 10), 1, u"früher"_s));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 8, 10), 3, u"später"_s));
+        cEntryFields fields = book.Editor.LoadFrom(book.Rent, QDate(2026, 5, 10)).value();
+        fields.Interval = u"Alle 3 Monate"_s;
+        book.User.Answers = {static_cast<eAnswer>(answer)};
+        (void)book.Editor.Save(fields);
+        QCOMPARE(book.User.Asked, QStringList({lossQuestion}));
+        QTEST(Corrections(book, book.Rent), "old");
+        QCOMPARE(book.Data.CountEntries(), entries);
+        QVERIFY(entries == 1 || Corrections(book, book.Editor.SavedId()).isEmpty());
+    }
+
+    void FromHereTakesBankRowsAlong()
+    {
+        cRentBook book;
+        for (const QDate day : {QDate(2026, 4, 11), QDate(2026, 5, 8)}) {
+            book.Stage({}, day, 0, {}, book.Rent);
+        }
+        QCOMPARE(book.Editor.Save(book.Editor.LoadFrom(book.Rent, QDate(2026, 5, 10)).value()),
+                 cEntryEditor::eSaved::Saved);
+        const cImportEntryList rows = book.Data.GetImportEntries();
+        QCOMPARE(rows.at(0).ImportAssignedEntry, book.Rent);
+        QCOMPARE(rows.at(1).ImportAssignedEntry, book.Editor.SavedId());
+    }
+};
 
 TEST_CLASS(testSeriesChange, QCoreApplication)
 #include "testSeriesChange.moc"

@@ -3,6 +3,7 @@
 #include "import/stage/cImportHiveCache.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/statement/cSeriesCheck.h"
 
@@ -17,101 +18,75 @@ class testSeriesCheck final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void FindsWhatTheBankDoesNotPay_data() const;
-    void FindsWhatTheBankDoesNotPay() const;
-};
+    void FindsWhatTheBankDoesNotPay_data() const
+    {
+        // paid: days of rows that belong to the series; occurrences: that count afterwards, up to May 2026
+        const cTestRows<QDate, QString, QString, QStringList, QString> row("start", "paid", "others", "lines",
+                                                                           "occurrences");
+        const QDate start(2025, 11, 1);
+        row("all is there", start, u"2025-11-01 2025-12-01 2026-01-02"_s, u"2025-11-01 2026-01-31"_s, {},
+            u"2025-11-01 2025-12-01 2026-01-01 2026-02-01 2026-03-01 2026-04-01 2026-05-01"_s);
+        row("ended", start, u"2025-11-01 2025-12-03"_s, u"2025-11-01 2026-02-20"_s,
+            {u"'Miete' (Girokonto): zuletzt gebucht am 03.12.2025; endet am 01.12.2025"_s}, u"2025-11-01 2025-12-01"_s);
+        row("late", start, u"2025-11-01 2025-12-01 2026-01-02"_s, u"2025-11-01 2026-02-05"_s,
+            {u"'Miete' (Girokonto), fällig am 01.02.2026: noch nicht gebucht; wird auf den "
+             "16.03.2026 verschoben"_s},
+            u"2025-11-01 2025-12-01 2026-01-01 2026-03-01 2026-03-16 2026-04-01 2026-05-01"_s);
+        row("left out in between", start, u"2025-11-01 2026-01-01 2026-02-01"_s, u"2026-02-20"_s,
+            {u"'Miete' (Girokonto), fällig am 01.12.2025: nicht gebucht; wird ausgelassen"_s},
+            u"2025-11-01 2026-01-01 2026-02-01 2026-03-01 2026-04-01 2026-05-01"_s);
+        row("never paid", start, {}, u"2025-10-15 2026-02-20"_s,
+            {u"'Miete' (Girokonto): von der Bank nie gebucht; endet am 01.11.2025"_s}, {});
+        row("never paid from some day on", start, {}, u"2025-12-15 2026-03-20"_s,
+            {u"'Miete' (Girokonto): von der Bank nie gebucht; endet am 31.12.2025"_s}, u"2025-11-01 2025-12-01"_s);
+        row("statements of years ago", QDate(2024, 1, 1), u"2024-01-01 2024-02-01"_s, u"2024-02-20"_s,
+            {u"'Miete' (Girokonto): zuletzt gebucht am 01.02.2024; endet am 01.02.2024"_s}, u"2024-01-01 2024-02-01"_s);
+        row("days without statements say nothing", start, {}, u"2025-10-15 2025-10-31"_s, {},
+            u"2025-11-01 2025-12-01 2026-01-01 2026-02-01 2026-03-01 2026-04-01 2026-05-01"_s);
+    }
 
-void testSeriesCheck::FindsWhatTheBankDoesNotPay_data() const
-{
-    QTest::addColumn<QDate>("start");
-    QTest::addColumn<QString>("paid"); // days of rows that belong to the series
-    QTest::addColumn<QString>("others");
-    QTest::addColumn<QStringList>("lines");
-    QTest::addColumn<QString>("occurrences"); // that count afterwards, up to May 2026
-    const QDate start(2025, 11, 1);
-    QTest::newRow("all is there") << start << u"2025-11-01 2025-12-01 2026-01-02"_s << u"2025-11-01 2026-01-31"_s
-                                  << QStringList()
-                                  << u"2025-11-01 2025-12-01 2026-01-01 2026-02-01 2026-03-01 2026-04-01 2026-05-01"_s;
-    QTest::newRow("ended") << start << u"2025-11-01 2025-12-03"_s << u"2025-11-01 2026-02-20"_s
-                           << QStringList{u"'Miete' (Girokonto): zuletzt gebucht am 03.12.2025; endet am 01.12.2025"_s}
-                           << u"2025-11-01 2025-12-01"_s;
-    QTest::newRow("late") << start << u"2025-11-01 2025-12-01 2026-01-02"_s << u"2025-11-01 2026-02-05"_s
-                          << QStringList{u"'Miete' (Girokonto), fällig am 01.02.2026: noch nicht gebucht; wird auf den "
-                                         "16.03.2026 verschoben"_s}
-                          << u"2025-11-01 2025-12-01 2026-01-01 2026-03-01 2026-03-16 2026-04-01 2026-05-01"_s;
-    QTest::newRow("left out in between")
-        << start << u"2025-11-01 2026-01-01 2026-02-01"_s << u"2026-02-20"_s
-        << QStringList{u"'Miete' (Girokonto), fällig am 01.12.2025: nicht gebucht; wird ausgelassen"_s}
-        << u"2025-11-01 2026-01-01 2026-02-01 2026-03-01 2026-04-01 2026-05-01"_s;
-    QTest::newRow("never paid") << start << QString() << u"2025-10-15 2026-02-20"_s
-                                << QStringList{u"'Miete' (Girokonto): von der Bank nie gebucht; endet am 01.11.2025"_s}
-                                << QString();
-    QTest::newRow("never paid from some day on")
-        << start << QString() << u"2025-12-15 2026-03-20"_s
-        << QStringList{u"'Miete' (Girokonto): von der Bank nie gebucht; endet am 31.12.2025"_s}
-        << u"2025-11-01 2025-12-01"_s;
-    QTest::newRow("statements of years ago")
-        << QDate(2024, 1, 1) << u"2024-01-01 2024-02-01"_s << u"2024-02-20"_s
-        << QStringList{u"'Miete' (Girokonto): zuletzt gebucht am 01.02.2024; endet am 01.02.2024"_s}
-        << u"2024-01-01 2024-02-01"_s;
-    QTest::newRow("days without statements say nothing")
-        << start << QString() << u"2025-10-15 2025-10-31"_s << QStringList()
-        << u"2025-11-01 2025-12-01 2026-01-01 2026-02-01 2026-03-01 2026-04-01 2026-05-01"_s;
-}
-
-void testSeriesCheck::FindsWhatTheBankDoesNotPay() const
-{
-    QFETCH(const QDate, start);
-    QFETCH(const QString, paid);
-    QFETCH(const QString, others);
-    QFETCH(const QStringList, lines);
-    cTestBook book;
-    book.Settings->Set(modSettingKey::BankNumber.Of(u"111"_s), u"Girokonto"_s);
-    const int rent = book.Add([&](cEntryItem& entry) {
-                             entry.EntryDate = start;
-                             entry.EntryValue = 65000;
-                             entry.EntryDescription = u"Miete"_s;
-                             entry.EntryInterval = u"Monatlich"_s;
-                         })
-                         .ID;
-    const auto stage = [&](const QString& days, int entry, qint64 cents) {
-        for (const QString& day : days.split(u' ', Qt::SkipEmptyParts)) {
-            cImportEntry row;
-            row.ImportAccount = u"111"_s;
-            row.ImportDate = modDate::FromIso(day);
-            row.ImportValue = cents;
-            row.ImportAssigned = entry > 0;
-            row.ImportAssignedEntry = entry > 0 ? entry : -1;
-            QVERIFY(book.Data.AddNewImportEntry(row));
+    void FindsWhatTheBankDoesNotPay() const
+    {
+        QFETCH(const QDate, start);
+        QFETCH(const QString, paid);
+        QFETCH(const QString, others);
+        QFETCH(const QStringList, lines);
+        cTestBook book;
+        book.Settings->Set(modSettingKey::BankNumber.Of(u"111"_s), u"Girokonto"_s);
+        const int rent = book.Spend(start, 65000, u"Miete"_s, u"Monatlich"_s).ID;
+        const auto stage = [&](const QString& days, int entry, qint64 cents) {
+            for (const QString& day : days.split(u' ', Qt::SkipEmptyParts)) {
+                book.Stage(u"111"_s, modDate::FromIso(day), cents, {}, entry);
+            }
+        };
+        stage(paid, rent, -65000);
+        stage(others, -1, -1000);
+        cImportHiveCache hive(book.Data);
+        const cAccountMap accounts(book.Data, *book.Settings);
+        cSeriesCheck check(book.Tools, hive, accounts);
+        QList<int> all(lines.size());
+        std::iota(all.begin(), all.end(), 0);
+        book.User.Ticks = {all};
+        QCOMPARE(check.Ask({}), lines);
+        QVERIFY(check.IsClean()); // a second look finds nothing more
+        QStringList days;
+        cEntryQuery query;
+        query.End = QDate(2026, 5, 31);
+        for (const cEntryItem& entry : book.Data.GetEntries(query)) {
+            days += entry.EntryValue > 0 ? QStringList(modDate::ToIso(entry.EntryDate)) : QStringList();
         }
-    };
-    stage(paid, rent, -65000);
-    stage(others, 0, -1000);
-    cImportHiveCache hive(book.Data);
-    const cAccountMap accounts(book.Data, *book.Settings);
-    cSeriesCheck check(book.Tools, hive, accounts);
-    QList<int> all(lines.size());
-    std::iota(all.begin(), all.end(), 0);
-    book.User.Ticks = {all};
-    QCOMPARE(check.Ask({}), lines);
-    QVERIFY(check.IsClean()); // a second look finds nothing more
-    QStringList days;
-    cEntryQuery query;
-    query.End = QDate(2026, 5, 31);
-    for (const cEntryItem& entry : book.Data.GetEntries(query)) {
-        days += entry.EntryValue > 0 ? QStringList(modDate::ToIso(entry.EntryDate)) : QStringList();
+        QTEST(days.join(u' '), "occurrences");
+        if (!lines.isEmpty()) {
+            QCOMPARE(book.Data.Journal().UndoName(), u"Serien geprüft"_s);
+            QVERIFY(book.Data.Journal().Undo());
+        }
+        // What an open row may pay is left alone.
+        stage(u"2025-12-02 2026-01-03 2026-02-02 2024-03-01"_s, -1, -65500);
+        for (const cSeriesCheck::cFinding& finding : check.Find()) {
+            QVERIFY(finding.IsLate);
+        }
     }
-    QTEST(days.join(u' '), "occurrences");
-    if (!lines.isEmpty()) {
-        QCOMPARE(book.Data.Journal().UndoName(), u"Serien geprüft"_s);
-        QVERIFY(book.Data.Journal().Undo());
-    }
-    // What an open row may pay is left alone.
-    stage(u"2025-12-02 2026-01-03 2026-02-02 2024-03-01"_s, 0, -65500);
-    for (const cSeriesCheck::cFinding& finding : check.Find()) {
-        QVERIFY(finding.IsLate);
-    }
-}
+};
 
 TEST_CLASS(testSeriesCheck, QCoreApplication)
 #include "testSeriesCheck.moc"

@@ -1,7 +1,6 @@
-#include "model/modSplit.h"
+#include "cEditorBook.h"
 #include "support/cTestClass.h"
-#include "support/testBook.h"
-#include "views/entry/cEntryEditor.h"
+#include "support/cTestRows.h"
 #include "views/entry/modSplitParts.h"
 
 #include <QTest>
@@ -50,231 +49,197 @@ class testSplitEntry final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void StoresPartsAsOrdinaryEntries();
-    void AnyPartOpensTheGroup();
-    void ChecksParts_data();
-    void ChecksParts();
-    void RestFillsARow();
-    void RemovedAndAddedParts();
-    void LastPartIsAnOrdinaryEntryAgain();
-    void PlainEntryKeepsItsRow();
-    void JoiningPartsAsks();
-    void PartsThatWentApartOpenAlone();
-    void SeriesOfPartsIsChangedFromADayOn();
-    void CorrectedEntriesAndTransfersStayWhole();
-    void FailureLeavesNothingHalfStored();
-};
+    void StoresPartsAsOrdinaryEntries()
+    {
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
+        QCOMPARE(Rows(book), storedPurchase);
+        QCOMPARE(book.Editor.LastSaved(), QStringList({u"10.03.2026  Einkauf  -50,00\u00A0€"_s}));
+        QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Einkauf' angelegt"_s);
+        QVERIFY(book.Data.Journal().Undo());
+        QCOMPARE(book.Data.CountEntries(), 0);
+        QVERIFY(book.Data.Journal().Redo());
+        QCOMPARE(Rows(book), storedPurchase);
+    }
 
-void testSplitEntry::StoresPartsAsOrdinaryEntries()
-{
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
-    QCOMPARE(Rows(book), storedPurchase);
-    QCOMPARE(editor.LastSaved(), QStringList({u"10.03.2026  Einkauf  -50,00\u00A0€"_s}));
-    QCOMPARE(book.Data.Journal().UndoName(), u"Eintrag 'Einkauf' angelegt"_s);
-    QVERIFY(book.Data.Journal().Undo());
-    QCOMPARE(book.Data.CountEntries(), 0);
-    QVERIFY(book.Data.Journal().Redo());
-    QCOMPARE(Rows(book), storedPurchase);
-}
+    void AnyPartOpensTheGroup()
+    {
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
+        (void)book.Add([](cEntryItem& entry) { entry.EntryFlags = u"split=11"_s; }); // another group
+        for (int id = 1; id <= 3; ++id) {
+            const cEntryFields fields = book.Editor.Load(id).value();
+            QCOMPARE(fields.Face, eEntryFace::Split);
+            QCOMPARE(fields.Amount, u"50,00"_s);
+            QCOMPARE(fields.Type, modWord::Ausgabe);
+            QCOMPARE(fields.Parts.size(), 3);
+            QCOMPARE(fields.Parts.at(2), (cSplitPart{3, u"Haushalt; Pfand"_s, u"Leergut"_s, u"-3,00"_s}));
+            QCOMPARE(modSplitParts::Rest(fields), 0);
+        }
+    }
 
-void testSplitEntry::AnyPartOpensTheGroup()
-{
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
-    (void)book.Add([](cEntryItem& entry) { entry.EntryFlags = u"split=11"_s; }); // another group
-    for (int id = 1; id <= 3; ++id) {
-        const cEntryFields fields = editor.Load(id).value();
-        QCOMPARE(fields.Face, eEntryFace::Split);
-        QCOMPARE(fields.Amount, u"50,00"_s);
-        QCOMPARE(fields.Type, modWord::Ausgabe);
-        QCOMPARE(fields.Parts.size(), 3);
-        QCOMPARE(fields.Parts.at(2), (cSplitPart{3, u"Haushalt; Pfand"_s, u"Leergut"_s, u"-3,00"_s}));
+    void ChecksParts_data()
+    {
+        const cTestRows<int, QString, QString, int, QString> row("row", "category", "amount", "saved", "message");
+        const int refused = int(cEntryEditor::eSaved::Refused);
+        row("amount before category", 1, {}, u"13x"_s, int(cEntryEditor::eSaved::BadPart), u""_s);
+        row("category", 3, {}, u"-3"_s, refused, u"Bitte erst eine Kategorie wählen!"_s);
+        row("rest", -1, u"Haushalt; Pfand"_s, u"-1,50"_s, refused,
+            u"Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von -1,50\u00A0€."_s);
+    }
+
+    void ChecksParts()
+    {
+        QFETCH(int, row);
+        QFETCH(QString, category);
+        QFETCH(QString, amount);
+        cEditorBook book;
+        cEntryFields fields = Purchase();
+        cSplitPart& part = row < 0 ? fields.Parts.last() : fields.Parts[row];
+        part.Category = category;
+        part.Amount = amount;
+        QTEST(int(book.Editor.Save(fields)), "saved");
+        QCOMPARE(book.Editor.FailedPart(), row);
+        QTEST(book.User.Shown.value(0), "message");
+        QCOMPARE(book.Data.CountEntries(), 0);
+    }
+
+    void RestFillsARow()
+    {
+        cEntryFields fields = Purchase();
+        fields.Parts[1].Amount = u"5"_s;
+        QVERIFY(modSplitParts::FillRest(2, fields));
+        QCOMPARE(fields.Parts.at(2).Amount, u"8,00"_s);
         QCOMPARE(modSplitParts::Rest(fields), 0);
+        fields.Amount = u"45"_s;
+        QVERIFY(modSplitParts::FillRest(1, fields)); // goes on top of what is there
+        QCOMPARE(fields.Parts.at(1).Amount, u"0,00"_s);
+        fields.Parts[1].Amount = u"?"_s;
+        QVERIFY(!modSplitParts::FillRest(2, fields));
+        QCOMPARE(modSplitParts::RestText(fields), u"Ein Betrag ist keine Zahl."_s);
     }
-}
 
-void testSplitEntry::ChecksParts_data()
-{
-    QTest::addColumn<int>("row");
-    QTest::addColumn<QString>("category");
-    QTest::addColumn<QString>("amount");
-    QTest::addColumn<int>("saved");
-    QTest::addColumn<QString>("message");
-    const int refused = int(cEntryEditor::eSaved::Refused);
-    QTest::newRow("amount before category")
-        << 1 << QString() << u"13x"_s << int(cEntryEditor::eSaved::BadPart) << u""_s;
-    QTest::newRow("category") << 3 << QString() << u"-3"_s << refused << u"Bitte erst eine Kategorie wählen!"_s;
-    QTest::newRow("rest") << -1 << u"Haushalt; Pfand"_s << u"-1,50"_s << refused
-                          << u"Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von -1,50\u00A0€."_s;
-}
-
-void testSplitEntry::ChecksParts()
-{
-    QFETCH(int, row);
-    QFETCH(QString, category);
-    QFETCH(QString, amount);
-    QFETCH(int, saved);
-    QFETCH(QString, message);
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    cEntryFields fields = Purchase();
-    cSplitPart& part = row < 0 ? fields.Parts.last() : fields.Parts[row];
-    part.Category = category;
-    part.Amount = amount;
-    QCOMPARE(int(editor.Save(fields)), saved);
-    QCOMPARE(editor.FailedPart(), row);
-    QCOMPARE(book.User.Shown.value(0), message);
-    QCOMPARE(book.Data.CountEntries(), 0);
-}
-
-void testSplitEntry::RestFillsARow()
-{
-    cEntryFields fields = Purchase();
-    fields.Parts[1].Amount = u"5"_s;
-    QVERIFY(modSplitParts::FillRest(2, fields));
-    QCOMPARE(fields.Parts.at(2).Amount, u"8,00"_s);
-    QCOMPARE(modSplitParts::Rest(fields), 0);
-    fields.Amount = u"45"_s;
-    QVERIFY(modSplitParts::FillRest(1, fields)); // goes on top of what is there
-    QCOMPARE(fields.Parts.at(1).Amount, u"0,00"_s);
-    fields.Parts[1].Amount = u"?"_s;
-    QVERIFY(!modSplitParts::FillRest(2, fields));
-    QCOMPARE(modSplitParts::RestText(fields), u"Ein Betrag ist keine Zahl."_s);
-}
-
-void testSplitEntry::RemovedAndAddedParts()
-{
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
-    cEntryFields fields = editor.Load(2).value();
-    fields.Parts.removeFirst(); // its ID was the group's name
-    fields.Parts.append({0, u"Haushalt; Lebensmittel"_s, u"Käse"_s, u"40"_s});
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    QCOMPARE(Rows(book),
-             QStringList({u"Ausgabe 1300 Krimi [split=2]"_s, u"Einnahme 300 Leergut [split=2]"_s,
-                          u"Ausgabe 4000 Käse [split=2]"_s}));
-    QVERIFY(book.Data.Journal().Undo());
-    QCOMPARE(Rows(book), storedPurchase);
-}
-
-void testSplitEntry::LastPartIsAnOrdinaryEntryAgain()
-{
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
-    cEntryFields fields = editor.Load(1).value();
-    fields.Parts = fields.Parts.mid(1, 1);
-    fields.Amount = u"13"_s;
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    QCOMPARE(Rows(book), QStringList({u"Ausgabe 1300 Krimi []"_s}));
-    QCOMPARE(editor.Load(2)->Face, eEntryFace::Normal);
-}
-
-void testSplitEntry::PlainEntryKeepsItsRow()
-{
-    cTestBook book;
-    const cEntryItem entry = book.Add([](cEntryItem& item) { item.EntryFlags = u"farbe=rot"_s; });
-    cEntryEditor editor(book.Tools);
-    cEntryFields fields = editor.Load(entry.ID).value();
-    editor.UseSplit(fields);
-    QCOMPARE(fields.Parts.size(), 1);
-    fields.Parts[0].Amount = u"4"_s;
-    fields.Parts.append({0, u"Haushalt; Pfand"_s, u"neu"_s, {}});
-    QVERIFY(modSplitParts::FillRest(1, fields));
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    QCOMPARE(Rows(book), QStringList({u"Ausgabe 400  [farbe=rot;split=1]"_s, u"Ausgabe 600 neu [split=1]"_s}));
-}
-
-void testSplitEntry::JoiningPartsAsks()
-{
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
-    cEntryFields fields = editor.Load(3).value();
-    book.User.Answers = {eAnswer::No, eAnswer::Yes};
-    QVERIFY(!editor.UseNormal(fields));
-    QCOMPARE(fields.Face, eEntryFace::Split);
-    QVERIFY(editor.UseNormal(fields));
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    QCOMPARE(Rows(book), QStringList({u"Ausgabe 5000 Einkauf []"_s}));
-}
-
-void testSplitEntry::PartsThatWentApartOpenAlone()
-{
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
-    cEntryItem part = book.Data.LoadEntry(2).value();
-    part.EntryAccount = u"Bargeld"_s;
-    QVERIFY(book.Data.ChangeEntry(part));
-    cEntryFields fields = editor.Load(1).value();
-    QCOMPARE(fields.Face, eEntryFace::Normal);
-    fields.Amount = u"41"_s;
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    QCOMPARE(Rows(book).value(0), u"Ausgabe 4100 Einkauf [split=1]"_s);
-    QCOMPARE(Rows(book).mid(1), storedPurchase.mid(1));
-}
-
-void testSplitEntry::SeriesOfPartsIsChangedFromADayOn()
-{
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    cEntryFields fields = Purchase();
-    fields.Interval = u"Monatlich"_s;
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    fields = editor.LoadFrom(2, QDate(2026, 6, 10)).value();
-    fields.Parts.removeLast(); // no deposit any more
-    fields.Amount = u"53"_s;
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved);
-    QCOMPARE(Rows(book),
-             storedPurchase + QStringList({u"Ausgabe 4000 Einkauf [split=4]"_s, u"Ausgabe 1300 Krimi [split=4]"_s}));
-    for (int id = 1; id <= 3; ++id) {
-        QCOMPARE(book.Data.LoadEntry(id)->EntryDateEnd, QDate(2026, 6, 9));
+    void RemovedAndAddedParts()
+    {
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
+        cEntryFields fields = book.Editor.Load(2).value();
+        fields.Parts.removeFirst(); // its ID was the group's name
+        fields.Parts.append({0, u"Haushalt; Lebensmittel"_s, u"Käse"_s, u"40"_s});
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(Rows(book),
+                 QStringList({u"Ausgabe 1300 Krimi [split=2]"_s, u"Einnahme 300 Leergut [split=2]"_s,
+                              u"Ausgabe 4000 Käse [split=2]"_s}));
+        QVERIFY(book.Data.Journal().Undo());
+        QCOMPARE(Rows(book), storedPurchase);
     }
-    QCOMPARE(book.Data.LoadEntry(4)->EntryDate, QDate(2026, 6, 10));
-    QCOMPARE(book.Data.LoadEntry(5)->EntryDateEnd, modRecurrence::OpenEnd);
-}
 
-void testSplitEntry::CorrectedEntriesAndTransfersStayWhole()
-{
-    cTestBook book;
-    const cEntryItem series = book.Add([](cEntryItem& entry) { entry.EntryInterval = u"Monatlich"_s; });
-    cEntryItemFixMod fixMod;
-    fixMod.EntryRelation = series.ID;
-    fixMod.EntryStartDate = QDate(2026, 4, 1);
-    QVERIFY(book.Data.AddNewEntryMod(fixMod));
-    cEntryEditor editor(book.Tools);
-    cEntryFields fields = editor.Load(series.ID).value();
-    editor.UseSplit(fields);
-    QCOMPARE(fields.Face, eEntryFace::Normal);
-    fields = editor.Start({});
-    fields.Type = modWord::Umbuchung;
-    editor.UseSplit(fields);
-    QCOMPARE(fields.Face, eEntryFace::Normal);
-    QCOMPARE(book.User.Shown.size(), 2);
-}
+    void LastPartIsAnOrdinaryEntryAgain()
+    {
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
+        cEntryFields fields = book.Editor.Load(1).value();
+        fields.Parts = fields.Parts.mid(1, 1);
+        fields.Amount = u"13"_s;
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(Rows(book), QStringList({u"Ausgabe 1300 Krimi []"_s}));
+        QCOMPARE(book.Editor.Load(2)->Face, eEntryFace::Normal);
+    }
 
-void testSplitEntry::FailureLeavesNothingHalfStored()
-{
-    cTestBook book;
-    cEntryEditor editor(book.Tools);
-    QCOMPARE(editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
-    book.Database.ExecuteScript("CREATE TRIGGER full BEFORE INSERT ON data WHEN NEW.EntryDescription = 'Käse' "
-                                "BEGIN SELECT RAISE(ABORT, 'full'); END");
-    cEntryFields fields = editor.Load(1).value();
-    fields.Parts[0].Amount = u"39"_s;
-    fields.Parts.append({0, u"Haushalt; Lebensmittel"_s, u"Käse"_s, u"1"_s});
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Refused);
-    QCOMPARE(Rows(book), storedPurchase);
-    QCOMPARE(book.User.Shown.size(), 1);
-    book.Database.ExecuteScript("DROP TRIGGER full");
-    QCOMPARE(editor.Save(fields), cEntryEditor::eSaved::Saved); // the editor still knows what it edits
-    QCOMPARE(Rows(book).size(), 4);
-}
+    void PlainEntryKeepsItsRow()
+    {
+        cEditorBook book;
+        const cEntryItem entry = book.Add([](cEntryItem& item) { item.EntryFlags = u"farbe=rot"_s; });
+        cEntryFields fields = book.Editor.Load(entry.ID).value();
+        book.Editor.UseSplit(fields);
+        QCOMPARE(fields.Parts.size(), 1);
+        fields.Parts[0].Amount = u"4"_s;
+        fields.Parts.append({0, u"Haushalt; Pfand"_s, u"neu"_s, {}});
+        QVERIFY(modSplitParts::FillRest(1, fields));
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(Rows(book), QStringList({u"Ausgabe 400  [farbe=rot;split=1]"_s, u"Ausgabe 600 neu [split=1]"_s}));
+    }
+
+    void JoiningPartsAsks()
+    {
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
+        cEntryFields fields = book.Editor.Load(3).value();
+        book.User.Answers = {eAnswer::No, eAnswer::Yes};
+        QVERIFY(!book.Editor.UseNormal(fields));
+        QCOMPARE(fields.Face, eEntryFace::Split);
+        QVERIFY(book.Editor.UseNormal(fields));
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(Rows(book), QStringList({u"Ausgabe 5000 Einkauf []"_s}));
+    }
+
+    void PartsThatWentApartOpenAlone()
+    {
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
+        cEntryItem part = book.Data.LoadEntry(2).value();
+        part.EntryAccount = u"Bargeld"_s;
+        QVERIFY(book.Data.ChangeEntry(part));
+        cEntryFields fields = book.Editor.Load(1).value();
+        QCOMPARE(fields.Face, eEntryFace::Normal);
+        fields.Amount = u"41"_s;
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(Rows(book).value(0), u"Ausgabe 4100 Einkauf [split=1]"_s);
+        QCOMPARE(Rows(book).mid(1), storedPurchase.mid(1));
+    }
+
+    void SeriesOfPartsIsChangedFromADayOn()
+    {
+        cEditorBook book;
+        cEntryFields fields = Purchase();
+        fields.Interval = u"Monatlich"_s;
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        fields = book.Editor.LoadFrom(2, QDate(2026, 6, 10)).value();
+        fields.Parts.removeLast(); // no deposit any more
+        fields.Amount = u"53"_s;
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(Rows(book),
+                 storedPurchase
+                     + QStringList({u"Ausgabe 4000 Einkauf [split=4]"_s, u"Ausgabe 1300 Krimi [split=4]"_s}));
+        for (int id = 1; id <= 3; ++id) {
+            QCOMPARE(book.Data.LoadEntry(id)->EntryDateEnd, QDate(2026, 6, 9));
+        }
+        QCOMPARE(book.Data.LoadEntry(4)->EntryDate, QDate(2026, 6, 10));
+        QCOMPARE(book.Data.LoadEntry(5)->EntryDateEnd, modRecurrence::OpenEnd);
+    }
+
+    void CorrectedEntriesAndTransfersStayWhole()
+    {
+        cEditorBook book;
+        const cEntryItem series = book.Add([](cEntryItem& entry) { entry.EntryInterval = u"Monatlich"_s; });
+        book.Correct(series.ID, QDate(2026, 4, 1), {}, 0);
+        cEntryFields fields = book.Editor.Load(series.ID).value();
+        book.Editor.UseSplit(fields);
+        QCOMPARE(fields.Face, eEntryFace::Normal);
+        fields = book.Editor.Start({});
+        fields.Type = modWord::Umbuchung;
+        book.Editor.UseSplit(fields);
+        QCOMPARE(fields.Face, eEntryFace::Normal);
+        QCOMPARE(book.User.Shown.size(), 2);
+    }
+
+    void FailureLeavesNothingHalfStored()
+    {
+        cEditorBook book;
+        QCOMPARE(book.Editor.Save(Purchase()), cEntryEditor::eSaved::Saved);
+        book.Database.ExecuteScript("CREATE TRIGGER full BEFORE INSERT ON data WHEN NEW.EntryDescription = 'Käse' "
+                                    "BEGIN SELECT RAISE(ABORT, 'full'); END");
+        cEntryFields fields = book.Editor.Load(1).value();
+        fields.Parts[0].Amount = u"39"_s;
+        fields.Parts.append({0, u"Haushalt; Lebensmittel"_s, u"Käse"_s, u"1"_s});
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Refused);
+        QCOMPARE(Rows(book), storedPurchase);
+        QCOMPARE(book.User.Shown.size(), 1);
+        book.Database.ExecuteScript("DROP TRIGGER full");
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved); // the editor still knows what it edits
+        QCOMPARE(Rows(book).size(), 4);
+    }
+};
 
 TEST_CLASS(testSplitEntry, QCoreApplication)
 #include "testSplitEntry.moc"

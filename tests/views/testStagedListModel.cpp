@@ -2,6 +2,7 @@
 #include "core/cAmountFormat.h"
 #include "core/cConfiguration.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/fakes.h"
 #include "views/statement/cStagedListModel.h"
 
@@ -58,7 +59,7 @@ public:
     }
 
     // Heads with their sums, and IDs of the rows.
-    QStringList Lines()
+    [[nodiscard]] QStringList Lines() const
     {
         QStringList lines;
         for (int top = 0; top < Model.rowCount(); ++top) {
@@ -102,38 +103,24 @@ class testStagedListModel final : public QObject
 private Q_SLOTS:
     void Groups_data()
     {
-        QTest::addColumn<int>("grouping");
-        QTest::addColumn<int>("column");
-        QTest::addColumn<Qt::SortOrder>("order");
-        QTest::addColumn<QString>("filter");
-        QTest::addColumn<QStringList>("lines");
-        QTest::newRow("none, by amount") << int(eGrouping::None) << int{cStagedListModel::Amount} << Qt::DescendingOrder
-                                         << QString() << QStringList{u"4"_s, u"5"_s, u"1"_s, u"3"_s, u"2"_s};
-        QTest::newRow("one shop in three spellings, a row without a name")
-            << int(eGrouping::Counterparty) << int{cStagedListModel::Date} << Qt::AscendingOrder << QString()
-            << QStringList{u"Ohne Namen  (1 offen): 100,00"_s,
-                           u"4"_s,
-                           u"Aral  (1 offen): -50,00"_s,
-                           u"2"_s,
-                           u"Rewe  (3, davon 2 offen): -35,50"_s,
-                           u"1"_s,
-                           u"3"_s,
-                           u"5"_s};
-        QTest::newRow("names downwards")
-            << int(eGrouping::Counterparty) << int{cStagedListModel::Counterparty} << Qt::DescendingOrder << u"e"_s
-            << QStringList{
-                   u"Rewe  (3, davon 2 offen): -35,50"_s, u"5"_s, u"3"_s, u"1"_s, u"Aral  (1 offen): -50,00"_s, u"2"_s,
-                   u"Ohne Namen  (1 offen): 100,00"_s,    u"4"_s};
-        QTest::newRow("what is to be done keeps its order")
-            << int(eGrouping::Plan) << int{cStagedListModel::Date} << Qt::DescendingOrder << QString()
-            << QStringList{
-                   u"schon im Buch  (1): 100,00"_s, u"4"_s, u"bitte ansehen  (3): -75,50"_s, u"5"_s, u"2"_s, u"3"_s,
-                   u"gebucht  (1): -10,00"_s,       u"1"_s};
-        QTest::newRow("newest day first, filtered")
-            << int(eGrouping::Day) << int{cStagedListModel::Date} << Qt::DescendingOrder << u"rewe"_s
-            << QStringList{u"Dienstag, 02.06.2026  (1 offen): -5,00"_s,  u"5"_s,
-                           u"Montag, 02.03.2026  (1 offen): -20,50"_s,   u"3"_s,
-                           u"Montag, 05.01.2026  (1 gebucht): -10,00"_s, u"1"_s};
+        const cTestRows<int, int, Qt::SortOrder, QString, QStringList> row("grouping", "column", "order", "filter",
+                                                                           "lines");
+        row("none, by amount", int(eGrouping::None), cStagedListModel::Amount, Qt::DescendingOrder, {},
+            {u"4"_s, u"5"_s, u"1"_s, u"3"_s, u"2"_s});
+        row("one shop in three spellings, a row without a name", int(eGrouping::Counterparty), cStagedListModel::Date,
+            Qt::AscendingOrder, {},
+            {u"Ohne Namen  (1 offen): 100,00"_s, u"4"_s, u"Aral  (1 offen): -50,00"_s, u"2"_s,
+             u"Rewe  (3, davon 2 offen): -35,50"_s, u"1"_s, u"3"_s, u"5"_s});
+        row("names downwards", int(eGrouping::Counterparty), cStagedListModel::Counterparty, Qt::DescendingOrder,
+            u"e"_s,
+            {u"Rewe  (3, davon 2 offen): -35,50"_s, u"5"_s, u"3"_s, u"1"_s, u"Aral  (1 offen): -50,00"_s, u"2"_s,
+             u"Ohne Namen  (1 offen): 100,00"_s, u"4"_s});
+        row("what is to be done keeps its order", int(eGrouping::Plan), cStagedListModel::Date, Qt::DescendingOrder, {},
+            {u"schon im Buch  (1): 100,00"_s, u"4"_s, u"bitte ansehen  (3): -75,50"_s, u"5"_s, u"2"_s, u"3"_s,
+             u"gebucht  (1): -10,00"_s, u"1"_s});
+        row("newest day first, filtered", int(eGrouping::Day), cStagedListModel::Date, Qt::DescendingOrder, u"rewe"_s,
+            {u"Dienstag, 02.06.2026  (1 offen): -5,00"_s, u"5"_s, u"Montag, 02.03.2026  (1 offen): -20,50"_s, u"3"_s,
+             u"Montag, 05.01.2026  (1 gebucht): -10,00"_s, u"1"_s});
     }
 
     void Groups()

@@ -1,7 +1,7 @@
-#include "core/cSettings.h"
 #include "import/plan/modStagedTwins.h"
 #include "import/stage/modStatementFormat.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/statement/cImportRuns.h"
 
@@ -46,52 +46,49 @@ class testStagedTwins final : public QObject
 private Q_SLOTS:
     void Finds_data()
     {
-        QTest::addColumn<fnChange>("Change"); // of the same transaction in the words of another file
-        QTest::addColumn<int>("Found");       // 0: not, 1: by the account, 2: by the name
-        const auto add = [](const char* name, int found, const fnChange& change) {
-            QTest::newRow(name) << change << found;
-        };
-        add("other words", 1, [](auto& row) { row.ImportBeneficiary = u"SWT"_s; });
-        add("number instead of IBAN", 1, [](auto& row) { row.ImportBeneficiaryAccount = u"202051"_s; });
-        add("another number of the same own account", 1, [](auto& row) { row.ImportAccount = u"4711000815"_s; });
-        add("another own account", 0, [](auto& row) { row.ImportAccount = u"99"_s; });
-        add("another counterparty", 0, [](auto& row) { row.ImportBeneficiaryAccount = u"202052"_s; });
-        add("another day", 0, [](auto& row) { row.ImportDate = row.ImportDate.addDays(1); });
-        add("the same on another day", 1, [](auto& row) {
-            row.ImportDate = row.ImportDate.addDays(4);
-            row.ImportPurpose = u"ABSCHLAG MAERZ Kd. 17"_s;
+        // Change: into the words of another file; Found: 0 not, 1 by the account, 2 by the name
+        const cTestRows<int, fnChange> row("Found", "Change");
+        row("other words", 1, [](auto& each) { each.ImportBeneficiary = u"SWT"_s; });
+        row("number instead of IBAN", 1, [](auto& each) { each.ImportBeneficiaryAccount = u"202051"_s; });
+        row("another number of the same own account", 1, [](auto& each) { each.ImportAccount = u"4711000815"_s; });
+        row("another own account", 0, [](auto& each) { each.ImportAccount = u"99"_s; });
+        row("another counterparty", 0, [](auto& each) { each.ImportBeneficiaryAccount = u"202052"_s; });
+        row("another day", 0, [](auto& each) { each.ImportDate = each.ImportDate.addDays(1); });
+        row("the same on another day", 1, [](auto& each) {
+            each.ImportDate = each.ImportDate.addDays(4);
+            each.ImportPurpose = u"ABSCHLAG MAERZ Kd. 17"_s;
         });
-        add("no account, the same on another day", 2, [](auto& row) {
-            row.ImportDate = row.ImportDate.addDays(-1);
-            row.ImportBeneficiaryAccount.clear();
-            row.ImportPurpose = First().ImportPurpose;
+        row("no account, the same on another day", 2, [](auto& each) {
+            each.ImportDate = each.ImportDate.addDays(-1);
+            each.ImportBeneficiaryAccount.clear();
+            each.ImportPurpose = First().ImportPurpose;
         });
-        add("too many days away", 0, [](auto& row) {
-            row.ImportDate = row.ImportDate.addDays(5);
-            row.ImportPurpose = First().ImportPurpose;
+        row("too many days away", 0, [](auto& each) {
+            each.ImportDate = each.ImportDate.addDays(5);
+            each.ImportPurpose = First().ImportPurpose;
         });
-        add("the same on another day in the same format", 0, [](auto& row) {
-            row.ID = 30;
-            row.ImportDate = row.ImportDate.addDays(2);
-            row.ImportPurpose = First().ImportPurpose;
+        row("the same on another day in the same format", 0, [](auto& each) {
+            each.ID = 30;
+            each.ImportDate = each.ImportDate.addDays(2);
+            each.ImportPurpose = First().ImportPurpose;
         });
-        add("another amount", 0, [](auto& row) { row.ImportValue = -8451; });
-        add("the other way round", 0, [](auto& row) { row.ImportValue = 8450; });
-        add("no account, a name that is cut off", 2, [](auto& row) {
-            row.ImportBeneficiaryAccount.clear();
-            row.ImportBeneficiary = u"STADTWERKE TAL"_s;
+        row("another amount", 0, [](auto& each) { each.ImportValue = -8451; });
+        row("the other way round", 0, [](auto& each) { each.ImportValue = 8450; });
+        row("no account, a name that is cut off", 2, [](auto& each) {
+            each.ImportBeneficiaryAccount.clear();
+            each.ImportBeneficiary = u"STADTWERKE TAL"_s;
         });
-        add("no account, another name", 0, [](auto& row) {
-            row.ImportBeneficiaryAccount.clear();
-            row.ImportBeneficiary = u"Bäckerei Kornblume"_s;
+        row("no account, another name", 0, [](auto& each) {
+            each.ImportBeneficiaryAccount.clear();
+            each.ImportBeneficiary = u"Bäckerei Kornblume"_s;
         });
-        add("no account, no name but in the purpose", 2, [](auto& row) {
-            row.ImportBeneficiaryAccount.clear();
-            row.ImportBeneficiary.clear();
-            row.ImportPurpose = u"Stadtwerke Talheim Abschlag"_s;
+        row("no account, no name but in the purpose", 2, [](auto& each) {
+            each.ImportBeneficiaryAccount.clear();
+            each.ImportBeneficiary.clear();
+            each.ImportPurpose = u"Stadtwerke Talheim Abschlag"_s;
         });
-        add("of the same file", 0, [](auto& row) { row.ID = 3; });
-        add("taken twice on purpose", 0, [](auto& row) { row.ImportPurpose = First().ImportPurpose; });
+        row("of the same file", 0, [](auto& each) { each.ID = 3; });
+        row("taken twice on purpose", 0, [](auto& each) { each.ImportPurpose = First().ImportPurpose; });
     }
 
     void Finds()

@@ -2,7 +2,7 @@
 #include "import/stage/cBankBalances.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/ledger/cStatementListModel.h"
 
@@ -82,9 +82,7 @@ private Q_SLOTS:
     void UnreadableRowsAreSaid() const
     {
         cScene scene(u"0502 -2310 REWE"_s, {});
-        const QString path = scene.Path();
-        cTestFile::Damage(path, "import");
-        scene.Database.Open(path, eOpenMode::ReadWrite);
+        scene.Damage("import");
         const cStatementListModel statement(scene.Tools);
         QCOMPARE(statement.EmptyTitle(), u"Das Buch konnte nicht gelesen werden"_s);
         QCOMPARE(statement.TotalText(), u"–"_s);
@@ -94,9 +92,7 @@ private Q_SLOTS:
     void UnreadableEntriesAreSaid() const
     {
         cScene scene(u"0502 -2310 REWE"_s, u"2026-05-02=-2310"_s);
-        const QString path = scene.Path();
-        cTestFile::Damage(path, "data");
-        scene.Database.Open(path, eOpenMode::ReadWrite);
+        scene.Damage("data");
         const cStatementListModel statement(scene.Tools);
         QCOMPARE(statement.Findings().constLast(), u"Das Buch konnte nicht gelesen werden"_s);
         QCOMPARE(statement.Finding(), cStatementListModel::eFinding::Unknown);
@@ -104,47 +100,38 @@ private Q_SLOTS:
 
     void ChecksBalances_data()
     {
-        QTest::addColumn<QString>("rows");
-        QTest::addColumn<QString>("balances");
-        QTest::addColumn<QString>("shown"); // running balances
-        QTest::addColumn<QString>("faults");
-        QTest::addColumn<QString>("words"); // of the findings
-
+        // shown: running balances; words: of the findings
+        const cTestRows<QString, QString, QString, QString, QString> row("rows", "balances", "shown", "faults",
+                                                                         "words");
         const QString two = u"0502 -2310 REWE;0503 -1000 Korn"_s;
-        QTest::newRow("agrees") << two << u"2026-04-30=10000;2026-05-03=6690"_s << u"76,90 66,90"_s << QString()
-                                << u"stimmen mit allen 2 Kontoständen"_s;
-        QTest::newRow("unreadable values") << two << u"x;2026-13-01=5;2026-05-02=a;2026-04-30=10000;2026-05-03=6690;="_s
-                                           << u"76,90 66,90"_s << QString() << u"allen 2 Kontoständen"_s;
-        QTest::newRow("missing row") << u"0503 -1000 Korn"_s << u"2026-04-30=10000;2026-05-03=6690"_s << u"66,90"_s
-                                     << u"0501-0503 -2310"_s << u"Ab dem 01.05.2026 fehlen 23,10"_s;
-        QTest::newRow("missing income") << u"0503 -1000 Korn"_s << u"2026-04-30=10000;2026-05-03=9500"_s << u"95,00"_s
-                                        << u"0501-0503 500"_s << u"an Einnahmen"_s;
-        QTest::newRow("row twice") << u"0502 -2310 REWE;0502 -2310 REWE;0503 -1000 Korn"_s
-                                   << u"2026-04-30=10000;2026-05-03=6690"_s << u"100,00 76,90 66,90"_s
-                                   << u"0501-0503 2310"_s << u"doppelt eingelesen"_s;
-        QTest::newRow("equal rows taken once")
-            << two << u"2026-04-30=10000;2026-05-03=4380"_s << u"53,80 43,80"_s << u"0501-0503 -2310"_s
-            << u"der zweite beim Einlesen für eine Wiederholung gehalten"_s;
-        QTest::newRow("gap between statements")
-            << u"0502 -1000 A;0602 -1000 B"_s << u"2026-05-01=10000;2026-05-03=9000;2026-06-01=5000;2026-06-02=4000"_s
-            << u"50,00 40,00"_s << u"0504-0601 -4000"_s << u"wahrscheinlich fehlt ein Kontoauszug"_s;
-        QTest::newRow("two differences") << u"0502 -1000 A;0602 -1000 B"_s
-                                         << u"2026-05-01=10000;2026-05-03=8500;2026-06-02=7000"_s << u"80,00 70,00"_s
-                                         << u"0502-0503 -500;0504-0602 -500"_s << u"Ab dem 04.05.2026"_s;
-        QTest::newRow("no balance") << two << QString() << u"-23,10 -33,10"_s << QString()
-                                    << u"noch keinen Kontostand genannt"_s;
-        QTest::newRow("one balance only")
-            << two << u"2026-05-03=6690"_s << u"76,90 66,90"_s << QString() << u"Ein weiterer"_s;
-        QTest::newRow("several balances a day") << u"0502 -2310 A;0502 -1000 B;0503 500 C"_s
-                                                << u"2026-05-02=10000;2026-05-02=7690;2026-05-02=6690;2026-05-03=7190"_s
-                                                << u"76,90 66,90 71,90"_s << QString() << u"allen 4 Kontoständen"_s;
-        QTest::newRow("negative") << two << u"2026-04-30=1000;2026-05-03=-2310"_s << u"-13,10 -23,10"_s << QString()
-                                  << u"allen 2 Kontoständen"_s;
-        QTest::newRow("booked on another day") << u"0429 -500 A;0502 -2310 REWE;0505 -1000 B"_s
-                                               << u"2026-04-28=10500;2026-04-30=7690;2026-05-02=7690;2026-05-05=6690"_s
-                                               << u"100,00 76,90 66,90"_s << QString() << u"an anderen Tagen gebucht"_s;
-        QTest::newRow("balance behind the rows") << two << u"2026-05-03=6690;2026-05-31=5000"_s << u"60,00 50,00"_s
-                                                 << u"0504-0531 -1690"_s << u"kein Umsatz eingelesen"_s;
+        row("agrees", two, u"2026-04-30=10000;2026-05-03=6690"_s, u"76,90 66,90"_s, {},
+            u"stimmen mit allen 2 Kontoständen"_s);
+        row("unreadable values", two, u"x;2026-13-01=5;2026-05-02=a;2026-04-30=10000;2026-05-03=6690;="_s,
+            u"76,90 66,90"_s, {}, u"allen 2 Kontoständen"_s);
+        row("missing row", u"0503 -1000 Korn"_s, u"2026-04-30=10000;2026-05-03=6690"_s, u"66,90"_s,
+            u"0501-0503 -2310"_s, u"Ab dem 01.05.2026 fehlen 23,10"_s);
+        row("missing income", u"0503 -1000 Korn"_s, u"2026-04-30=10000;2026-05-03=9500"_s, u"95,00"_s,
+            u"0501-0503 500"_s, u"an Einnahmen"_s);
+        row("row twice", u"0502 -2310 REWE;0502 -2310 REWE;0503 -1000 Korn"_s, u"2026-04-30=10000;2026-05-03=6690"_s,
+            u"100,00 76,90 66,90"_s, u"0501-0503 2310"_s, u"doppelt eingelesen"_s);
+        row("equal rows taken once", two, u"2026-04-30=10000;2026-05-03=4380"_s, u"53,80 43,80"_s, u"0501-0503 -2310"_s,
+            u"der zweite beim Einlesen für eine Wiederholung gehalten"_s);
+        row("gap between statements", u"0502 -1000 A;0602 -1000 B"_s,
+            u"2026-05-01=10000;2026-05-03=9000;2026-06-01=5000;2026-06-02=4000"_s, u"50,00 40,00"_s,
+            u"0504-0601 -4000"_s, u"wahrscheinlich fehlt ein Kontoauszug"_s);
+        row("two differences", u"0502 -1000 A;0602 -1000 B"_s, u"2026-05-01=10000;2026-05-03=8500;2026-06-02=7000"_s,
+            u"80,00 70,00"_s, u"0502-0503 -500;0504-0602 -500"_s, u"Ab dem 04.05.2026"_s);
+        row("no balance", two, {}, u"-23,10 -33,10"_s, {}, u"noch keinen Kontostand genannt"_s);
+        row("one balance only", two, u"2026-05-03=6690"_s, u"76,90 66,90"_s, {}, u"Ein weiterer"_s);
+        row("several balances a day", u"0502 -2310 A;0502 -1000 B;0503 500 C"_s,
+            u"2026-05-02=10000;2026-05-02=7690;2026-05-02=6690;2026-05-03=7190"_s, u"76,90 66,90 71,90"_s, {},
+            u"allen 4 Kontoständen"_s);
+        row("negative", two, u"2026-04-30=1000;2026-05-03=-2310"_s, u"-13,10 -23,10"_s, {}, u"allen 2 Kontoständen"_s);
+        row("booked on another day", u"0429 -500 A;0502 -2310 REWE;0505 -1000 B"_s,
+            u"2026-04-28=10500;2026-04-30=7690;2026-05-02=7690;2026-05-05=6690"_s, u"100,00 76,90 66,90"_s, {},
+            u"an anderen Tagen gebucht"_s);
+        row("balance behind the rows", two, u"2026-05-03=6690;2026-05-31=5000"_s, u"60,00 50,00"_s,
+            u"0504-0531 -1690"_s, u"kein Umsatz eingelesen"_s);
     }
 
     void ChecksBalances()
@@ -171,13 +158,13 @@ private Q_SLOTS:
 
     void ComparesWithBook_data()
     {
-        QTest::addColumn<QString>("entries"); // of the book, as rows
-        QTest::addColumn<QString>("words");
-        QTest::newRow("agrees") << u"0401 10000;0501 -2310;0503 -1000"_s << u"stimmt am 03.05.2026 mit der Bank"_s;
-        QTest::newRow("one too many") << u"0401 10000;0502 -2310;0503 -1000;0503 -1"_s << u"Seit dem 03.05.2026"_s;
-        QTest::newRow("one too few") << u"0401 10000;0503 -1000"_s << u"Seit dem 02.05.2026"_s;
-        QTest::newRow("later ones do not count") << u"0401 10000;0502 -2310;0503 -1000;0504 -1"_s << u"stimmt am"_s;
-        QTest::newRow("no start") << u"0502 -2310;0503 -1000"_s << u"schon am 01.05.2026 nicht überein"_s;
+        // entries: of the book, as rows
+        const cTestRows<QString, QString> row("entries", "words");
+        row("agrees", u"0401 10000;0501 -2310;0503 -1000"_s, u"stimmt am 03.05.2026 mit der Bank"_s);
+        row("one too many", u"0401 10000;0502 -2310;0503 -1000;0503 -1"_s, u"Seit dem 03.05.2026"_s);
+        row("one too few", u"0401 10000;0503 -1000"_s, u"Seit dem 02.05.2026"_s);
+        row("later ones do not count", u"0401 10000;0502 -2310;0503 -1000;0504 -1"_s, u"stimmt am"_s);
+        row("no start", u"0502 -2310;0503 -1000"_s, u"schon am 01.05.2026 nicht überein"_s);
     }
 
     void ComparesWithBook()
