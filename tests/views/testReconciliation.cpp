@@ -1,10 +1,14 @@
+#include "base/cProgress.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryDelete.h"
 #include "views/ledger/cReconciledDays.h"
 #include "views/ledger/cReconcileListModel.h"
+#include "views/statement/cImportReview.h"
 #include "views/statement/cOpeningBalance.h"
+#include "views/statement/cStatementFiles.h"
 
 #include <QTest>
 
@@ -104,6 +108,48 @@ private Q_SLOTS:
         QVERIFY(!cOpeningBalance(whole.Tools).For(number)); // what it began with in the morning
     }
 
+    void FirstStatementBringsTheStartBalance_data()
+    {
+        QTest::addColumn<QByteArray>("head");
+        QTest::newRow("number") << QByteArray("IBAN;DE02100200300001234567\n\n");
+        QTest::newRow("none, so the account lends its name") << QByteArray();
+    }
+
+    // The book holds what the bank says from the first row on; a hand-made entry that the first row pays does not
+    // count.
+    void FirstStatementBringsTheStartBalance()
+    {
+        QFETCH(const QByteArray, head);
+        cTestBook book;
+        cImportReview review(book.Tools);
+        cNoProgress progress;
+        book.Add(
+            [](cEntryItem& entry) { entry.EntryDate = QDate(2026, 4, 30); }); // 10.00, which the bank books on May 2nd
+        book.Add([](cEntryItem& entry) {
+            entry.EntryDate = QDate(2026, 3, 1);
+            entry.EntryValue = 500;
+        });
+        const cTestFile folder;
+        const QString path = folder.Path(u"a.csv"_s);
+        cTestFile::Write(path,
+                         head
+                             + "Buchungstag;Verwendungszweck;Betrag;Saldo\n"
+                               "04.05.2026;Kiosk;-3,00;87,00\n02.05.2026;Markt;-10,00;90,00\n");
+        book.User.Choices = {u"Girokonto"_s};
+        book.User.Answers = {eAnswer::Yes};
+        review.Files().ImportFiles({path}, progress);
+        QVERIFY2(book.User.Asked.constLast().startsWith(u"Am 04.05.2026 waren laut Kontoauszug 87,00\u00A0€ auf dem "
+                                                        "Konto 'Girokonto'."_s),
+                 qPrintable(book.User.Asked.constLast()));
+        const std::optional<cEntryItem> start = book.Data.GetStartGuthaben(u"Girokonto"_s);
+        QVERIFY(start);
+        QCOMPARE(start->EntryValue, 10500);
+        QCOMPARE(start->EntryDate, QDate(2026, 3, 1));
+        book.User.Asked.clear();
+        review.Files().ImportFiles({path}, progress);
+        QCOMPARE(book.User.Asked, QStringList());
+    }
+
     void ListsWhatDiffers()
     {
         cScene scene;
@@ -161,6 +207,19 @@ private Q_SLOTS:
         QVERIFY(!model.CanConfirm());
         QVERIFY(model.TakeBank(0));
         QVERIFY(model.CanConfirm());
+    }
+
+    // Every row is booked, and one that the bank has was never read.
+    void SaysHowFarTheSumsDiffer()
+    {
+        cScene scene;
+        scene.Row(9, -4000, u"Strom"_s, scene.Entry(9, 4000, u"Strom"_s));
+        cReconcileListModel model(scene.Tools);
+        model.Show(number);
+        QCOMPARE(model.rowCount(), 0);
+        QVERIFY2(model.Finding().startsWith(u"Jeder eingelesene Umsatz steht im Buch, doch seit dem 01.05.2026 sind "
+                                            "dort 10,00\u00A0€ mehr als bei der Bank."_s),
+                 qPrintable(model.Finding()));
     }
 
     void AsksBeforeReconciledDaysChange()
