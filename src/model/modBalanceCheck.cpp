@@ -27,8 +27,9 @@ public:
             return {};
         }
         m_result.IsAnchored = true;
-        m_result.Opening = m_balances.last().Cents - m_sums[Behind(m_balances.last().Day)];
-        m_newer = m_balances.last().Day;
+        const cBankBalance& newest = m_balances.last();
+        m_result.Opening = newest.Valued() - m_sums[Behind(newest.Day)];
+        m_newer = newest.Day;
         for (qsizetype i = m_balances.size() - 1; i >= 0; --i) {
             m_result.Points.prepend(Judge(i));
         }
@@ -50,7 +51,7 @@ private:
     {
         const auto first = m_sums.begin() + static_cast<std::ptrdiff_t>(Before(balance.Day));
         const auto last = m_sums.begin() + static_cast<std::ptrdiff_t>(Behind(balance.Day));
-        return std::find(first, last + 1, balance.Cents - m_result.Opening + m_error) != last + 1;
+        return std::find(first, last + 1, balance.Valued() - m_result.Opening + m_error) != last + 1;
     }
 
     // An older balance fits again within a few days.
@@ -69,14 +70,14 @@ private:
     {
         const cBankBalance& balance = m_balances.at(index);
         const qint64 evening = m_result.Opening + m_sums[Behind(balance.Day)];
-        cPoint point{balance.Day, balance.Cents, evening, eVerdict::Differs};
+        cPoint point{balance.Day, balance.Cents, evening + balance.Late, eVerdict::Differs, balance.Late};
         const bool fits = Fits(balance);
         if (!fits && IsPassing(index)) {
             point.Verdict = eVerdict::Passing;
             return point;
         }
         if (!fits) {
-            AddFault(balance, evening - balance.Cents);
+            AddFault(balance, evening - balance.Valued());
         }
         m_newer = balance.Day;
         point.Own = balance.Cents + m_error;

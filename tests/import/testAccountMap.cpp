@@ -113,11 +113,27 @@ private Q_SLOTS:
         QTEST(book.Accounts.Proposal(number), "account");
     }
 
+    // Of the accounts at a bank one has no number yet.
+    void ProposesTheOnlyOneWithoutNumber()
+    {
+        cImportBook book;
+        QVERIFY(book.Accounts.Assign(u"123"_s, u"Girokonto"_s));
+        QCOMPARE(book.Accounts.Proposal(u"DE02100200300001234567"_s), u"Sparkonto"_s);
+        QCOMPARE(book.Accounts.Proposal(u"4711XXXXXXXX1234"_s), QString());
+        for (const QString& name : {u"A"_s, u"B"_s, u"C"_s, u"D"_s}) { // many payees: a second current account
+            cImportEntry row;
+            row.ImportAccount = u"9"_s;
+            row.ImportBeneficiary = name;
+            QVERIFY(book.Hive.Add(row));
+        }
+        QCOMPARE(book.Accounts.Proposal(u"9"_s), QString());
+    }
+
     void AccountWithoutNumberLendsItsName()
     {
         cImportBook book;
         QCOMPARE(book.Accounts.NumberMeant(u" bargeld "_s), u"Bargeld"_s);
-        book.Accounts.AssignNames({u"Bargeld"_s, u"123"_s});
+        QCOMPARE(book.Accounts.AssignNames({u"Bargeld"_s, u"123"_s}), QStringList(u"Bargeld"_s));
         QCOMPARE(book.Accounts.AccountOf(u"Bargeld"_s), u"Bargeld"_s);
         QVERIFY(book.Accounts.AccountOf(u"123"_s).isEmpty());
         QVERIFY(book.Accounts.Assign(u"123"_s, u"Girokonto"_s));

@@ -205,33 +205,6 @@ private Q_SLOTS:
         QTEST(static_cast<int>(page.Review.Files().LeftOut().size()), "leftOut");
     }
 
-    // The book holds what the bank says from the first row on; a hand-made entry that the first row pays does not
-    // count.
-    void FirstStatementBringsTheStartBalance()
-    {
-        cPage page;
-        page.Spend(QDate(2026, 4, 30), 1000); // which the bank books on May 2nd
-        page.Spend(QDate(2026, 3, 1), 500);
-        const cTestFile folder;
-        const QString file = folder.Path(u"a.csv"_s);
-        cTestFile::Write(file,
-                         "IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag;Saldo\n"
-                         "04.05.2026;Kiosk;-3,00;87,00\n02.05.2026;Markt;-10,00;90,00\n");
-        page.User.Choices = {u"Girokonto"_s};
-        page.User.Answers = {eAnswer::Yes};
-        page.Review.Files().ImportFiles({file}, page.Progress);
-        QVERIFY2(page.User.Asked.constLast().startsWith(u"Am 04.05.2026 waren laut Kontoauszug 87,00"_s + space
-                                                        + u"€ auf dem Konto 'Girokonto'."),
-                 qPrintable(page.User.Asked.constLast()));
-        const std::optional<cEntryItem> start = page.Data.GetStartGuthaben(u"Girokonto"_s);
-        QVERIFY(start);
-        QCOMPARE(start->EntryValue, 10500);
-        QCOMPARE(start->EntryDate, QDate(2026, 3, 1));
-        page.User.Asked.clear();
-        page.Review.Files().ImportFiles({file}, page.Progress);
-        QCOMPARE(page.User.Asked, QStringList());
-    }
-
     void BooksWhatTheUserChose()
     {
         cPage page;

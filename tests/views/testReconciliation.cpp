@@ -1,12 +1,17 @@
+#include "base/cProgress.h"
 #include "core/modDemo.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryDelete.h"
 #include "views/ledger/cOpeningBalance.h"
 #include "views/ledger/cReconciledDays.h"
 #include "views/ledger/cReconcileListModel.h"
 #include "views/ledger/cReconciliation.h"
+#include "views/statement/cImportReview.h"
+#include "views/statement/cStatementFiles.h"
 
 #include <QTest>
 
@@ -92,14 +97,11 @@ private Q_SLOTS:
 
     void HouseholdDiffersInOpenRows_data()
     {
-        QTest::addColumn<QDate>("today");
-        QTest::addColumn<int>("entries");
-
-        QTest::newRow("middle of the month") << QDate(2026, 3, 15) << 0;
-        QTest::newRow("day of two rents")
-            << QDate(2026, 3, 1) << 0; // a year ago the old one was paid for the last time
-        QTest::newRow("leap day") << QDate(2028, 2, 29) << 0;
-        QTest::newRow("large") << QDate(2026, 3, 15) << 3000;
+        const cTestRows<QDate, int> row("today", "entries");
+        row("middle of the month", QDate(2026, 3, 15), 0);
+        row("day of two rents", QDate(2026, 3, 1), 0); // a year ago the old one was paid for the last time
+        row("leap day", QDate(2028, 2, 29), 0);
+        row("large", QDate(2026, 3, 15), 3000);
     }
 
     void HouseholdDiffersInOpenRows()
@@ -124,6 +126,48 @@ private Q_SLOTS:
         QCOMPARE(open.removeAll(u"book only"_s), 1); // the rent whose row waits
         QCOMPARE(open.removeAll(u"bank only"_s), 26);
         QCOMPARE(open, QStringList());
+    }
+
+    void FirstStatementBringsTheStartBalance_data()
+    {
+        const cTestRows<QByteArray> row("head");
+        row("number", "IBAN;DE02100200300001234567\n\n");
+        row("none, so the account lends its name", {});
+    }
+
+    // The book holds what the bank says from the first row on; a hand-made entry that the first row pays does not
+    // count.
+    void FirstStatementBringsTheStartBalance()
+    {
+        QFETCH(const QByteArray, head);
+        cTestBook book;
+        cImportReview review(book.Tools);
+        cNoProgress progress;
+        book.Add(
+            [](cEntryItem& entry) { entry.EntryDate = QDate(2026, 4, 30); }); // 10.00, which the bank books on May 2nd
+        book.Add([](cEntryItem& entry) {
+            entry.EntryDate = QDate(2026, 3, 1);
+            entry.EntryValue = 500;
+        });
+        const cTestFile folder;
+        const QString path = folder.Path(u"a.csv"_s);
+        cTestFile::Write(path,
+                         head
+                             + "Buchungstag;Verwendungszweck;Betrag;Saldo\n"
+                               "04.05.2026;Kiosk;-3,00;87,00\n02.05.2026;Markt;-10,00;90,00\n");
+        book.User.Choices = {u"Girokonto"_s};
+        book.User.Answers = {eAnswer::Yes};
+        review.Files().ImportFiles({path}, progress);
+        QVERIFY2(book.User.Asked.constLast().startsWith(u"Am 04.05.2026 waren laut Kontoauszug 87,00\u00A0€ auf dem "
+                                                        "Konto 'Girokonto'."_s),
+                 qPrintable(book.User.Asked.constLast()));
+        const std::optional<cEntryItem> start = book.Data.GetStartGuthaben(u"Girokonto"_s);
+        QVERIFY(start);
+        QCOMPARE(start->EntryValue, 10500);
+        QCOMPARE(start->EntryDate, QDate(2026, 3, 1));
+        book.User.Asked.clear();
+        review.Files().ImportFiles({path}, progress);
+        QCOMPARE(book.User.Asked, QStringList());
     }
 
     void ListsWhatDiffers()
@@ -180,6 +224,19 @@ private Q_SLOTS:
         QVERIFY(!model.CanConfirm());
         QVERIFY(model.TakeBank(0));
         QVERIFY(model.CanConfirm());
+    }
+
+    // Every row is booked, and one that the bank has was never read.
+    void SaysHowFarTheSumsDiffer()
+    {
+        cScene scene;
+        scene.Row(9, -4000, u"Strom"_s, scene.Entry(9, 4000, u"Strom"_s));
+        cReconcileListModel model(scene.Tools);
+        model.Show(number);
+        QCOMPARE(model.rowCount(), 0);
+        QVERIFY2(model.Finding().startsWith(u"Jeder eingelesene Umsatz steht im Buch, doch seit dem 01.05.2026 sind "
+                                            "dort 10,00\u00A0€ mehr als bei der Bank."_s),
+                 qPrintable(model.Finding()));
     }
 
     void AsksBeforeReconciledDaysChange()

@@ -1,10 +1,15 @@
+#include "base/cProgress.h"
 #include "import/read/cStatementRead.h"
 #include "import/stage/cBankBalances.h"
+#include "import/stage/cImportHiveCache.h"
+#include "import/stage/cImportResult.h"
+#include "import/stage/cStatementImport.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/ledger/cStatementListModel.h"
+#include "views/statement/cOpeningBalance.h"
 
 #include <QSignalSpy>
 #include <QTest>
@@ -62,6 +67,28 @@ QString FaultsOf(const cStatementListModel& statement)
     }
     return texts.join(u';');
 }
+
+// Statements of autumn 2026 as a bank with value days makes them: the petrol of October 30th is valued on November 1st,
+// the interest of November 2nd on October 31st.
+const QHash<QString, QString> texts{
+    {u"10.sta"_s,
+     u":20:A\n:25:10020030/1234567\n:60F:C260930EUR100,00\n:61:2610051005D40,00NMSC\n:86:106?20Korn\n"
+     ":61:2611011030D10,00NMSC\n:86:106?20Petrol\n:62F:C261031EUR50,00\n-\n"_s},
+    {u"11.sta"_s,
+     u":20:A\n:25:10020030/1234567\n:60F:C261031EUR50,00\n:61:2610311102C2,00NMSC\n:86:166?20Interest\n"
+     ":61:2611101110D20,00NMSC\n:86:106?20Korn\n:62F:C261130EUR32,00\n-\n"_s},
+    {u"12.sta"_s,
+     u":20:A\n:25:10020030/1234567\n:60F:C261130EUR32,00\n:61:2612101210D20,00NMSC\n:86:106?20Korn\n"
+     ":62F:C261231EUR12,00\n-\n"_s},
+    {u"10.csv"_s,
+     u"Konto:;1234567\nKontostand vom 31.10.2026:;50,00 EUR\n\nBuchungstag;Wertstellung;Verwendungszweck;Betrag\n"
+     "30.10.2026;01.11.2026;Petrol;-10,00\n05.10.2026;05.10.2026;Korn;-40,00\n"_s},
+    {u"11.csv"_s,
+     u"Konto:;1234567\nKontostand vom 30.11.2026:;32,00 EUR\n\nBuchungstag;Wertstellung;Verwendungszweck;Betrag\n"
+     "10.11.2026;10.11.2026;Korn;-20,00\n02.11.2026;31.10.2026;Interest;2,00\n"_s},
+    {u"all.csv"_s,
+     u"Konto:;1234567\n\nWertstellung;Verwendungszweck;Betrag;Saldo\n"
+     "31.10.2026;Interest;2,00;52,00\n01.11.2026;Petrol;-10,00;50,00\n05.10.2026;Korn;-40,00;60,00\n"_s}};
 
 QString Column(const cStatementListModel& statement, int column)
 {
@@ -145,6 +172,40 @@ private Q_SLOTS:
         QTEST(FaultsOf(statement), "faults");
         const QString findings = statement.Findings().join(u'\n');
         QVERIFY2(findings.contains(words), qPrintable(findings));
+    }
+
+    void ValueDaysAreNoDifference_data()
+    {
+        QTest::addColumn<QString>("files");
+        QTest::addColumn<QString>("faults");
+        QTest::newRow("one month as CSV") << u"10.csv"_s << QString();
+        QTest::newRow("as MT940") << u"10.sta"_s << QString();
+        QTest::newRow("two months as CSV") << u"10.csv 11.csv"_s << QString();
+        QTest::newRow("as MT940, read twice") << u"10.sta 11.sta 10.sta"_s << QString();
+        QTest::newRow("the newer one first") << u"12.sta 11.sta 10.sta"_s << QString();
+        QTest::newRow("balances beside the rows") << u"all.csv"_s << QString();
+        QTest::newRow("a month is missing") << u"10.sta 12.sta"_s << u"1101-1130 -1800"_s;
+    }
+
+    // A balance contains the rows of its statement, whatever days they have.
+    void ValueDaysAreNoDifference()
+    {
+        QFETCH(const QString, files);
+        cScene scene({}, {});
+        cImportHiveCache hive(scene.Data);
+        cBankBalances balances(*scene.Settings);
+        cNoProgress progress;
+        for (const QString& file : files.split(u' ')) {
+            const cImportResult result = cStatementImport(scene.Data, hive, nullptr, &balances)
+                                             .ImportText(file, texts.value(file), {}, progress);
+            QVERIFY2(!result.IsRefused, qPrintable(result.Message));
+        }
+        scene.Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
+        const cStatementListModel statement(scene.Tools);
+        QTEST(FaultsOf(statement), "faults");
+        const auto start = cOpeningBalance(scene.Tools).For(u"1234567"_s);
+        QVERIFY(start.has_value());
+        QCOMPARE(start->Start, 10000);
     }
 
     void DeletedRowsAreNoticed()

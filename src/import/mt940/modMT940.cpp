@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/modAmount.h"
 #include "import/mt940/cMT940Lines.h"
+#include "import/mt940/cStatementBalances.h"
 #include "import/mt940/modMT940Repair.h"
 #include "import/read/cRepeatedText.h"
 #include "import/read/modSepaPurpose.h"
@@ -20,7 +21,6 @@ namespace {
 using modMT940::cBalance;
 using modMT940::cParsed;
 using modMT940::cStatement;
-using modMT940::cStatementBalance;
 using modMT940::cTransaction;
 
 constexpr int structureSample = 11;                     // details lines that decide whether the text is structured
@@ -162,6 +162,7 @@ cTransaction ReadTransaction(QStringView content, int line)
         ++end;
     }
     transaction.ValueDate = content.left(6).toString();
+    transaction.EntryDay = IsDigit(content, 6) ? content.mid(6, 4).toString() : QString();
     transaction.Mark = mark.toString();
     transaction.Amount = PadAmount(content.mid(at, end - at));
     transaction.TypeCode = content.mid(end, 4).toString();
@@ -375,7 +376,7 @@ private:
             return;
         }
         m_parsed.ClosingBalance = balance;
-        m_parsed.Closings.append({m_statement.Account, balance});
+        m_statement.Closings.append(balance);
     }
 
     // An amount of nothing but zeros is empty without them.
@@ -406,7 +407,6 @@ private:
     void Fail(int number)
     {
         m_parsed.ClosingBalance.reset();
-        m_parsed.Closings.clear();
         m_parsed.IsFailed = true;
         Report(number,
                cText::Tr("Angaben zu einem Umsatz (:86:) stehen vor dem ersten Umsatz (:61:) des Auszugs. "
@@ -445,14 +445,13 @@ private:
 };
 
 // One without a day or an amount tells nothing.
-std::optional<cAccountBalance> ToAccountBalance(const cStatementBalance& balance, const QString& account)
+std::optional<cAccountBalance> ToAccountBalance(const cBalance& balance, const QString& account)
 {
-    const QDate date = ReadDate(balance.Balance.Date);
-    if (date == noDate || !modAmount::TryReadGerman(balance.Balance.Amount)) {
+    const QDate date = ReadDate(balance.Date);
+    if (date == noDate || !modAmount::TryReadGerman(balance.Amount)) {
         return std::nullopt;
     }
-    const QString& own = balance.Account.isEmpty() ? account : balance.Account;
-    return cAccountBalance{own, modMT940::SignedCents(balance.Balance), date};
+    return cAccountBalance{account, modMT940::SignedCents(balance), date};
 }
 
 // Turns the transactions into records.
@@ -464,6 +463,8 @@ public:
     void TakeTransaction(const cStatement& statement, cTransaction transaction) override
     {
         if (!transaction.Amount.isEmpty() && !IsTooMany()) {
+            const QString& day = transaction.EntryDay.isEmpty() ? transaction.ValueDate : transaction.EntryDay;
+            m_isMorning = m_isMorning || (!day.isEmpty() && statement.OpeningBalance.Date.endsWith(day));
             Read.Entries.append(ToEntry(statement, transaction));
         }
     }
@@ -472,22 +473,34 @@ public:
     void EndStatement(cStatement statement) override
     {
         const QString& account = statement.Account.isEmpty() ? m_account : statement.Account;
-        bool isMorning = false;
-        const QDate opening = ReadDate(statement.OpeningBalance.Date);
+        const bool isMorning = std::exchange(m_isMorning, false);
+        const qsizetype begin = m_ended;
         for (; m_ended < Read.Entries.size(); ++m_ended) {
             cImportEntry& entry = Read.Entries[m_ended];
             entry.ImportAccount = account;
             entry.ImportCurrency = statement.OpeningBalance.Currency;
-            isMorning = isMorning || entry.ImportDate == opening;
             Read.NeedsAccount = Read.NeedsAccount || account.isEmpty();
         }
         if (!statement.BankCode.isEmpty()) {
             Read.BankCodes.insert(account, statement.BankCode);
         }
-        if (std::optional<cAccountBalance> balance = ToAccountBalance({account, statement.OpeningBalance}, {})) {
-            balance->Date = isMorning ? opening.addDays(-1) : opening; // what the day before ended with
-            Read.Balances.append(*balance);
+        std::optional<cAccountBalance> first = ToAccountBalance(statement.OpeningBalance, account);
+        if (first && isMorning) {
+            first->Date = first->Date.addDays(-1); // what the day before ended with
         }
+        QList<cAccountBalance> closings;
+        for (const cBalance& closing : std::as_const(statement.Closings)) {
+            if (const std::optional<cAccountBalance> balance = ToAccountBalance(closing, account)) {
+                closings.append(*balance);
+            }
+        }
+        m_balances.Add(first, closings, Read.Entries, begin);
+    }
+
+    [[nodiscard]] cStatementRead Finished()
+    {
+        Read.Balances = m_balances.All();
+        return std::move(Read);
     }
 
     [[nodiscard]] bool IsTooMany() const { return Read.Entries.size() > cStatementRead::mostEntries; }
@@ -520,8 +533,10 @@ private:
 
     void Report(int line, const QString& text) { Read.Problems.append({line, text}); }
 
-    QString m_account;     // of statements without a number
-    qsizetype m_ended = 0; // entries of the statements before
+    QString m_account;        // of statements without a number
+    qsizetype m_ended = 0;    // entries of the statements before
+    bool m_isMorning = false; // a transaction of the statement was entered on the day of its opening balance
+    cStatementBalances m_balances;
     cRepeatedText m_type;
     cRepeatedText m_bankCode;
 };
@@ -546,7 +561,7 @@ cStatementRead modMT940::Read(const QString& text, const QString& account, eStra
     if (recorder.IsTooMany()) {
         return cStatementRead::TooMany();
     }
-    cStatementRead read = parsed.IsFailed ? cStatementRead() : std::move(recorder.Read);
+    cStatementRead read = parsed.IsFailed ? cStatementRead() : recorder.Finished();
     read.Problems += parsed.Problems;
     if (parsed.IsFailed) {
         read.HasStrayDetails = true;
@@ -554,11 +569,6 @@ cStatementRead modMT940::Read(const QString& text, const QString& account, eStra
     }
     if (parsed.ClosingBalance) {
         read.ClosingBalance = SignedCents(*parsed.ClosingBalance);
-    }
-    for (const cStatementBalance& closing : parsed.Closings) {
-        if (const std::optional<cAccountBalance> balance = ToAccountBalance(closing, account)) {
-            read.Balances.append(*balance);
-        }
     }
     std::stable_sort(read.Problems.begin(), read.Problems.end(),
                      [](const cReadProblem& left, const cReadProblem& right) { return left.Line < right.Line; });

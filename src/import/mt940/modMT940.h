@@ -25,6 +25,7 @@ struct cTransaction
 {
     QString Mark;              // "C", "D", "RC", "RD", also with the third letter of a currency code
     QString ValueDate;         // YYMMDD
+    QString EntryDay;          // MMDD, on which the bank entered it; empty when the line does not say
     QString Amount;            // German number; empty when the line could not be read
     QString TypeCode;          // four characters
     QString CustomerReference; // kept, not staged
@@ -46,22 +47,15 @@ struct cStatement
     QString BankCode;  // what stands before the "/" of the account; empty when there is none
     QString Reference; // not filled
     cBalance OpeningBalance;
+    QList<cBalance> Closings;
     QList<cTransaction> Transactions;
     int TransactionCount = 0;
-};
-
-// A balance with the account that it belongs to.
-struct cStatementBalance
-{
-    QString Account; // as in cStatement
-    cBalance Balance;
 };
 
 struct cParsed
 {
     QList<cStatement> Statements;
     std::optional<cBalance> ClosingBalance; // the last one of the text
-    QList<cStatementBalance> Closings;      // all of them in the order of the text
     QList<cReadProblem> Problems;
     int DetailLines = 0;   // :86: lines walked
     bool IsFailed = false; // a :86: line without its :61: line ended the reading; Statements is empty then

@@ -36,6 +36,7 @@ struct cAccountBalance
     QString Account;
     qint64 Cents = 0; // signed
     QDate Date;       // invalid when the file does not say
+    qint64 Late = 0;  // as in cBankBalance, as far as the file knows: what one moment has in several items adds up
 
     bool operator==(const cAccountBalance&) const = default;
 };

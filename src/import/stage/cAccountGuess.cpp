@@ -105,12 +105,15 @@ int cAccountGuess::Weight(const cTemplateItem& account, const QString& number, c
     const auto isOfOtherKind = [wanted](eKind known) {
         return wanted != eKind::Unknown && known != eKind::Unknown && known != wanted;
     };
-    // A new book has one account of the bank, which may be called like the bank: while it has no number and no other
-    // can be meant, it is.
-    const bool isSole = m_taken.isEmpty() && wanted != eKind::Card && kind != eKind::Cash
+    // The only account that still has no number may be called like the bank. Who entered it with what it holds has it
+    // in the book once; a new account beside it would hold the same again. A statement that shows itself to be of
+    // another kind, and one of a card, may well be of an account that is not entered: taken for this one it would mix
+    // up two.
+    const bool isSole = wanted != eKind::Card && kind != eKind::Cash && kind != eKind::Card
         && std::none_of(m_accounts.begin(), m_accounts.end(), [&](const cTemplateItem& other) {
                             return other.ID != account.ID && modTemplate::IsVisible(other)
-                                && KindOfName(other) != eKind::Cash && !isOfOtherKind(KindOfName(other));
+                                && !m_taken.contains(other.TemplateName) && KindOfName(other) != eKind::Cash
+                                && !isOfOtherKind(KindOfName(other));
                         });
     const bool isOther = isOfOtherKind(kind);
     int weight = isNamed ? 8 : 0;

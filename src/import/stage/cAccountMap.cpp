@@ -160,13 +160,15 @@ QString cAccountMap::NumberMeant(const QString& typed) const
     return own == mapping.end() ? account : own->first;
 }
 
-void cAccountMap::AssignNames(const QStringList& numbers)
+QStringList cAccountMap::AssignNames(const QStringList& numbers)
 {
+    QStringList assigned;
     for (const QString& number : numbers) {
-        if (AccountOf(number).isEmpty() && Exists(number)) {
-            (void)Assign(number, number); // of a refusal the user has been told
+        if (AccountOf(number).isEmpty() && Exists(number) && Assign(number, number)) {
+            assigned.append(number); // of a refusal the user has been told
         }
     }
+    return assigned;
 }
 
 // The account of this name, be it in another letter case, or the name as a new account would have it.

@@ -53,8 +53,9 @@ public:
     // The number under which the rows of a file without one are staged, for what the user typed or chose: the number
     // itself, or that of the account of this name. An account without a number lends its name.
     [[nodiscard]] QString NumberMeant(const QString& typed) const;
-    // An account whose name was given in the place of a number is the account of this "number".
-    void AssignNames(const QStringList& numbers);
+    // An account whose name was given in the place of a number is the account of this "number". The numbers that got
+    // theirs.
+    QStringList AssignNames(const QStringList& numbers);
 
     // Remembers the account for the number; an account that does not exist yet is added to the book, at the end
     // of the group with most accounts. False when the database refuses or the name is empty.

@@ -15,19 +15,23 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// The setting of an account: "2026-05-31=21270;2026-06-30=-500".
+// The setting of an account: "2026-05-31=21270;2026-06-30=-500=-1999", with what is late of the second.
 std::optional<cBankBalance> FromText(const QString& text)
 {
     const QStringList parts = text.split(u'=');
     bool isNumber = false;
+    bool isLate = true;
     const qint64 cents = parts.value(1).toLongLong(&isNumber);
+    const qint64 late = parts.size() > 2 ? parts.at(2).toLongLong(&isLate) : 0;
     const QDate day = modDate::FromIso(parts.value(0));
-    return parts.size() == 2 && isNumber && day.isValid() ? std::optional(cBankBalance{day, cents}) : std::nullopt;
+    return parts.size() <= 3 && isNumber && isLate && day.isValid() ? std::optional(cBankBalance{day, cents, late})
+                                                                    : std::nullopt;
 }
 
 QString ToText(const cBankBalance& balance)
 {
-    return modDate::ToIso(balance.Day) + u'=' + QString::number(balance.Cents);
+    const QString text = modDate::ToIso(balance.Day) + u'=' + QString::number(balance.Cents);
+    return balance.Late == 0 ? text : text + u'=' + QString::number(balance.Late);
 }
 
 QDate NewestDay(const cImportEntryList& entries, const QString& account)
@@ -48,7 +52,7 @@ QMap<QString, cBankBalanceList> ByAccount(const QList<cAccountBalance>& balances
     for (const cAccountBalance& balance : balances) {
         const QDate day = balance.Date.isValid() ? balance.Date : NewestDay(entries, balance.Account);
         if (day.isValid() && !balance.Account.isEmpty()) {
-            byAccount[balance.Account].append({day, balance.Cents});
+            byAccount[balance.Account].append({day, balance.Cents, balance.Late});
         }
     }
     return byAccount;
@@ -72,14 +76,7 @@ cBankBalanceList Joined(cBankBalanceList known, const cBankBalanceList& more)
     return known;
 }
 
-} // namespace
-
-cBankBalanceList cBankBalances::Of(const QString& account) const
-{
-    return Of(m_settings, account);
-}
-
-cBankBalanceList cBankBalances::Of(const cSettings& settings, const QString& account)
+cBankBalanceList Stored(const cSettings& settings, const QString& account)
 {
     cBankBalanceList balances;
     const QStringList texts = settings.Get(modSettingKey::BankBalances.Of(account)).split(u';', Qt::SkipEmptyParts);
@@ -92,10 +89,39 @@ cBankBalanceList cBankBalances::Of(const cSettings& settings, const QString& acc
     return balances;
 }
 
+// One statement ends with a balance and the next begins with it; each knows its own transactions only.
+cBankBalanceList Merged(const cBankBalanceList& parts)
+{
+    cBankBalanceList merged;
+    for (const cBankBalance& part : parts) {
+        const auto same = std::find_if(merged.rbegin(), merged.rend(), [&](const cBankBalance& known) {
+            return known.Day < part.Day || known.Cents == part.Cents;
+        });
+        if (same != merged.rend() && same->Day == part.Day) {
+            same->Late += part.Late;
+        } else {
+            merged.append(part);
+        }
+    }
+    return merged;
+}
+
+} // namespace
+
+cBankBalanceList cBankBalances::Of(const QString& account) const
+{
+    return Of(m_settings, account);
+}
+
+cBankBalanceList cBankBalances::Of(const cSettings& settings, const QString& account)
+{
+    return Merged(Stored(settings, account));
+}
+
 cBankBalanceList cBankBalances::With(const QString& account, const QList<cAccountBalance>& balances,
                                      const cImportEntryList& entries) const
 {
-    return Joined(Of(account), ByAccount(balances, entries).value(account));
+    return Merged(Joined(Stored(m_settings, account), ByAccount(balances, entries).value(account)));
 }
 
 bool cBankBalances::Add(const QList<cAccountBalance>& balances, const cImportEntryList& entries)
@@ -110,7 +136,7 @@ bool cBankBalances::Add(const QList<cAccountBalance>& balances, const cImportEnt
 
 bool cBankBalances::Add(const QString& account, const cBankBalanceList& balances)
 {
-    const cBankBalanceList before = Of(account);
+    const cBankBalanceList before = Stored(m_settings, account);
     const cBankBalanceList known = Joined(before, balances);
     if (known.size() == before.size()) {
         return true;

@@ -172,14 +172,19 @@ cStatementRead ReadFetched(const cFetchedStatement& fetched, const cImportOption
     return all;
 }
 
-// The balance goes with the account as the bookings name it.
+// The balance goes with the account as the bookings name it. It contains all of them, whatever days they are valued on.
 void AddBalance(const cFetchedStatement& fetched, cStatementRead& read)
 {
     if (fetched.Balance) {
         const QString account = !read.Entries.isEmpty() ? read.Entries.first().ImportAccount
             : !read.Balances.isEmpty()                  ? read.Balances.first().Account
                                                         : fetched.Account;
-        read.Balances.append({account, *fetched.Balance, fetched.BalanceDay});
+        const QDate day = fetched.BalanceDay;
+        const qint64 late =
+            std::accumulate(read.Entries.begin(), read.Entries.end(), qint64{0}, [&](qint64 sum, const auto& entry) {
+                return sum + (day.isValid() && entry.ImportDate > day ? entry.ImportValue : 0);
+            });
+        read.Balances.append({account, *fetched.Balance, day, late});
     }
 }
 

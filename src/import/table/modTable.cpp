@@ -213,7 +213,7 @@ cStatementRead ReadPart(const cTable& table, const cTableLayout& layout, const c
     }
     const modTableAbove::cAbove above =
         modTableAbove::Read(table, layout.HeaderRow >= 0 ? layout.HeaderRow : layout.FirstRow);
-    cStatementRead read = modTableRows::Read(table, layout, AccountOf(above, layout, options));
+    cStatementRead read = modTableRows::Read(table, layout, AccountOf(above, layout, options), above.Balance);
     read.IsTable = true;
     read.IsGuessed = layout.Origin == eMapOrigin::Contents;
     if (layout.IsDateGuess && !options.Table.Date) {
@@ -235,13 +235,6 @@ cStatementRead ReadPart(const cTable& table, const cTableLayout& layout, const c
     }
     read.NeedsAccount = std::any_of(read.Entries.begin(), read.Entries.end(),
                                     [](const cImportEntry& entry) { return entry.ImportAccount.isEmpty(); });
-    const bool isCutOff = std::any_of(read.Skipped.begin(), read.Skipped.end(),
-                                      [](const cSkippedRow& row) { return row.Kind == eSkipped::CutOff; });
-    if (!read.ClosingBalance && above.Balance && !isCutOff) { // else it would belong to other rows
-        read.ClosingBalance = above.Balance->Cents;
-        const QString account = read.Entries.isEmpty() ? above.Account : read.Entries.first().ImportAccount;
-        read.Balances.append({account, above.Balance->Cents, above.Balance->Date});
-    }
     return read;
 }
 

@@ -4,6 +4,7 @@
 #include "base/modAmount.h"
 #include "import/read/modAccountNumber.h"
 #include "import/read/modStatementFile.h"
+#include "import/table/cRowBalances.h"
 #include "import/table/cTable.h"
 #include "import/table/modCell.h"
 #include "import/table/modTableAbove.h"
@@ -99,7 +100,7 @@ public:
         }
     }
 
-    [[nodiscard]] cStatementRead Run()
+    [[nodiscard]] cStatementRead Run(const std::optional<cAccountBalance>& above)
     {
         m_read.Layout = m_layout.Profile;
         m_read.AccountKey = m_layout.AccountKey;
@@ -110,7 +111,8 @@ public:
         }
         TellUnknownStates();
         TellFees();
-        CloseBalance();
+        // What stands above a table that was cut off belongs to rows that are missing.
+        m_balances.KeepIn(m_read, m_account, m_cutOff < 0 ? above : std::nullopt);
         return std::move(m_read);
     }
 
@@ -274,8 +276,8 @@ private:
         Skip(eSkipped::Balance, cText::Tr("Die Zeile ist ein Saldo und kein Umsatz: {0}", {Start()}));
         if (!FindCell(closingWords).isEmpty()) {
             if (const std::optional<double> value = BalanceValue()) {
-                m_closing = modAmount::ToCents(*value);
-                m_closingDate = modTableValue::ReadDate(Cell(m_map.Date), m_layout.Date);
+                m_balances.SetClosing(modAmount::ToCents(*value),
+                                      modTableValue::ReadDate(Cell(m_map.Date), m_layout.Date));
             }
         }
     }
@@ -464,16 +466,14 @@ private:
         }
         m_sum += entry.ImportValue;
         m_fees += Fee() != 0.0 ? 1 : 0;
-        TakeBalance(entry);
+        m_balances.AddRow(entry, BookingDay(), BalanceCents());
         m_read.Entries.append(std::move(entry));
     }
 
-    // The balance column of the rows in the order of the file.
-    void TakeBalance(const cImportEntry& entry)
+    // Where the row has one beside its own day; else invalid.
+    [[nodiscard]] QDate BookingDay() const
     {
-        if (const std::optional<qint64> balance = BalanceCents()) {
-            m_points.push_back({entry.ImportDate, *balance, entry.ImportValue});
-        }
+        return m_bookingDay < 0 ? QDate() : modTableValue::ReadDate(Cell(m_bookingDay), m_layout.Date);
     }
 
     [[nodiscard]] std::optional<qint64> BalanceCents() const
@@ -481,65 +481,6 @@ private:
         const auto balance = modTableValue::ReadAmount(Cell(m_map.Balance), m_number);
         return balance ? std::optional<qint64>(modAmount::ToCents(*balance)) : std::nullopt;
     }
-
-    // Banks list the newest row first or last; the balances themselves say which it is, else the days.
-    [[nodiscard]] bool IsNewestFirst() const
-    {
-        const bool hasTwo = m_points.size() > 1;
-        if (hasTwo && m_points[0].Balance - m_points[1].Balance == m_points[0].Value) {
-            return true;
-        }
-        const bool isAscending = hasTwo && m_points[1].Balance - m_points[0].Balance == m_points[1].Value;
-        return !isAscending && m_points.front().Date >= m_points.back().Date;
-    }
-
-    void CloseBalance()
-    {
-        if (!m_points.empty() && IsNewestFirst()) {
-            std::reverse(m_points.begin(), m_points.end());
-        }
-        if (!m_closing && !m_points.empty()) {
-            m_closing = m_points.back().Balance;
-            m_closingDate = m_points.back().Date;
-        }
-        if (!m_closing) {
-            return;
-        }
-        m_read.ClosingBalance = m_closing;
-        const bool isOneAccount = std::all_of(m_read.Entries.begin(), m_read.Entries.end(), [&](const auto& entry) {
-            return entry.ImportAccount == m_read.Entries.first().ImportAccount;
-        });
-        if (isOneAccount && !m_read.Entries.isEmpty()) {
-            KeepDays(m_read.Entries.first().ImportAccount);
-            m_read.Balances.append({m_read.Entries.first().ImportAccount, *m_closing, m_closingDate});
-        }
-    }
-
-    // The balances that the file begins with and that each day but the last ends with; only when every row leads from
-    // one balance to the next, else the column means something else.
-    void KeepDays(const QString& account)
-    {
-        const auto isBroken = [](const cPoint& before, const cPoint& after) {
-            return after.Balance - before.Balance != after.Value || after.Date < before.Date;
-        };
-        if (m_points.empty() || std::adjacent_find(m_points.begin(), m_points.end(), isBroken) != m_points.end()) {
-            return;
-        }
-        m_read.Balances.append(
-            {account, m_points.front().Balance - m_points.front().Value, m_points.front().Date.addDays(-1)});
-        for (std::size_t i = 1; i < m_points.size(); ++i) {
-            if (m_points[i].Date != m_points[i - 1].Date) {
-                m_read.Balances.append({account, m_points[i - 1].Balance, m_points[i - 1].Date});
-            }
-        }
-    }
-
-    struct cPoint
-    {
-        QDate Date;
-        qint64 Balance = 0;
-        qint64 Value = 0;
-    };
 
     const cTable& m_table;
     const cTableLayout& m_layout;
@@ -565,16 +506,15 @@ private:
     cRepeated m_currency;
     QString m_ownCell;
     QString m_ownAccount;
-    std::optional<qint64> m_closing;
-    QDate m_closingDate;
-    std::vector<cPoint> m_points; // balances beside the rows
+    cRowBalances m_balances;
 };
 
 } // namespace
 
-cStatementRead modTableRows::Read(const cTable& table, const cTableLayout& layout, const QString& account)
+cStatementRead modTableRows::Read(const cTable& table, const cTableLayout& layout, const QString& account,
+                                  const std::optional<cAccountBalance>& above)
 {
-    return cRowReader(table, layout, account).Run();
+    return cRowReader(table, layout, account).Run(above);
 }
 
 QList<modTableRows::cProbed> modTableRows::Probe(const cTable& table, const cTableLayout& layout, int rows)

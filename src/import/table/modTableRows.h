@@ -23,7 +23,9 @@ struct cProbed
 // The transactions among the first `rows` rows of data.
 [[nodiscard]] QList<cProbed> Probe(const cTable& table, const cTableLayout& layout, int rows);
 
-// All rows from the first one of data on. `account` stands for rows that do not name the owner's account.
-[[nodiscard]] cStatementRead Read(const cTable& table, const cTableLayout& layout, const QString& account);
+// All rows from the first one of data on. `account` stands for rows that do not name the owner's account; `above` is
+// the balance that stands above them, for a table that names none itself.
+[[nodiscard]] cStatementRead Read(const cTable& table, const cTableLayout& layout, const QString& account,
+                                  const std::optional<cAccountBalance>& above = {});
 
 } // namespace modTableRows

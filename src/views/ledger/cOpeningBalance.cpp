@@ -13,6 +13,7 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <numeric>
 
 namespace {
@@ -80,6 +81,14 @@ private:
     cEntryItemList m_behind;
 };
 
+// Before the first row. What is missing behind a balance named by then may have a day before that row.
+qint64 ErrorOn(const modBalanceCheck::cResult& check, QDate day)
+{
+    const auto named = std::find_if(check.Points.rbegin(), check.Points.rend(),
+                                    [&](const modBalanceCheck::cPoint& point) { return point.Day <= day; });
+    return check.ErrorOn(named == check.Points.rend() ? day : named->Day);
+}
+
 } // namespace
 
 std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& number) const
@@ -101,7 +110,7 @@ std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& numbe
     offer.Bank = *bank;
     offer.LastDay = ledger.Rows().constLast().ImportDate;
     const modBalanceCheck::cResult& check = ledger.Check();
-    if (check.IsAnchored && check.ErrorOn(offer.LastDay) != check.ErrorOn(offer.Day)) {
+    if (check.IsAnchored && check.ErrorOn(offer.LastDay) != ErrorOn(check, offer.Day)) {
         offer.LastDay = offer.Day; // rows are missing in between, so the book will not come to what the bank says last
         offer.Last = *bank;
     } else {
@@ -123,15 +132,16 @@ std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& numbe
     return agrees ? std::nullopt : std::optional(offer);
 }
 
-// What the balances of the bank say; none where rows are missing, which no start balance makes good.
+// What the balances of the bank say; none where rows before the first of them were left out. Those that are missing
+// between two of them change nothing before.
 std::optional<qint64> cOpeningBalance::Opening(const cStatementLedger& ledger, QDate day) const
 {
     const modBalanceCheck::cResult& check = ledger.Check();
     const bool isNamed = check.Points.constFirst().Day <= day;
-    if (!isNamed && (!check.Faults.isEmpty() || !cLeftOutRows(m_tools.Settings).Of(ledger.Number()).isEmpty())) {
+    if (!isNamed && !cLeftOutRows(m_tools.Settings).Of(ledger.Number()).isEmpty()) {
         return std::nullopt;
     }
-    return check.Opening - check.ErrorOn(day);
+    return check.Opening - ErrorOn(check, day);
 }
 
 // Where the bank names no balance, what the user has stored as that of a later day: all rows up to that day led to it,

@@ -16,6 +16,7 @@
 #include "views/entry/cSplitGroup.h"
 #include "views/ledger/cOpeningBalance.h"
 #include "views/ledger/cReconciledDays.h"
+#include "views/ledger/modBalanceText.h"
 
 #include <QHash>
 #include <QSet>
@@ -141,6 +142,7 @@ void cReconciliation::Load(const QString& number, QDate until)
     m_items.clear();
     m_bank.reset();
     m_book = 0;
+    m_since = {};
     const cImportEntryList& rows = m_ledger.Rows();
     const modBalanceCheck::cResult& check = m_ledger.Check();
     const QDate newest = rows.isEmpty() ? QDate() : rows.constLast().ImportDate;
@@ -149,10 +151,8 @@ void cReconciliation::Load(const QString& number, QDate until)
     if (rows.isEmpty() || Account().isEmpty()) {
         return;
     }
-    const auto count =
-        std::count_if(rows.begin(), rows.end(), [this](const auto& row) { return row.ImportDate <= m_until; });
     if (check.IsAnchored && !m_ledger.IsShared()) {
-        m_bank = m_ledger.BalanceAfter(count) - check.ErrorOn(m_until);
+        m_bank = m_ledger.BankOn(m_until);
     }
     const cEntryItemList entries = m_tools.Data.GetEntries({{}, m_until, {}, Account(), {}, eBookingKind::All});
     for (const cEntryItem& entry : entries) {
@@ -160,6 +160,9 @@ void cReconciliation::Load(const QString& number, QDate until)
     }
     AddItems();
     AddStart();
+    if (m_bank && m_bank != m_book && m_items.isEmpty()) {
+        m_since = m_ledger.CompareWithBook(m_until).From;
+    }
 }
 
 void cReconciliation::AddItems()
@@ -202,18 +205,40 @@ QString cReconciliation::Finding() const
     if (Number().isEmpty()) {
         return {}; // nothing is imported yet
     }
+    const QString named = m_bank ? modBalanceText::OnStatement(m_ledger.NamedOn(m_until), m_tools.Format) : QString();
     if (Account().isEmpty()) {
         return cText::Tr("Diese Kontonummer ist noch keinem Konto Ihres Buchs zugeordnet.");
     }
     if (Agrees()) {
-        return cText::Tr("Das Konto '{0}' stimmt bis {1} Umsatz für Umsatz mit der Bank überein: {2}.", values);
+        return cText::Tr("Das Konto '{0}' stimmt bis {1} Umsatz für Umsatz mit der Bank überein: {2}.", values) + named;
+    }
+    if (m_since.isValid()) {
+        return Unexplained(values);
     }
     const QString count = m_items.size() == 1 ? cText::Tr("Ein Unterschied bis {1}.", values)
                                               : cText::Tr("{4} Unterschiede bis {1}.", values);
     if (!m_bank) {
         return count + u' ' + cText::Tr("Die Bank hat keinen Kontostand genannt; im Buch sind es {2}.", values);
     }
-    return count + u' ' + cText::Tr("Bank: {3}, Buch: {2}.", values);
+    return count + u' ' + cText::Tr("Bank: {3}, Buch: {2}.", values) + named;
+}
+
+// Nothing can be set right row by row: rows of the bank are missing, or were read by a version that did not know which
+// of them a balance contains.
+QString cReconciliation::Unexplained(const QStringList& values) const
+{
+    const qint64 more = m_book - m_bank.value_or(0);
+    const QStringList all = values + QStringList{m_tools.Format.Cents(std::abs(more)), modDate::ToText(m_since)};
+    return (more < 0
+                ? cText::Tr(
+                    "Jeder eingelesene Umsatz steht im Buch, doch seit dem {6} sind dort {5} weniger als bei der "
+                    "Bank.",
+                    all)
+                : cText::Tr("Jeder eingelesene Umsatz steht im Buch, doch seit dem {6} sind dort {5} mehr als bei der "
+                            "Bank.",
+                            all))
+        + u' ' + cText::Tr("Bank: {3}, Buch: {2}.", values) + u' '
+        + cText::Tr("Lesen Sie die Kontoauszüge der Zeit um diesen Tag ein, auch schon gelesene noch einmal.");
 }
 
 QString cReconciliation::KindText(const cReconcileItem& item)

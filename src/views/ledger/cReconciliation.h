@@ -64,6 +64,7 @@ public:
 private:
     void AddItems();
     void AddStart();
+    [[nodiscard]] QString Unexplained(const QStringList& values) const;
     [[nodiscard]] bool TakeForEntry(const cReconcileItem& item);
     [[nodiscard]] bool TakeForSeries(const cReconcileItem& item);
 
@@ -73,4 +74,5 @@ private:
     QDate m_until;
     std::optional<qint64> m_bank;
     qint64 m_book = 0;
+    QDate m_since; // valid where no row explains why both differ
 };

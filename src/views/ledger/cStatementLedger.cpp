@@ -91,6 +91,19 @@ void cStatementLedger::Take(cImportEntryList rows, const QString& number)
     }
 }
 
+qint64 cStatementLedger::BankOn(QDate day) const
+{
+    const auto behind = std::upper_bound(m_rows.begin(), m_rows.end(), day,
+                                         [](QDate other, const cImportEntry& row) { return other < row.ImportDate; });
+    return BalanceAfter(behind - m_rows.begin()) - m_check.ErrorOn(day);
+}
+
+std::optional<qint64> cStatementLedger::NamedOn(QDate day) const
+{
+    const modBalanceCheck::cPoint& newest = m_check.Points.last();
+    return newest.Day == day && newest.Late != 0 ? std::optional(newest.Bank) : std::nullopt;
+}
+
 // The rows of a file get consecutive numbers, so that a number between them that is gone was deleted.
 int cStatementLedger::DeletedIn(const modBalanceCheck::cFault& fault) const
 {
@@ -114,7 +127,7 @@ bool cStatementLedger::IsShared()
                        [&](const QString& other) { return other != m_number && AccountOf(other) == account; });
 }
 
-cBookComparison cStatementLedger::CompareWithBook()
+cBookComparison cStatementLedger::CompareWithBook(QDate until)
 {
     using eState = cBookComparison::eState;
     cBookComparison result;
@@ -124,7 +137,7 @@ cBookComparison cStatementLedger::CompareWithBook()
             account.isEmpty() ? eState::NotMapped : (m_check.IsAnchored ? eState::Shared : eState::NoBalance);
         return result;
     }
-    const QDate day = m_check.Points.last().Day;
+    const QDate day = until.isValid() ? until : m_check.Points.last().Day;
     const QDate first = qMin(m_amounts.empty() ? day : m_amounts.front().Day, m_check.Points.first().Day.addDays(1));
     const QDate before = first.addDays(-1);
     qint64 book = 0;
@@ -150,13 +163,14 @@ cBookComparison cStatementLedger::CompareWithBook()
         }
     }
     for (const modBalanceCheck::cFault& fault : m_check.Faults) {
-        gap.Add(fault.From, -fault.Missing);
+        gap.Add(fault.From, fault.From <= day ? -fault.Missing : 0);
     }
     result = gap.Since(start);
     result.State = result.From.isValid() ? eState::Differs : eState::Agrees;
     result.Day = day;
     result.Book = book;
-    result.Bank = m_check.Points.last().Bank;
+    result.Bank = BankOn(day);
+    result.Named = NamedOn(day);
     result.AreRowsMissing = !m_check.Faults.isEmpty() || !cLeftOutRows(m_settings).Of(m_number).isEmpty();
     return result;
 }

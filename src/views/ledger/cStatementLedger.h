@@ -7,6 +7,7 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
 #include <vector>
 
 class cDataAccess;
@@ -28,6 +29,7 @@ struct cBookComparison
     QDate Day;
     qint64 Book = 0;
     qint64 Bank = 0;
+    std::optional<qint64> Named; // as in cStatementLedger
     QDate From;                  // since this day they have not been equal any more
     bool HasAgreed = false;      // before that day they were, on some day of the statement
     bool AreRowsMissing = false; // of the bank: left out on import, or a balance of the bank says so
@@ -51,10 +53,15 @@ public:
     [[nodiscard]] qint64 CentsOf(qsizetype row) const { return m_amounts[static_cast<std::size_t>(row)].Cents; }
     // After the first `count` rows, counted so that the bank's newest balance comes out; from 0 when none is known.
     [[nodiscard]] qint64 BalanceAfter(qsizetype count) const { return m_balances[static_cast<std::size_t>(count)]; }
+    // What the bank says, where it has named a balance, by the days of the transactions.
+    [[nodiscard]] qint64 BankOn(QDate day) const;
+    // What stands on the statement instead, where it counts some of them on another day than they have.
+    [[nodiscard]] std::optional<qint64> NamedOn(QDate day) const;
     [[nodiscard]] const modBalanceCheck::cResult& Check() const { return m_check; }
     // How many rows that were staged between those of the fault are gone.
     [[nodiscard]] int DeletedIn(const modBalanceCheck::cFault& fault) const;
-    [[nodiscard]] cBookComparison CompareWithBook();
+    // By default up to the bank's newest balance.
+    [[nodiscard]] cBookComparison CompareWithBook(QDate until = {});
     // Rows of other numbers belong to the same account of the book.
     [[nodiscard]] bool IsShared();
 

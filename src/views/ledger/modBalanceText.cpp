@@ -175,6 +175,15 @@ QStringList modBalanceText::Bank(const cStatementLedger& ledger, const cAmountFo
     return lines;
 }
 
+QString modBalanceText::OnStatement(std::optional<qint64> named, const cAmountFormat& format)
+{
+    return named ? u' '
+            + cText::Tr(
+                       "Auf dem Auszug stehen {0}: Einige seiner Umsätze haben ihre Wertstellung an einem anderen Tag.",
+                       {format.Cents(*named)})
+                 : QString();
+}
+
 QString modBalanceText::Book(const cBookComparison& book, const QString& account, const cAmountFormat& format)
 {
     using eState = cBookComparison::eState;
@@ -184,6 +193,7 @@ QString modBalanceText::Book(const cBookComparison& book, const QString& account
                              format.Cents(book.Bank),
                              modDate::ToText(book.From),
                              format.Cents(std::abs(book.Book - book.Bank))};
+    const QString named = OnStatement(book.Named, format);
     switch (book.State) {
     case eState::NoBalance: return {};
     case eState::Unread: return modUnread::Title();
@@ -192,11 +202,11 @@ QString modBalanceText::Book(const cBookComparison& book, const QString& account
         return cText::Tr("Zum Konto '{0}' gehören mehrere Kontonummern; mit seinen Einträgen lässt sich der Auszug "
                          "deshalb nicht vergleichen.",
                          values);
-    case eState::Agrees: return cText::Tr("Das Konto '{0}' stimmt am {1} mit der Bank überein: {2}.", values);
+    case eState::Agrees: return cText::Tr("Das Konto '{0}' stimmt am {1} mit der Bank überein: {2}.", values) + named;
     case eState::Differs: break;
     }
     const QString what = book.Book > book.Bank
         ? cText::Tr("Das Konto '{0}' steht am {1} auf {2}, das sind {5} mehr als bei der Bank ({3}).", values)
         : cText::Tr("Das Konto '{0}' steht am {1} auf {2}, das sind {5} weniger als bei der Bank ({3}).", values);
-    return what + u' ' + Since(book, values);
+    return what + named + u' ' + Since(book, values);
 }

@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <optional>
+
 class cAmountFormat;
 class cStatementLedger;
 struct cBookComparison;
@@ -18,6 +20,9 @@ namespace modBalanceText {
 
 // All about the balances of the bank, a sentence or two for each difference; the newest first.
 [[nodiscard]] QStringList Bank(const cStatementLedger& ledger, const cAmountFormat& format);
+
+// Where the statement names another balance than the days of its transactions lead to: begins with a blank, else empty.
+[[nodiscard]] QString OnStatement(std::optional<qint64> named, const cAmountFormat& format);
 
 // How the book's account stands beside it. Empty when there is nothing to say.
 [[nodiscard]] QString Book(const cBookComparison& book, const QString& account, const cAmountFormat& format);

@@ -29,7 +29,7 @@ bool HasBalance(cDataAccess& data, const QString& account, const cBankBalance& b
     query.Account = account;
     for (const int before : {0, 1}) {
         query.End = balance.Day.addDays(-before);
-        if (modBalance::ByAccount(data.GetSums(query, true)).value(account) == balance.Cents) {
+        if (modBalance::ByAccount(data.GetSums(query, true)).value(account) == balance.Valued()) {
             return true;
         }
     }

@@ -299,7 +299,7 @@ QList<int> cStatementDesk::FirstRules(const cImportEntryList& rows, const QList<
 
 bool cStatementDesk::AssignAccounts(const QStringList& numbers, const QString& wanted, QStringList& notes)
 {
-    m_works->Accounts.AssignNames(numbers);
+    (void)m_works->Accounts.AssignNames(numbers);
     const QStringList unknown = m_works->Accounts.Unknown(numbers);
     for (const QString& number : unknown) {
         const QString proposal = m_works->Accounts.Proposal(number);

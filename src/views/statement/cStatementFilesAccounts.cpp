@@ -59,10 +59,10 @@ void cStatementFiles::OfferStart(const QStringList& numbers)
 
 void cStatementFiles::AskAccounts(const QStringList& numbers)
 {
-    m_accounts.AssignNames(numbers);
+    const QStringList named = m_accounts.AssignNames(numbers);
     QStringList unknown = m_accounts.Unknown(numbers);
     unknown.removeDuplicates();
-    if (unknown.isEmpty() || m_tools.Data.IsReadOnly()) {
+    if ((named.isEmpty() && unknown.isEmpty()) || m_tools.Data.IsReadOnly()) {
         return;
     }
     QStringList lines;
@@ -72,5 +72,5 @@ void cStatementFiles::AskAccounts(const QStringList& numbers)
         }
     }
     Q_EMIT AccountsAsked(lines);
-    OfferStart(unknown);
+    OfferStart(named + unknown);
 }
