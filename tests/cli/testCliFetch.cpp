@@ -1,50 +1,20 @@
-#include "app/machine/cFileLock.h"
-#include "app/machine/cQtRegistry.h"
-#include "app/machine/cQtShell.h"
-#include "cli/cCliPaint.h"
-#include "cli/modCliCommands.h"
-#include "cli/modCliMain.h"
+#include "runInside.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 #include "testbank/cBankHousehold.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QTest>
-
-#include <unistd.h>
-
-#include <array>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class cNoPaint final : public cCliPaint
-{
-public:
-    QByteArray PaintReport(const QString& /*html*/) override { return {}; }
-    QByteArray PaintChart(const cChartData& /*chart*/, ePicture /*picture*/) override { return {}; }
-};
-
-// The command in this process, with the bank of the tests behind it. The PIN comes through a pipe, as from a script.
 int Run(cHousehold& house, const QStringList& arguments, const QByteArray& pin = "12345\n")
 {
     const QTemporaryDir profile;
-    std::array<int, 2> pipe{};
-    if (::pipe(pipe.data()) != 0 || ::write(pipe[1], pin.constData(), static_cast<size_t>(pin.size())) != pin.size()) {
-        qFatal("no pipe");
-    }
-    ::close(pipe[1]);
-    cQtShell shell(profile.path());
-    cQtRegistry registry(profile.path());
-    cFileLock lock;
-    cNoPaint paint;
-    const QStringList whole =
-        QStringList{u"fetch"_s, u"--database"_s, house.Path(), u"--pin-fd"_s, QString::number(pipe[0])} + arguments;
-    const int code =
-        modCliMain::Run(whole, {shell, registry, house.Clock, lock, &paint, &house.Https, u"1.0.0"_s, u"1.0.0"_s});
-    ::close(pipe[0]);
-    return code;
+    const QStringList whole{u"fetch"_s, u"--database"_s, house.Path(), u"--pin-fd"_s, u"PIN"_s};
+    return RunInside({profile.path(), house.Clock, house.Https, pin}, whole + arguments);
 }
 
 } // namespace
@@ -93,9 +63,7 @@ private Q_SLOTS:
         house.Bank.Profile.Accounts.first().Refusal = "9210::Konto gesperrt.";
         const QTemporaryDir folder;
         QCOMPARE(Run(house, {u"--log"_s, folder.filePath(u"log.txt"_s)}), 1);
-        QFile file(folder.filePath(u"log.txt"_s));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QByteArray text = file.readAll();
+        const QByteArray text = cTestFile::Bytes(folder.filePath(u"log.txt"_s));
         QVERIFY(text.contains("HNHBK") && text.contains("9210"));
         QVERIFY(!text.contains("testuser") && !text.contains("1234567") && !text.contains("12345'"));
     }

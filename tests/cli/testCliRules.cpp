@@ -1,11 +1,8 @@
 #include "cCliRun.h"
 #include "support/cTestClass.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,19 +16,15 @@ constexpr const char* statement = ":20:STARTUMS\r\n:25:99900010/4711000815\r\n:6
 } // namespace
 
 // The user's own rules from the command line, end to end: the program itself on a new book each time.
-class testCliRules final : public QObject
+class testCliRules final : public QObject, cCliBooks
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_file = m_folder->filePath(u"giro.sta"_s);
-        QFile file(m_file);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(statement);
-        file.close();
+        Renew();
+        m_file = Write(u"giro.sta"_s, statement);
         Do(u"import|"_s + m_file + u"|--book-account|Girokonto|--keep-start"_s);
         Do(u"rules|add|--text|brezen|--kind|Ausgabe|--account|Girokonto|--category|Freizeit; Kino / Theater"_s);
         Do(u"rules|add|--counterparty|Korn|--category|Haushalt; Getränke|--interval|monatlich|--description|Brot"_s);
@@ -96,12 +89,8 @@ private Q_SLOTS:
     }
 
 private:
-    [[nodiscard]] cCliRun Run(const QString& line) const { return cCliRun::Line(m_folder->path(), line); }
-    cCliRun Do(const QString& line) { return cCliRun::GoodLine(m_folder->path(), line); }
-
     [[nodiscard]] QStringList List(const QString& name) { return Do(u"rules|--json"_s).Column(name); }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     QString m_file;
 };
 

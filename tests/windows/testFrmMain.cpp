@@ -15,7 +15,6 @@
 #include "windows/widget/modBadField.h"
 #include "windows/widget/modPlace.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
@@ -24,7 +23,6 @@
 #include <QPointer>
 #include <QSignalSpy>
 #include <QStatusBar>
-#include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeView>

@@ -19,8 +19,6 @@
 #include <QTimer>
 #include <QTreeView>
 
-#include <algorithm>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
