@@ -3,7 +3,6 @@
 #include "import/propose/cBooking.h"
 #include "import/propose/cProposer.h"
 #include "import/propose/modCorrected.h"
-#include "import/stage/cStatementImport.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
@@ -14,21 +13,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct cBank : cImportBook
+struct cBank : cBankBook
 {
-    cBank() { IsReady = Accounts.Assign(u"111"_s, u"Girokonto"_s) && Accounts.Assign(u"222"_s, u"Sparkonto"_s); }
-
     int Stage(QDate date, double value, const QString& name, const QString& account = {}, const QString& own = u"111"_s,
               const QString& purpose = u"zu  Nr. 1"_s)
     {
-        cImportEntry row;
-        row.ImportAccount = own;
-        row.ImportDate = date;
-        row.ImportValue = modAmount::ToCents(value);
-        row.ImportBeneficiary = name;
-        row.ImportBeneficiaryAccount = account;
-        row.ImportPurpose = purpose;
-        return cStaging(Hive).StageImportEntry(row, eDuplicateTest::Skip) == eStaged::Staged ? row.ID : 0;
+        return cBankBook::Stage(BankRow(own, date, modAmount::ToCents(value), name, purpose, account));
     }
 
     cProposal Propose(int row) { return Booking.Propose({row}).value(row); }
@@ -37,11 +27,6 @@ struct cBank : cImportBook
     {
         cNoProgress progress;
         return Booking.Book(rows, Booking.Propose(rows), progress);
-    }
-
-    int EntryOf(int row)
-    {
-        return Hive.GetImportHive().GetImportEntryByID(row).value_or(cImportEntry()).ImportAssignedEntry;
     }
 
     // Books a row under a category of the user's own.
@@ -54,7 +39,6 @@ struct cBank : cImportBook
     }
 
     cBooking Booking{Data, Hive, Accounts};
-    bool IsReady = false;
 };
 
 const QDate day(2026, 1, 10);
@@ -69,7 +53,6 @@ private Q_SLOTS:
     void ProposesByRule()
     {
         cBank bank;
-        QVERIFY(bank.IsReady);
         const cProposal proposal = bank.Propose(bank.Stage(day, -23.1, u"REWE  Markt"_s));
         QCOMPARE(proposal.Entry.EntryDate, day);
         QCOMPARE(proposal.Entry.EntryDateEnd, modRecurrence::OpenEnd);

@@ -1,8 +1,6 @@
 #include "cImportBook.h"
-#include "import/stage/cBankBalances.h"
 #include "import/stage/cFetchedStatement.h"
 #include "import/stage/cFetchMemory.h"
-#include "import/stage/cStatementImport.h"
 #include "store/cUndoStep.h"
 #include "support/bankMonth.h"
 #include "support/cTestClass.h"
@@ -16,7 +14,7 @@ namespace {
 const QString account = u"0001234567"_s;
 
 // A book with an import that fetches and reads files of one account.
-struct cFetchBook : cImportBook
+struct cFetchBook : cReadingBook
 {
     cImportResult Fetch(const QString& mt940, const QList<QByteArray>& camt = {}, bool isComplete = true)
     {
@@ -39,9 +37,6 @@ struct cFetchBook : cImportBook
     }
 
     int Count() { return Hive.GetImportHive().Count(); }
-
-    cBankBalances Balances{*Settings};
-    cStatementImport Import{Data, Hive, nullptr, &Balances};
 };
 
 } // namespace

@@ -1,6 +1,5 @@
 #include "cImportBook.h"
 #include "import/plan/cImportPlan.h"
-#include "import/stage/cStaging.h"
 #include "support/cTestClass.h"
 
 #include <QTest>
@@ -11,19 +10,11 @@ namespace {
 
 const QDate day(2026, 1, 10);
 
-struct cBank : cImportBook
+struct cBank : cBankBook
 {
-    cBank() { IsReady = Accounts.Assign(u"111"_s, u"Girokonto"_s) && Accounts.Assign(u"222"_s, u"Sparkonto"_s); }
-
     int Stage(QDate date, qint64 cents, const QString& name, const QString& account = {}, const QString& own = u"111"_s)
     {
-        cImportEntry row;
-        row.ImportAccount = own;
-        row.ImportDate = date;
-        row.ImportValue = cents;
-        row.ImportBeneficiary = name;
-        row.ImportBeneficiaryAccount = account;
-        return cStaging(Hive).StageImportEntry(row, eDuplicateTest::Skip) == eStaged::Staged ? row.ID : 0;
+        return cBankBook::Stage(BankRow(own, date, cents, name, {}, account));
     }
 
     int Enter(QDate date, qint64 cents, const QString& text, const QString& interval = modWord::Einmalig)
@@ -46,7 +37,6 @@ struct cBank : cImportBook
     cRowPlan PlanOf(int row) { return Make({row}).value(row); }
 
     cBooking Booking{Data, Hive, Accounts};
-    bool IsReady = false;
 };
 
 int MatchOf(const cRowPlan& plan)
@@ -65,7 +55,6 @@ private Q_SLOTS:
     void FindsWhatIsThere()
     {
         cBank bank;
-        QVERIFY(bank.IsReady);
         const int food = bank.Enter(day, 2310, u"REWE"_s);
         const int gift = bank.Enter(day, 5000, u"xyz"_s);
         const int certain = bank.Stage(day.addDays(2), -2310, u"REWE"_s);

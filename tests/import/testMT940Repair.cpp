@@ -1,7 +1,7 @@
 #include "import/mt940/modMT940Repair.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -44,10 +44,9 @@ private Q_SLOTS:
     void LeavesAlone_data()
     {
         const QString wide(61, u'x');
-        QFile file(QStringLiteral(TEST_DATA "/mt940/giro.sta"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray file = cTestFile::Bytes(QStringLiteral(TEST_DATA "/mt940/giro.sta"));
         QTest::addColumn<QString>("text");
-        QTest::newRow("whole file") << QString::fromUtf8(file.readAll());
+        QTest::newRow("whole file") << QString::fromUtf8(file);
         QTest::newRow("line feeds only") << u":20:A\n:62F:C\n-\n:20:B\n-\n"_s;
         QTest::newRow("brace in the details") << u":86:{1:x\n{x}\n-x}\n"_s;
         QTest::newRow("blank lines before a statement") << u":20:A\n-\n\n  \n:20:B\n"_s;

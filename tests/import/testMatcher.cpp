@@ -3,7 +3,6 @@
 #include "import/match/cMatcher.h"
 #include "import/match/modMatchScore.h"
 #include "import/propose/cBooking.h"
-#include "import/stage/cStatementImport.h"
 #include "model/modRecurrence.h"
 #include "model/modSplit.h"
 #include "model/modWord.h"
@@ -18,21 +17,12 @@ namespace {
 
 const QDate day(2026, 1, 10);
 
-struct cBank : cImportBook
+struct cBank : cBankBook
 {
-    cBank() { IsReady = Accounts.Assign(u"111"_s, u"Girokonto"_s) && Accounts.Assign(u"222"_s, u"Sparkonto"_s); }
-
     int Stage(QDate date, double value, const QString& name, const QString& purpose = {}, const QString& own = u"111"_s,
               const QString& account = {})
     {
-        cImportEntry row;
-        row.ImportAccount = own;
-        row.ImportDate = date;
-        row.ImportValue = modAmount::ToCents(value);
-        row.ImportBeneficiary = name;
-        row.ImportBeneficiaryAccount = account;
-        row.ImportPurpose = purpose;
-        return cStaging(Hive).StageImportEntry(row, eDuplicateTest::Skip) == eStaged::Staged ? row.ID : 0;
+        return cBankBook::Stage(BankRow(own, date, modAmount::ToCents(value), name, purpose, account));
     }
 
     int Add(QDate date, qint64 cents, const QString& text, const QString& category = u"Sonstiges"_s,
@@ -66,13 +56,6 @@ struct cBank : cImportBook
     }
 
     QList<cMatchCandidate> Candidates(int row) { return cMatcher(Data, Hive, Accounts).Candidates(row); }
-
-    int EntryOf(int row)
-    {
-        return Hive.GetImportHive().GetImportEntryByID(row).value_or(cImportEntry()).ImportAssignedEntry;
-    }
-
-    bool IsReady = false;
 };
 
 // Stops at once, as a user who has changed his mind.
@@ -152,7 +135,6 @@ void testMatcher::OneRowAndOneEntry() const
     QFETCH(const QString, text);
     QFETCH(const QList<int>, counts);
     cBank bank;
-    QVERIFY(bank.IsReady);
     const int entry = bank.Add(day, -2310, text, u"Haushalt; Lebensmittel"_s);
     const int row = bank.Stage(day.addDays(days), static_cast<double>(rowCents) / 100.0, name, purpose);
     const cMatchResult result = bank.Match({row});

@@ -3,8 +3,8 @@
 #include "import/xml/modOfxRepair.h"
 #include "import/xml/modOfxText.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -13,8 +13,7 @@ namespace {
 
 QByteArray Fixture()
 {
-    QFile file(QStringLiteral(TEST_DATA "/ofx/giro.ofx"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return cTestFile::Bytes(QStringLiteral(TEST_DATA "/ofx/giro.ofx"));
 }
 
 cStatementRead ReadBytes(const QByteArray& bytes, eMissingPurpose missing = eMissingPurpose::Empty,

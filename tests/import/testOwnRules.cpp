@@ -4,7 +4,6 @@
 #include "import/propose/cOwnRules.h"
 #include "import/propose/cRuleMatcher.h"
 #include "import/propose/modOwnRule.h"
-#include "import/stage/cStaging.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
 
@@ -18,13 +17,7 @@ const QDate day(2026, 1, 10);
 
 cImportEntry Row(double value, const QString& name, const QString& purpose, const QString& account = {})
 {
-    cImportEntry row;
-    row.ImportAccount = u"111"_s;
-    row.ImportDate = day;
-    row.ImportValue = modAmount::ToCents(value);
-    row.ImportBeneficiary = name;
-    row.ImportBeneficiaryAccount = account;
-    row.ImportPurpose = purpose;
+    cImportEntry row = BankRow(u"111"_s, day, modAmount::ToCents(value), name, purpose, account);
     row.ImportType = u"KARTENZAHLUNG"_s;
     return row;
 }
@@ -37,15 +30,8 @@ cOwnRule Food(const QString& text)
     return rule;
 }
 
-struct cBank : cImportBook
+struct cBank : cBankBook
 {
-    cBank() { IsReady = Accounts.Assign(u"111"_s, u"Girokonto"_s) && Accounts.Assign(u"222"_s, u"Sparkonto"_s); }
-
-    int Stage(cImportEntry row)
-    {
-        return cStaging(Hive).StageImportEntry(row, eDuplicateTest::Skip) == eStaged::Staged ? row.ID : 0;
-    }
-
     cProposal Propose(const cImportEntry& row)
     {
         const int id = Stage(row);
@@ -53,8 +39,6 @@ struct cBank : cImportBook
     }
 
     void Keep(const QList<cOwnRule>& rules) { QVERIFY(cOwnRules(*Settings).Save(rules)); }
-
-    bool IsReady = false;
 };
 
 // What a proposal says, in one line.
@@ -198,7 +182,6 @@ private Q_SLOTS:
     void BeforeWhatWasLearned() const
     {
         cBank bank;
-        QVERIFY(bank.IsReady);
         cBooking booking(bank.Data, bank.Hive, bank.Accounts);
         const int first = bank.Stage(Row(-5, u"Korn"_s, u"Brot"_s));
         cEntryItem entry = booking.Propose({first}).value(first).Entry;

@@ -7,8 +7,8 @@
 #include "import/read/modPayee.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,29 +21,27 @@ struct cExample
     QStringList Expected; // any of them is right
 };
 
+cImportEntry Row(double value, const QString& name, const QString& purpose, const QString& type = {})
+{
+    cImportEntry row = BankRow(u"111"_s, QDate(2026, 3, 10), modAmount::ToCents(value), name, purpose);
+    row.ImportType = type;
+    return row;
+}
+
 // The rows of a file below tests/data/payees.
 QList<cExample> Examples(const QString& name)
 {
-    QFile file(QStringLiteral(TEST_DATA "/payees/") + name);
     QList<cExample> examples;
-    if (!file.open(QIODevice::ReadOnly)) {
-        return examples;
-    }
-    const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    const QByteArray bytes = cTestFile::Bytes(QStringLiteral(TEST_DATA "/payees/") + name);
+    const QStringList lines = QString::fromUtf8(bytes).split(u'\n', Qt::SkipEmptyParts);
     for (const QString& line : lines) {
         const QStringList fields = line.split(u'\t');
         if (line.startsWith(u'#') || fields.size() != 5) {
             continue;
         }
-        cExample example;
+        const double value = QString(fields.at(0)).replace(u',', u'.').toDouble();
+        cExample example{Row(value, fields.at(1), fields.at(2), fields.at(3)), fields.at(4).split(u" | "_s)};
         example.Row.ID = static_cast<int>(examples.size()) + 1;
-        example.Row.ImportAccount = u"111"_s;
-        example.Row.ImportDate = QDate(2026, 3, 10);
-        example.Row.ImportValue = modAmount::ToCents(QString(fields.at(0)).replace(u',', u'.').toDouble());
-        example.Row.ImportBeneficiary = fields.at(1);
-        example.Row.ImportPurpose = fields.at(2);
-        example.Row.ImportType = fields.at(3);
-        example.Expected = fields.at(4).split(u" | "_s);
         examples.append(example);
     }
     return examples;
@@ -59,10 +57,7 @@ struct cScore
 
 cScore Judge(const QList<cExample>& examples)
 {
-    cImportBook book;
-    if (!book.Accounts.Assign(u"111"_s, u"Girokonto"_s)) {
-        return {};
-    }
+    cBankBook book;
     cProposer proposer(book.Data, book.Hive, book.Accounts);
     cScore score;
     for (const cExample& example : examples) {
@@ -78,16 +73,6 @@ cScore Judge(const QList<cExample>& examples)
         }
     }
     return score;
-}
-
-cImportEntry Row(double value, const QString& name, const QString& purpose, const QString& type = {})
-{
-    cImportEntry row;
-    row.ImportValue = modAmount::ToCents(value);
-    row.ImportBeneficiary = name;
-    row.ImportPurpose = purpose;
-    row.ImportType = type;
-    return row;
 }
 
 } // namespace

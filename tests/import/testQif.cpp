@@ -1,7 +1,7 @@
 #include "import/qif/modQif.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -10,8 +10,7 @@ namespace {
 
 QString Fixture()
 {
-    QFile file(QStringLiteral(TEST_DATA "/qif/giro.qif"));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(cTestFile::Bytes(QStringLiteral(TEST_DATA "/qif/giro.qif")));
 }
 
 cStatementRead ReadText(const QString& text, const cReadOptions& options = {})

@@ -4,6 +4,7 @@
 #include "import/sheet/modSpreadsheet.h"
 #include "import/stage/modStatementFormat.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -61,8 +62,7 @@ QByteArray Xlsx(const QList<cWrittenSheet>& sheets, eTexts texts = eTexts::Share
         WriteSheet(book, sheet);
     }
     workbook_close(book);
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return cTestFile::Bytes(path);
 }
 
 cXlsFile Xls()

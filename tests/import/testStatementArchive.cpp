@@ -1,6 +1,7 @@
 #include "import/stage/modStatementArchive.h"
 #include "import/stage/modStatementFormat.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -27,14 +28,12 @@ QByteArray Zip(const cFiles& files)
         zipCloseFileInZip(zip);
     }
     zipClose(zip, nullptr);
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return cTestFile::Bytes(path);
 }
 
 QByteArray Fixture(const QString& name)
 {
-    QFile file(QStringLiteral(TEST_DATA "/") + name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return cTestFile::Bytes(QStringLiteral(TEST_DATA "/") + name);
 }
 
 constexpr const char* table = "Datum;Verwendungszweck;Betrag\n03.02.2026;Kiosk;-4,20\n04.02.2026;vorgemerkt;x\n";

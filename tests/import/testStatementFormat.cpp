@@ -39,16 +39,6 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QTEST(DetectStatementFormat(file, text), "format");
     }
-
-    void RefusesByName()
-    {
-        QVERIFY(modStatementFormat::Reader(eStatementFormat::Mt940) != nullptr);
-        QVERIFY(modStatementFormat::Reader(eStatementFormat::Csv) != nullptr);
-        QVERIFY(modStatementFormat::Reader(eStatementFormat::Pdf) == nullptr);
-        QCOMPARE(modStatementFormat::Refusal(eStatementFormat::Pdf),
-                 u"Dieses Format kann nicht eingelesen werden: Portable Document Format (PDF-Datei)"_s);
-        QCOMPARE(modStatementFormat::Name(eStatementFormat::Unknown), u"Unbekanntes Dateiformat"_s);
-    }
 };
 
 TEST_CLASS(testStatementFormat, QCoreApplication)

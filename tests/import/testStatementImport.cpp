@@ -1,10 +1,8 @@
 #include "base/modAmount.h"
 #include "cImportBook.h"
-#include "import/mt940/modMT940.h"
-#include "import/stage/cBankBalances.h"
-#include "import/stage/cStatementImport.h"
 #include "store/cUndoStep.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 
 #include <QTest>
 
@@ -82,18 +80,16 @@ class testStatementImport : public QObject
 private Q_SLOTS:
     void StagesOnce()
     {
-        cImportBook book;
-        cStatementImport import(book.Data, book.Hive);
-        cNoProgress progress;
-        const cImportResult first = import.ImportFile(fixture, {}, progress);
+        cReadingBook book;
+        const cImportResult first = book.ReadFile(fixture);
         QCOMPARE(first.Format, u"SWIFT-Kontoauszug (MT940/MT942-Datei)"_s);
         QCOMPARE(QList<int>({first.Read, first.Staged, first.Zero, first.Failed}), QList<int>({6, 5, 1, 0}));
         QCOMPARE(first.ClosingBalance, std::optional<qint64>(520000));
         QCOMPARE(first.Accounts, QStringList({u"1234567"_s, u"7654321"_s}));
-        const cImportResult second = import.ImportFile(fixture, {}, progress);
+        const cImportResult second = book.ReadFile(fixture);
         QCOMPARE(second.Staged, 0);
         QCOMPARE(second.Duplicates.size(), 5);
-        QCOMPARE(import.ImportFile(fixture, {eDuplicateTest::Skip, {}}, progress).Staged, 5);
+        QCOMPARE(book.ReadFile(fixture, {eDuplicateTest::Skip, {}}).Staged, 5);
         QCOMPARE(book.Data.GetImportEntries(), book.Hive.GetImportHive().getImportEntryList());
     }
 
@@ -102,7 +98,8 @@ private Q_SLOTS:
         QTest::addColumn<QString>("name");
         QTest::addColumn<QByteArray>("bytes");
         QTest::addColumn<QString>("message");
-        QTest::newRow("empty") << u"a.sta"_s << QByteArray() << u"Die Datei ist leer"_s;
+        QTest::newRow("missing") << u"a.sta"_s << QByteArray() << u"Die Datei kann nicht geöffnet werden"_s;
+        QTest::newRow("empty") << u"a.sta"_s << QByteArray("") << u"Die Datei ist leer"_s;
         QTest::newRow("binary") << u"a.sta"_s
                                 << QByteArray("\x7F"
                                               "ELF\0\0:20::61::86:",
@@ -119,35 +116,23 @@ private Q_SLOTS:
         QFETCH(QString, name);
         QFETCH(QByteArray, bytes);
         QFETCH(QString, message);
-        cImportBook book;
-        QTemporaryDir folder;
-        QFile file(folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(bytes);
-        file.close();
-        cNoProgress progress;
-        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportFile(file.fileName(), {}, progress);
+        cReadingBook book;
+        const QTemporaryDir folder;
+        if (!bytes.isNull()) {
+            cTestFile::Write(folder.filePath(name), bytes);
+        }
+        const cImportResult result = book.ReadFile(folder.filePath(name));
         QVERIFY(result.IsRefused);
         QVERIFY2(result.Message.contains(message), qPrintable(result.Message));
         QVERIFY(book.User.Shown.isEmpty());
     }
 
-    void MissingFileIsRefused()
-    {
-        cImportBook book;
-        cNoProgress progress;
-        const cImportResult result =
-            cStatementImport(book.Data, book.Hive).ImportFile(u"/nirgends/x.sta"_s, {}, progress);
-        QVERIFY(result.IsRefused && result.Message.startsWith(u"Die Datei kann nicht geöffnet werden"));
-    }
-
     void FileCutInATagKeepsWhatIsBefore()
     {
-        cImportBook book;
-        cNoProgress progress;
+        cReadingBook book;
         const QString text = Many(3);
         const QString cut = text.left(text.lastIndexOf(u":61:") + 2);
-        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportText(u"a.mt940"_s, cut, {}, progress);
+        const cImportResult result = book.Read(cut, {}, u"a.mt940"_s);
         QCOMPARE(QList<int>({result.Read, result.Staged}), QList<int>({2, 2}));
         QVERIFY(!result.ClosingBalance);
     }
@@ -155,13 +140,12 @@ private Q_SLOTS:
     // Of several files in one step, the one that was stopped goes and the others stay.
     void CancelTakesTheFileBack()
     {
-        cImportBook book;
+        cReadingBook book;
         cCancel progress(2);
-        cStatementImport import(book.Data, book.Hive);
         {
             const cUndoStep step(book.Data, u"eingelesen"_s);
-            QCOMPARE(import.ImportText(u"a"_s, Many(3), {}, progress).Staged, 3);
-            const cImportResult result = import.ImportText(u"b"_s, Many(500), {}, progress);
+            QCOMPARE(book.Import.ImportText(u"a"_s, Many(3), {}, progress).Staged, 3);
+            const cImportResult result = book.Import.ImportText(u"b"_s, Many(500), {}, progress);
             QVERIFY(result.IsCancelled);
             QCOMPARE(QList<int>({result.Read, result.Staged}), QList<int>({0, 0}));
             QCOMPARE(book.Data.GetImportEntries().size(), 3);
@@ -175,22 +159,17 @@ private Q_SLOTS:
     // What the bank says is kept of files that were taken as a whole: both ends of a statement, each day of a table.
     void KeepsBalancesOfTheBank()
     {
-        cImportBook book;
-        cBankBalances balances(*book.Settings);
-        cStatementImport import(book.Data, book.Hive, nullptr, &balances);
+        cReadingBook book;
         cCancel cancelled(1);
-        QVERIFY(import.ImportText(u"a"_s, Many(500), {}, cancelled).IsCancelled);
-        cNoProgress progress;
-        QCOMPARE(
-            import.ImportText(u"a"_s, Many(5), {.DefaultAccount = {}, .Run = eStagingRun::Try}, progress).Rows.size(),
-            5);
-        QVERIFY(balances.Of(u"1"_s).isEmpty());
-        QCOMPARE(import.ImportText(u"a"_s, Many(2), {}, progress).Staged, 2);
-        QCOMPARE(balances.Of(u"1"_s), cBankBalanceList({{QDate(2025, 12, 31), 0}, {QDate(2026, 1, 1), 0}}));
+        QVERIFY(book.Import.ImportText(u"a"_s, Many(500), {}, cancelled).IsCancelled);
+        QCOMPARE(book.Read(Many(5), {.DefaultAccount = {}, .Run = eStagingRun::Try}).Rows.size(), 5);
+        QVERIFY(book.Balances.Of(u"1"_s).isEmpty());
+        QCOMPARE(book.Read(Many(2)).Staged, 2);
+        QCOMPARE(book.Balances.Of(u"1"_s), cBankBalanceList({{QDate(2025, 12, 31), 0}, {QDate(2026, 1, 1), 0}}));
         const QString table = u"Buchungstag;Verwendungszweck;Betrag;Saldo\n04.05.2026;C;-10,00;60,00\n"
                               "04.05.2026;B;-5,00;70,00\n02.05.2026;A;-25,00;75,00\n"_s;
-        QCOMPARE(import.ImportText(u"a.csv"_s, table, {.DefaultAccount = u"2"_s}, progress).Staged, 3);
-        QCOMPARE(balances.Of(u"2"_s),
+        QCOMPARE(book.Read(table, {.DefaultAccount = u"2"_s}, u"a.csv"_s).Staged, 3);
+        QCOMPARE(book.Balances.Of(u"2"_s),
                  cBankBalanceList({{QDate(2026, 5, 1), 10000}, {QDate(2026, 5, 2), 7500}, {QDate(2026, 5, 4), 6000}}));
     }
 
@@ -217,17 +196,13 @@ private Q_SLOTS:
     void CountsEqualRows()
     {
         QFETCH(const QStringList, files);
-        cImportBook book;
-        cBankBalances balances(*book.Settings);
-        cStatementImport import(book.Data, book.Hive, nullptr, &balances);
-        cNoProgress progress;
+        cReadingBook book;
         QList<int> staged;
         QList<int> repeats;
         for (const QString& file : files) {
             const QStringList parts = file.split(u'@');
             const std::optional<int> end = parts.size() > 1 ? std::optional(parts.at(1).toInt()) : std::nullopt;
-            const cImportResult result =
-                import.ImportText(u"a.csv"_s, Purchases(parts.at(0), end), {.DefaultAccount = u"1"_s}, progress);
+            const cImportResult result = book.Read(Purchases(parts.at(0), end), {.DefaultAccount = u"1"_s}, u"a.csv"_s);
             QVERIFY2(!result.IsRefused, qPrintable(result.Message));
             staged.append(result.Staged);
             repeats.append(static_cast<int>(result.Repeats.size()));
@@ -238,10 +213,9 @@ private Q_SLOTS:
 
     void ReadOnlyDatabaseIsToldOnce()
     {
-        cImportBook book;
+        cReadingBook book;
         book.Database.Open(book.Path(), eOpenMode::ReadOnly);
-        cNoProgress progress;
-        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportText(u"a"_s, Many(50), {}, progress);
+        const cImportResult result = book.Read(Many(50));
         QVERIFY(result.IsRefused && result.Message.contains(u"nur zum Lesen"));
         QVERIFY(book.User.Shown.isEmpty());
     }
@@ -249,11 +223,10 @@ private Q_SLOTS:
     // One refusal concerns one record, two in a row concern the database.
     void GivesUpOnARefusingDatabase()
     {
-        cImportBook book;
+        cReadingBook book;
         book.WriteBehind("CREATE TRIGGER full BEFORE INSERT ON import WHEN (SELECT COUNT(*) FROM import) >= 3 "
                          "OR NEW.ImportPurpose = 'Nummer 1' BEGIN SELECT RAISE(ABORT, 'voll'); END");
-        cNoProgress progress;
-        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportText(u"a"_s, Many(50), {}, progress);
+        const cImportResult result = book.Read(Many(50));
         QCOMPARE(QList<int>({result.Staged, result.Failed}), QList<int>({3, 47}));
         QCOMPARE(book.User.Shown.size(), 3);
         QVERIFY(result.Message.contains(u"47 Umsätze nicht angenommen"));
@@ -262,14 +235,13 @@ private Q_SLOTS:
 
     void OnlineTextReturnsClosingBalance()
     {
-        cImportBook book;
+        cReadingBook book;
         cNoProgress progress;
-        cStatementImport import(book.Data, book.Hive);
         const QString text = u":20:A\r\n:61:260101D1,00NTRF\r\n:62F:D260101EUR12,34\r\n"_s;
-        QCOMPARE(import.ImportMT940(progress, {}, text, u"4711"_s), -1234);
+        QCOMPARE(book.Import.ImportMT940(progress, {}, text, u"4711"_s), -1234);
         QCOMPARE(book.Hive.GetImportHive().GetImportEntryCountByNumber(u"4711"_s), 1);
-        QCOMPARE(import.ImportMT940(progress, {}, text + u":20:B\r\n:86:x\r\n", u"4711"_s), 0);
-        QCOMPARE(import.ImportMT940(progress, {}, {}, {}), 0);
+        QCOMPARE(book.Import.ImportMT940(progress, {}, text + u":20:B\r\n:86:x\r\n", u"4711"_s), 0);
+        QCOMPARE(book.Import.ImportMT940(progress, {}, {}, {}), 0);
     }
 
     void KnowsAccountInItsOtherForm_data()
@@ -290,15 +262,11 @@ private Q_SLOTS:
         QFETCH(const QByteArray, line);
         QFETCH(const QString, account);
         QFETCH(const int, duplicates);
-        QFile file(QStringLiteral(TEST_DATA "/camt/giro.sta"));
-        QVERIFY(file.open(QIODevice::ReadOnly));
-        const QString text = QString::fromUtf8(file.readAll().replace("DE02100200300001234567", line));
-        cImportBook book;
-        cNoProgress progress;
-        cBankBalances balances(*book.Settings);
-        cStatementImport import(book.Data, book.Hive, nullptr, &balances);
-        QCOMPARE(import.ImportText(u"giro.sta"_s, text, {}, progress).Accounts, QStringList(account));
-        const cImportResult second = import.ImportFile(QStringLiteral(TEST_DATA "/camt/giro.xml"), {}, progress);
+        QByteArray file = cTestFile::Bytes(QStringLiteral(TEST_DATA "/camt/giro.sta"));
+        const QString text = QString::fromUtf8(file.replace("DE02100200300001234567", line));
+        cReadingBook book;
+        QCOMPARE(book.Read(text, {}, u"giro.sta"_s).Accounts, QStringList(account));
+        const cImportResult second = book.ReadFile(QStringLiteral(TEST_DATA "/camt/giro.xml"));
         QCOMPARE(second.Duplicates.size() + second.Alike.size(), duplicates); // MT940 has the long texts in pieces
         QCOMPARE(second.Accounts, QStringList(duplicates > 0 ? account : u"DE02100200300001234567"_s));
         QCOMPARE(second.Skipped.first().Entry.ImportAccount, second.Accounts.first());
@@ -307,13 +275,10 @@ private Q_SLOTS:
     // The other way round; a household moves money between its two banks, and only one of the numbers is its own.
     void NumberOfAnotherBankIsAnotherAccount()
     {
-        cImportBook book;
-        cNoProgress progress;
-        cBankBalances balances(*book.Settings);
-        cStatementImport import(book.Data, book.Hive, nullptr, &balances);
-        (void)import.ImportFile(QStringLiteral(TEST_DATA "/camt/giro.xml"), {}, progress);
+        cReadingBook book;
+        (void)book.ReadFile(QStringLiteral(TEST_DATA "/camt/giro.xml"));
         const QString text = u":20:A\r\n:25:50010517/1234567\r\n:61:260101D1,00NTRF\r\n:86:x\r\n"_s;
-        QCOMPARE(import.ImportText(u"b.sta"_s, text, {}, progress).Accounts, QStringList(u"1234567"_s));
+        QCOMPARE(book.Read(text, {}, u"b.sta"_s).Accounts, QStringList(u"1234567"_s));
         QVERIFY(book.Accounts.Assign(u"DE02100200300001234567"_s, u"Girokonto"_s));
         QVERIFY(book.Accounts.Proposal(u"1234567"_s) != u"Girokonto"_s);
         QVERIFY(book.Accounts.Assign(u"1234567"_s, u"Sparkonto"_s));
@@ -323,16 +288,14 @@ private Q_SLOTS:
 
     void TriesWithoutWriting()
     {
-        cImportBook book;
-        cNoProgress progress;
-        cStatementImport import(book.Data, book.Hive);
+        cReadingBook book;
         cImportOptions options;
         options.Run = eStagingRun::Try;
-        const cImportResult tried = import.ImportFile(fixture, options, progress);
+        const cImportResult tried = book.ReadFile(fixture, options);
         QCOMPARE(QList<int>({tried.Read, tried.Staged, tried.Zero}), QList<int>({6, 5, 1}));
-        QCOMPARE(import.ImportFile(fixture, options, progress).Duplicates.size(), 5); // as if the first had been staged
+        QCOMPARE(book.ReadFile(fixture, options).Duplicates.size(), 5); // as if the first had been staged
         QVERIFY(book.Data.GetImportEntries().isEmpty());
-        QVERIFY(import.ImportFile(fixture, {}, progress).Rows.isEmpty());
+        QVERIFY(book.ReadFile(fixture).Rows.isEmpty());
         cImportEntryList staged = book.Data.GetImportEntries();
         for (cImportEntry& row : staged) {
             row.ID = 0;
@@ -366,14 +329,12 @@ private Q_SLOTS:
         QFETCH(const QStringList, before);
         QFETCH(const QStringList, now);
         QFETCH(const int, asked);
-        cImportBook book;
-        cNoProgress progress;
-        cStatementImport import(book.Data, book.Hive);
+        cReadingBook book;
         cImportOptions old;
         old.OfxPayee = eOfxPayee::Leave;
-        QCOMPARE(import.ImportText(u"a.ofx"_s, CardPayments(before), old, progress).Staged, before.size());
+        QCOMPARE(book.Read(CardPayments(before), old, u"a.ofx"_s).Staged, before.size());
         for (const bool isAgain : {false, true}) {
-            const cImportResult result = import.ImportText(u"b.ofx"_s, CardPayments(now), {}, progress);
+            const cImportResult result = book.Read(CardPayments(now), {}, u"b.ofx"_s);
             QCOMPARE(result.Repeats.size(), asked);
             QVERIFY(!isAgain || result.Staged == 0);
         }
@@ -403,14 +364,12 @@ private Q_SLOTS:
         QFETCH(QString, amount);
         QFETCH(eStaged, outcome);
         QFETCH(qint64, cents);
-        cImportBook book;
-        cNoProgress progress;
+        cReadingBook book;
         cImportOptions options;
         options.DefaultAccount = u"4711"_s;
         options.Table.Number = eNumberFormat::German;
         const QString text = u"!Type:Bank\nD31.1.26\nT%1\nPO'Brien\nMO'Brien\n^\n"_s.arg(amount);
-        const cImportResult result =
-            cStatementImport(book.Data, book.Hive).ImportText(u"a.qif"_s, text, options, progress);
+        const cImportResult result = book.Read(text, options, u"a.qif"_s);
         QCOMPARE(QList<int>({result.Staged, result.Zero}),
                  outcome == eStaged::Staged ? QList<int>({1, 0}) : QList<int>({0, 1}));
         const cImportEntry stored = book.Data.GetImportEntries().value(0);
@@ -423,14 +382,12 @@ private Q_SLOTS:
 
     void SeesWritesOfOthers()
     {
-        cImportBook book;
-        cNoProgress progress;
-        cStatementImport import(book.Data, book.Hive);
-        QCOMPARE(import.ImportText(u"a"_s, Many(4), {}, progress).Staged, 4);
+        cReadingBook book;
+        QCOMPARE(book.Read(Many(4)).Staged, 4);
         book.WriteBehind("DELETE FROM import WHERE ID = 2");
         QCOMPARE(book.Hive.GetImportHive(eKeepCache::Yes).Count(), 4);
         QCOMPARE(book.Hive.GetImportHive().Count(), 3);
-        QCOMPARE(import.ImportText(u"a"_s, Many(4), {}, progress).Staged, 1); // the deleted row comes back
+        QCOMPARE(book.Read(Many(4)).Staged, 1); // the deleted row comes back
         QVERIFY(book.Hive.Remove(1));
         QCOMPARE(book.Hive.GetImportHive(eKeepCache::Yes).Count(), 3);
         QVERIFY(book.Data.DeleteAllImports());

@@ -10,6 +10,7 @@
 #include "import/table/modTableText.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 
 #include <QDir>
 #include <QTest>
@@ -19,12 +20,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QString folder = QStringLiteral(TEST_DATA "/csv");
-
-QByteArray ReadAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 cStatementRead ReadText(const QString& text, const cReadOptions& options = {})
 {
@@ -94,9 +89,9 @@ private Q_SLOTS:
         QFETCH(QString, file);
         cReadOptions options;
         options.Account = u"4711"_s;
-        const cStatementSource source = modStatementFormat::Source(file, ReadAll(file));
+        const cStatementSource source = modStatementFormat::Source(file, cTestFile::Bytes(file));
         QCOMPARE(modStatementFormat::Detect(source), eStatementFormat::Csv);
-        const QString expected = QString::fromUtf8(ReadAll(file.chopped(3) + u"txt"_s));
+        const QString expected = QString::fromUtf8(cTestFile::Bytes(file.chopped(3) + u"txt"_s));
         QCOMPARE(Shown(modTable::Read(source, options)), expected);
     }
 
@@ -105,7 +100,7 @@ private Q_SLOTS:
         QStringList missing = modTableProfile::Names();
         const QStringList files = QDir(folder).entryList({u"*.txt"_s});
         for (const QString& file : files) {
-            missing.removeAll(QString::fromUtf8(ReadAll(QDir(folder).filePath(file))).section(u'\n', 0, 0));
+            missing.removeAll(QString::fromUtf8(cTestFile::Bytes(QDir(folder).filePath(file))).section(u'\n', 0, 0));
         }
         QCOMPARE(missing, QStringList());
     }
