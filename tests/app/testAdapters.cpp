@@ -150,11 +150,9 @@ void testAdapters::HardLinksShareTheLock()
 
 void testAdapters::AbandonedLock_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("holder");
-    QTest::newRow("empty after a power cut") << QByteArray() << u"ein unbekanntes Programm, seit "_s;
-    QTest::newRow("another machine") << QByteArray("4711\nkontorelle\nanderer\n")
-                                     << u"kontorelle (Prozess 4711 auf anderer, seit "_s;
+    const cTestRows<QByteArray, QString> row({"content", "holder"});
+    row("empty after a power cut", {}, u"ein unbekanntes Programm, seit "_s);
+    row("another machine", "4711\nkontorelle\nanderer\n", u"kontorelle (Prozess 4711 auf anderer, seit "_s);
 }
 
 void testAdapters::AbandonedLock()
@@ -223,13 +221,11 @@ void testAdapters::KeysHaveGermanNames()
 
 void testAdapters::FiltersForFileDialogs_data()
 {
-    QTest::addColumn<QString>("pairs");
-    QTest::addColumn<QString>("filter");
-
-    QTest::addRow("one mask") << u"Datenbanken|*.db"_s << u"Datenbanken (*.db)"_s;
-    QTest::addRow("several masks, then all")
-        << u"Auszüge|*.csv;*.mt940|Alle Dateien|*.*"_s << u"Auszüge (*.csv *.mt940);;Alle Dateien (*)"_s;
-    QTest::addRow("name without mask") << u"Alle"_s << QString();
+    const cTestRows<QString, QString> row({"pairs", "filter"});
+    row("one mask", u"Datenbanken|*.db"_s, u"Datenbanken (*.db)"_s);
+    row("several masks, then all", u"Auszüge|*.csv;*.mt940|Alle Dateien|*.*"_s,
+        u"Auszüge (*.csv *.mt940);;Alle Dateien (*)"_s);
+    row("name without mask", u"Alle"_s, {});
 }
 
 void testAdapters::FiltersForFileDialogs()

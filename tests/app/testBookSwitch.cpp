@@ -96,12 +96,11 @@ private Q_SLOTS:
 
     void OldBookStays_data() const
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("damaged") << u"bad.db"_s << u"ist beschädigt oder keine gültige Datenbank."_s;
-        QTest::newRow("missing") << u"missing.db"_s << u"kann nicht gelesen werden."_s;
-        QTest::newRow("in use") << u"used.db"_s << u"ist in Benutzung"_s;
-        QTest::newRow("password not given") << u"protected.db"_s << QString();
+        const cTestRows<QString, QString> row({"name", "message"});
+        row("damaged", u"bad.db"_s, u"ist beschädigt oder keine gültige Datenbank."_s);
+        row("missing", u"missing.db"_s, u"kann nicht gelesen werden."_s);
+        row("in use", u"used.db"_s, u"ist in Benutzung"_s);
+        row("password not given", u"protected.db"_s, {});
     }
 
     void OldBookStays() const
@@ -149,9 +148,9 @@ private Q_SLOTS:
 
     void BackupIsRefused_data() const
     {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("damaged") << u"bad.backup"_s;
-        QTest::newRow("password not given") << u"protected.backup"_s;
+        const cTestRows<QString> row({"name"});
+        row("damaged", u"bad.backup"_s);
+        row("password not given", u"protected.backup"_s);
     }
 
     void BackupIsRefused() const

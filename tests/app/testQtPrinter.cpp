@@ -51,18 +51,13 @@ private Q_SLOTS:
 
 void testQtPrinter::PrintsWhatTheDialogAskedFor_data()
 {
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<int>("order");
-    QTest::addColumn<int>("copies");
-    QTest::addColumn<QList<int>>("pages");
-
+    const cTestRows<int, int, int, int, QList<int>> row({"from", "to", "order", "copies", "pages"});
     const int forwards = QPrinter::FirstPageFirst;
-    QTest::newRow("all") << 0 << 0 << forwards << 1 << QList<int>{1, 2, 3, 4, 5};
-    QTest::newRow("range") << 2 << 3 << forwards << 1 << QList<int>{2, 3};
-    QTest::newRow("range beyond the end") << 4 << 99 << forwards << 1 << QList<int>{4, 5};
-    QTest::newRow("last page first") << 1 << 3 << int(QPrinter::LastPageFirst) << 1 << QList<int>{3, 2, 1};
-    QTest::newRow("copies of a printer that makes none itself") << 1 << 2 << forwards << 2 << QList<int>{1, 2, 1, 2};
+    row("all", 0, 0, forwards, 1, {1, 2, 3, 4, 5});
+    row("range", 2, 3, forwards, 1, {2, 3});
+    row("range beyond the end", 4, 99, forwards, 1, {4, 5});
+    row("last page first", 1, 3, int(QPrinter::LastPageFirst), 1, {3, 2, 1});
+    row("copies of a printer that makes none itself", 1, 2, forwards, 2, {1, 2, 1, 2});
 }
 
 void testQtPrinter::PrintsWhatTheDialogAskedFor()
@@ -114,12 +109,10 @@ void testQtPrinter::FileThatCannotBeWritten()
 
 void testQtPrinter::EndingFollowsTheChosenFilter_data()
 {
-    QTest::addColumn<QString>("chosen");
-    QTest::addColumn<QString>("ending");
-
-    QTest::newRow("first") << u"CSV-Datei (*.csv)"_s << u"csv"_s;
-    QTest::newRow("second") << u"Excel-Datei (*.xlsx)"_s << u"xlsx"_s;
-    QTest::newRow("all files") << u"Alle Dateien (*)"_s << u"csv"_s;
+    const cTestRows<QString, QString> row({"chosen", "ending"});
+    row("first", u"CSV-Datei (*.csv)"_s, u"csv"_s);
+    row("second", u"Excel-Datei (*.xlsx)"_s, u"xlsx"_s);
+    row("all files", u"Alle Dateien (*)"_s, u"csv"_s);
 }
 
 void testQtPrinter::EndingFollowsTheChosenFilter()

@@ -105,11 +105,10 @@ private Q_SLOTS:
 
 void testSessionEnd::TypedContentsOutliveTheEnd_data() const
 {
-    QTest::addColumn<int>("entry");
-    QTest::addColumn<int>("number");
-    QTest::newRow("new entry, SIGTERM") << 0 << SIGTERM;
-    QTest::newRow("changed entry, SIGHUP") << 5 << SIGHUP;
-    QTest::newRow("changed entry, SIGINT") << 5 << SIGINT;
+    const cTestRows<int, int> row({"entry", "number"});
+    row("new entry, SIGTERM", 0, SIGTERM);
+    row("changed entry, SIGHUP", 5, SIGHUP);
+    row("changed entry, SIGINT", 5, SIGINT);
 }
 
 // Typed and split, ended by a signal, offered and shown at the next start, ended once more, then saved.
@@ -206,9 +205,9 @@ void testSessionEnd::CalledOffEndLeavesNoDraft() const
 
 void testSessionEnd::ProcessEndsCleanly_data() const
 {
-    QTest::addColumn<QStringList>("options");
-    QTest::newRow("with the window alone") << QStringList();
-    QTest::newRow("with a form above it") << QStringList(u"--new-entry"_s);
+    const cTestRows<QStringList> row({"options"});
+    row("with the window alone", {});
+    row("with a form above it", {u"--new-entry"_s});
 }
 
 void testSessionEnd::ProcessEndsCleanly() const

@@ -97,10 +97,10 @@ void testUpdateOverTls::Downloads() const
 
 void testUpdateOverTls::StaysOnTheServer_data() const
 {
-    QTest::addColumn<QString>("to");
-    QTest::newRow("another port") << u"https://localhost:%1/"_s;
-    QTest::newRow("another name of the host") << u"https://127.0.0.1:%1/"_s;
-    QTest::newRow("without encryption") << u"http://localhost:%1/"_s;
+    const cTestRows<QString> row({"to"});
+    row("another port", u"https://localhost:%1/"_s);
+    row("another name of the host", u"https://127.0.0.1:%1/"_s);
+    row("without encryption", u"http://localhost:%1/"_s);
 }
 
 void testUpdateOverTls::StaysOnTheServer() const
@@ -117,15 +117,14 @@ void testUpdateOverTls::StaysOnTheServer() const
 
 void testUpdateOverTls::EndsWithoutAnAnswer_data() const
 {
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<QString>("headline");
-    QTest::newRow("silence") << QByteArray() << u"localhost antwortet nicht. Versuchen Sie es später noch einmal."_s;
-    QTest::newRow("cut") << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n<kontorelle/>")
-                         << u"localhost antwortet nicht. Versuchen Sie es später noch einmal."_s;
-    QTest::newRow("no end of it") << cTlsServer::Page(All(QByteArray(300 * 1024, ' ')))
-                                  << u"localhost sendet mehr, als angekündigt war. Es wurde nichts davon behalten."_s;
-    QTest::newRow("not there") << cTlsServer::Page(All({}), "404 Not Found")
-                               << u"localhost gibt keine Auskunft (HTTP 404). Versuchen Sie es später noch einmal."_s;
+    const cTestRows<QByteArray, QString> row({"answer", "headline"});
+    row("silence", {}, u"localhost antwortet nicht. Versuchen Sie es später noch einmal."_s);
+    row("cut", "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n<kontorelle/>",
+        u"localhost antwortet nicht. Versuchen Sie es später noch einmal."_s);
+    row("no end of it", cTlsServer::Page(All(QByteArray(300 * 1024, ' '))),
+        u"localhost sendet mehr, als angekündigt war. Es wurde nichts davon behalten."_s);
+    row("not there", cTlsServer::Page(All({}), "404 Not Found"),
+        u"localhost gibt keine Auskunft (HTTP 404). Versuchen Sie es später noch einmal."_s);
 }
 
 void testUpdateOverTls::EndsWithoutAnAnswer() const

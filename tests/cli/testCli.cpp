@@ -136,17 +136,14 @@ void testCli::ImportTwiceStagesNothing()
 
 void testCli::EntriesAreFiltered_data()
 {
-    QTest::addColumn<QString>("filter");
-    QTest::addColumn<QStringList>("days");
-
-    QTest::addRow("kind") << u"|--kind|Ausgabe"_s << QStringList{u"2024-03-04"_s, u"2024-03-06"_s, u"2024-03-11"_s};
-    QTest::addRow("kind in the plural") << u"|--kind|Umbuchungen"_s << QStringList{u"2024-03-08"_s};
-    QTest::addRow("category with its sub-categories")
-        << u"|--category|Haushalt"_s << QStringList{u"2024-03-04"_s, u"2024-03-06"_s, u"2024-03-11"_s};
-    QTest::addRow("account, transfers into it too") << u"|--account|Sparkonto"_s << QStringList{u"2024-03-08"_s};
-    QTest::addRow("words in any case and without umlauts")
-        << u"|--filter|KORNBLUME baecker"_s << QStringList{u"2024-03-11"_s};
-    QTest::addRow("amount with the sign that the list shows") << u"|--filter|-64,21"_s << QStringList{u"2024-03-04"_s};
+    const cTestRows<QString, QStringList> row({"filter", "days"});
+    row("kind", u"|--kind|Ausgabe"_s, {u"2024-03-04"_s, u"2024-03-06"_s, u"2024-03-11"_s});
+    row("kind in the plural", u"|--kind|Umbuchungen"_s, {u"2024-03-08"_s});
+    row("category with its sub-categories", u"|--category|Haushalt"_s,
+        {u"2024-03-04"_s, u"2024-03-06"_s, u"2024-03-11"_s});
+    row("account, transfers into it too", u"|--account|Sparkonto"_s, {u"2024-03-08"_s});
+    row("words in any case and without umlauts", u"|--filter|KORNBLUME baecker"_s, {u"2024-03-11"_s});
+    row("amount with the sign that the list shows", u"|--filter|-64,21"_s, {u"2024-03-04"_s});
 }
 
 void testCli::EntriesAreFiltered()
@@ -171,16 +168,14 @@ void testCli::CsvKeepsSeparatorsInsideFields()
 
 void testCli::ExportsTheSelection_data()
 {
-    QTest::addColumn<QString>("options");
-    QTest::addColumn<QByteArray>("start");
-
-    QTest::addRow("by ending") << QString() << QByteArray("!Type:Bank\nD04.03.2024\nT-64.21\n");
-    QTest::addRow("by name") << u"|--format|csv"_s
-                             << QByteArray("\xEF\xBB\xBF"
-                                           "Datum;Buchungsart;");
-    QTest::addRow("Excel") << u"|--format|xlsx"_s << QByteArray("PK");
-    QTest::addRow("page") << u"|--format|html"_s << QByteArray("<!DOCTYPE html>");
-    QTest::addRow("nothing selected") << u"|--filter|Mondstaub"_s << QByteArray("!Type:Bank\n");
+    const cTestRows<QString, QByteArray> row({"options", "start"});
+    row("by ending", {}, "!Type:Bank\nD04.03.2024\nT-64.21\n");
+    row("by name", u"|--format|csv"_s,
+        "\xEF\xBB\xBF"
+        "Datum;Buchungsart;");
+    row("Excel", u"|--format|xlsx"_s, "PK");
+    row("page", u"|--format|html"_s, "<!DOCTYPE html>");
+    row("nothing selected", u"|--filter|Mondstaub"_s, "!Type:Bank\n");
 }
 
 void testCli::ExportsTheSelection()
@@ -201,16 +196,12 @@ void testCli::ExportsTheSelection()
 
 void testCli::ExportRefuses_data()
 {
-    QTest::addColumn<QString>("file");
-    QTest::addColumn<QString>("options");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("text");
-
-    QTest::addRow("unknown ending") << u"out.pdf"_s << QString() << 2 << u"csv, xlsx, html, qif"_s;
-    QTest::addRow("unknown format") << u"out.csv"_s << u"|--format|ods"_s << 2 << u"'ods'"_s;
-    QTest::addRow("the book itself") << u"Veltrino Kontorelle/data.db"_s << u"|--format|csv"_s << 2 << u"Datenbank"_s;
-    QTest::addRow("unknown period") << u"out.csv"_s << u"|--period|Morgen"_s << 2 << u"Morgen"_s;
-    QTest::addRow("folder that is not there") << u"missing/out.csv"_s << QString() << 1 << u"missing"_s;
+    const cTestRows<QString, QString, int, QString> row({"file", "options", "code", "text"});
+    row("unknown ending", u"out.pdf"_s, {}, 2, u"csv, xlsx, html, qif"_s);
+    row("unknown format", u"out.csv"_s, u"|--format|ods"_s, 2, u"'ods'"_s);
+    row("the book itself", u"Veltrino Kontorelle/data.db"_s, u"|--format|csv"_s, 2, u"Datenbank"_s);
+    row("unknown period", u"out.csv"_s, u"|--period|Morgen"_s, 2, u"Morgen"_s);
+    row("folder that is not there", u"missing/out.csv"_s, {}, 1, u"missing"_s);
 }
 
 void testCli::ExportRefuses()
@@ -260,11 +251,10 @@ void testCli::CheckFindsSoundBook()
 
 void testCli::LostOutputIsNoSuccess_data()
 {
-    QTest::addColumn<QString>("script");
-    QTest::addColumn<bool>("isSaid");
-    QTest::newRow("full disk") << u"\"$0\" \"$@\" > /dev/full"_s << true;
-    QTest::newRow("closed") << u"\"$0\" \"$@\" >&-"_s << true;
-    QTest::newRow("nobody reads on") << u"exec 3> >(:); wait $!; \"$0\" \"$@\" >&3"_s << false;
+    const cTestRows<QString, bool> row({"script", "isSaid"});
+    row("full disk", u"\"$0\" \"$@\" > /dev/full"_s, true);
+    row("closed", u"\"$0\" \"$@\" >&-"_s, true);
+    row("nobody reads on", u"exec 3> >(:); wait $!; \"$0\" \"$@\" >&3"_s, false);
 }
 
 void testCli::LostOutputIsNoSuccess()
@@ -311,23 +301,21 @@ void testCli::StrangeTriggersAreNamedAndDoNothing()
 
 void testCli::UsageErrors_data()
 {
-    QTest::addColumn<QString>("arguments");
-    QTest::addColumn<QString>("text");
-
-    QTest::addRow("no command") << QString() << u"fehlt der Befehl"_s;
-    QTest::addRow("unknown command") << u"frobnicate"_s << u"'frobnicate'"_s;
-    QTest::addRow("unknown option") << u"staged|--fast"_s << u"'--fast'"_s;
-    QTest::addRow("option of another command") << u"balances|--all"_s << u"'--all'"_s;
-    QTest::addRow("import without file") << u"import"_s << u"DATEI"_s;
-    QTest::addRow("value missing") << u"entries|--account"_s << u"--account"_s;
-    QTest::addRow("too many arguments") << u"balances|now"_s << u"'now'"_s;
-    QTest::addRow("book nothing") << u"book"_s << u"--all"_s;
-    QTest::addRow("book all and one") << u"book|--all|--id|1"_s << u"--id"_s;
-    QTest::addRow("number that is none") << u"book|--id|x"_s << u"'x'"_s;
-    QTest::addRow("unknown period") << u"entries|--period|Morgen"_s << u"Letzter Monat"_s;
-    QTest::addRow("unknown kind") << u"entries|--kind|Geschenk"_s << u"Umbuchung"_s;
-    QTest::addRow("date that is none") << u"entries|--from|irgendwann"_s << u"Datum"_s;
-    QTest::addRow("period and date") << u"entries|--from|2024-01-01|--period|Letztes Jahr"_s << u"--period"_s;
+    const cTestRows<QString, QString> row({"arguments", "text"});
+    row("no command", {}, u"fehlt der Befehl"_s);
+    row("unknown command", u"frobnicate"_s, u"'frobnicate'"_s);
+    row("unknown option", u"staged|--fast"_s, u"'--fast'"_s);
+    row("option of another command", u"balances|--all"_s, u"'--all'"_s);
+    row("import without file", u"import"_s, u"DATEI"_s);
+    row("value missing", u"entries|--account"_s, u"--account"_s);
+    row("too many arguments", u"balances|now"_s, u"'now'"_s);
+    row("book nothing", u"book"_s, u"--all"_s);
+    row("book all and one", u"book|--all|--id|1"_s, u"--id"_s);
+    row("number that is none", u"book|--id|x"_s, u"'x'"_s);
+    row("unknown period", u"entries|--period|Morgen"_s, u"Letzter Monat"_s);
+    row("unknown kind", u"entries|--kind|Geschenk"_s, u"Umbuchung"_s);
+    row("date that is none", u"entries|--from|irgendwann"_s, u"Datum"_s);
+    row("period and date", u"entries|--from|2024-01-01|--period|Letztes Jahr"_s, u"--period"_s);
 }
 
 void testCli::UsageErrors()
@@ -352,11 +340,10 @@ void testCli::MissingDatabaseIsNotMade()
 
 void testCli::FaultyStatements_data()
 {
-    QTest::addColumn<QByteArray>("content");
-
-    QTest::addRow("empty") << QByteArray("");
-    QTest::addRow("binary") << QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0", 20);
-    QTest::addRow("a letter") << QByteArray("Sehr geehrte Damen und Herren,\nanbei nichts.\n");
+    const cTestRows<QByteArray> row({"content"});
+    row("empty", "");
+    row("binary", QByteArray("\x89PNG\r\n\x1a\n\0\0\0\rIHDR\0\0", 20));
+    row("a letter", "Sehr geehrte Damen und Herren,\nanbei nichts.\n");
 }
 
 void testCli::FaultyStatements()
@@ -379,15 +366,13 @@ void testCli::MissingTemplateIsADamagedInstallation()
 
 void testCli::MissingPartIsNamed_data()
 {
-    QTest::addColumn<QString>("command");
-    QTest::addColumn<QString>("part");
-
+    const cTestRows<QString, QString> row({"command", "part"});
     const QString xlsx = u"'kontorelle-xlsx.so'"_s;
-    QTest::addRow("entries for Excel") << u"export|~.xlsx"_s << xlsx;
-    QTest::addRow("report for Excel") << u"report|summe|--xlsx|~.xlsx"_s << xlsx;
-    QTest::addRow("settlement for Excel") << u"settlement|--xlsx|~.xlsx"_s << xlsx;
-    QTest::addRow("painting") << u"report|summe|--pdf|~.xlsx"_s << u"'kontorelle'"_s;
-    QTest::addRow("network") << u"fetch"_s << u"'kontorelle'"_s;
+    row("entries for Excel", u"export|~.xlsx"_s, xlsx);
+    row("report for Excel", u"report|summe|--xlsx|~.xlsx"_s, xlsx);
+    row("settlement for Excel", u"settlement|--xlsx|~.xlsx"_s, xlsx);
+    row("painting", u"report|summe|--pdf|~.xlsx"_s, u"'kontorelle'"_s);
+    row("network", u"fetch"_s, u"'kontorelle'"_s);
 }
 
 void testCli::MissingPartIsNamed()

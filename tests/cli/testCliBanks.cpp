@@ -122,11 +122,11 @@ private Q_SLOTS:
 
     void RefusesACallThatSaysTooLittle_data()
     {
-        QTest::addColumn<QString>("Line");
-        QTest::newRow("no login") << u"banks|add|--blz|12345678"_s;
-        QTest::newRow("no bank") << u"banks|methods|--login|testuser"_s;
-        QTest::newRow("bank is no code") << u"banks|add|--blz|sparkasse|--login|testuser"_s;
-        QTest::newRow("protocol") << u"banks|add|--hbci|2.1"_s + login;
+        const cTestRows<QString> row({"Line"});
+        row("no login", u"banks|add|--blz|12345678"_s);
+        row("no bank", u"banks|methods|--login|testuser"_s);
+        row("bank is no code", u"banks|add|--blz|sparkasse|--login|testuser"_s);
+        row("protocol", u"banks|add|--hbci|2.1"_s + login);
     }
 
     void RefusesACallThatSaysTooLittle()

@@ -135,12 +135,11 @@ void testCliBook::FaultyFiles() const
 
 void testCliBook::CommandsSayWhatTheyDid_data() const
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("limit") << u"accounts|limit|girokonto|100"_s << u"Kontolimit von 'Girokonto' ist nun 100,00"_s;
-    QTest::newRow("no limit") << u"accounts|limit|girokonto|ohne"_s << u"Kontolimit von 'Girokonto' entfernt"_s;
-    QTest::newRow("help of the help") << u"hilfe|hilfe"_s << u"Befehle:"_s;
-    QTest::newRow("no password to remove") << u"password|--remove"_s << u": ohne Passwort"_s;
+    const cTestRows<QString, QString> row({"line", "text"});
+    row("limit", u"accounts|limit|girokonto|100"_s, u"Kontolimit von 'Girokonto' ist nun 100,00"_s);
+    row("no limit", u"accounts|limit|girokonto|ohne"_s, u"Kontolimit von 'Girokonto' entfernt"_s);
+    row("help of the help", u"hilfe|hilfe"_s, u"Befehle:"_s);
+    row("no password to remove", u"password|--remove"_s, u": ohne Passwort"_s);
 }
 
 void testCliBook::CommandsSayWhatTheyDid() const

@@ -4,7 +4,6 @@
 
 #include <QTest>
 
-
 using namespace Qt::Literals::StringLiterals;
 
 // Charts and the forecast from the command line, where there is no display.
@@ -58,18 +57,17 @@ void testCliChart::Forecasts()
 
 void testCliChart::Refuses_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<int>("code");
-    QTest::newRow("no such chart") << u"chart|torte|--csv|~/x.csv"_s << 2;
-    QTest::newRow("no file") << u"chart|ausgaben"_s << 2;
-    QTest::newRow("wrong ending") << u"chart|ausgaben|--png|~/x.jpg"_s << 2;
-    QTest::newRow("the book itself") << u"chart|ausgaben|--csv|~/Veltrino Kontorelle/data.db"_s << 2;
-    QTest::newRow("no such period") << u"chart|ausgaben|--csv|~/x.csv|--compare|Vorvorjahr"_s << 2;
-    QTest::newRow("one period only") << u"chart|kalender|--csv|~/x.csv|--compare|Vorjahr"_s << 2;
-    QTest::newRow("backwards") << u"chart|ausgaben|--csv|~/x.csv|--from|2026-02-28|--to|2026-02-01"_s << 2;
-    QTest::newRow("nothing in it") << u"chart|ausgaben|--csv|~/x.csv|--from|1990-01-01|--to|1990-01-31"_s << 1;
-    QTest::newRow("cannot be written") << u"chart|ausgaben|--csv|~/fehlt/x.csv|--period|Alle Buchungen"_s << 1;
-    QTest::newRow("too far ahead") << u"forecast|--months|13"_s << 2;
+    const cTestRows<QString, int> row({"line", "code"});
+    row("no such chart", u"chart|torte|--csv|~/x.csv"_s, 2);
+    row("no file", u"chart|ausgaben"_s, 2);
+    row("wrong ending", u"chart|ausgaben|--png|~/x.jpg"_s, 2);
+    row("the book itself", u"chart|ausgaben|--csv|~/Veltrino Kontorelle/data.db"_s, 2);
+    row("no such period", u"chart|ausgaben|--csv|~/x.csv|--compare|Vorvorjahr"_s, 2);
+    row("one period only", u"chart|kalender|--csv|~/x.csv|--compare|Vorjahr"_s, 2);
+    row("backwards", u"chart|ausgaben|--csv|~/x.csv|--from|2026-02-28|--to|2026-02-01"_s, 2);
+    row("nothing in it", u"chart|ausgaben|--csv|~/x.csv|--from|1990-01-01|--to|1990-01-31"_s, 1);
+    row("cannot be written", u"chart|ausgaben|--csv|~/fehlt/x.csv|--period|Alle Buchungen"_s, 1);
+    row("too far ahead", u"forecast|--months|13"_s, 2);
 }
 
 void testCliChart::Refuses()

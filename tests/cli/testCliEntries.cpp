@@ -5,7 +5,6 @@
 
 #include <QTest>
 
-
 using namespace Qt::Literals::StringLiterals;
 
 // Keeping the book from the command line, end to end: the program itself on a new book each time.
@@ -81,21 +80,18 @@ QStringList testCliEntries::Stored(const QString& line)
 
 void testCliEntries::AddFillsWhatIsMissing_data()
 {
-    QTest::addColumn<QString>("options");
-    QTest::addColumn<QString>("stored");
-
-    QTest::addRow("kind, interval and account by default")
-        << u"--amount|12,50+3,99|--category|Haushalt; Lebensmittel|--date|5.3.2026"_s
-        << u"2026-03-05|Ausgabe|16.49|Girokonto||Haushalt; Lebensmittel|Einmalig|"_s;
-    QTest::addRow("sub-category alone in other letters")
-        << u"--amount|650|--category|MIETE|--date|2026-03-01|--text|Lindenhof"_s
-        << u"2026-03-01|Ausgabe|650|Girokonto||Wohnung; Miete|Monatlich|Lindenhof"_s;
-    QTest::addRow("what is named wins")
-        << u"--amount|-7|--category|Wohnung;Miete|--kind|einnahme|--interval|jaehrlich|--account|bargeld|--date|1.3.26"_s
-        << u"2026-03-01|Einnahme|7|Bargeld||Wohnung; Miete|Jährlich|"_s;
-    QTest::addRow("a target makes a transfer")
-        << u"--amount|100|--category|Haushalt; Lebensmittel|--to-account|Sparkonto|--date|1.3.26"_s
-        << u"2026-03-01|Umbuchung|100|Girokonto|Sparkonto|Haushalt; Lebensmittel|Einmalig|"_s;
+    const cTestRows<QString, QString> row({"options", "stored"});
+    row("kind, interval and account by default",
+        u"--amount|12,50+3,99|--category|Haushalt; Lebensmittel|--date|5.3.2026"_s,
+        u"2026-03-05|Ausgabe|16.49|Girokonto||Haushalt; Lebensmittel|Einmalig|"_s);
+    row("sub-category alone in other letters", u"--amount|650|--category|MIETE|--date|2026-03-01|--text|Lindenhof"_s,
+        u"2026-03-01|Ausgabe|650|Girokonto||Wohnung; Miete|Monatlich|Lindenhof"_s);
+    row("what is named wins",
+        u"--amount|-7|--category|Wohnung;Miete|--kind|einnahme|--interval|jaehrlich|--account|bargeld|--date|1.3.26"_s,
+        u"2026-03-01|Einnahme|7|Bargeld||Wohnung; Miete|Jährlich|"_s);
+    row("a target makes a transfer",
+        u"--amount|100|--category|Haushalt; Lebensmittel|--to-account|Sparkonto|--date|1.3.26"_s,
+        u"2026-03-01|Umbuchung|100|Girokonto|Sparkonto|Haushalt; Lebensmittel|Einmalig|"_s);
 }
 
 void testCliEntries::AddFillsWhatIsMissing()
@@ -314,18 +310,16 @@ void testCliEntries::FormatOfTheBook()
 
 void testCliEntries::Search_data()
 {
-    QTest::addColumn<QString>("options");
-    QTest::addColumn<QStringList>("texts");
-
-    QTest::addRow("words, umlauts spelled out") << u"MAERZ bäcker"_s << QStringList{u"Bäckerei März"_s};
-    QTest::addRow("exact amount") << u"--amount|-12,40"_s << QStringList{u"Bäckerei März"_s};
-    QTest::addRow("range of amounts") << u"--min|12|--max|50"_s << QStringList{u"Bäckerei März"_s, u"Gehalt"_s};
-    QTest::addRow("period") << u"--from|2026-03-05|--to|31.3.2026"_s << QStringList{u"Gehalt"_s, u"Rücklage"_s};
-    QTest::addRow("account, transfers into it too") << u"--account|sparkonto"_s << QStringList{u"Rücklage"_s};
-    QTest::addRow("kind") << u"--kind|Einnahmen"_s << QStringList{u"Gehalt"_s};
-    QTest::addRow("main category") << u"--category|haushalt"_s << QStringList{u"Bäckerei März"_s, u"Rücklage"_s};
-    QTest::addRow("all together") << u"Rück|--kind|Umbuchung|--min|99"_s << QStringList{u"Rücklage"_s};
-    QTest::addRow("from the bank") << u"--from-bank"_s << QStringList{};
+    const cTestRows<QString, QStringList> row({"options", "texts"});
+    row("words, umlauts spelled out", u"MAERZ bäcker"_s, {u"Bäckerei März"_s});
+    row("exact amount", u"--amount|-12,40"_s, {u"Bäckerei März"_s});
+    row("range of amounts", u"--min|12|--max|50"_s, {u"Bäckerei März"_s, u"Gehalt"_s});
+    row("period", u"--from|2026-03-05|--to|31.3.2026"_s, {u"Gehalt"_s, u"Rücklage"_s});
+    row("account, transfers into it too", u"--account|sparkonto"_s, {u"Rücklage"_s});
+    row("kind", u"--kind|Einnahmen"_s, {u"Gehalt"_s});
+    row("main category", u"--category|haushalt"_s, {u"Bäckerei März"_s, u"Rücklage"_s});
+    row("all together", u"Rück|--kind|Umbuchung|--min|99"_s, {u"Rücklage"_s});
+    row("from the bank", u"--from-bank"_s, {});
 }
 
 void testCliEntries::Search()
@@ -340,11 +334,10 @@ void testCliEntries::Search()
 
 void testCliEntries::CategoryOfAList_data()
 {
-    QTest::addColumn<QString>("category");
-    QTest::addColumn<QStringList>("texts");
-    QTest::addRow("no other that begins alike") << u"Haus"_s << QStringList{u"Dach"_s, u"Zaun"_s};
-    QTest::addRow("sub-category that is called general") << u"Auto; Allgemein"_s << QStringList{u"Wäsche"_s};
-    QTest::addRow("what is booked on the main category") << u"haus; Allgemein"_s << QStringList{u"Dach"_s};
+    const cTestRows<QString, QStringList> row({"category", "texts"});
+    row("no other that begins alike", u"Haus"_s, {u"Dach"_s, u"Zaun"_s});
+    row("sub-category that is called general", u"Auto; Allgemein"_s, {u"Wäsche"_s});
+    row("what is booked on the main category", u"haus; Allgemein"_s, {u"Dach"_s});
 }
 
 void testCliEntries::CategoryOfAList()
@@ -434,53 +427,43 @@ void testCliEntries::Accounts()
 
 void testCliEntries::Refused_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("text");
-
-    QTest::addRow("no amount") << u"add|--category|Lebensmittel"_s << 2 << u"--amount"_s;
-    QTest::addRow("amount that is none") << u"add|--amount|12k|--category|Lebensmittel"_s << 2 << u"'12k'"_s;
-    QTest::addRow("no category") << u"add|--amount|5"_s << 1 << u"Bitte erst eine Kategorie wählen!"_s;
-    QTest::addRow("unknown category") << u"add|--amount|5|--category|Lebens"_s << 1 << u"Haushalt; Lebensmittel"_s;
-    QTest::addRow("ambiguous category") << u"add|--amount|5|--category|Kleidung"_s << 1 << u"mehrere"_s;
-    QTest::addRow("category of start balances")
-        << u"add|--amount|5|--category|Startguthaben"_s << 2 << u"accounts start"_s;
-    QTest::addRow("unknown account") << u"add|--amount|5|--category|Miete|--account|Mars"_s << 1 << u"Girokonto"_s;
-    QTest::addRow("unknown interval") << u"add|--amount|5|--category|Miete|--interval|oft"_s << 2 << u"Monatlich"_s;
-    QTest::addRow("day that is none") << u"add|--amount|5|--category|Miete|--date|31.2."_s << 2 << u"'31.2.'"_s;
-    QTest::addRow("transfer to nowhere") << u"add|--amount|5|--category|Miete|--kind|Umbuchung"_s << 2
-                                         << u"--to-account"_s;
-    QTest::addRow("transfer to itself") << u"add|--amount|5|--category|Miete|--to-account|Girokonto"_s << 2
-                                        << u"zwei verschiedene"_s;
-    QTest::addRow("target of an expense")
-        << u"add|--amount|5|--category|Miete|--kind|Ausgabe|--to-account|Sparkonto"_s << 2 << u"Umbuchung"_s;
-    QTest::addRow("end of a single entry")
-        << u"add|--amount|5|--category|Lebensmittel|--end|31.12.2026"_s << 2 << u"--interval"_s;
-    QTest::addRow("end before start") << u"add|--amount|5|--category|Miete|--date|1.3.2026|--end|1.2.2026"_s << 2
-                                      << u"01.03.2026"_s;
-    QTest::addRow("change of nothing") << u"change|1"_s << 2 << u"--amount"_s;
-    QTest::addRow("change of an entry that is not there") << u"change|77|--amount|5"_s << 1 << u"77"_s;
-    QTest::addRow("more than the amount of one occurrence")
-        << u"change|1|--only|3.3.2026|--text|x"_s << 2 << u"nur der Betrag"_s;
-    QTest::addRow("no occurrence on that day") << u"change|1|--from|3.3.2019|--amount|5"_s << 1 << u"03.01.2026"_s;
-    QTest::addRow("new start before the split")
-        << u"change|1|--from|3.3.2026|--date|1.2.2026"_s << 2 << u"03.03.2026"_s;
-    QTest::addRow("variable of a script that is not set") << u"change|1|--amount|5|--only|"_s << 2 << u"'--only'"_s;
-    QTest::addRow("day of no occurrence") << u"correct|1||5"_s << 2 << u"Tag"_s;
-    QTest::addRow("correction two ways") << u"correct|1|3.3.2026|5|--skip"_s << 2 << u"--remove"_s;
-    QTest::addRow("correction of nothing") << u"correct|1|3.3.2026"_s << 2 << u"--list"_s;
-    QTest::addRow("removal of no correction") << u"correct|1|3.3.2026|--remove"_s << 1 << u"nicht korrigiert"_s;
-    QTest::addRow("search for nothing") << u"search"_s << 2 << u"Suchwort"_s;
-    QTest::addRow("two kinds of amounts") << u"search|--amount|5|--min|3"_s << 2 << u"--max"_s;
-    QTest::addRow("limit that is no amount") << u"categories|add|Neu|--limit|viel"_s << 2 << u"'viel'"_s;
-    QTest::addRow("colour that is none") << u"categories|change|Wohnung|--color|bunt"_s << 2 << u"Hellblau"_s;
-    QTest::addRow("colour of a sub-category") << u"categories|change|Miete|--color|Blau"_s << 2 << u"'Wohnung'"_s;
-    QTest::addRow("category that is there") << u"categories|add|Wohnung; Miete"_s << 1 << u"existiert bereits"_s;
-    QTest::addRow("protected category") << u"categories|delete|Startguthaben|--yes"_s << 1 << u"Startguthaben"_s;
-    QTest::addRow("option before the second word") << u"categories|--json|add|Neu"_s << 2 << u"'--json'"_s;
-    QTest::addRow("unknown second word") << u"accounts|frobnicate"_s << 2 << u"'frobnicate'"_s;
-    QTest::addRow("account that is there") << u"accounts|add|Girokonto"_s << 1 << u"existiert bereits"_s;
-    QTest::addRow("start balance that is no amount") << u"accounts|start|Girokonto|viel"_s << 2 << u"'viel'"_s;
+    const cTestRows<QString, int, QString> row({"line", "code", "text"});
+    row("no amount", u"add|--category|Lebensmittel"_s, 2, u"--amount"_s);
+    row("amount that is none", u"add|--amount|12k|--category|Lebensmittel"_s, 2, u"'12k'"_s);
+    row("no category", u"add|--amount|5"_s, 1, u"Bitte erst eine Kategorie wählen!"_s);
+    row("unknown category", u"add|--amount|5|--category|Lebens"_s, 1, u"Haushalt; Lebensmittel"_s);
+    row("ambiguous category", u"add|--amount|5|--category|Kleidung"_s, 1, u"mehrere"_s);
+    row("category of start balances", u"add|--amount|5|--category|Startguthaben"_s, 2, u"accounts start"_s);
+    row("unknown account", u"add|--amount|5|--category|Miete|--account|Mars"_s, 1, u"Girokonto"_s);
+    row("unknown interval", u"add|--amount|5|--category|Miete|--interval|oft"_s, 2, u"Monatlich"_s);
+    row("day that is none", u"add|--amount|5|--category|Miete|--date|31.2."_s, 2, u"'31.2.'"_s);
+    row("transfer to nowhere", u"add|--amount|5|--category|Miete|--kind|Umbuchung"_s, 2, u"--to-account"_s);
+    row("transfer to itself", u"add|--amount|5|--category|Miete|--to-account|Girokonto"_s, 2, u"zwei verschiedene"_s);
+    row("target of an expense", u"add|--amount|5|--category|Miete|--kind|Ausgabe|--to-account|Sparkonto"_s, 2,
+        u"Umbuchung"_s);
+    row("end of a single entry", u"add|--amount|5|--category|Lebensmittel|--end|31.12.2026"_s, 2, u"--interval"_s);
+    row("end before start", u"add|--amount|5|--category|Miete|--date|1.3.2026|--end|1.2.2026"_s, 2, u"01.03.2026"_s);
+    row("change of nothing", u"change|1"_s, 2, u"--amount"_s);
+    row("change of an entry that is not there", u"change|77|--amount|5"_s, 1, u"77"_s);
+    row("more than the amount of one occurrence", u"change|1|--only|3.3.2026|--text|x"_s, 2, u"nur der Betrag"_s);
+    row("no occurrence on that day", u"change|1|--from|3.3.2019|--amount|5"_s, 1, u"03.01.2026"_s);
+    row("new start before the split", u"change|1|--from|3.3.2026|--date|1.2.2026"_s, 2, u"03.03.2026"_s);
+    row("variable of a script that is not set", u"change|1|--amount|5|--only|"_s, 2, u"'--only'"_s);
+    row("day of no occurrence", u"correct|1||5"_s, 2, u"Tag"_s);
+    row("correction two ways", u"correct|1|3.3.2026|5|--skip"_s, 2, u"--remove"_s);
+    row("correction of nothing", u"correct|1|3.3.2026"_s, 2, u"--list"_s);
+    row("removal of no correction", u"correct|1|3.3.2026|--remove"_s, 1, u"nicht korrigiert"_s);
+    row("search for nothing", u"search"_s, 2, u"Suchwort"_s);
+    row("two kinds of amounts", u"search|--amount|5|--min|3"_s, 2, u"--max"_s);
+    row("limit that is no amount", u"categories|add|Neu|--limit|viel"_s, 2, u"'viel'"_s);
+    row("colour that is none", u"categories|change|Wohnung|--color|bunt"_s, 2, u"Hellblau"_s);
+    row("colour of a sub-category", u"categories|change|Miete|--color|Blau"_s, 2, u"'Wohnung'"_s);
+    row("category that is there", u"categories|add|Wohnung; Miete"_s, 1, u"existiert bereits"_s);
+    row("protected category", u"categories|delete|Startguthaben|--yes"_s, 1, u"Startguthaben"_s);
+    row("option before the second word", u"categories|--json|add|Neu"_s, 2, u"'--json'"_s);
+    row("unknown second word", u"accounts|frobnicate"_s, 2, u"'frobnicate'"_s);
+    row("account that is there", u"accounts|add|Girokonto"_s, 1, u"existiert bereits"_s);
+    row("start balance that is no amount", u"accounts|start|Girokonto|viel"_s, 2, u"'viel'"_s);
 }
 
 void testCliEntries::Refused()

@@ -26,23 +26,17 @@ class testCliFetch : public QObject
 private Q_SLOTS:
     void FetchesAndTellsByItsCode_data()
     {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QByteArray>("pin");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<qsizetype>("rows");
-        QTest::newRow("all") << QStringList{} << QByteArray("12345\n") << 0 << qsizetype(7);
-        QTest::newRow("chosen") << QStringList{u"--account"_s, u"DE02 1002 0030 0001 2345 67"_s,
-                                               u"--blz"_s,     u"12345678"_s,
-                                               u"--from"_s,    u"01.03.2026"_s,
-                                               u"--json"_s}
-                                << QByteArray("12345\n") << 0 << qsizetype(7);
-        QTest::newRow("old days") << QStringList{u"--from"_s, u"01.11.2025"_s} << QByteArray("12345\n") << 0
-                                  << qsizetype(7);
-        QTest::newRow("another account") << QStringList{u"--account"_s, u"4711"_s} << QByteArray() << 1 << qsizetype(0);
-        QTest::newRow("no PIN") << QStringList{} << QByteArray() << 1 << qsizetype(0);
-        QTest::newRow("empty period") << QStringList{u"--from"_s, u"03.03.2026"_s, u"--to"_s, u"02.03.2026"_s}
-                                      << QByteArray("12345\n") << 1 << qsizetype(0);
-        QTest::newRow("no day") << QStringList{u"--from"_s, u"irgendwann"_s} << QByteArray() << 2 << qsizetype(0);
+        const cTestRows<QStringList, QByteArray, int, qsizetype> row({"arguments", "pin", "code", "rows"});
+        row("all", {}, "12345\n", 0, 7);
+        row("chosen",
+            {u"--account"_s, u"DE02 1002 0030 0001 2345 67"_s, u"--blz"_s, u"12345678"_s, u"--from"_s, u"01.03.2026"_s,
+             u"--json"_s},
+            "12345\n", 0, 7);
+        row("old days", {u"--from"_s, u"01.11.2025"_s}, "12345\n", 0, 7);
+        row("another account", {u"--account"_s, u"4711"_s}, {}, 1, 0);
+        row("no PIN", {}, {}, 1, 0);
+        row("empty period", {u"--from"_s, u"03.03.2026"_s, u"--to"_s, u"02.03.2026"_s}, "12345\n", 1, 0);
+        row("no day", {u"--from"_s, u"irgendwann"_s}, {}, 2, 0);
     }
 
     void FetchesAndTellsByItsCode()

@@ -3,7 +3,6 @@
 
 #include <QTest>
 
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -111,21 +110,18 @@ private Q_SLOTS:
 
     void Detects_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("finding"); // members of the object, in their order
-
-        QTest::newRow("known layout")
-            << Csv(u"dkb.csv"_s)
-            << uR"("profile": "DKB", "headerLine": 5, "separator": ",", "charset": "utf-8", "origin": "profile",)"_s;
-        QTest::newRow("account above the header")
-            << Csv(u"ing.csv"_s) << uR"("accounts": ["DE02500105170137075030"], "needsAccount": false,)"_s;
-        QTest::newRow("Windows-1252") << Csv(u"sparkasse-karte.csv"_s) << uR"("charset": "windows-1252")"_s;
-        QTest::newRow("guessed columns") << Csv(u"ohne-kopf.csv"_s) << uR"("headerLine": 0,)"_s;
-        QTest::newRow("no table")
-            << m_giro << uR"("firstDay": "2024-03-01", "lastDay": "2024-03-12", "rows": 7, "skipped": 0,)"_s;
-        QTest::newRow("camt") << QStringLiteral(TEST_DATA "/camt/giro.xml")
-                              << uR"("profile": "", "headerLine": null, "separator": "",)"_s;
-        QTest::newRow("packed") << QStringLiteral(TEST_DATA "/camt/auszuege.zip") << uR"("charset": "",)"_s;
+        // finding: members of the object, in their order
+        const cTestRows<QString, QString> row({"file", "finding"});
+        row("known layout", Csv(u"dkb.csv"_s),
+            uR"("profile": "DKB", "headerLine": 5, "separator": ",", "charset": "utf-8", "origin": "profile",)"_s);
+        row("account above the header", Csv(u"ing.csv"_s),
+            uR"("accounts": ["DE02500105170137075030"], "needsAccount": false,)"_s);
+        row("Windows-1252", Csv(u"sparkasse-karte.csv"_s), uR"("charset": "windows-1252")"_s);
+        row("guessed columns", Csv(u"ohne-kopf.csv"_s), uR"("headerLine": 0,)"_s);
+        row("no table", m_giro, uR"("firstDay": "2024-03-01", "lastDay": "2024-03-12", "rows": 7, "skipped": 0,)"_s);
+        row("camt", QStringLiteral(TEST_DATA "/camt/giro.xml"),
+            uR"("profile": "", "headerLine": null, "separator": "",)"_s);
+        row("packed", QStringLiteral(TEST_DATA "/camt/auszuege.zip"), uR"("charset": "",)"_s);
     }
 
     void Detects()
@@ -150,18 +146,14 @@ private Q_SLOTS:
 
     void Refused_data()
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<int>("code");
-        QTest::addColumn<QString>("text");
-
-        QTest::newRow("charset") << u"import|a.csv|--charset|ebcdic"_s << 2 << u"windows-1252, cp850"_s;
-        QTest::newRow("profile") << u"import|a.csv|--profile-name|Mondbank"_s << 2 << u"\"comdirect\""_s;
-        QTest::newRow("column") << u"import|a.csv|--map|datum=0,preis=2"_s << 2 << u"'preis=2'"_s;
-        QTest::newRow("column without number") << u"import|a.csv|--map|datum"_s << 2 << u"'datum'"_s;
-        QTest::newRow("no amount") << u"import|a.csv|--map|datum=0"_s << 2 << u"\"betrag\""_s;
-        QTest::newRow("columns of no table")
-            << u"import|%1|--map|datum=0,betrag=2"_s.arg(m_giro) << 1 << u"nur bei Tabellen"_s;
-        QTest::newRow("nothing to detect") << u"detect|missing.csv"_s << 1 << u"kann nicht geöffnet werden"_s;
+        const cTestRows<QString, int, QString> row({"line", "code", "text"});
+        row("charset", u"import|a.csv|--charset|ebcdic"_s, 2, u"windows-1252, cp850"_s);
+        row("profile", u"import|a.csv|--profile-name|Mondbank"_s, 2, u"\"comdirect\""_s);
+        row("column", u"import|a.csv|--map|datum=0,preis=2"_s, 2, u"'preis=2'"_s);
+        row("column without number", u"import|a.csv|--map|datum"_s, 2, u"'datum'"_s);
+        row("no amount", u"import|a.csv|--map|datum=0"_s, 2, u"\"betrag\""_s);
+        row("columns of no table", u"import|%1|--map|datum=0,betrag=2"_s.arg(m_giro), 1, u"nur bei Tabellen"_s);
+        row("nothing to detect", u"detect|missing.csv"_s, 1, u"kann nicht geöffnet werden"_s);
     }
 
     void Refused()

@@ -3,7 +3,6 @@
 
 #include <QTest>
 
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -93,15 +92,15 @@ private Q_SLOTS:
 
     void Refused_data() const
     {
-        QTest::addColumn<QString>("line"); // {0} the first row, {r} the rent, {f} the purchase
-        QTest::addColumn<int>("code");
-        QTest::newRow("no such row") << u"assign|999|{f}"_s << 1;
-        QTest::newRow("no such entry") << u"assign|{0}|999"_s << 1;
-        QTest::newRow("no number") << u"assign|eins|{f}"_s << 2;
-        QTest::newRow("another occurrence") << u"assign|{0}|{r}|1.3.2026"_s << 1;
-        QTest::newRow("a day of what is no series") << u"assign|{0}|{f}|1.2.2026"_s << 1;
-        QTest::newRow("not assigned") << u"release|{0}"_s << 1;
-        QTest::newRow("candidates of nothing") << u"match|--candidates|999"_s << 1;
+        // line: {0} the first row, {r} the rent, {f} the purchase
+        const cTestRows<QString, int> row({"line", "code"});
+        row("no such row", u"assign|999|{f}"_s, 1);
+        row("no such entry", u"assign|{0}|999"_s, 1);
+        row("no number", u"assign|eins|{f}"_s, 2);
+        row("another occurrence", u"assign|{0}|{r}|1.3.2026"_s, 1);
+        row("a day of what is no series", u"assign|{0}|{f}|1.2.2026"_s, 1);
+        row("not assigned", u"release|{0}"_s, 1);
+        row("candidates of nothing", u"match|--candidates|999"_s, 1);
     }
 
     void Refused()

@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QTest>
 
-
 using namespace Qt::Literals::StringLiterals;
 
 // Reports from the command line: the program itself on a small book.
@@ -152,23 +151,19 @@ void testCliReport::Settlement()
 
 void testCliReport::Refused_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("said");
-    QTest::newRow("no such report") << u"report|mittel"_s << 2 << u"durchschnitt, summe, limit"_s;
-    QTest::newRow("no month") << u"budget|set|Auto; Benzin|März|5"_s << 2 << u"2026-03"_s;
-    QTest::newRow("limit below zero") << u"budget|set|Auto; Benzin|2026-03|-5"_s << 2 << u"unter null"_s;
-    QTest::newRow("no expense") << u"budget|set|Einkommen; Freiberuflich|2026-03|5"_s << 1 << u"kein Budget"_s;
-    QTest::newRow("no people") << u"add|--amount|5|--category|Benzin|--payer|Anna"_s << 1 << u"people add"_s;
-    QTest::newRow("no person") << u"people|rename||Anna"_s << 1 << u"people add"_s;
-    QTest::newRow("shares of no account") << u"people|shares||ohne"_s << 2 << u"Gemeinsames"_s;
-    QTest::newRow("no share") << u"people|shares|Girokonto|ohne=5"_s << 1 << u"people add"_s;
-    QTest::newRow("no such account") << u"report|summe|--account|Nirgends"_s << 1 << u"Nirgends"_s;
-    QTest::newRow("period and days") << u"report|summe|--period|Letzter Monat|--from|2026-01-01"_s << 2
-                                     << u"--period"_s;
-    QTest::newRow("the book itself") << u"report|summe|--html|~/Veltrino Kontorelle/data.db"_s << 2
-                                     << u"Datenbank selbst"_s;
-    QTest::newRow("no such folder") << u"report|summe|--html|~/nirgends/b.html"_s << 1 << u"nirgends"_s;
+    const cTestRows<QString, int, QString> row({"line", "code", "said"});
+    row("no such report", u"report|mittel"_s, 2, u"durchschnitt, summe, limit"_s);
+    row("no month", u"budget|set|Auto; Benzin|März|5"_s, 2, u"2026-03"_s);
+    row("limit below zero", u"budget|set|Auto; Benzin|2026-03|-5"_s, 2, u"unter null"_s);
+    row("no expense", u"budget|set|Einkommen; Freiberuflich|2026-03|5"_s, 1, u"kein Budget"_s);
+    row("no people", u"add|--amount|5|--category|Benzin|--payer|Anna"_s, 1, u"people add"_s);
+    row("no person", u"people|rename||Anna"_s, 1, u"people add"_s);
+    row("shares of no account", u"people|shares||ohne"_s, 2, u"Gemeinsames"_s);
+    row("no share", u"people|shares|Girokonto|ohne=5"_s, 1, u"people add"_s);
+    row("no such account", u"report|summe|--account|Nirgends"_s, 1, u"Nirgends"_s);
+    row("period and days", u"report|summe|--period|Letzter Monat|--from|2026-01-01"_s, 2, u"--period"_s);
+    row("the book itself", u"report|summe|--html|~/Veltrino Kontorelle/data.db"_s, 2, u"Datenbank selbst"_s);
+    row("no such folder", u"report|summe|--html|~/nirgends/b.html"_s, 1, u"nirgends"_s);
 }
 
 void testCliReport::Refused()

@@ -3,7 +3,6 @@
 
 #include <QTest>
 
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -67,16 +66,15 @@ private Q_SLOTS:
 
     void Refused_data() const
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<int>("code");
-        QTest::newRow("no condition") << u"rules|add|--category|Haushalt"_s << 1;
-        QTest::newRow("no such category") << u"rules|add|--text|x|--category|Rohrpost"_s << 1;
-        QTest::newRow("no kind of a bank's") << u"rules|add|--text|x|--kind|Umbuchung|--category|Haushalt"_s << 2;
-        QTest::newRow("no such rule") << u"rules|delete|3|--yes"_s << 1;
-        QTest::newRow("no number") << u"rules|move|eins|2"_s << 2;
-        QTest::newRow("neither on nor off") << u"rules|switch|1|vielleicht"_s << 2;
-        QTest::newRow("no such row") << u"rules|test|99"_s << 1;
-        QTest::newRow("no such file") << u"rules|test|fehlt.sta"_s << 1;
+        const cTestRows<QString, int> row({"line", "code"});
+        row("no condition", u"rules|add|--category|Haushalt"_s, 1);
+        row("no such category", u"rules|add|--text|x|--category|Rohrpost"_s, 1);
+        row("no kind of a bank's", u"rules|add|--text|x|--kind|Umbuchung|--category|Haushalt"_s, 2);
+        row("no such rule", u"rules|delete|3|--yes"_s, 1);
+        row("no number", u"rules|move|eins|2"_s, 2);
+        row("neither on nor off", u"rules|switch|1|vielleicht"_s, 2);
+        row("no such row", u"rules|test|99"_s, 1);
+        row("no such file", u"rules|test|fehlt.sta"_s, 1);
     }
 
     void Refused()

@@ -48,14 +48,11 @@ class testStartUp final : public QObject
 private Q_SLOTS:
     void OldCurrency_data() const
     {
-        QTest::addColumn<QString>("symbol");
-        QTest::addColumn<eAnswer>("answer");
-        QTest::addColumn<int>("asked");
-        QTest::addColumn<int>("opened");
-        QTest::newRow("euro") << u"€"_s << eAnswer::Yes << 0 << 0;
-        QTest::newRow("mark, in any form") << u" dm "_s << eAnswer::Yes << 1 << 1;
-        QTest::newRow("mark, and it stays") << u"DM"_s << eAnswer::No << 1 << 0;
-        QTest::newRow("another with these letters") << u"DMX"_s << eAnswer::Yes << 0 << 0;
+        const cTestRows<QString, eAnswer, int, int> row({"symbol", "answer", "asked", "opened"});
+        row("euro", u"€"_s, eAnswer::Yes, 0, 0);
+        row("mark, in any form", u" dm "_s, eAnswer::Yes, 1, 1);
+        row("mark, and it stays", u"DM"_s, eAnswer::No, 1, 0);
+        row("another with these letters", u"DMX"_s, eAnswer::Yes, 0, 0);
     }
 
     void OldCurrency() const
@@ -134,12 +131,10 @@ private Q_SLOTS:
     // A program killed at the wrong moment, or a file taken away: what lies beside the book may be all that is left.
     void MissingBookHasLeftovers_data() const
     {
-        QTest::addColumn<int>("chosen");
-        QTest::addColumn<bool>("opens");
-        QTest::addColumn<int>("entries");
-        QTest::newRow("the replaced file") << 0 << true << 1;
-        QTest::newRow("none of them") << 1 << true << 0;
-        QTest::newRow("no answer") << -1 << false << 0;
+        const cTestRows<int, bool, int> row({"chosen", "opens", "entries"});
+        row("the replaced file", 0, true, 1);
+        row("none of them", 1, true, 0);
+        row("no answer", -1, false, 0);
     }
 
     void MissingBookHasLeftovers() const

@@ -193,11 +193,10 @@ private Q_SLOTS:
 
     void CashBeforeTheStartTeachesNothing_data()
     {
-        QTest::addColumn<bool>("isOldFirst");
-        QTest::addColumn<double>("value");
-        QTest::newRow("the old month first") << true << -200.0;
-        QTest::newRow("the new month first") << false << -200.0;
-        QTest::newRow("abroad") << true << -53.17;
+        const cTestRows<bool, double> row({"isOldFirst", "value"});
+        row("the old month first", true, -200.0);
+        row("the new month first", false, -200.0);
+        row("abroad", true, -53.17);
     }
 
     // Two months beside the day on which the notes were counted, one booked and then the other: no notes are in the
@@ -299,15 +298,14 @@ private Q_SLOTS:
 
     void KeywordsAloneMakeNoSeries_data()
     {
-        QTest::addColumn<QList<int>>("same"); // days after the row on which the payee is paid again
-        QTest::addColumn<QList<int>>("others");
-        QTest::addColumn<QString>("interval");
-        QTest::newRow("the only row") << QList<int>{} << QList<int>{} << u"Monatlich"_s;
-        QTest::newRow("a month later again") << QList<int>{33} << QList<int>{90} << u"Monatlich"_s;
-        QTest::newRow("a month before") << QList<int>{-31} << QList<int>{90} << u"Monatlich"_s;
-        QTest::newRow("never again") << QList<int>{} << QList<int>{20, 60} << u"Einmalig"_s;
-        QTest::newRow("not to be known yet") << QList<int>{} << QList<int>{20, 40} << u"Monatlich"_s;
-        QTest::newRow("every week or so") << QList<int>{8, 30} << QList<int>{} << u"Einmalig"_s;
+        // same: days after the row on which the payee is paid again
+        const cTestRows<QList<int>, QList<int>, QString> row({"same", "others", "interval"});
+        row("the only row", {}, {}, u"Monatlich"_s);
+        row("a month later again", {33}, {90}, u"Monatlich"_s);
+        row("a month before", {-31}, {90}, u"Monatlich"_s);
+        row("never again", {}, {20, 60}, u"Einmalig"_s);
+        row("not to be known yet", {}, {20, 40}, u"Monatlich"_s);
+        row("every week or so", {8, 30}, {}, u"Einmalig"_s);
     }
 
     void KeywordsAloneMakeNoSeries()

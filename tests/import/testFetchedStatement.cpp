@@ -50,11 +50,11 @@ private Q_SLOTS:
     // listed as such.
     void TellsNoBookingTwice_data()
     {
-        QTest::addColumn<QStringList>("ways");
-        QTest::newRow("fetched twice") << QStringList{u"M"_s, u"M"_s, u"C"_s, u"C"_s};
-        QTest::newRow("camt first") << QStringList{u"C"_s, u"M"_s, u"m"_s, u"c"_s};
-        QTest::newRow("files first") << QStringList{u"m"_s, u"c"_s, u"C"_s, u"M"_s};
-        QTest::newRow("camt file first") << QStringList{u"c"_s, u"M"_s, u"C"_s, u"m"_s};
+        const cTestRows<QStringList> row({"ways"});
+        row("fetched twice", {u"M"_s, u"M"_s, u"C"_s, u"C"_s});
+        row("camt first", {u"C"_s, u"M"_s, u"m"_s, u"c"_s});
+        row("files first", {u"m"_s, u"c"_s, u"C"_s, u"M"_s});
+        row("camt file first", {u"c"_s, u"M"_s, u"C"_s, u"m"_s});
     }
 
     void TellsNoBookingTwice()

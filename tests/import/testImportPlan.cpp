@@ -102,12 +102,12 @@ private Q_SLOTS:
 
     void Transfers_data()
     {
-        QTest::addColumn<QString>("entered"); // as what one side stands in the book
-        QTest::addColumn<eRowGroup>("group");
-        QTest::addColumn<QString>("type"); // of what the other side becomes
-        QTest::newRow("nothing entered") << QString() << eRowGroup::InBook << modWord::Umbuchung;
-        QTest::newRow("the transfer") << modWord::Umbuchung << eRowGroup::InBook << modWord::Umbuchung;
-        QTest::newRow("an expense") << modWord::Ausgabe << eRowGroup::Look << modWord::Einnahme;
+        // entered: as what one side stands in the book
+        // type: of what the other side becomes
+        const cTestRows<QString, eRowGroup, QString> row({"entered", "group", "type"});
+        row("nothing entered", {}, eRowGroup::InBook, modWord::Umbuchung);
+        row("the transfer", modWord::Umbuchung, eRowGroup::InBook, modWord::Umbuchung);
+        row("an expense", modWord::Ausgabe, eRowGroup::Look, modWord::Einnahme);
     }
 
     void Transfers()

@@ -100,30 +100,28 @@ private Q_SLOTS:
 
 void testMatcher::OneRowAndOneEntry_data() const
 {
-    QTest::addColumn<int>("days"); // from the entry to the row
-    QTest::addColumn<qint64>("rowCents");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("purpose");
-    QTest::addColumn<QString>("text");      // of an entry of 23,10 in "Haushalt; Lebensmittel"
-    QTest::addColumn<QList<int>>("counts"); // assigned, proposed, left, of these with candidates
+    // days: from the entry to the row
+    // text: of an entry of 23,10 in "Haushalt; Lebensmittel"
+    // counts: assigned, proposed, left, of these with candidates
+    const cTestRows<int, qint64, QString, QString, QString, QList<int>> row(
+        {"days", "rowCents", "name", "purpose", "text", "counts"});
     const QList<int> assigned{1, 0, 0, 0};
     const QList<int> proposed{0, 1, 0, 0};
     const QList<int> listed{0, 0, 1, 1};
     const QList<int> nothing{0, 0, 1, 0};
     const QString rewe = u"REWE Markt GmbH Talheim"_s;
-    QTest::newRow("same payee") << 0 << qint64{-2310} << u"REWE"_s << QString() << u"Rewe"_s << assigned;
-    QTest::newRow("payee in short, ten days") << 10 << qint64{-2310} << rewe << QString() << u"REWE"_s << assigned;
-    QTest::newRow("eleven days") << 11 << qint64{-2310} << u"REWE"_s << QString() << u"REWE"_s << nothing;
-    QTest::newRow("before the entry") << -10 << qint64{-2310} << u"REWE"_s << QString() << u"REWE"_s << assigned;
-    QTest::newRow("words of the purpose")
-        << 3 << qint64{-2310} << u"Jana"_s << u"Geschenk für Oma, danke"_s << u"Geschenk Oma"_s << assigned;
-    QTest::newRow("category by rule") << 1 << qint64{-2310} << rewe << QString() << u"Wochenende"_s << assigned;
-    QTest::newRow("nothing but amount and day") << 0 << qint64{-2310} << u"Jana"_s << QString() << u"xyz"_s << proposed;
-    QTest::newRow("nothing but amount, later") << 4 << qint64{-2310} << u"Jana"_s << QString() << u"xyz"_s << listed;
-    QTest::newRow("amount nearly right") << 0 << qint64{-2300} << u"REWE"_s << QString() << u"REWE"_s << proposed;
-    QTest::newRow("amount less right") << 5 << qint64{-2200} << u"REWE"_s << QString() << u"REWE"_s << listed;
-    QTest::newRow("amount far away") << 0 << qint64{-1800} << u"REWE"_s << QString() << u"REWE"_s << nothing;
-    QTest::newRow("other direction") << 0 << qint64{2310} << u"REWE"_s << QString() << u"REWE"_s << nothing;
+    row("same payee", 0, -2310, u"REWE"_s, {}, u"Rewe"_s, assigned);
+    row("payee in short, ten days", 10, -2310, rewe, {}, u"REWE"_s, assigned);
+    row("eleven days", 11, -2310, u"REWE"_s, {}, u"REWE"_s, nothing);
+    row("before the entry", -10, -2310, u"REWE"_s, {}, u"REWE"_s, assigned);
+    row("words of the purpose", 3, -2310, u"Jana"_s, u"Geschenk für Oma, danke"_s, u"Geschenk Oma"_s, assigned);
+    row("category by rule", 1, -2310, rewe, {}, u"Wochenende"_s, assigned);
+    row("nothing but amount and day", 0, -2310, u"Jana"_s, {}, u"xyz"_s, proposed);
+    row("nothing but amount, later", 4, -2310, u"Jana"_s, {}, u"xyz"_s, listed);
+    row("amount nearly right", 0, -2300, u"REWE"_s, {}, u"REWE"_s, proposed);
+    row("amount less right", 5, -2200, u"REWE"_s, {}, u"REWE"_s, listed);
+    row("amount far away", 0, -1800, u"REWE"_s, {}, u"REWE"_s, nothing);
+    row("other direction", 0, 2310, u"REWE"_s, {}, u"REWE"_s, nothing);
 }
 
 void testMatcher::OneRowAndOneEntry() const

@@ -95,20 +95,17 @@ private Q_SLOTS:
 
     void RefusesWhatIsNoStatement_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("missing") << u"a.sta"_s << QByteArray() << u"Die Datei kann nicht geöffnet werden"_s;
-        QTest::newRow("empty") << u"a.sta"_s << QByteArray("") << u"Die Datei ist leer"_s;
-        QTest::newRow("binary") << u"a.sta"_s
-                                << QByteArray("\x7F"
-                                              "ELF\0\0:20::61::86:",
-                                              18)
-                                << u"Unbekanntes Dateiformat"_s;
-        QTest::newRow("spreadsheet") << u"a.xls"_s << QByteArray("\xD0\xCF\0", 3)
-                                     << u"ist beschädigt oder keine Arbeitsmappe"_s;
-        QTest::newRow("text") << u"a.txt"_s << QByteArray("Hallo") << u"keine Spalten mit Datum und Betrag"_s;
-        QTest::newRow("PDF") << u"a.pdf"_s << QByteArray("%PDF") << u"kann nicht eingelesen werden: Portable"_s;
+        const cTestRows<QString, QByteArray, QString> row({"name", "bytes", "message"});
+        row("missing", u"a.sta"_s, {}, u"Die Datei kann nicht geöffnet werden"_s);
+        row("empty", u"a.sta"_s, "", u"Die Datei ist leer"_s);
+        row("binary", u"a.sta"_s,
+            QByteArray("\x7F"
+                       "ELF\0\0:20::61::86:",
+                       18),
+            u"Unbekanntes Dateiformat"_s);
+        row("spreadsheet", u"a.xls"_s, QByteArray("\xD0\xCF\0", 3), u"ist beschädigt oder keine Arbeitsmappe"_s);
+        row("text", u"a.txt"_s, "Hallo", u"keine Spalten mit Datum und Betrag"_s);
+        row("PDF", u"a.pdf"_s, "%PDF", u"kann nicht eingelesen werden: Portable"_s);
     }
 
     void RefusesWhatIsNoStatement()
@@ -175,21 +172,16 @@ private Q_SLOTS:
 
     void CountsEqualRows_data()
     {
-        QTest::addColumn<QStringList>("files"); // newest transaction first; "@5000" behind: the balance after it
-        QTest::addColumn<QList<int>>("staged"); // by each file
-        QTest::addColumn<QList<int>>("repeats");
-        QTest::newRow("nothing proves them") << QStringList{u"0503 -200 3"_s} << QList<int>{1} << QList<int>{2};
-        QTest::newRow("balances do") << QStringList{u"0503 -200 3, 0502 -700 1@4000"_s,
-                                                    u"0503 -200 3, 0502 -700 1@4000"_s}
-                                     << QList<int>{4, 0} << QList<int>{0, 0};
-        QTest::newRow("overlap, the second came later")
-            << QStringList{u"0503 -200 1, 0502 -700 1@4000"_s, u"0503 -200 2, 0502 -700 1@3800"_s} << QList<int>{2, 1}
-            << QList<int>{0, 0};
-        QTest::newRow("known balances rule them out")
-            << QStringList{u"0504 -100 1, 0503 -200 1, 0502 -700 1@4000"_s, u"0503 -200 2"_s} << QList<int>{3, 0}
-            << QList<int>{0, 0};
-        QTest::newRow("as many as before")
-            << QStringList{u"0503 -200 1"_s, u"0503 -200 1"_s} << QList<int>{1, 0} << QList<int>{0, 0};
+        // files: newest transaction first; "@5000" behind: the balance after it
+        // staged: by each file
+        const cTestRows<QStringList, QList<int>, QList<int>> row({"files", "staged", "repeats"});
+        row("nothing proves them", {u"0503 -200 3"_s}, {1}, {2});
+        row("balances do", {u"0503 -200 3, 0502 -700 1@4000"_s, u"0503 -200 3, 0502 -700 1@4000"_s}, {4, 0}, {0, 0});
+        row("overlap, the second came later", {u"0503 -200 1, 0502 -700 1@4000"_s, u"0503 -200 2, 0502 -700 1@3800"_s},
+            {2, 1}, {0, 0});
+        row("known balances rule them out", {u"0504 -100 1, 0503 -200 1, 0502 -700 1@4000"_s, u"0503 -200 2"_s}, {3, 0},
+            {0, 0});
+        row("as many as before", {u"0503 -200 1"_s, u"0503 -200 1"_s}, {1, 0}, {0, 0});
     }
 
     // What a file has more often than the book is real; the same file again brings nothing.
@@ -246,14 +238,13 @@ private Q_SLOTS:
 
     void KnowsAccountInItsOtherForm_data()
     {
-        QTest::addColumn<QByteArray>("line"); // of the account in the file that is read first
-        QTest::addColumn<QString>("account");
-        QTest::addColumn<int>("duplicates");
-        QTest::newRow("bank code and number") << QByteArray("10020030/0001234567") << u"1234567"_s << 3;
-        QTest::newRow("number") << QByteArray("1234567") << u"1234567"_s << 3;
-        QTest::newRow("IBAN") << QByteArray("DE02100200300001234567") << u"DE02100200300001234567"_s << 3;
-        QTest::newRow("another account") << QByteArray("1234568") << u"1234568"_s << 0;
-        QTest::newRow("the number at another bank") << QByteArray("50010517/0001234567") << u"1234567"_s << 0;
+        // line: of the account in the file that is read first
+        const cTestRows<QByteArray, QString, int> row({"line", "account", "duplicates"});
+        row("bank code and number", "10020030/0001234567", u"1234567"_s, 3);
+        row("number", "1234567", u"1234567"_s, 3);
+        row("IBAN", "DE02100200300001234567", u"DE02100200300001234567"_s, 3);
+        row("another account", "1234568", u"1234568"_s, 0);
+        row("the number at another bank", "50010517/0001234567", u"1234567"_s, 0);
     }
 
     // The same month as MT940 and as camt, which names the account by its IBAN.
@@ -350,13 +341,11 @@ private Q_SLOTS:
 
     void StagesWholeCents_data()
     {
-        QTest::addColumn<QString>("amount");
-        QTest::addColumn<eStaged>("outcome");
-        QTest::addColumn<qint64>("cents");
-        QTest::newRow("rounded") << u"12,3449"_s << eStaged::Staged << qint64{1234};
-        QTest::newRow("half to the even cent") << u"0,125"_s << eStaged::Staged << qint64{12};
-        QTest::newRow("zero") << u"0,00"_s << eStaged::Zero << qint64{0};
-        QTest::newRow("less than half a cent") << u"0,001"_s << eStaged::Zero << qint64{0};
+        const cTestRows<QString, eStaged, qint64> row({"amount", "outcome", "cents"});
+        row("rounded", u"12,3449"_s, eStaged::Staged, 1234);
+        row("half to the even cent", u"0,125"_s, eStaged::Staged, 12);
+        row("zero", u"0,00"_s, eStaged::Zero, 0);
+        row("less than half a cent", u"0,001"_s, eStaged::Zero, 0);
     }
 
     void StagesWholeCents()

@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QTest>
 
+#include <array>
+
 // A class of tests, known to its program under its name. The tests of a floor are one program, which is linked once:
 // "views_tests testReport" runs one class, with the options of QTest behind it.
 class cTestClass
@@ -20,6 +22,20 @@ private:
     const char* m_name;
     Function m_run;
     cTestClass* m_next;
+};
+
+// The rows of a data-driven test: its columns are named once, and a row that does not fit them is not compiled.
+template <typename... tColumns>
+class cTestRows
+{
+public:
+    explicit cTestRows(const std::array<const char*, sizeof...(tColumns)>& columns)
+    {
+        std::size_t at = 0;
+        (QTest::addColumn<tColumns>(columns.at(at++)), ...);
+    }
+
+    void operator()(const char* name, const tColumns&... values) const { (QTest::newRow(name) << ... << values); }
 };
 
 // One class with an application of its own kind around it.

@@ -85,9 +85,9 @@ void testDragging::RowsOfTheReviewTakeACategory()
 
 void testDragging::EntriesGoToAnAccount_data()
 {
-    QTest::addColumn<bool>("isReadOnly");
-    QTest::newRow("usual") << false;
-    QTest::newRow("book that can only be read") << true;
+    const cTestRows<bool> row({"isReadOnly"});
+    row("usual", false);
+    row("book that can only be read", true);
 }
 
 void testDragging::EntriesGoToAnAccount()

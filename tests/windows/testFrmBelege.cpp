@@ -111,14 +111,11 @@ void testFrmBelege::PagesAreTurnedAndEnlarged()
 
 void testFrmBelege::FilesThatAreNoneAreSaid_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("no PDF") << u"a.pdf"_s << QByteArray("%PDF-1.7 kaputt") << u"Die Datei ist beschädigt"_s;
-    QTest::newRow("half a picture") << u"a.png"_s << QByteArray::fromHex("89504e470d0a1a0a0000000d49484452")
-                                    << u"Die Datei ist beschädigt"_s;
-    QTest::newRow("no picture") << u"a.odt"_s << QByteArray("PK") << u"Für diese Art von Datei"_s;
+    const cTestRows<QString, QByteArray, QString> row({"name", "bytes", "text"});
+    row("no PDF", u"a.pdf"_s, "%PDF-1.7 kaputt", u"Die Datei ist beschädigt"_s);
+    row("half a picture", u"a.png"_s, QByteArray::fromHex("89504e470d0a1a0a0000000d49484452"),
+        u"Die Datei ist beschädigt"_s);
+    row("no picture", u"a.odt"_s, "PK", u"Für diese Art von Datei"_s);
 }
 
 void testFrmBelege::FilesThatAreNoneAreSaid()

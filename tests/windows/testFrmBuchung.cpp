@@ -185,17 +185,13 @@ void testFrmBuchung::FromOpeningToSavedWithoutMouse()
 
 void testFrmBuchung::CategoryIsFoundByTyping_data()
 {
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QList<Qt::Key>>("keys");
-    QTest::addColumn<QString>("path");
-    QTest::newRow("Enter takes the first") << u"lebensm"_s << QList{Qt::Key_Return} << u"Haushalt; Lebensmittel"_s;
-    QTest::newRow("Tab too, umlauts are blind") << u"getranke"_s << QList{Qt::Key_Tab} << u"Haushalt; Getränke"_s;
-    QTest::newRow("words of both levels") << u"kinder kleid"_s << QList{Qt::Key_Return} << u"Kinder; Kleidung"_s;
-    QTest::newRow("Down to the second") << u"kleidung"_s << QList{Qt::Key_Down, Qt::Key_Return}
-                                        << u"Kinder; Kleidung"_s;
-    QTest::newRow("typed, list closed, field left")
-        << u"werkstatt"_s << QList{Qt::Key_Escape, Qt::Key_Tab} << u"Auto; Werkstatt"_s;
-    QTest::newRow("nothing of that name") << u"xyz"_s << QList{Qt::Key_Tab} << QString();
+    const cTestRows<QString, QList<Qt::Key>, QString> row({"typed", "keys", "path"});
+    row("Enter takes the first", u"lebensm"_s, QList{Qt::Key_Return}, u"Haushalt; Lebensmittel"_s);
+    row("Tab too, umlauts are blind", u"getranke"_s, QList{Qt::Key_Tab}, u"Haushalt; Getränke"_s);
+    row("words of both levels", u"kinder kleid"_s, QList{Qt::Key_Return}, u"Kinder; Kleidung"_s);
+    row("Down to the second", u"kleidung"_s, QList{Qt::Key_Down, Qt::Key_Return}, u"Kinder; Kleidung"_s);
+    row("typed, list closed, field left", u"werkstatt"_s, QList{Qt::Key_Escape, Qt::Key_Tab}, u"Auto; Werkstatt"_s);
+    row("nothing of that name", u"xyz"_s, QList{Qt::Key_Tab}, {});
 }
 
 void testFrmBuchung::CategoryIsFoundByTyping()

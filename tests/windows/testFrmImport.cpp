@@ -178,9 +178,9 @@ private Q_SLOTS:
     // The row leaves the list with the category that it takes, and its neighbour is selected.
     void EnterBooksTheRowOfTheField_data()
     {
-        QTest::addColumn<Qt::KeyboardModifiers>("keys");
-        QTest::newRow("Enter") << Qt::KeyboardModifiers();
-        QTest::newRow("Ctrl and Enter") << Qt::KeyboardModifiers(Qt::ControlModifier);
+        const cTestRows<Qt::KeyboardModifiers> row({"keys"});
+        row("Enter", Qt::KeyboardModifiers());
+        row("Ctrl and Enter", Qt::KeyboardModifiers(Qt::ControlModifier));
     }
 
     void EnterBooksTheRowOfTheField()
@@ -206,14 +206,14 @@ private Q_SLOTS:
 
     void AnEmptiedFieldBooksNothing_data()
     {
-        QTest::addColumn<QList<Qt::Key>>("keys");
-        QTest::addColumn<Qt::KeyboardModifiers>("last"); // with Enter
+        // last: with Enter
+        const cTestRows<QList<Qt::Key>, Qt::KeyboardModifiers> row({"keys", "last"});
         const Qt::KeyboardModifiers none;
-        QTest::newRow("at once") << QList{Qt::Key_Return} << none;
-        QTest::newRow("without the list") << QList{Qt::Key_Escape, Qt::Key_Return} << none;
-        QTest::newRow("with a list that is opened") << QList{Qt::Key_Escape, Qt::Key_F4, Qt::Key_Return} << none;
-        QTest::newRow("the button") << QList<Qt::Key>() << none;
-        QTest::newRow("Ctrl") << QList{Qt::Key_Escape, Qt::Key_Return} << Qt::KeyboardModifiers(Qt::ControlModifier);
+        row("at once", QList{Qt::Key_Return}, none);
+        row("without the list", QList{Qt::Key_Escape, Qt::Key_Return}, none);
+        row("with a list that is opened", QList{Qt::Key_Escape, Qt::Key_F4, Qt::Key_Return}, none);
+        row("the button", {}, none);
+        row("Ctrl", QList{Qt::Key_Escape, Qt::Key_Return}, Qt::KeyboardModifiers(Qt::ControlModifier));
     }
 
     void AnEmptiedFieldBooksNothing()

@@ -352,16 +352,14 @@ void testFrmMain::WayBackFromASelection()
 
 void testFrmMain::PlaceIsInReach_data()
 {
-    QTest::addColumn<QRect>("Place");
-    QTest::addColumn<QRect>("Shown");
-
+    const cTestRows<QRect, QRect> row({"Place", "Shown"});
     const QRect left(100, 100, 800, 600);
-    QTest::newRow("on the first screen") << left << left;
-    QTest::newRow("on the second screen") << left.translated(1400, 0) << left.translated(1400, 0);
-    QTest::newRow("half outside") << left.translated(-700, 300) << left.translated(-700, 300);
-    QTest::newRow("screen is gone") << left.translated(5000, 0) << QRect(240, 200, 800, 600);
-    QTest::newRow("edge above the screen") << left.translated(0, -400) << QRect(240, 200, 800, 600);
-    QTest::newRow("too large for what is left") << QRect(5000, 0, 3000, 2000) << QRect(0, 0, 1280, 1000);
+    row("on the first screen", left, left);
+    row("on the second screen", left.translated(1400, 0), left.translated(1400, 0));
+    row("half outside", left.translated(-700, 300), left.translated(-700, 300));
+    row("screen is gone", left.translated(5000, 0), QRect(240, 200, 800, 600));
+    row("edge above the screen", left.translated(0, -400), QRect(240, 200, 800, 600));
+    row("too large for what is left", QRect(5000, 0, 3000, 2000), QRect(0, 0, 1280, 1000));
 }
 
 void testFrmMain::PlaceIsInReach()
@@ -450,12 +448,11 @@ void testFrmMain::RowsGoToTheClipboard()
 
 void testFrmMain::RowsAreDropped_data()
 {
-    QTest::addColumn<bool>("isAccount");
-    QTest::addColumn<QString>("grouping");
-    QTest::addColumn<QString>("target"); // empty: not taken
-    QTest::newRow("on an account") << true << u"Keine Gruppierung"_s << u"Bargeld"_s;
-    QTest::newRow("on a category") << false << u"Nach Kategorie"_s << u"Haushalt; Lebensmittel"_s;
-    QTest::newRow("on another group") << false << u"Nach Monat"_s << QString();
+    // target: empty: not taken
+    const cTestRows<bool, QString, QString> row({"isAccount", "grouping", "target"});
+    row("on an account", true, u"Keine Gruppierung"_s, u"Bargeld"_s);
+    row("on a category", false, u"Nach Kategorie"_s, u"Haushalt; Lebensmittel"_s);
+    row("on another group", false, u"Nach Monat"_s, {});
 }
 
 void testFrmMain::RowsAreDropped()

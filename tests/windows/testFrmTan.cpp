@@ -119,12 +119,11 @@ void testFrmTan::TanGoesByKeyboard()
 
 void testFrmTan::NothingOfTheTanStays_data()
 {
-    QTest::addColumn<int>("way");
-
-    QTest::newRow("sent") << 0;
-    QTest::newRow("Escape") << 1;
-    QTest::newRow("closed") << 2;
-    QTest::newRow("cancelled") << 3;
+    const cTestRows<int> row({"way"});
+    row("sent", 0);
+    row("Escape", 1);
+    row("closed", 2);
+    row("cancelled", 3);
 }
 
 void testFrmTan::NothingOfTheTanStays()
