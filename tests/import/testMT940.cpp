@@ -139,7 +139,7 @@ private Q_SLOTS:
 
     void Balances_data()
     {
-        // cents: none: told
+        // No cents: that is told.
         const cTestRows<QString, std::optional<qint64>> row({"line", "cents"});
         row("credit", u"C260131EUR000001,5"_s, 150);
         row("debit", u"D260131EUR12,34"_s, -1234);

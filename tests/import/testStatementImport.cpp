@@ -172,7 +172,7 @@ private Q_SLOTS:
 
     void CountsEqualRows_data()
     {
-        // files: newest transaction first; "@5000" behind: the balance after it
+        // In a file the newest transaction is first; "@5000" behind it is the balance after it.
         // staged: by each file
         const cTestRows<QStringList, QList<int>, QList<int>> row({"files", "staged", "repeats"});
         row("nothing proves them", {u"0503 -200 3"_s}, {1}, {2});

@@ -50,7 +50,7 @@ private Q_SLOTS:
     // Readers hold a field several times over, so nobody else looks at one of 50 MB.
     void EndlessFieldsAreRefused_data()
     {
-        // line: 0: read
+        // Line 0: it is read.
         const cTestRows<QByteArray, int> row({"bytes", "line"});
         const QByteArray endless(1'100'000, 'x');
         const QByteArray tags = QByteArray("<Ntry>1</Ntry>").repeated(200'000);

@@ -448,7 +448,7 @@ void testFrmMain::RowsGoToTheClipboard()
 
 void testFrmMain::RowsAreDropped_data()
 {
-    // target: empty: not taken
+    // An empty target: not taken.
     const cTestRows<bool, QString, QString> row({"isAccount", "grouping", "target"});
     row("on an account", true, u"Keine Gruppierung"_s, u"Bargeld"_s);
     row("on a category", false, u"Nach Kategorie"_s, u"Haushalt; Lebensmittel"_s);
