@@ -6,11 +6,9 @@
 #include "core/modPassword.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
+#include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/fakes.h"
 
-#include <QDir>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -20,7 +18,7 @@ namespace {
 constexpr const char* oneEntry = "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2026-01-31', 'Giro');";
 
 // A running program on a book with one entry.
-struct cMachine
+struct cMachine : cFakeMachine
 {
     cMachine()
     {
@@ -29,7 +27,6 @@ struct cMachine
         }
     }
 
-    [[nodiscard]] QString Path(const QString& name) const { return File.Path(name); }
     [[nodiscard]] bool IsAsBefore()
     {
         return Book.Path() == Path(u"data.db"_s) && Book.Data().CountEntries() == 1 && !Book.IsReadOnly()
@@ -49,12 +46,6 @@ struct cMachine
                          name);
     }
 
-    cTestFile File;
-    cFakeShell Shell;
-    cFakeUser User;
-    cFakeRescue Rescue;
-    cFakeClock Clock{QDate(2026, 3, 15)};
-    cFakeRegistry Registry;
     cConfiguration Configuration{Registry};
     cBook Book{User};
     cFileLock Lock;

@@ -8,15 +8,6 @@
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
 
-namespace {
-
-QByteArray Redirect(const QByteArray& to)
-{
-    return "HTTP/1.1 302 Found\r\nLocation: " + to + "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
-}
-
-} // namespace
-
 // The way to a bank, over TLS on loopback.
 class testHttps final : public QObject
 {
@@ -76,7 +67,7 @@ void testHttps::SaysWhatWentWrong_data()
 {
     const cTestRows<QByteArray, eHttpsFault, QByteArray> row({"answer", "fault", "bytes"});
     row("error page", cTlsServer::Page("<html>", "500 Oops"), eHttpsFault::Refused, "<html>");
-    row("redirect", Redirect("https://localhost:1/"), eHttpsFault::Refused, {});
+    row("redirect", cTlsServer::Redirect("https://localhost:1/"), eHttpsFault::Refused, {});
     row("silence", {}, eHttpsFault::Silent, {});
     row("cut", "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\nabc", eHttpsFault::Silent, {});
     row("hung up", cTlsServer::Hangup, eHttpsFault::Silent, {});

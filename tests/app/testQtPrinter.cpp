@@ -1,10 +1,10 @@
 #include "app/machine/cQtPrinter.h"
 #include "app/machine/modQtFilter.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 #include "windows/print/cPrintable.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QPainter>
 #include <QPrinter>
 #include <QTemporaryDir>
@@ -33,6 +33,12 @@ public:
     QRectF Area;
     mutable QList<int> Painted;
 };
+
+void PrintTo(QPrinter& printer, const QString& path)
+{
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path);
+}
 
 } // namespace
 
@@ -69,25 +75,21 @@ void testQtPrinter::PrintsWhatTheDialogAskedFor()
     QFETCH(const QList<int>, pages);
     QTemporaryDir folder;
     QPrinter printer;
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(folder.filePath(u"a.pdf"_s));
+    PrintTo(printer, folder.filePath(u"a.pdf"_s));
     printer.setFromTo(from, to);
     printer.setPageOrder(static_cast<QPrinter::PageOrder>(order));
     printer.setCopyCount(copies);
     cFivePages content;
     QVERIFY(cQtPrinter::Spool(printer, content));
     QCOMPARE(content.Painted, pages);
-    QFile file(printer.outputFileName());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll().count("/Type /Page\n"), pages.size());
+    QCOMPARE(cTestFile::Bytes(printer.outputFileName()).count("/Type /Page\n"), pages.size());
 }
 
 void testQtPrinter::TurnedPaperIsLaidOutAnew()
 {
     QTemporaryDir folder;
     QPrinter printer;
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(folder.filePath(u"a.pdf"_s));
+    PrintTo(printer, folder.filePath(u"a.pdf"_s));
     cFivePages content;
     QVERIFY(cQtPrinter::Spool(printer, content));
     QVERIFY(content.Area.height() > content.Area.width());
@@ -100,8 +102,7 @@ void testQtPrinter::FileThatCannotBeWritten()
 {
     QTemporaryDir folder;
     QPrinter printer;
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(folder.filePath(u"missing/a.pdf"_s));
+    PrintTo(printer, folder.filePath(u"missing/a.pdf"_s));
     cFivePages content;
     QTest::ignoreMessage(QtWarningMsg, "QPainter::begin(): Returned false");
     QVERIFY(!cQtPrinter::Spool(printer, content));

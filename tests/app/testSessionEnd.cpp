@@ -3,9 +3,8 @@
 #include "app/machine/cSessionWatch.h"
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
+#include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/fakes.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/main/frmMain.h"
 
@@ -20,7 +19,6 @@
 
 #include <csignal>
 #include <functional>
-#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -31,18 +29,12 @@ constexpr const char* oneEntry =
     "EntryDescription) VALUES (5, '2026-03-10', 'Ausgabe', 'Einmalig', 'Girokonto', 'Haushalt; Lebensmittel', '10', "
     "'Markt');";
 
-struct cMachine
+struct cMachine : cFakeMachine
 {
     [[nodiscard]] QStringList Drafts() const { return QDir(Shell.Folder(u"state"_s)).entryList({u"*.json"_s}); }
-    [[nodiscard]] bool IsLocked() const { return QFileInfo::exists(Path + u".lock"_s); }
+    [[nodiscard]] bool IsLocked() const { return QFileInfo::exists(Book + u".lock"_s); }
 
-    cTestFile File;
-    QString Path = File.Make(oneEntry);
-    cFakeShell Shell;
-    cFakeUser User;
-    cFakeRescue Rescue;
-    cFakeClock Clock{QDate(2026, 3, 15)};
-    cFakeRegistry Registry;
+    QString Book = File.Make(oneEntry);
     const cMainProgram::cPorts Ports{Shell, Registry, User, Rescue, Clock};
 };
 
@@ -53,7 +45,7 @@ struct cRun
     {
         QObject::connect(&Watch, &cSessionWatch::EndRequested, &Watch, [this] { Program.End(); });
         QObject::connect(&Watch, &cSessionWatch::SaveRequested, &Watch, [this] { Program.Save(); });
-        if (!Program.Start({.Book = machine.Path})) {
+        if (!Program.Start({.Book = machine.Book})) {
             qFatal("no start");
         }
     }

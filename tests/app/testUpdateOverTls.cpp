@@ -15,11 +15,6 @@ using eState = cUpdateCheck::eState;
 
 namespace {
 
-QByteArray Redirect(const QByteArray& to)
-{
-    return "HTTP/1.1 302 Found\r\nLocation: " + to + "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
-}
-
 // Lines of a request: the first one, and the names of the headers.
 QByteArray First(const QByteArray& request)
 {
@@ -79,7 +74,7 @@ void testUpdateOverTls::Downloads() const
 {
     cScene scene([](const QByteArray& request) {
         if (request.contains("/pakete/alt.deb")) {
-            return Redirect("/pakete/kontorelle_0.3.0.deb"); // within the server
+            return cTlsServer::Redirect("/pakete/kontorelle_0.3.0.deb"); // within the server
         }
         return request.contains("/pakete/") ? cTlsServer::Page(Package)
                                             : cTlsServer::Page(All(Release("0.3.0", File("pakete/alt.deb"))));
@@ -108,7 +103,7 @@ void testUpdateOverTls::StaysOnTheServer() const
     QFETCH(const QString, to);
     cTlsServer other(u"bank"_s, [](const QByteArray&) { return cTlsServer::Page(All(Release("0.3.0", File()))); });
     const QString target = to.arg(QUrl(other.Url()).port());
-    cScene scene([&](const QByteArray&) { return Redirect(target.toUtf8()); });
+    cScene scene([&](const QByteArray&) { return cTlsServer::Redirect(target.toUtf8()); });
     scene.Check.Look();
     QCOMPARE(scene.Check.State(), eState::Failed);
     QVERIFY2(scene.Check.Headline().startsWith(u"localhost gibt keine Auskunft"_s), qPrintable(scene.Check.Headline()));

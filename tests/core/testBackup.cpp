@@ -9,9 +9,8 @@
 #include "store/cUndoStep.h"
 #include "store/modBookFile.h"
 #include "store/modSchema.h"
+#include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/fakes.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -44,7 +43,7 @@ QStringList FilesIn(const QString& folder)
 }
 
 // An open book with two entries and what works on it.
-struct cMachine
+struct cMachine : cFakeMachine
 {
     cMachine()
     {
@@ -54,16 +53,10 @@ struct cMachine
         Configuration.SetDatabase(&Book.Settings());
     }
 
-    [[nodiscard]] QString Path(const QString& name) const { return File.Path(name); }
     [[nodiscard]] QString Copies() const { return File.Folder() + u"/Sicherungen"_s; }
 
     void Write() { Book.Database().Execute("INSERT INTO data (EntryDate) VALUES ('2026-02-01')"); }
 
-    cTestFile File;
-    cFakeShell Shell;
-    cFakeUser User;
-    cFakeClock Clock{QDate(2026, 3, 15)};
-    cFakeRegistry Registry;
     cConfiguration Configuration{Registry};
     cBook Book{User};
     cBackup Backup{Book.Database(), Shell};

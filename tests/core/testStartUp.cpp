@@ -4,9 +4,8 @@
 #include "core/cStartUp.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
+#include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/fakes.h"
 
 #include <QDir>
 #include <QTest>
@@ -16,7 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // A machine with an installed program and nothing of the user's yet.
-struct cMachine
+struct cMachine : cFakeMachine
 {
     cMachine() { cTestFile::Run(Template(), cTestFile::Tables); }
 
@@ -28,15 +27,9 @@ struct cMachine
 
     void Configure(const QString& path) { Registry.Write(cConfiguration::RegistryKey, u"Database"_s, path); }
 
-    cFakeShell Shell;
-    cFakeUser User;
-    cFakeRescue Rescue;
-    cFakeClock Clock{QDate(2026, 3, 15)};
-    cFakeRegistry Registry;
     cConfiguration Configuration{Registry};
     cBook Book{User};
     cStartUp StartUp{{Shell, User, Rescue, Clock}, Configuration, u"0.1.0"_s};
-    cTestFile File;
 };
 
 } // namespace

@@ -2,9 +2,8 @@
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
 #include "model/modSettingKey.h"
+#include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/fakes.h"
 #include "support/windowHands.h"
 #include "views/book/cBackupSettings.h"
 #include "windows/book/frmSicherungen.h"
@@ -21,7 +20,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct cMachine
+struct cMachine : cFakeMachine
 {
     cMachine()
     {
@@ -32,11 +31,6 @@ struct cMachine
         Plan.RunIfDue();
     }
 
-    cTestFile File;
-    cFakeShell Shell;
-    cFakeUser User;
-    cFakeClock Clock;
-    cFakeRegistry Registry;
     cConfiguration Configuration{Registry};
     cBook Book{User};
     cBackupPlan Plan{{Shell, User, Clock}, Book, Configuration};
