@@ -47,6 +47,10 @@ public:
     static inline const QByteArray Hangup = "hang up";
 
     // An answer in full, with a head that fits.
+    [[nodiscard]] static QByteArray Redirect(const QByteArray& to)
+    {
+        return "HTTP/1.1 302 Found\r\nLocation: " + to + "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
+    }
     [[nodiscard]] static QByteArray Page(const QByteArray& body, const QByteArray& status = "200 OK")
     {
         return "HTTP/1.1 " + status + "\r\nContent-Length: " + QByteArray::number(body.size())

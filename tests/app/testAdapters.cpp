@@ -1,10 +1,11 @@
 #include "app/machine/cFileLock.h"
-#include "app/machine/cLanguage.h"
 #include "app/machine/cQtRegistry.h"
 #include "app/machine/cQtShell.h"
 #include "app/machine/cSingleInstance.h"
 #include "app/machine/modQtFilter.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -39,18 +40,14 @@ private Q_SLOTS:
     void AbandonedLock();
     void SecondStartHandsOverToTheFirst();
     void NobodyToRaise();
-    void KeysHaveGermanNames();
     void FiltersForFileDialogs_data();
     void FiltersForFileDialogs();
 
 private:
     [[nodiscard]] QString NewFile(const QString& name) const
     {
-        QFile file(m_folder.filePath(name));
-        if (!file.open(QIODevice::WriteOnly)) {
-            qFatal("cannot write test file");
-        }
-        return file.fileName();
+        cTestFile::Write(m_folder.filePath(name), {});
+        return m_folder.filePath(name);
     }
 
     QTemporaryDir m_folder;
@@ -150,11 +147,9 @@ void testAdapters::HardLinksShareTheLock()
 
 void testAdapters::AbandonedLock_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("holder");
-    QTest::newRow("empty after a power cut") << QByteArray() << u"ein unbekanntes Programm, seit "_s;
-    QTest::newRow("another machine") << QByteArray("4711\nkontorelle\nanderer\n")
-                                     << u"kontorelle (Prozess 4711 auf anderer, seit "_s;
+    const cTestRows<QByteArray, QString> row("content", "holder");
+    row("empty after a power cut", {}, u"ein unbekanntes Programm, seit "_s);
+    row("another machine", "4711\nkontorelle\nanderer\n", u"kontorelle (Prozess 4711 auf anderer, seit "_s);
 }
 
 void testAdapters::AbandonedLock()
@@ -162,10 +157,7 @@ void testAdapters::AbandonedLock()
     QFETCH(const QByteArray, content);
     QFETCH(const QString, holder);
     const QString path = NewFile(u"abandoned.db"_s);
-    QFile lock(path + u".lock"_s);
-    QVERIFY(lock.open(QIODevice::WriteOnly));
-    lock.write(content);
-    lock.close();
+    cTestFile::Write(path + u".lock"_s, content);
     cFileLock mine;
     QCOMPARE(mine.Take(path), eLockState::Foreign);
     QVERIFY(mine.IsAbandoned(path));
@@ -179,11 +171,8 @@ void testAdapters::AbandonedLock()
 void testAdapters::LeftoverLockIsTakenOver()
 {
     const QString path = NewFile(u"left.db"_s);
-    QFile lock(path + u".lock"_s);
-    QVERIFY(lock.open(QIODevice::WriteOnly));
     // A process number beyond what the system gives out: that program is gone.
-    lock.write("99999999\nkontorelle\n" + QSysInfo::machineHostName().toUtf8() + "\n");
-    lock.close();
+    cTestFile::Write(path + u".lock"_s, "99999999\nkontorelle\n" + QSysInfo::machineHostName().toUtf8() + "\n");
     cFileLock mine;
     QCOMPARE(mine.Take(path), eLockState::Held);
 }
@@ -213,23 +202,13 @@ void testAdapters::NobodyToRaise()
     QVERIFY(!cSingleInstance::HandOver(NewFile(u"alone.db"_s), {}));
 }
 
-void testAdapters::KeysHaveGermanNames()
-{
-    cLanguage language;
-    language.Use(u"de"_s, cQtShell(m_folder.path()));
-    QCOMPARE(QCoreApplication::translate("QShortcut", "Return"), u"Eingabe"_s);
-    QCOMPARE(QCoreApplication::translate("QWizard", "Return"), u"Return"_s);
-}
-
 void testAdapters::FiltersForFileDialogs_data()
 {
-    QTest::addColumn<QString>("pairs");
-    QTest::addColumn<QString>("filter");
-
-    QTest::addRow("one mask") << u"Datenbanken|*.db"_s << u"Datenbanken (*.db)"_s;
-    QTest::addRow("several masks, then all")
-        << u"Auszüge|*.csv;*.mt940|Alle Dateien|*.*"_s << u"Auszüge (*.csv *.mt940);;Alle Dateien (*)"_s;
-    QTest::addRow("name without mask") << u"Alle"_s << QString();
+    const cTestRows<QString, QString> row("pairs", "filter");
+    row("one mask", u"Datenbanken|*.db"_s, u"Datenbanken (*.db)"_s);
+    row("several masks, then all", u"Auszüge|*.csv;*.mt940|Alle Dateien|*.*"_s,
+        u"Auszüge (*.csv *.mt940);;Alle Dateien (*)"_s);
+    row("name without mask", u"Alle"_s, {});
 }
 
 void testAdapters::FiltersForFileDialogs()

@@ -6,11 +6,10 @@
 #include "core/modPassword.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
+#include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/fakes.h"
+#include "support/cTestRows.h"
 
-#include <QDir>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -20,7 +19,7 @@ namespace {
 constexpr const char* oneEntry = "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2026-01-31', 'Giro');";
 
 // A running program on a book with one entry.
-struct cMachine
+struct cMachine : cFakeMachine
 {
     cMachine()
     {
@@ -29,7 +28,6 @@ struct cMachine
         }
     }
 
-    [[nodiscard]] QString Path(const QString& name) const { return File.Path(name); }
     [[nodiscard]] bool IsAsBefore()
     {
         return Book.Path() == Path(u"data.db"_s) && Book.Data().CountEntries() == 1 && !Book.IsReadOnly()
@@ -49,12 +47,6 @@ struct cMachine
                          name);
     }
 
-    cTestFile File;
-    cFakeShell Shell;
-    cFakeUser User;
-    cFakeRescue Rescue;
-    cFakeClock Clock{QDate(2026, 3, 15)};
-    cFakeRegistry Registry;
     cConfiguration Configuration{Registry};
     cBook Book{User};
     cFileLock Lock;
@@ -96,12 +88,11 @@ private Q_SLOTS:
 
     void OldBookStays_data() const
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("damaged") << u"bad.db"_s << u"ist beschädigt oder keine gültige Datenbank."_s;
-        QTest::newRow("missing") << u"missing.db"_s << u"kann nicht gelesen werden."_s;
-        QTest::newRow("in use") << u"used.db"_s << u"ist in Benutzung"_s;
-        QTest::newRow("password not given") << u"protected.db"_s << QString();
+        const cTestRows<QString, QString> row("name", "message");
+        row("damaged", u"bad.db"_s, u"ist beschädigt oder keine gültige Datenbank."_s);
+        row("missing", u"missing.db"_s, u"kann nicht gelesen werden."_s);
+        row("in use", u"used.db"_s, u"ist in Benutzung"_s);
+        row("password not given", u"protected.db"_s, {});
     }
 
     void OldBookStays() const
@@ -149,9 +140,9 @@ private Q_SLOTS:
 
     void BackupIsRefused_data() const
     {
-        QTest::addColumn<QString>("name");
-        QTest::newRow("damaged") << u"bad.backup"_s;
-        QTest::newRow("password not given") << u"protected.backup"_s;
+        const cTestRows<QString> row("name");
+        row("damaged", u"bad.backup"_s);
+        row("password not given", u"protected.backup"_s);
     }
 
     void BackupIsRefused() const

@@ -1,21 +1,13 @@
 #include "cTlsServer.h"
 #include "net/cQtHttps.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace std::chrono_literals;
-
-namespace {
-
-QByteArray Redirect(const QByteArray& to)
-{
-    return "HTTP/1.1 302 Found\r\nLocation: " + to + "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
-}
-
-} // namespace
 
 // The way to a bank, over TLS on loopback.
 class testHttps final : public QObject
@@ -52,10 +44,9 @@ void testHttps::BringsBytesThereAndBack()
 
 void testHttps::SendsNothingWhereItDoesNotTrust_data()
 {
-    QTest::addColumn<QString>("certificate");
-    QTest::addColumn<bool>("knowsAuthority");
-    QTest::newRow("unknown authority") << u"bank"_s << false;
-    QTest::newRow("another host") << u"other"_s << true;
+    const cTestRows<QString, bool> row("certificate", "knowsAuthority");
+    row("unknown authority", u"bank"_s, false);
+    row("another host", u"other"_s, true);
 }
 
 void testHttps::SendsNothingWhereItDoesNotTrust()
@@ -75,18 +66,14 @@ void testHttps::SendsNothingWhereItDoesNotTrust()
 
 void testHttps::SaysWhatWentWrong_data()
 {
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<eHttpsFault>("fault");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::newRow("error page") << cTlsServer::Page("<html>", "500 Oops") << eHttpsFault::Refused
-                                << QByteArray("<html>");
-    QTest::newRow("redirect") << Redirect("https://localhost:1/") << eHttpsFault::Refused << QByteArray();
-    QTest::newRow("silence") << QByteArray() << eHttpsFault::Silent << QByteArray();
-    QTest::newRow("cut") << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\nabc") << eHttpsFault::Silent
-                         << QByteArray();
-    QTest::newRow("hung up") << cTlsServer::Hangup << eHttpsFault::Silent << QByteArray();
-    QTest::newRow("too large") << cTlsServer::Page(QByteArray(3000, 'x')) << eHttpsFault::TooLarge << QByteArray();
-    QTest::newRow("no http") << QByteArray("HNHBK:1:3+") << eHttpsFault::Silent << QByteArray();
+    const cTestRows<QByteArray, eHttpsFault, QByteArray> row("answer", "fault", "bytes");
+    row("error page", cTlsServer::Page("<html>", "500 Oops"), eHttpsFault::Refused, "<html>");
+    row("redirect", cTlsServer::Redirect("https://localhost:1/"), eHttpsFault::Refused, {});
+    row("silence", {}, eHttpsFault::Silent, {});
+    row("cut", "HTTP/1.1 200 OK\r\nContent-Length: 10\r\n\r\nabc", eHttpsFault::Silent, {});
+    row("hung up", cTlsServer::Hangup, eHttpsFault::Silent, {});
+    row("too large", cTlsServer::Page(QByteArray(3000, 'x')), eHttpsFault::TooLarge, {});
+    row("no http", "HNHBK:1:3+", eHttpsFault::Silent, {});
 }
 
 void testHttps::SaysWhatWentWrong()

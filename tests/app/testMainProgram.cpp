@@ -4,9 +4,8 @@
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
+#include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/fakes.h"
 #include "views/ledger/cStatementListModel.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
@@ -39,19 +38,13 @@ constexpr const char* oneTransaction =
     "INSERT INTO import (ImportDate, ImportAccount, ImportValue) VALUES ('2026-03-01', '4711', '1.00');";
 
 // The window program on a book of a temporary folder.
-struct cMachine
+struct cMachine : cFakeMachine
 {
     [[nodiscard]] QStringList Copies() const
     {
         return QDir(File.Path(u"Sicherungen"_s)).entryList(QDir::Files, QDir::Name);
     }
 
-    cTestFile File;
-    cFakeShell Shell;
-    cFakeUser User;
-    cFakeRescue Rescue;
-    cFakeClock Clock{QDate(2026, 3, 15)};
-    cFakeRegistry Registry;
     const cMainProgram::cPorts Ports{Shell, Registry, User, Rescue, Clock};
 };
 

@@ -1,10 +1,11 @@
 #include "app/machine/cQtPrinter.h"
 #include "app/machine/modQtFilter.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "windows/print/cPrintable.h"
 
 #include <QApplication>
-#include <QFile>
 #include <QPainter>
 #include <QPrinter>
 #include <QTemporaryDir>
@@ -34,6 +35,12 @@ public:
     mutable QList<int> Painted;
 };
 
+void PrintTo(QPrinter& printer, const QString& path)
+{
+    printer.setOutputFormat(QPrinter::PdfFormat);
+    printer.setOutputFileName(path);
+}
+
 } // namespace
 
 class testQtPrinter final : public QObject
@@ -51,18 +58,13 @@ private Q_SLOTS:
 
 void testQtPrinter::PrintsWhatTheDialogAskedFor_data()
 {
-    QTest::addColumn<int>("from");
-    QTest::addColumn<int>("to");
-    QTest::addColumn<int>("order");
-    QTest::addColumn<int>("copies");
-    QTest::addColumn<QList<int>>("pages");
-
+    const cTestRows<int, int, int, int, QList<int>> row("from", "to", "order", "copies", "pages");
     const int forwards = QPrinter::FirstPageFirst;
-    QTest::newRow("all") << 0 << 0 << forwards << 1 << QList<int>{1, 2, 3, 4, 5};
-    QTest::newRow("range") << 2 << 3 << forwards << 1 << QList<int>{2, 3};
-    QTest::newRow("range beyond the end") << 4 << 99 << forwards << 1 << QList<int>{4, 5};
-    QTest::newRow("last page first") << 1 << 3 << int(QPrinter::LastPageFirst) << 1 << QList<int>{3, 2, 1};
-    QTest::newRow("copies of a printer that makes none itself") << 1 << 2 << forwards << 2 << QList<int>{1, 2, 1, 2};
+    row("all", 0, 0, forwards, 1, {1, 2, 3, 4, 5});
+    row("range", 2, 3, forwards, 1, {2, 3});
+    row("range beyond the end", 4, 99, forwards, 1, {4, 5});
+    row("last page first", 1, 3, int(QPrinter::LastPageFirst), 1, {3, 2, 1});
+    row("copies of a printer that makes none itself", 1, 2, forwards, 2, {1, 2, 1, 2});
 }
 
 void testQtPrinter::PrintsWhatTheDialogAskedFor()
@@ -74,25 +76,21 @@ void testQtPrinter::PrintsWhatTheDialogAskedFor()
     QFETCH(const QList<int>, pages);
     QTemporaryDir folder;
     QPrinter printer;
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(folder.filePath(u"a.pdf"_s));
+    PrintTo(printer, folder.filePath(u"a.pdf"_s));
     printer.setFromTo(from, to);
     printer.setPageOrder(static_cast<QPrinter::PageOrder>(order));
     printer.setCopyCount(copies);
     cFivePages content;
     QVERIFY(cQtPrinter::Spool(printer, content));
     QCOMPARE(content.Painted, pages);
-    QFile file(printer.outputFileName());
-    QVERIFY(file.open(QIODevice::ReadOnly));
-    QCOMPARE(file.readAll().count("/Type /Page\n"), pages.size());
+    QCOMPARE(cTestFile::Bytes(printer.outputFileName()).count("/Type /Page\n"), pages.size());
 }
 
 void testQtPrinter::TurnedPaperIsLaidOutAnew()
 {
     QTemporaryDir folder;
     QPrinter printer;
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(folder.filePath(u"a.pdf"_s));
+    PrintTo(printer, folder.filePath(u"a.pdf"_s));
     cFivePages content;
     QVERIFY(cQtPrinter::Spool(printer, content));
     QVERIFY(content.Area.height() > content.Area.width());
@@ -105,8 +103,7 @@ void testQtPrinter::FileThatCannotBeWritten()
 {
     QTemporaryDir folder;
     QPrinter printer;
-    printer.setOutputFormat(QPrinter::PdfFormat);
-    printer.setOutputFileName(folder.filePath(u"missing/a.pdf"_s));
+    PrintTo(printer, folder.filePath(u"missing/a.pdf"_s));
     cFivePages content;
     QTest::ignoreMessage(QtWarningMsg, "QPainter::begin(): Returned false");
     QVERIFY(!cQtPrinter::Spool(printer, content));
@@ -114,12 +111,10 @@ void testQtPrinter::FileThatCannotBeWritten()
 
 void testQtPrinter::EndingFollowsTheChosenFilter_data()
 {
-    QTest::addColumn<QString>("chosen");
-    QTest::addColumn<QString>("ending");
-
-    QTest::newRow("first") << u"CSV-Datei (*.csv)"_s << u"csv"_s;
-    QTest::newRow("second") << u"Excel-Datei (*.xlsx)"_s << u"xlsx"_s;
-    QTest::newRow("all files") << u"Alle Dateien (*)"_s << u"csv"_s;
+    const cTestRows<QString, QString> row("chosen", "ending");
+    row("first", u"CSV-Datei (*.csv)"_s, u"csv"_s);
+    row("second", u"Excel-Datei (*.xlsx)"_s, u"xlsx"_s);
+    row("all files", u"Alle Dateien (*)"_s, u"csv"_s);
 }
 
 void testQtPrinter::EndingFollowsTheChosenFilter()

@@ -1,12 +1,12 @@
 #include "app/machine/cLanguage.h"
 #include "app/machine/cQtUser.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
 #include "support/fakes.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QDir>
-#include <QFile>
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QKeySequence>
@@ -83,14 +83,11 @@ void testQtUser::FileDialogsBeginWhereTheLastOneEnded()
     const QDir root(home.path());
     for (const QString& folder : {u"Downloads"_s, u"Dokumente"_s, u"Bank"_s}) {
         QVERIFY(root.mkpath(folder));
-        QFile file(root.filePath(folder + u"/auszug.sta"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
+        cTestFile::Write(root.filePath(folder + u"/auszug.sta"_s), {});
     }
-    QFile folders(root.filePath(u"user-dirs.dirs"_s));
-    QVERIFY(folders.open(QIODevice::WriteOnly));
-    folders.write("XDG_DOWNLOAD_DIR=\"" + root.filePath(u"Downloads"_s).toUtf8() + "\"\nXDG_DOCUMENTS_DIR=\""
-                  + root.filePath(u"Dokumente"_s).toUtf8() + "\"\n");
-    folders.close();
+    cTestFile::Write(root.filePath(u"user-dirs.dirs"_s),
+                     "XDG_DOWNLOAD_DIR=\"" + root.filePath(u"Downloads"_s).toUtf8() + "\"\nXDG_DOCUMENTS_DIR=\""
+                         + root.filePath(u"Dokumente"_s).toUtf8() + "\"\n");
     qputenv("XDG_CONFIG_HOME", home.path().toUtf8());
 
     cFakeRegistry registry;
@@ -119,6 +116,7 @@ void testQtUser::KeysHaveGermanNames()
     language.Use(u"de"_s, shell);
     QCOMPARE(QKeySequence(Qt::CTRL | Qt::Key_Return).toString(QKeySequence::NativeText), u"Strg+Eingabe"_s);
     QCOMPARE(QKeySequence(Qt::Key_Delete).toString(QKeySequence::NativeText), u"Entf"_s);
+    QCOMPARE(QCoreApplication::translate("QWizard", "Return"), u"Return"_s); // the names of keys alone
 }
 
 TEST_CLASS(testQtUser, QApplication)

@@ -3,9 +3,9 @@
 #include "app/machine/cSessionWatch.h"
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
+#include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/fakes.h"
+#include "support/cTestRows.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/main/frmMain.h"
 
@@ -20,7 +20,6 @@
 
 #include <csignal>
 #include <functional>
-#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -31,18 +30,12 @@ constexpr const char* oneEntry =
     "EntryDescription) VALUES (5, '2026-03-10', 'Ausgabe', 'Einmalig', 'Girokonto', 'Haushalt; Lebensmittel', '10', "
     "'Markt');";
 
-struct cMachine
+struct cMachine : cFakeMachine
 {
     [[nodiscard]] QStringList Drafts() const { return QDir(Shell.Folder(u"state"_s)).entryList({u"*.json"_s}); }
-    [[nodiscard]] bool IsLocked() const { return QFileInfo::exists(Path + u".lock"_s); }
+    [[nodiscard]] bool IsLocked() const { return QFileInfo::exists(Book + u".lock"_s); }
 
-    cTestFile File;
-    QString Path = File.Make(oneEntry);
-    cFakeShell Shell;
-    cFakeUser User;
-    cFakeRescue Rescue;
-    cFakeClock Clock{QDate(2026, 3, 15)};
-    cFakeRegistry Registry;
+    QString Book = File.Make(oneEntry);
     const cMainProgram::cPorts Ports{Shell, Registry, User, Rescue, Clock};
 };
 
@@ -53,7 +46,7 @@ struct cRun
     {
         QObject::connect(&Watch, &cSessionWatch::EndRequested, &Watch, [this] { Program.End(); });
         QObject::connect(&Watch, &cSessionWatch::SaveRequested, &Watch, [this] { Program.Save(); });
-        if (!Program.Start({.Book = machine.Path})) {
+        if (!Program.Start({.Book = machine.Book})) {
             qFatal("no start");
         }
     }
@@ -105,11 +98,10 @@ private Q_SLOTS:
 
 void testSessionEnd::TypedContentsOutliveTheEnd_data() const
 {
-    QTest::addColumn<int>("entry");
-    QTest::addColumn<int>("number");
-    QTest::newRow("new entry, SIGTERM") << 0 << SIGTERM;
-    QTest::newRow("changed entry, SIGHUP") << 5 << SIGHUP;
-    QTest::newRow("changed entry, SIGINT") << 5 << SIGINT;
+    const cTestRows<int, int> row("entry", "number");
+    row("new entry, SIGTERM", 0, SIGTERM);
+    row("changed entry, SIGHUP", 5, SIGHUP);
+    row("changed entry, SIGINT", 5, SIGINT);
 }
 
 // Typed and split, ended by a signal, offered and shown at the next start, ended once more, then saved.
@@ -206,9 +198,9 @@ void testSessionEnd::CalledOffEndLeavesNoDraft() const
 
 void testSessionEnd::ProcessEndsCleanly_data() const
 {
-    QTest::addColumn<QStringList>("options");
-    QTest::newRow("with the window alone") << QStringList();
-    QTest::newRow("with a form above it") << QStringList(u"--new-entry"_s);
+    const cTestRows<QStringList> row("options");
+    row("with the window alone", {});
+    row("with a form above it", {u"--new-entry"_s});
 }
 
 void testSessionEnd::ProcessEndsCleanly() const

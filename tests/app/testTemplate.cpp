@@ -6,6 +6,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -116,11 +117,9 @@ void testTemplate::HouseholdIsBelievable()
 
 void testTemplate::SizeIsAsAsked_data()
 {
-    QTest::addColumn<int>("entries");
-    QTest::addColumn<int>("years");
-
-    QTest::addRow("three years") << 2000 << 3;
-    QTest::addRow("ten years") << 12000 << 10;
+    const cTestRows<int, int> row("entries", "years");
+    row("three years", 2000, 3);
+    row("ten years", 12000, 10);
 }
 
 void testTemplate::SizeIsAsAsked()

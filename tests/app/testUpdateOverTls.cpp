@@ -2,6 +2,7 @@
 #include "net/cQtHttps.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/modUpdateAnswer.h"
 #include "support/testBook.h"
 #include "views/help/cUpdateCheck.h"
@@ -14,11 +15,6 @@ using namespace std::chrono_literals;
 using eState = cUpdateCheck::eState;
 
 namespace {
-
-QByteArray Redirect(const QByteArray& to)
-{
-    return "HTTP/1.1 302 Found\r\nLocation: " + to + "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
-}
 
 // Lines of a request: the first one, and the names of the headers.
 QByteArray First(const QByteArray& request)
@@ -79,7 +75,7 @@ void testUpdateOverTls::Downloads() const
 {
     cScene scene([](const QByteArray& request) {
         if (request.contains("/pakete/alt.deb")) {
-            return Redirect("/pakete/kontorelle_0.3.0.deb"); // within the server
+            return cTlsServer::Redirect("/pakete/kontorelle_0.3.0.deb"); // within the server
         }
         return request.contains("/pakete/") ? cTlsServer::Page(Package)
                                             : cTlsServer::Page(All(Release("0.3.0", File("pakete/alt.deb"))));
@@ -97,10 +93,10 @@ void testUpdateOverTls::Downloads() const
 
 void testUpdateOverTls::StaysOnTheServer_data() const
 {
-    QTest::addColumn<QString>("to");
-    QTest::newRow("another port") << u"https://localhost:%1/"_s;
-    QTest::newRow("another name of the host") << u"https://127.0.0.1:%1/"_s;
-    QTest::newRow("without encryption") << u"http://localhost:%1/"_s;
+    const cTestRows<QString> row("to");
+    row("another port", u"https://localhost:%1/"_s);
+    row("another name of the host", u"https://127.0.0.1:%1/"_s);
+    row("without encryption", u"http://localhost:%1/"_s);
 }
 
 void testUpdateOverTls::StaysOnTheServer() const
@@ -108,7 +104,7 @@ void testUpdateOverTls::StaysOnTheServer() const
     QFETCH(const QString, to);
     cTlsServer other(u"bank"_s, [](const QByteArray&) { return cTlsServer::Page(All(Release("0.3.0", File()))); });
     const QString target = to.arg(QUrl(other.Url()).port());
-    cScene scene([&](const QByteArray&) { return Redirect(target.toUtf8()); });
+    cScene scene([&](const QByteArray&) { return cTlsServer::Redirect(target.toUtf8()); });
     scene.Check.Look();
     QCOMPARE(scene.Check.State(), eState::Failed);
     QVERIFY2(scene.Check.Headline().startsWith(u"localhost gibt keine Auskunft"_s), qPrintable(scene.Check.Headline()));
@@ -117,15 +113,14 @@ void testUpdateOverTls::StaysOnTheServer() const
 
 void testUpdateOverTls::EndsWithoutAnAnswer_data() const
 {
-    QTest::addColumn<QByteArray>("answer");
-    QTest::addColumn<QString>("headline");
-    QTest::newRow("silence") << QByteArray() << u"localhost antwortet nicht. Versuchen Sie es später noch einmal."_s;
-    QTest::newRow("cut") << QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n<kontorelle/>")
-                         << u"localhost antwortet nicht. Versuchen Sie es später noch einmal."_s;
-    QTest::newRow("no end of it") << cTlsServer::Page(All(QByteArray(300 * 1024, ' ')))
-                                  << u"localhost sendet mehr, als angekündigt war. Es wurde nichts davon behalten."_s;
-    QTest::newRow("not there") << cTlsServer::Page(All({}), "404 Not Found")
-                               << u"localhost gibt keine Auskunft (HTTP 404). Versuchen Sie es später noch einmal."_s;
+    const cTestRows<QByteArray, QString> row("answer", "headline");
+    row("silence", {}, u"localhost antwortet nicht. Versuchen Sie es später noch einmal."_s);
+    row("cut", "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n<kontorelle/>",
+        u"localhost antwortet nicht. Versuchen Sie es später noch einmal."_s);
+    row("no end of it", cTlsServer::Page(All(QByteArray(300 * 1024, ' '))),
+        u"localhost sendet mehr, als angekündigt war. Es wurde nichts davon behalten."_s);
+    row("not there", cTlsServer::Page(All({}), "404 Not Found"),
+        u"localhost gibt keine Auskunft (HTTP 404). Versuchen Sie es später noch einmal."_s);
 }
 
 void testUpdateOverTls::EndsWithoutAnAnswer() const

@@ -1,5 +1,6 @@
 #include "base/modSimilar.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QRandomGenerator>
 #include <QStringList>
@@ -101,20 +102,18 @@ class testSimilar final : public QObject
 private Q_SLOTS:
     void Ratio_data() const
     {
-        QTest::addColumn<QString>("a");
-        QTest::addColumn<QString>("b");
-        QTest::addColumn<double>("ratio");
-        QTest::newRow("case does not count") << u"Miete"_s << u"MIETE"_s << 1.0;
-        QTest::newRow("umlauts too have a case") << u"grün"_s << u"GRÜN"_s << 1.0;
-        QTest::newRow("a letter whose capital lies far off") << u"Łódź"_s << u"łÓDŹ"_s << 1.0;
-        QTest::newRow("sharp s stays one letter") << u"Straße"_s << u"STRASSE"_s << 10.0 / 13.0;
-        QTest::newRow("foreign letters are not all the same") << u"Дм"_s << u"на"_s << 0.0;
-        QTest::newRow("lengths too far apart") << u"abc"_s << u"abcdefghijklmnop"_s << 0.0;
-        QTest::newRow("lengths just near enough") << u"abc"_s << u"abcde"_s << 0.75;
-        QTest::newRow("one is empty") << u"Lastschrift"_s << QString() << 0.0;
-        QTest::newRow("both are empty") << QString() << u""_s << 1.0;
-        QTest::newRow("first run in a, though the second leaves more") << u"xyab-q"_s << u"ab+qxy"_s << 1.0 / 3.0;
-        QTest::newRow("first run in b") << u"ab?c"_s << u"ab!cab"_s << 0.6;
+        const cTestRows<QString, QString, double> row("a", "b", "ratio");
+        row("case does not count", u"Miete"_s, u"MIETE"_s, 1.0);
+        row("umlauts too have a case", u"grün"_s, u"GRÜN"_s, 1.0);
+        row("a letter whose capital lies far off", u"Łódź"_s, u"łÓDŹ"_s, 1.0);
+        row("sharp s stays one letter", u"Straße"_s, u"STRASSE"_s, 10.0 / 13.0);
+        row("foreign letters are not all the same", u"Дм"_s, u"на"_s, 0.0);
+        row("lengths too far apart", u"abc"_s, u"abcdefghijklmnop"_s, 0.0);
+        row("lengths just near enough", u"abc"_s, u"abcde"_s, 0.75);
+        row("one is empty", u"Lastschrift"_s, {}, 0.0);
+        row("both are empty", {}, u""_s, 1.0);
+        row("first run in a, though the second leaves more", u"xyab-q"_s, u"ab+qxy"_s, 1.0 / 3.0);
+        row("first run in b", u"ab?c"_s, u"ab!cab"_s, 0.6);
     }
 
     void Ratio() const

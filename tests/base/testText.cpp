@@ -4,6 +4,7 @@
 #include "base/modFold.h"
 #include "base/modMD5.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -23,15 +24,14 @@ private Q_SLOTS:
 
     void Dates_data() const
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QDate>("date");
-        QTest::newRow("day") << u"2024-02-29"_s << QDate(2024, 2, 29);
-        QTest::newRow("with time") << u"2024-02-29 12:30:00"_s << QDate(2024, 2, 29);
-        QTest::newRow("day that does not exist") << u"2023-02-29"_s << QDate();
-        QTest::newRow("longer without time") << u"2024-02-291"_s << QDate();
-        QTest::newRow("short") << u"2024-2-9"_s << QDate();
-        QTest::newRow("sign instead of digit") << u"2024-02--1"_s << QDate();
-        QTest::newRow("German") << u"29.02.2024"_s << QDate();
+        const cTestRows<QString, QDate> row("text", "date");
+        row("day", u"2024-02-29"_s, QDate(2024, 2, 29));
+        row("with time", u"2024-02-29 12:30:00"_s, QDate(2024, 2, 29));
+        row("day that does not exist", u"2023-02-29"_s, {});
+        row("longer without time", u"2024-02-291"_s, {});
+        row("short", u"2024-2-9"_s, {});
+        row("sign instead of digit", u"2024-02--1"_s, {});
+        row("German", u"29.02.2024"_s, {});
     }
 
     void Dates() const
@@ -53,22 +53,20 @@ private Q_SLOTS:
 
     void Search_data() const
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("search");
-        QTest::addColumn<bool>("isFound");
-        QTest::newRow("umlaut left out") << u"Müller"_s << u"muller"_s << true;
-        QTest::newRow("umlaut spelled out") << u"Müller"_s << u"mueller"_s << true;
-        QTest::newRow("umlaut in the search") << u"Mueller"_s << u"müller"_s << true;
-        QTest::newRow("sharp s") << u"Straße"_s << u"STRASSE"_s << true;
-        QTest::newRow("accent") << u"Café"_s << u"cafe"_s << true;
-        QTest::newRow("capital umlaut") << u"ÜBERWEISUNG"_s << u"ueber"_s << true;
-        QTest::newRow("capital accent") << u"ÉCLAIR"_s << u"eclair"_s << true;
-        QTest::newRow("letter of the east") << u"Škoda – Dvořák"_s << u"dvorak skoda"_s << true;
-        QTest::newRow("letter and mark apart") << u"Cafe\u0301"_s << u"café"_s << true;
-        QTest::newRow("sign that has no case") << u"25 × 4 €"_s << u"× €"_s << true;
-        QTest::newRow("words in any order") << u"Miete Wohnung März"_s << u"maerz  miete"_s << true;
-        QTest::newRow("one word missing") << u"Miete Wohnung"_s << u"miete strom"_s << false;
-        QTest::newRow("nothing asked") << u"Miete"_s << u" "_s << true;
+        const cTestRows<QString, QString, bool> row("text", "search", "isFound");
+        row("umlaut left out", u"Müller"_s, u"muller"_s, true);
+        row("umlaut spelled out", u"Müller"_s, u"mueller"_s, true);
+        row("umlaut in the search", u"Mueller"_s, u"müller"_s, true);
+        row("sharp s", u"Straße"_s, u"STRASSE"_s, true);
+        row("accent", u"Café"_s, u"cafe"_s, true);
+        row("capital umlaut", u"ÜBERWEISUNG"_s, u"ueber"_s, true);
+        row("capital accent", u"ÉCLAIR"_s, u"eclair"_s, true);
+        row("letter of the east", u"Škoda – Dvořák"_s, u"dvorak skoda"_s, true);
+        row("letter and mark apart", u"Cafe\u0301"_s, u"café"_s, true);
+        row("sign that has no case", u"25 × 4 €"_s, u"× €"_s, true);
+        row("words in any order", u"Miete Wohnung März"_s, u"maerz  miete"_s, true);
+        row("one word missing", u"Miete Wohnung"_s, u"miete strom"_s, false);
+        row("nothing asked", u"Miete"_s, u" "_s, true);
     }
 
     void Search() const
@@ -81,13 +79,12 @@ private Q_SLOTS:
 
     void FindsInAllTextsAtOnce_data() const
     {
-        QTest::addColumn<QString>("word");
-        QTest::addColumn<QList<int>>("found");
-        QTest::newRow("several times in one text") << u"a"_s << QList<int>{0, 1, 2, 4};
-        QTest::newRow("spelled out") << u"baecker"_s << QList<int>{1, 4};
-        QTest::newRow("umlaut in the search") << u"bäcker"_s << QList<int>{1, 4};
-        QTest::newRow("umlaut in the search, none in the text") << u"größe"_s << QList<int>{5};
-        QTest::newRow("not across two texts") << u"ab"_s << QList<int>{};
+        const cTestRows<QString, QList<int>> row("word", "found");
+        row("several times in one text", u"a"_s, {0, 1, 2, 4});
+        row("spelled out", u"baecker"_s, {1, 4});
+        row("umlaut in the search", u"bäcker"_s, {1, 4});
+        row("umlaut in the search, none in the text", u"größe"_s, {5});
+        row("not across two texts", u"ab"_s, {});
     }
 
     void FindsInAllTextsAtOnce() const

@@ -3,6 +3,7 @@
 #include "base/modDayText.h"
 #include "base/modSum.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -109,10 +110,10 @@ void testTyped::SaysWhatIsWrong()
 
 void testTyped::PlainAmountsAsTheReader_data()
 {
-    QTest::addColumn<QString>("text");
+    const cTestRows<QString> row("text");
     for (const char* text : {"0", "12", "12,5", "12,50", "-12,50", "12,50-", "+12,50", "12,50+", "1.234,50", "1.234",
                              "1.234.567", ",50", "5,", " 1 234,50 ", "0,285", "(12,50)"}) {
-        QTest::newRow(text) << QString::fromUtf8(text);
+        row(text, QString::fromUtf8(text));
     }
 }
 

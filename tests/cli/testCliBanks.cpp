@@ -1,12 +1,10 @@
-#include "app/machine/cFileLock.h"
 #include "app/machine/cQtRegistry.h"
 #include "app/machine/cQtShell.h"
 #include "cCliRun.h"
-#include "cli/cCliPaint.h"
-#include "cli/modCliCommands.h"
-#include "cli/modCliMain.h"
 #include "core/cBook.h"
+#include "runInside.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "testbank/cTestBank.h"
 #include "testbank/cTestHttps.h"
@@ -17,22 +15,11 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <unistd.h>
-
-#include <array>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class cNoPaint final : public cCliPaint
-{
-public:
-    QByteArray PaintReport(const QString& /*html*/) override { return {}; }
-    QByteArray PaintChart(const cChartData& /*chart*/, ePicture /*picture*/) override { return {}; }
-};
-
-// The program in this process, with a bank instead of the network; the PIN comes from an open file.
+// The program with a bank instead of the network.
 struct cScene
 {
     explicit cScene()
@@ -46,22 +33,12 @@ struct cScene
     // `line` has "|" between its arguments.
     int Run(const QString& line)
     {
-        std::array<int, 2> ends{};
-        const QByteArray pin = Bank.Profile.Pin + '\n';
-        if (pipe(ends.data()) != 0 || write(ends[1], pin.constData(), static_cast<size_t>(pin.size())) != pin.size()) {
-            qFatal("no pipe");
-        }
-        close(ends[1]);
         QStringList arguments{u"--profile"_s, Folder.path()};
         arguments += line.split(u'|');
         if (line.startsWith(u"banks|add") || line.startsWith(u"banks|methods")) {
-            arguments << u"--pin-fd"_s << QString::number(ends[0]);
+            arguments << u"--pin-fd"_s << u"PIN"_s;
         }
-        cFileLock lock;
-        const int code =
-            modCliMain::Run(arguments, {Shell, Registry, Clock, lock, &Paint, &Https, u"1.0.0"_s, u"1.0.0"_s});
-        close(ends[0]);
-        return code;
+        return RunInside({Folder.path(), Clock, Https, Bank.Profile.Pin + '\n'}, arguments);
     }
 
     // What the book has: "222 in Notgroschen by 913 Tablet"
@@ -88,7 +65,6 @@ struct cScene
     cQtShell Shell{Folder.path()};
     cQtRegistry Registry{Folder.path()};
     cFakeClock Clock;
-    cNoPaint Paint;
     cTestBank Bank{cBankProfile()};
     cTestHttps Https{Bank};
 };
@@ -131,27 +107,27 @@ private Q_SLOTS:
 
     void FindsABankWithoutABook()
     {
-        const QTemporaryDir folder;
-        const cCliRun found = cCliRun::GoodLine(folder.path(), u"bank-search|DE89|3704|0044|0532|0130|00|--json"_s);
+        const cCliBooks books;
+        const cCliRun found = books.Do(u"bank-search|DE89|3704|0044|0532|0130|00|--json"_s);
         QCOMPARE(found.Column(u"Code"_s), QStringList(u"37040044"_s));
         QCOMPARE(found.Column(u"Url"_s), QStringList(u"https://fints.commerzbank.de/fints"_s));
-        QVERIFY(cCliRun::GoodLine(folder.path(), u"bank-search|bundesbank"_s).Out.contains(u"keine Adresse bekannt"));
-        QVERIFY(cCliRun::GoodLine(folder.path(), u"bank-search|sparkasse"_s).Out.contains(u"passen auch"));
-        const cCliRun wrong = cCliRun::Line(folder.path(), u"bank-search|DE89370400440532013001|--json"_s);
+        QVERIFY(books.Do(u"bank-search|bundesbank"_s).Out.contains(u"keine Adresse bekannt"));
+        QVERIFY(books.Do(u"bank-search|sparkasse"_s).Out.contains(u"passen auch"));
+        const cCliRun wrong = books.Run(u"bank-search|DE89370400440532013001|--json"_s);
         QCOMPARE(wrong.Code, 1);
         QVERIFY(wrong.Error.contains(u"Prüfziffern"));
         QCOMPARE(wrong.Json().size(), 0);
         // Neither a book nor a folder for one; only the failure was taken down.
-        QCOMPARE(QDir(folder.path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList(u"state"_s));
+        QCOMPARE(QDir(books.Path({})).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList(u"state"_s));
     }
 
     void RefusesACallThatSaysTooLittle_data()
     {
-        QTest::addColumn<QString>("Line");
-        QTest::newRow("no login") << u"banks|add|--blz|12345678"_s;
-        QTest::newRow("no bank") << u"banks|methods|--login|testuser"_s;
-        QTest::newRow("bank is no code") << u"banks|add|--blz|sparkasse|--login|testuser"_s;
-        QTest::newRow("protocol") << u"banks|add|--hbci|2.1"_s + login;
+        const cTestRows<QString> row("Line");
+        row("no login", u"banks|add|--blz|12345678"_s);
+        row("no bank", u"banks|methods|--login|testuser"_s);
+        row("bank is no code", u"banks|add|--blz|sparkasse|--login|testuser"_s);
+        row("protocol", u"banks|add|--hbci|2.1"_s + login);
     }
 
     void RefusesACallThatSaysTooLittle()

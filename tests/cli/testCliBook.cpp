@@ -3,6 +3,7 @@
 #include "core/cConfiguration.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 
 #include <QDir>
 #include <QFile>
@@ -25,7 +26,7 @@ constexpr const char* ageing =
 } // namespace
 
 // Which book the command line opens, and how it sees one that is not of today.
-class testCliBook final : public QObject
+class testCliBook final : public QObject, cCliBooks
 {
     Q_OBJECT
 
@@ -37,15 +38,12 @@ private Q_SLOTS:
     void FaultyFiles() const;
     void CommandsSayWhatTheyDid_data() const;
     void CommandsSayWhatTheyDid() const;
-
-private:
-    QTemporaryDir m_folder;
 };
 
 void testCliBook::OldBookIsReadAsItWillBe() const
 {
-    const QString path = m_folder.filePath(u"old.db"_s);
-    cCliRun::GoodLine(m_folder.path(), u"demo|"_s + path);
+    const QString path = Path(u"old.db"_s);
+    Do(u"demo|"_s + path);
     cTestFile::Run(path, ageing);
     const QByteArray file = cTestFile::Bytes(path);
     const auto read = [&] {
@@ -53,20 +51,19 @@ void testCliBook::OldBookIsReadAsItWillBe() const
         for (const QString& line :
              {u"balances|--json"_s, u"accounts|--json"_s, u"categories|--json"_s, u"forecast|--json"_s,
               u"entries|--json|--period|Alle Buchungen|--account|Girokonto"_s, u"search|--json|miete"_s,
-              u"report|summe|--json"_s, u"report|limit|--json"_s, u"chart|ausgaben|--csv|%1/chart.csv"_s,
-              u"export|%1/out.csv|--account|Girokonto"_s, u"staged|--json"_s, u"propose|--json"_s,
+              u"report|summe|--json"_s, u"report|limit|--json"_s, u"chart|ausgaben|--csv|~/chart.csv"_s,
+              u"export|~/out.csv|--account|Girokonto"_s, u"staged|--json"_s, u"propose|--json"_s,
               u"match|--dry-run|--json"_s, u"book|--all|--dry-run"_s, u"statement|--json|--account|4711000815"_s}) {
-            const QString asked = line.contains(u'%') ? line.arg(m_folder.path()) : line;
-            outputs.append(cCliRun::GoodLine(m_folder.path(), u"--database|%1|%2"_s.arg(path, asked)).Text());
+            outputs.append(Do(u"--database|%1|%2"_s.arg(path, line)).Text());
         }
         for (const QString& name : {u"chart.csv"_s, u"out.csv"_s}) {
-            outputs.append(QString::fromUtf8(cTestFile::Bytes(m_folder.filePath(name))));
+            outputs.append(QString::fromUtf8(cTestFile::Bytes(Path(name))));
         }
         return outputs;
     };
     const QStringList before = read();
     QVERIFY(cTestFile::Bytes(path) == file);
-    cCliRun::GoodLine(m_folder.path(), u"--database|%1|check"_s.arg(path)); // upgrades
+    Do(u"--database|%1|check"_s.arg(path)); // upgrades
     const QStringList after = read();
     for (qsizetype i = 0; i < before.size(); ++i) {
         QVERIFY2(before.at(i) == after.at(i),
@@ -76,38 +73,36 @@ void testCliBook::OldBookIsReadAsItWillBe() const
 
 void testCliBook::ConfiguredBookIsGone() const
 {
-    const QTemporaryDir profile;
-    const QString gone = profile.filePath(u"stick/haushalt.db"_s);
-    QVERIFY(cQtRegistry(profile.path()).Write(cConfiguration::RegistryKey, u"Database"_s, gone));
+    const cCliBooks profile;
+    const QString gone = profile.Path(u"stick/haushalt.db"_s);
+    QVERIFY(cQtRegistry(profile.Path({})).Write(cConfiguration::RegistryKey, u"Database"_s, gone));
     for (const QString& line : {u"balances"_s, u"check"_s, u"accounts|add|Depot"_s}) {
-        const cCliRun run = cCliRun::Line(profile.path(), line);
+        const cCliRun run = profile.Run(line);
         QVERIFY2(run.Code == 1 && run.Out.isEmpty() && run.Error.contains(gone), qPrintable(run.Text()));
     }
-    QVERIFY(!QFile::exists(profile.filePath(u"Veltrino Kontorelle/data.db"_s)));
+    QVERIFY(!QFile::exists(profile.Book()));
 }
 
 void testCliBook::OneCopyForEachVersion() const
 {
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"book.db"_s);
+    const cCliBooks books;
+    const QString path = books.Path(u"book.db"_s);
     cTestFile::Run(path, cTestFile::Tables);
-    const auto value = [&](const std::string& sql) {
-        cDatabase database;
-        database.Open(path, eOpenMode::ReadOnly);
-        return cTestFile::Value(database, sql);
-    };
     for (const QString& name : {u"Depot"_s, u"Tagesgeld"_s}) {
-        cCliRun::GoodLine(folder.path(), u"--database|%1|accounts|add|%2"_s.arg(path, name));
-        QCOMPARE(QDir(folder.path()).entryList({u"*.backup"_s}).size(), 1);
+        books.Do(u"--database|%1|accounts|add|%2"_s.arg(path, name));
+        QCOMPARE(QDir(books.Path({})).entryList({u"*.backup"_s}).size(), 1);
     }
     // The window has to see that it has not been here yet.
-    QCOMPARE(value("SELECT COUNT(*) FROM setting WHERE SettingName = 'LastVersion'"), u"0"_s);
+    cDatabase database;
+    database.Open(path, eOpenMode::ReadOnly);
+    QCOMPARE(cTestFile::Value(database, "SELECT COUNT(*) FROM setting WHERE SettingName = 'LastVersion'"), u"0"_s);
 }
 
 void testCliBook::FaultyFiles_data() const
 {
     QTest::addColumn<QString>("line");
-    for (const QString& line : {u"check"_s, u"balances"_s, u"backup"_s, u"password"_s, u"restore|~/good.db|--yes"_s}) {
+    for (const QString& line :
+         {u"check"_s, u"balances"_s, u"backup"_s, u"password"_s, u"import|a.sta"_s, u"restore|~/good.db|--yes"_s}) {
         QTest::addRow("%s", qPrintable(line)) << line;
     }
 }
@@ -116,16 +111,16 @@ void testCliBook::FaultyFiles_data() const
 void testCliBook::FaultyFiles() const
 {
     QFETCH(const QString, line);
-    const QTemporaryDir folder;
-    cTestFile::Run(folder.filePath(u"good.db"_s), cTestFile::Tables);
-    const QString path = folder.filePath(u"book.db"_s);
+    const cCliBooks books;
+    cTestFile::Run(books.Path(u"good.db"_s), cTestFile::Tables);
+    const QString path = books.Path(u"book.db"_s);
     const bool isRestored = line.startsWith("restore"_L1);
     const auto check = [&](const char* kind) {
         const QByteArray before = cTestFile::Bytes(path);
-        const QString call = u"--database|%1|%2"_s.arg(path, QString(line).replace(u'~', folder.path()));
-        const cCliRun run = cCliRun::Line(folder.path(), call);
+        const cCliRun run = books.Run(u"--database|%1|%2"_s.arg(path, line));
         QVERIFY2(run.Code == (isRestored ? 0 : 1), qPrintable(QString::fromLatin1(kind) + run.Text()));
         QVERIFY2(isRestored || (run.Out.isEmpty() && run.Error.contains(u"beschädigt"_s)), qPrintable(run.Text()));
+        QVERIFY2(!run.Error.contains(u'?') && (isRestored || run.Error.contains(path)), qPrintable(run.Text()));
         QCOMPARE(cTestFile::Bytes(path) == before, !isRestored);
         QVERIFY(QFile::remove(path));
     };
@@ -141,19 +136,18 @@ void testCliBook::FaultyFiles() const
 
 void testCliBook::CommandsSayWhatTheyDid_data() const
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("limit") << u"accounts|limit|girokonto|100"_s << u"Kontolimit von 'Girokonto' ist nun 100,00"_s;
-    QTest::newRow("no limit") << u"accounts|limit|girokonto|ohne"_s << u"Kontolimit von 'Girokonto' entfernt"_s;
-    QTest::newRow("help of the help") << u"hilfe|hilfe"_s << u"Befehle:"_s;
-    QTest::newRow("no password to remove") << u"password|--remove"_s << u": ohne Passwort"_s;
+    const cTestRows<QString, QString> row("line", "text");
+    row("limit", u"accounts|limit|girokonto|100"_s, u"Kontolimit von 'Girokonto' ist nun 100,00"_s);
+    row("no limit", u"accounts|limit|girokonto|ohne"_s, u"Kontolimit von 'Girokonto' entfernt"_s);
+    row("help of the help", u"hilfe|hilfe"_s, u"Befehle:"_s);
+    row("no password to remove", u"password|--remove"_s, u": ohne Passwort"_s);
 }
 
 void testCliBook::CommandsSayWhatTheyDid() const
 {
     QFETCH(const QString, line);
     QFETCH(const QString, text);
-    const cCliRun run = cCliRun::GoodLine(m_folder.path(), line);
+    const cCliRun run = Do(line);
     QVERIFY2(run.Out.contains(text) && run.Error.isEmpty(), qPrintable(run.Text()));
 }
 

@@ -1,16 +1,14 @@
 #include "cCliRun.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 
-#include <QDate>
 #include <QTest>
-
-#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
 // Charts and the forecast from the command line, where there is no display.
-class testCliChart final : public QObject
+class testCliChart final : public QObject, cCliBooks
 {
     Q_OBJECT
 
@@ -20,47 +18,32 @@ private Q_SLOTS:
     void Forecasts();
     void Refuses_data();
     void Refuses();
-
-private:
-    [[nodiscard]] cCliRun Run(const QString& line) const
-    {
-        const QStringList profile{u"--profile"_s, m_folder->path()};
-        return cCliRun::Start(QStringLiteral(CLI_PROGRAM),
-                              profile + QString(line).replace(u'~', m_folder->path()).split(u'|'));
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
 
 void testCliChart::initTestCase()
 {
-    m_folder = std::make_unique<QTemporaryDir>();
     for (const QString& line :
          {u"add|--amount|300|--category|Wohnung; Strom|--date|2026-02-01|--interval|Einmalig"_s,
           u"add|--amount|20|--category|Auto; Benzin|--date|2026-02-03|--interval|Einmalig"_s,
           u"accounts|start|Girokonto|50|--date|2026-01-01"_s,
           u"add|--amount|100|--category|Wohnung; Miete|--text|Miete|--interval|Einmalig|--date|+5"_s,
           u"accounts|limit|girokonto|-300"_s}) {
-        const cCliRun run = Run(line);
-        QVERIFY2(run.Code == 0, qPrintable(run.Error));
+        Do(line);
     }
 }
 
 void testCliChart::WritesFiles()
 {
-    const cCliRun run =
-        Run(u"chart|ausgaben|--from|2026-02-01|--to|2026-02-28|--png|~/a.png|--svg|~/a.svg|--csv|~/a.csv"_s);
-    QVERIFY2(run.Code == 0, qPrintable(run.Error));
-    QVERIFY(cTestFile::Bytes(m_folder->filePath(u"a.png"_s)).startsWith("\x89PNG"));
-    QVERIFY(cTestFile::Bytes(m_folder->filePath(u"a.svg"_s)).contains("<svg"));
-    QVERIFY(cTestFile::Bytes(m_folder->filePath(u"a.csv"_s))
+    Do(u"chart|ausgaben|--from|2026-02-01|--to|2026-02-28|--png|~/a.png|--svg|~/a.svg|--csv|~/a.csv"_s);
+    QVERIFY(cTestFile::Bytes(Path(u"a.png"_s)).startsWith("\x89PNG"));
+    QVERIFY(cTestFile::Bytes(Path(u"a.svg"_s)).contains("<svg"));
+    QVERIFY(cTestFile::Bytes(Path(u"a.csv"_s))
                 .endsWith("Kategorie;Februar 2026;Anteil %\r\nWohnung;300,00;93,75\r\nAuto;20,00;6,25\r\n"));
 }
 
 void testCliChart::Forecasts()
 {
-    const QJsonObject json =
-        QJsonDocument::fromJson(Run(u"forecast|--months|1|--account|girokonto|--json"_s).Out.toUtf8()).object();
+    const QJsonObject json = Do(u"forecast|--months|1|--account|girokonto|--json"_s).Object();
     const QJsonObject account = json.value(u"Accounts"_s).toArray().first().toObject();
     QCOMPARE(account.value(u"Balance"_s).toDouble(), -270.0);
     QCOMPARE(account.value(u"Lowest"_s).toDouble(), -370.0);
@@ -69,31 +52,30 @@ void testCliChart::Forecasts()
     QCOMPARE(warning.value(u"EntryDescription"_s).toString(), u"Miete"_s);
     QCOMPARE(warning.value(u"Date"_s).toString(), account.value(u"LowestDate"_s).toString());
     QVERIFY(Run(u"forecast"_s).Out.contains(u"unter sein Limit"_s));
-    QCOMPARE(Run(u"accounts|limit|Girokonto|ohne"_s).Code, 0);
+    Do(u"accounts|limit|Girokonto|ohne"_s);
     QVERIFY(!Run(u"forecast"_s).Out.contains(u"Limit"_s));
 }
 
 void testCliChart::Refuses_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<int>("code");
-    QTest::newRow("no such chart") << u"chart|torte|--csv|~/x.csv"_s << 2;
-    QTest::newRow("no file") << u"chart|ausgaben"_s << 2;
-    QTest::newRow("wrong ending") << u"chart|ausgaben|--png|~/x.jpg"_s << 2;
-    QTest::newRow("the book itself") << u"chart|ausgaben|--csv|~/Veltrino Kontorelle/data.db"_s << 2;
-    QTest::newRow("no such period") << u"chart|ausgaben|--csv|~/x.csv|--compare|Vorvorjahr"_s << 2;
-    QTest::newRow("one period only") << u"chart|kalender|--csv|~/x.csv|--compare|Vorjahr"_s << 2;
-    QTest::newRow("backwards") << u"chart|ausgaben|--csv|~/x.csv|--from|2026-02-28|--to|2026-02-01"_s << 2;
-    QTest::newRow("nothing in it") << u"chart|ausgaben|--csv|~/x.csv|--from|1990-01-01|--to|1990-01-31"_s << 1;
-    QTest::newRow("cannot be written") << u"chart|ausgaben|--csv|~/fehlt/x.csv|--period|Alle Buchungen"_s << 1;
-    QTest::newRow("too far ahead") << u"forecast|--months|13"_s << 2;
+    const cTestRows<QString, int> row("line", "code");
+    row("no such chart", u"chart|torte|--csv|~/x.csv"_s, 2);
+    row("no file", u"chart|ausgaben"_s, 2);
+    row("wrong ending", u"chart|ausgaben|--png|~/x.jpg"_s, 2);
+    row("the book itself", u"chart|ausgaben|--csv|~/Veltrino Kontorelle/data.db"_s, 2);
+    row("no such period", u"chart|ausgaben|--csv|~/x.csv|--compare|Vorvorjahr"_s, 2);
+    row("one period only", u"chart|kalender|--csv|~/x.csv|--compare|Vorjahr"_s, 2);
+    row("backwards", u"chart|ausgaben|--csv|~/x.csv|--from|2026-02-28|--to|2026-02-01"_s, 2);
+    row("nothing in it", u"chart|ausgaben|--csv|~/x.csv|--from|1990-01-01|--to|1990-01-31"_s, 1);
+    row("cannot be written", u"chart|ausgaben|--csv|~/fehlt/x.csv|--period|Alle Buchungen"_s, 1);
+    row("too far ahead", u"forecast|--months|13"_s, 2);
 }
 
 void testCliChart::Refuses()
 {
     QFETCH(QString, line);
     QTEST(Run(line).Code, "code");
-    QVERIFY(!QFile::exists(m_folder->filePath(u"x.csv"_s)));
+    QVERIFY(!QFile::exists(Path(u"x.csv"_s)));
 }
 
 TEST_CLASS(testCliChart, QCoreApplication)

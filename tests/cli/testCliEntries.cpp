@@ -2,21 +2,19 @@
 #include "cCliRun.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 
-#include <QTemporaryDir>
 #include <QTest>
-
-#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
 // Keeping the book from the command line, end to end: the program itself on a new book each time.
-class testCliEntries final : public QObject
+class testCliEntries final : public QObject, cCliBooks
 {
     Q_OBJECT
 
 private Q_SLOTS:
-    void init();
+    void init() { Renew(); }
     void AddFillsWhatIsMissing_data();
     void AddFillsWhatIsMissing();
     void AddRemembersDescriptions();
@@ -44,50 +42,17 @@ private Q_SLOTS:
     void HelpKnowsTwoWords();
 
 private:
-    [[nodiscard]] cCliRun Run(const QStringList& arguments) const;
-    // Runs what has to succeed: a line of arguments, separated by "|".
-    cCliRun Do(const QString& line);
     // The ID of a new entry.
     [[nodiscard]] QString Add(const QString& line);
-    [[nodiscard]] QString Database() const { return m_folder->filePath(u"Veltrino Kontorelle/data.db"_s); }
-    [[nodiscard]] QString Value(const std::string& sql) const;
     [[nodiscard]] int CountEntries() const { return Value("SELECT COUNT(*) FROM data").toInt(); }
     [[nodiscard]] QString Content() const; // of the tables that the commands write to
     // Day, kind, amount, account, target, category, interval and text of every entry that the JSON output lists.
     [[nodiscard]] QStringList Stored(const QString& line);
-
-    std::unique_ptr<QTemporaryDir> m_folder;
 };
-
-void testCliEntries::init()
-{
-    m_folder = std::make_unique<QTemporaryDir>();
-}
-
-cCliRun testCliEntries::Run(const QStringList& arguments) const
-{
-    return cCliRun::Start(QStringLiteral(CLI_PROGRAM), QStringList{u"--profile"_s, m_folder->path()} + arguments);
-}
-
-cCliRun testCliEntries::Do(const QString& line)
-{
-    const cCliRun run = Run(line.split(u'|'));
-    if (run.Code != 0) {
-        qFatal("%s: %s", qPrintable(line), qPrintable(run.Text()));
-    }
-    return run;
-}
 
 QString testCliEntries::Add(const QString& line)
 {
     return Do(u"add|--json|"_s + line).Column(u"ID"_s).value(0);
-}
-
-QString testCliEntries::Value(const std::string& sql) const
-{
-    cDatabase database;
-    database.Open(Database(), eOpenMode::ReadOnly);
-    return cTestFile::Value(database, sql);
 }
 
 QString testCliEntries::Content() const
@@ -116,21 +81,18 @@ QStringList testCliEntries::Stored(const QString& line)
 
 void testCliEntries::AddFillsWhatIsMissing_data()
 {
-    QTest::addColumn<QString>("options");
-    QTest::addColumn<QString>("stored");
-
-    QTest::addRow("kind, interval and account by default")
-        << u"--amount|12,50+3,99|--category|Haushalt; Lebensmittel|--date|5.3.2026"_s
-        << u"2026-03-05|Ausgabe|16.49|Girokonto||Haushalt; Lebensmittel|Einmalig|"_s;
-    QTest::addRow("sub-category alone in other letters")
-        << u"--amount|650|--category|MIETE|--date|2026-03-01|--text|Lindenhof"_s
-        << u"2026-03-01|Ausgabe|650|Girokonto||Wohnung; Miete|Monatlich|Lindenhof"_s;
-    QTest::addRow("what is named wins")
-        << u"--amount|-7|--category|Wohnung;Miete|--kind|einnahme|--interval|jaehrlich|--account|bargeld|--date|1.3.26"_s
-        << u"2026-03-01|Einnahme|7|Bargeld||Wohnung; Miete|Jährlich|"_s;
-    QTest::addRow("a target makes a transfer")
-        << u"--amount|100|--category|Haushalt; Lebensmittel|--to-account|Sparkonto|--date|1.3.26"_s
-        << u"2026-03-01|Umbuchung|100|Girokonto|Sparkonto|Haushalt; Lebensmittel|Einmalig|"_s;
+    const cTestRows<QString, QString> row("options", "stored");
+    row("kind, interval and account by default",
+        u"--amount|12,50+3,99|--category|Haushalt; Lebensmittel|--date|5.3.2026"_s,
+        u"2026-03-05|Ausgabe|16.49|Girokonto||Haushalt; Lebensmittel|Einmalig|"_s);
+    row("sub-category alone in other letters", u"--amount|650|--category|MIETE|--date|2026-03-01|--text|Lindenhof"_s,
+        u"2026-03-01|Ausgabe|650|Girokonto||Wohnung; Miete|Monatlich|Lindenhof"_s);
+    row("what is named wins",
+        u"--amount|-7|--category|Wohnung;Miete|--kind|einnahme|--interval|jaehrlich|--account|bargeld|--date|1.3.26"_s,
+        u"2026-03-01|Einnahme|7|Bargeld||Wohnung; Miete|Jährlich|"_s);
+    row("a target makes a transfer",
+        u"--amount|100|--category|Haushalt; Lebensmittel|--to-account|Sparkonto|--date|1.3.26"_s,
+        u"2026-03-01|Umbuchung|100|Girokonto|Sparkonto|Haushalt; Lebensmittel|Einmalig|"_s);
 }
 
 void testCliEntries::AddFillsWhatIsMissing()
@@ -216,13 +178,13 @@ void testCliEntries::LostCorrectionsNeedYes()
 {
     const QString id = Add(u"--amount|650|--category|Wohnung; Miete|--date|3.1.2026"_s);
     Do(u"correct|%1|3.2.2026|655"_s.arg(id));
-    const QStringList change{u"change"_s, id, u"--interval"_s, u"Jährlich"_s};
+    const QString change = u"change|%1|--interval|Jährlich"_s.arg(id);
     const cCliRun refused = Run(change);
     QVERIFY2(refused.Code == 1 && refused.Error.contains("Korrekturen gehen dadurch verloren"_L1)
                  && refused.Error.contains("--yes"_L1),
              qPrintable(refused.Text()));
     QCOMPARE(Do(u"correct|%1|--list|--json"_s.arg(id)).Json().size(), 1);
-    QCOMPARE(Run(change + QStringList{u"--yes"_s}).Code, 0);
+    Do(change + u"|--yes"_s);
     QCOMPARE(Do(u"correct|%1|--list|--json"_s.arg(id)).Json().size(), 0);
 }
 
@@ -241,26 +203,26 @@ void testCliEntries::DueWithContracts()
     QVERIFY(Do(u"due|--csv"_s).Out.count(u"\n"_s) == 3);
     Do(u"change|%1|--cancel-by|ohne"_s.arg(contract));
     QCOMPARE(Do(u"due|--contracts|--json|--days|10"_s).Column(u"ID"_s), QStringList());
-    QCOMPARE(Run({u"due"_s, u"--days"_s, u"0"_s}).Code, 2);
+    QCOMPARE(Run(u"due|--days|0"_s).Code, 2);
 }
 
 void testCliEntries::DeleteSaysWhatFirst()
 {
     const QString one = Add(u"--amount|5|--category|Haushalt; Getränke|--date|1.3.2026"_s);
     const QString series = Add(u"--amount|650|--category|Wohnung; Miete|--date|3.1.2026|--text|Lindenhof"_s);
-    const cCliRun asked = Run({u"delete"_s, one, series});
+    const cCliRun asked = Run(u"delete|%1|%2"_s.arg(one, series));
     QVERIFY2(asked.Code == 1 && asked.Error.contains("'Lindenhof' (Monatlich seit 03.01.2026)"_L1)
                  && asked.Error.contains("--yes"_L1) && !asked.Error.contains("--all-parts"_L1),
              qPrintable(asked.Text()));
-    QCOMPARE(Run({u"delete"_s, one, u"4711"_s, u"--yes"_s}).Code, 1);
+    QCOMPARE(Run(u"delete|%1|4711|--yes"_s.arg(one)).Code, 1);
     QCOMPARE(CountEntries(), 2);
-    const cCliRun other = Run({u"delete"_s, series, u"--only"_s, u"10.2.2026"_s, u"--yes"_s});
+    const cCliRun other = Run(u"delete|%1|--only|10.2.2026|--yes"_s.arg(series));
     QVERIFY2(other.Code == 1 && other.Error.contains("am 10.02.2026 kein Vorkommen"_L1), qPrintable(other.Text()));
-    const cCliRun skipped = Run({u"delete"_s, series, u"--only"_s, u"3.2.2026"_s});
+    const cCliRun skipped = Run(u"delete|%1|--only|3.2.2026"_s.arg(series));
     QVERIFY2(skipped.Code == 1 && skipped.Error.contains("'Lindenhof' vom 03.02.2026 auslassen?"_L1),
              qPrintable(skipped.Text()));
-    QCOMPARE(Run({u"delete"_s, one, series, u"--from"_s, u"3.2.2026"_s, u"--yes"_s}).Code, 2);
-    QCOMPARE(Run({u"delete"_s, one, u"--only"_s, u"1.3.2026"_s, u"--yes"_s}).Code, 1); // no series
+    QCOMPARE(Run(u"delete|%1|%2|--from|3.2.2026|--yes"_s.arg(one, series)).Code, 2);
+    QCOMPARE(Run(u"delete|%1|--only|1.3.2026|--yes"_s.arg(one)).Code, 1); // no series
     Do(u"delete|%1|--only|3.2.2026|--yes"_s.arg(series));
     Do(u"delete|%1|--from|10.3.2026|--yes"_s.arg(series)); // not that of 3 March
     QCOMPARE(Do(u"search|Lindenhof|--json|--from|1.1.2026|--to|31.12.2026"_s).Column(u"EntryValue"_s),
@@ -275,12 +237,12 @@ void testCliEntries::CheckSaysHowToMendHiddenEntries()
     const QString end = Add(u"--amount|650|--category|Wohnung; Miete|--date|3.1.2026"_s);
     const QString gone = Add(u"--amount|7|--category|Haushalt; Getränke"_s);
     const auto spoil = [&](const QString& id, const QString& change) {
-        cTestFile::Run(Database(), u"UPDATE data SET %1 WHERE ID = %2"_s.arg(change, id).toStdString());
+        cTestFile::Run(Book(), u"UPDATE data SET %1 WHERE ID = %2"_s.arg(change, id).toStdString());
     };
     spoil(day, u"EntryDate = 'gestern', EntryValue = 'fünf', EntryInterval = NULL"_s);
     spoil(end, u"EntryDateEnd = '2026-01-01'"_s);
     spoil(gone, u"EntryDate = ''"_s);
-    const cCliRun check = Run({u"check"_s});
+    const cCliRun check = Run(u"check"_s);
     QCOMPARE(check.Code, 1);
     for (const QString& text :
          {u"Die Datei ist unbeschädigt.\n3 Einträge"_s,
@@ -290,7 +252,7 @@ void testCliEntries::CheckSaysHowToMendHiddenEntries()
         QVERIFY2(check.Out.contains(text), qPrintable(check.Text()));
     }
     Do(u"change|%1|--text|Apfelsaft"_s.arg(day));
-    QVERIFY(Run({u"check"_s}).Out.contains("Tag 'gestern'"_L1));
+    QVERIFY(Run(u"check"_s).Out.contains("Tag 'gestern'"_L1));
     Do(u"change|%1|--date|1.3.2026|--interval|Einmalig|--amount|5"_s.arg(day));
     Do(u"change|%1|--end|31.1.2026"_s.arg(end));
     Do(u"delete|%1|--yes"_s.arg(gone));
@@ -303,17 +265,17 @@ void testCliEntries::PartsOfASplitEntry()
     const QString food = Add(u"--amount|10|--category|Haushalt; Lebensmittel|--date|1.3.2026|--text|Markt"_s);
     const QString drink = Add(u"--amount|4|--category|Haushalt; Getränke|--date|1.3.2026"_s);
     const QString deposit = Add(u"--amount|3|--category|Haushalt; Getränke|--kind|Einnahme|--date|1.3.2026"_s);
-    cTestFile::Run(Database(), u"UPDATE data SET EntryFlags = 'split=%1'"_s.arg(food).toStdString());
+    cTestFile::Run(Book(), u"UPDATE data SET EntryFlags = 'split=%1'"_s.arg(food).toStdString());
 
     // The amount is that of the part, the day that of the whole group.
     const cCliRun changed = Do(u"change|%1|--json|--amount|5|--date|2.3.2026"_s.arg(drink));
     QCOMPARE(changed.Column(u"EntryValue"_s), QStringList({u"10"_s, u"5"_s, u"3"_s}));
     QCOMPARE(changed.Column(u"EntryDate"_s), QStringList(3, u"2026-03-02"_s));
     QCOMPARE(changed.Column(u"EntryType"_s), QStringList({u"Ausgabe"_s, u"Ausgabe"_s, u"Einnahme"_s}));
-    const cCliRun tooMuch = Run({u"change"_s, deposit, u"--amount"_s, u"20"_s});
+    const cCliRun tooMuch = Run(u"change|%1|--amount|20"_s.arg(deposit));
     QVERIFY2(tooMuch.Code == 1 && tooMuch.Error.contains("unter null"_L1), qPrintable(tooMuch.Text()));
 
-    const cCliRun asked = Run({u"delete"_s, deposit});
+    const cCliRun asked = Run(u"delete|"_s + deposit);
     QVERIFY2(asked.Code == 1 && asked.Error.contains("Weitere Teile: 2"_L1) && asked.Error.contains("--all-parts"_L1),
              qPrintable(asked.Text()));
     Do(u"delete|%1|--yes"_s.arg(deposit));
@@ -330,43 +292,35 @@ void testCliEntries::StartBalances()
              QStringList{u"2026-01-01|Einnahme|1000|Sparkonto||Allgemein; Startguthaben|Einmalig|Startguthaben"_s});
     const QString id = Do(u"search|--json|Startguthaben"_s).Column(u"ID"_s).value(0);
     QCOMPARE(Stored(u"change|%1|--json|--amount|-20"_s.arg(id)).value(0).section(u'|', 1, 2), u"Ausgabe|20"_s);
-    QCOMPARE(Run({u"change"_s, id, u"--category"_s, u"Miete"_s}).Code, 2);
+    QCOMPARE(Run(u"change|%1|--category|Miete"_s.arg(id)).Code, 2);
 }
 
 // Options are read in the format in which the book shows amounts and days; what other programs read stays as it is.
 void testCliEntries::FormatOfTheBook()
 {
     (void)Add(u"--amount|5|--category|Miete"_s); // makes the book
-    {
-        cDatabase database;
-        database.Open(Database(), eOpenMode::ReadWrite);
-        database.Execute(
-            "INSERT OR REPLACE INTO setting (SettingName, SettingValue) VALUES ('LanguageFormat', 'en-US')");
-    }
+    cTestFile::Run(Book(),
+                   "INSERT OR REPLACE INTO setting (SettingName, SettingValue) VALUES ('LanguageFormat', 'en-US')");
     QCOMPARE(Stored(u"add|--json|--amount|1,234|--category|Miete|--date|03/04/2026"_s).value(0).section(u'|', 0, 2),
              u"2026-03-04|Ausgabe|1234"_s);
     QVERIFY(Do(u"search|Miete"_s).Text().contains(u"03/04/2026"_s));
-    for (const QStringList& doubtful : {QStringList{u"1.234"_s, u"2026-03-04"_s}, {u"12"_s, u"3.4.2026"_s}}) {
-        const cCliRun run =
-            Run({u"add"_s, u"--amount"_s, doubtful[0], u"--category"_s, u"Miete"_s, u"--date"_s, doubtful[1]});
-        QCOMPARE(run.Code, 2);
+    for (const QString& doubtful : {u"1.234|--date|2026-03-04"_s, u"12|--date|3.4.2026"_s}) {
+        QCOMPARE(Run(u"add|--category|Miete|--amount|"_s + doubtful).Code, 2);
     }
 }
 
 void testCliEntries::Search_data()
 {
-    QTest::addColumn<QString>("options");
-    QTest::addColumn<QStringList>("texts");
-
-    QTest::addRow("words, umlauts spelled out") << u"MAERZ bäcker"_s << QStringList{u"Bäckerei März"_s};
-    QTest::addRow("exact amount") << u"--amount|-12,40"_s << QStringList{u"Bäckerei März"_s};
-    QTest::addRow("range of amounts") << u"--min|12|--max|50"_s << QStringList{u"Bäckerei März"_s, u"Gehalt"_s};
-    QTest::addRow("period") << u"--from|2026-03-05|--to|31.3.2026"_s << QStringList{u"Gehalt"_s, u"Rücklage"_s};
-    QTest::addRow("account, transfers into it too") << u"--account|sparkonto"_s << QStringList{u"Rücklage"_s};
-    QTest::addRow("kind") << u"--kind|Einnahmen"_s << QStringList{u"Gehalt"_s};
-    QTest::addRow("main category") << u"--category|haushalt"_s << QStringList{u"Bäckerei März"_s, u"Rücklage"_s};
-    QTest::addRow("all together") << u"Rück|--kind|Umbuchung|--min|99"_s << QStringList{u"Rücklage"_s};
-    QTest::addRow("from the bank") << u"--from-bank"_s << QStringList{};
+    const cTestRows<QString, QStringList> row("options", "texts");
+    row("words, umlauts spelled out", u"MAERZ bäcker"_s, {u"Bäckerei März"_s});
+    row("exact amount", u"--amount|-12,40"_s, {u"Bäckerei März"_s});
+    row("range of amounts", u"--min|12|--max|50"_s, {u"Bäckerei März"_s, u"Gehalt"_s});
+    row("period", u"--from|2026-03-05|--to|31.3.2026"_s, {u"Gehalt"_s, u"Rücklage"_s});
+    row("account, transfers into it too", u"--account|sparkonto"_s, {u"Rücklage"_s});
+    row("kind", u"--kind|Einnahmen"_s, {u"Gehalt"_s});
+    row("main category", u"--category|haushalt"_s, {u"Bäckerei März"_s, u"Rücklage"_s});
+    row("all together", u"Rück|--kind|Umbuchung|--min|99"_s, {u"Rücklage"_s});
+    row("from the bank", u"--from-bank"_s, {});
 }
 
 void testCliEntries::Search()
@@ -381,11 +335,10 @@ void testCliEntries::Search()
 
 void testCliEntries::CategoryOfAList_data()
 {
-    QTest::addColumn<QString>("category");
-    QTest::addColumn<QStringList>("texts");
-    QTest::addRow("no other that begins alike") << u"Haus"_s << QStringList{u"Dach"_s, u"Zaun"_s};
-    QTest::addRow("sub-category that is called general") << u"Auto; Allgemein"_s << QStringList{u"Wäsche"_s};
-    QTest::addRow("what is booked on the main category") << u"haus; Allgemein"_s << QStringList{u"Dach"_s};
+    const cTestRows<QString, QStringList> row("category", "texts");
+    row("no other that begins alike", u"Haus"_s, {u"Dach"_s, u"Zaun"_s});
+    row("sub-category that is called general", u"Auto; Allgemein"_s, {u"Wäsche"_s});
+    row("what is booked on the main category", u"haus; Allgemein"_s, {u"Dach"_s});
 }
 
 void testCliEntries::CategoryOfAList()
@@ -414,8 +367,7 @@ void testCliEntries::Categories()
     QVERIFY2(list.Out.contains("\"TemplateDefaultValue\": 30.00"_L1), qPrintable(list.Text()));
 
     // The value of a yearly category is what is paid once a year.
-    QVERIFY(Run({u"categories"_s, u"change"_s, u"Eisenbahn"_s, u"--interval"_s, u"Jährlich"_s, u"--limit"_s, u"50"_s})
-                .Error.contains("--amount"_L1));
+    QVERIFY(Run(u"categories|change|Eisenbahn|--interval|Jährlich|--limit|50"_s).Error.contains("--amount"_L1));
     QVERIFY(!Do(u"categories|change|Eisenbahn|--interval|Jährlich|--amount|600|--vat|7"_s).Out.isEmpty());
     const QString yearly = Do(u"categories|--json"_s).Out;
     QVERIFY2(yearly.contains("\"TemplateDefaultValue\": 600.00, \"MonthlyLimit\": 50.00, \"TemplateVAT\": \"7\""_L1),
@@ -430,10 +382,10 @@ void testCliEntries::Categories()
     QVERIFY(Do(u"categories"_s).Out.contains("Ball"_L1));
     Do(u"categories|change|Hobby|--color|ohne|--icon|ohne"_s);
 
-    const QStringList merge{u"categories"_s, u"merge"_s, u"Eisenbahn"_s, u"Haushalt; Getränke"_s};
+    const QString merge = u"categories|merge|Eisenbahn|Haushalt; Getränke"_s;
     QCOMPARE(Run(merge).Code, 1);
     QCOMPARE(Do(u"categories|--json"_s).Out, list.Out);
-    QCOMPARE(Run(merge + QStringList{u"--yes"_s}).Code, 0);
+    Do(merge + u"|--yes"_s);
     QCOMPARE(Stored(u"search|--json|--category|Getränke"_s).size(), 1);
     QVERIFY(!Do(u"categories|--json"_s).Out.contains("Eisenbahn"_L1));
 }
@@ -441,7 +393,7 @@ void testCliEntries::Categories()
 void testCliEntries::CategoryDeletedWithItsEntriesMoved()
 {
     (void)Add(u"--amount|12|--category|Haushalt; Getränke|--date|1.3.2026"_s);
-    const cCliRun asked = Run({u"categories"_s, u"delete"_s, u"Getränke"_s});
+    const cCliRun asked = Run(u"categories|delete|Getränke"_s);
     QVERIFY2(asked.Code == 1 && asked.Error.contains("1 Buchung"_L1) && asked.Error.contains("--move-to"_L1),
              qPrintable(asked.Text()));
     Do(u"categories|delete|Getränke|--move-to|Lebensmittel|--yes"_s);
@@ -457,10 +409,10 @@ void testCliEntries::Accounts()
     Do(u"accounts|add|Depot|--group|Anlage"_s);
     Do(u"accounts|start|Depot|1000|--date|1.1.2026"_s);
     (void)Add(u"--amount|10|--category|Haushalt; Lebensmittel|--account|Depot|--date|1.3.2026"_s);
-    const QStringList rename{u"accounts"_s, u"rename"_s, u"Depot"_s, u"Fonds"_s};
+    const QString rename = u"accounts|rename|Depot|Fonds"_s;
     const cCliRun asked = Run(rename);
     QVERIFY2(asked.Code == 1 && asked.Error.contains("--entries yes"_L1), qPrintable(asked.Text()));
-    QCOMPARE(Run(rename + QStringList{u"--entries"_s, u"ja"_s}).Code, 0);
+    Do(rename + u"|--entries|ja"_s);
     const cCliRun list = Do(u"accounts|--json"_s);
     const QJsonObject fonds = list.Json().last().toObject();
     QCOMPARE(fonds.value(u"TemplateName"_s).toString(), u"Fonds"_s);
@@ -468,7 +420,7 @@ void testCliEntries::Accounts()
     QCOMPARE(fonds.value(u"StartDate"_s).toString(), u"2026-01-01"_s);
     QVERIFY2(list.Out.contains("\"Balance\": 990.00, \"StartBalance\": 1000.00"_L1), qPrintable(list.Text()));
 
-    QCOMPARE(Run({u"accounts"_s, u"delete"_s, u"Fonds"_s}).Code, 1);
+    QCOMPARE(Run(u"accounts|delete|Fonds"_s).Code, 1);
     Do(u"accounts|delete|Fonds|--move-to|Bargeld|--yes"_s);
     QCOMPARE(Stored(u"search|--json|--account|Bargeld"_s).size(), 2);
     QVERIFY(!Do(u"accounts|--json"_s).Out.contains("Fonds"_L1));
@@ -476,53 +428,43 @@ void testCliEntries::Accounts()
 
 void testCliEntries::Refused_data()
 {
-    QTest::addColumn<QString>("line");
-    QTest::addColumn<int>("code");
-    QTest::addColumn<QString>("text");
-
-    QTest::addRow("no amount") << u"add|--category|Lebensmittel"_s << 2 << u"--amount"_s;
-    QTest::addRow("amount that is none") << u"add|--amount|12k|--category|Lebensmittel"_s << 2 << u"'12k'"_s;
-    QTest::addRow("no category") << u"add|--amount|5"_s << 1 << u"Bitte erst eine Kategorie wählen!"_s;
-    QTest::addRow("unknown category") << u"add|--amount|5|--category|Lebens"_s << 1 << u"Haushalt; Lebensmittel"_s;
-    QTest::addRow("ambiguous category") << u"add|--amount|5|--category|Kleidung"_s << 1 << u"mehrere"_s;
-    QTest::addRow("category of start balances")
-        << u"add|--amount|5|--category|Startguthaben"_s << 2 << u"accounts start"_s;
-    QTest::addRow("unknown account") << u"add|--amount|5|--category|Miete|--account|Mars"_s << 1 << u"Girokonto"_s;
-    QTest::addRow("unknown interval") << u"add|--amount|5|--category|Miete|--interval|oft"_s << 2 << u"Monatlich"_s;
-    QTest::addRow("day that is none") << u"add|--amount|5|--category|Miete|--date|31.2."_s << 2 << u"'31.2.'"_s;
-    QTest::addRow("transfer to nowhere") << u"add|--amount|5|--category|Miete|--kind|Umbuchung"_s << 2
-                                         << u"--to-account"_s;
-    QTest::addRow("transfer to itself") << u"add|--amount|5|--category|Miete|--to-account|Girokonto"_s << 2
-                                        << u"zwei verschiedene"_s;
-    QTest::addRow("target of an expense")
-        << u"add|--amount|5|--category|Miete|--kind|Ausgabe|--to-account|Sparkonto"_s << 2 << u"Umbuchung"_s;
-    QTest::addRow("end of a single entry")
-        << u"add|--amount|5|--category|Lebensmittel|--end|31.12.2026"_s << 2 << u"--interval"_s;
-    QTest::addRow("end before start") << u"add|--amount|5|--category|Miete|--date|1.3.2026|--end|1.2.2026"_s << 2
-                                      << u"01.03.2026"_s;
-    QTest::addRow("change of nothing") << u"change|1"_s << 2 << u"--amount"_s;
-    QTest::addRow("change of an entry that is not there") << u"change|77|--amount|5"_s << 1 << u"77"_s;
-    QTest::addRow("more than the amount of one occurrence")
-        << u"change|1|--only|3.3.2026|--text|x"_s << 2 << u"nur der Betrag"_s;
-    QTest::addRow("no occurrence on that day") << u"change|1|--from|3.3.2019|--amount|5"_s << 1 << u"03.01.2026"_s;
-    QTest::addRow("new start before the split")
-        << u"change|1|--from|3.3.2026|--date|1.2.2026"_s << 2 << u"03.03.2026"_s;
-    QTest::addRow("variable of a script that is not set") << u"change|1|--amount|5|--only|"_s << 2 << u"'--only'"_s;
-    QTest::addRow("day of no occurrence") << u"correct|1||5"_s << 2 << u"Tag"_s;
-    QTest::addRow("correction two ways") << u"correct|1|3.3.2026|5|--skip"_s << 2 << u"--remove"_s;
-    QTest::addRow("correction of nothing") << u"correct|1|3.3.2026"_s << 2 << u"--list"_s;
-    QTest::addRow("removal of no correction") << u"correct|1|3.3.2026|--remove"_s << 1 << u"nicht korrigiert"_s;
-    QTest::addRow("search for nothing") << u"search"_s << 2 << u"Suchwort"_s;
-    QTest::addRow("two kinds of amounts") << u"search|--amount|5|--min|3"_s << 2 << u"--max"_s;
-    QTest::addRow("limit that is no amount") << u"categories|add|Neu|--limit|viel"_s << 2 << u"'viel'"_s;
-    QTest::addRow("colour that is none") << u"categories|change|Wohnung|--color|bunt"_s << 2 << u"Hellblau"_s;
-    QTest::addRow("colour of a sub-category") << u"categories|change|Miete|--color|Blau"_s << 2 << u"'Wohnung'"_s;
-    QTest::addRow("category that is there") << u"categories|add|Wohnung; Miete"_s << 1 << u"existiert bereits"_s;
-    QTest::addRow("protected category") << u"categories|delete|Startguthaben|--yes"_s << 1 << u"Startguthaben"_s;
-    QTest::addRow("option before the second word") << u"categories|--json|add|Neu"_s << 2 << u"'--json'"_s;
-    QTest::addRow("unknown second word") << u"accounts|frobnicate"_s << 2 << u"'frobnicate'"_s;
-    QTest::addRow("account that is there") << u"accounts|add|Girokonto"_s << 1 << u"existiert bereits"_s;
-    QTest::addRow("start balance that is no amount") << u"accounts|start|Girokonto|viel"_s << 2 << u"'viel'"_s;
+    const cTestRows<QString, int, QString> row("line", "code", "text");
+    row("no amount", u"add|--category|Lebensmittel"_s, 2, u"--amount"_s);
+    row("amount that is none", u"add|--amount|12k|--category|Lebensmittel"_s, 2, u"'12k'"_s);
+    row("no category", u"add|--amount|5"_s, 1, u"Bitte erst eine Kategorie wählen!"_s);
+    row("unknown category", u"add|--amount|5|--category|Lebens"_s, 1, u"Haushalt; Lebensmittel"_s);
+    row("ambiguous category", u"add|--amount|5|--category|Kleidung"_s, 1, u"mehrere"_s);
+    row("category of start balances", u"add|--amount|5|--category|Startguthaben"_s, 2, u"accounts start"_s);
+    row("unknown account", u"add|--amount|5|--category|Miete|--account|Mars"_s, 1, u"Girokonto"_s);
+    row("unknown interval", u"add|--amount|5|--category|Miete|--interval|oft"_s, 2, u"Monatlich"_s);
+    row("day that is none", u"add|--amount|5|--category|Miete|--date|31.2."_s, 2, u"'31.2.'"_s);
+    row("transfer to nowhere", u"add|--amount|5|--category|Miete|--kind|Umbuchung"_s, 2, u"--to-account"_s);
+    row("transfer to itself", u"add|--amount|5|--category|Miete|--to-account|Girokonto"_s, 2, u"zwei verschiedene"_s);
+    row("target of an expense", u"add|--amount|5|--category|Miete|--kind|Ausgabe|--to-account|Sparkonto"_s, 2,
+        u"Umbuchung"_s);
+    row("end of a single entry", u"add|--amount|5|--category|Lebensmittel|--end|31.12.2026"_s, 2, u"--interval"_s);
+    row("end before start", u"add|--amount|5|--category|Miete|--date|1.3.2026|--end|1.2.2026"_s, 2, u"01.03.2026"_s);
+    row("change of nothing", u"change|1"_s, 2, u"--amount"_s);
+    row("change of an entry that is not there", u"change|77|--amount|5"_s, 1, u"77"_s);
+    row("more than the amount of one occurrence", u"change|1|--only|3.3.2026|--text|x"_s, 2, u"nur der Betrag"_s);
+    row("no occurrence on that day", u"change|1|--from|3.3.2019|--amount|5"_s, 1, u"03.01.2026"_s);
+    row("new start before the split", u"change|1|--from|3.3.2026|--date|1.2.2026"_s, 2, u"03.03.2026"_s);
+    row("variable of a script that is not set", u"change|1|--amount|5|--only|"_s, 2, u"'--only'"_s);
+    row("day of no occurrence", u"correct|1||5"_s, 2, u"Tag"_s);
+    row("correction two ways", u"correct|1|3.3.2026|5|--skip"_s, 2, u"--remove"_s);
+    row("correction of nothing", u"correct|1|3.3.2026"_s, 2, u"--list"_s);
+    row("removal of no correction", u"correct|1|3.3.2026|--remove"_s, 1, u"nicht korrigiert"_s);
+    row("search for nothing", u"search"_s, 2, u"Suchwort"_s);
+    row("two kinds of amounts", u"search|--amount|5|--min|3"_s, 2, u"--max"_s);
+    row("limit that is no amount", u"categories|add|Neu|--limit|viel"_s, 2, u"'viel'"_s);
+    row("colour that is none", u"categories|change|Wohnung|--color|bunt"_s, 2, u"Hellblau"_s);
+    row("colour of a sub-category", u"categories|change|Miete|--color|Blau"_s, 2, u"'Wohnung'"_s);
+    row("category that is there", u"categories|add|Wohnung; Miete"_s, 1, u"existiert bereits"_s);
+    row("protected category", u"categories|delete|Startguthaben|--yes"_s, 1, u"Startguthaben"_s);
+    row("option before the second word", u"categories|--json|add|Neu"_s, 2, u"'--json'"_s);
+    row("unknown second word", u"accounts|frobnicate"_s, 2, u"'frobnicate'"_s);
+    row("account that is there", u"accounts|add|Girokonto"_s, 1, u"existiert bereits"_s);
+    row("start balance that is no amount", u"accounts|start|Girokonto|viel"_s, 2, u"'viel'"_s);
 }
 
 void testCliEntries::Refused()
@@ -531,7 +473,7 @@ void testCliEntries::Refused()
     QFETCH(const QString, text);
     QCOMPARE(Add(u"--amount|650|--category|Wohnung; Miete|--date|3.1.2026"_s), u"1"_s);
     const QString before = Content();
-    const cCliRun run = Run(line.split(u'|'));
+    const cCliRun run = Run(line);
     QTEST(run.Code, "code");
     QVERIFY2(run.Error.contains(text) && run.Out.isEmpty(), qPrintable(run.Text()));
     QCOMPARE(Content(), before);
@@ -541,9 +483,9 @@ void testCliEntries::CorrectionsAreListedWhileTheBookIsLocked()
 {
     const QString id = Add(u"--amount|650|--category|Wohnung; Miete|--date|3.1.2026"_s);
     cFileLock lock;
-    QCOMPARE(lock.Take(Database()), eLockState::Held);
-    QCOMPARE(Run({u"correct"_s, id, u"--list"_s}).Code, 0);
-    const cCliRun write = Run({u"correct"_s, id, u"3.3.2026"_s, u"5"_s});
+    QCOMPARE(lock.Take(Book()), eLockState::Held);
+    Do(u"correct|%1|--list"_s.arg(id));
+    const cCliRun write = Run(u"correct|%1|3.3.2026|5"_s.arg(id));
     QVERIFY2(write.Code == 1 && write.Error.contains("in Benutzung"_L1), qPrintable(write.Text()));
 }
 

@@ -1,11 +1,8 @@
 #include "cCliRun.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
-
-#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -22,22 +19,19 @@ constexpr const char* statement =
 } // namespace
 
 // Matching from the command line, end to end: the program itself on a new book each time.
-class testCliMatch final : public QObject
+class testCliMatch final : public QObject, cCliBooks
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        QFile file(m_folder->filePath(u"giro.sta"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(statement);
-        file.close();
+        Renew();
+        const QString file = Write(u"giro.sta"_s, statement);
         m_rent = Add(u"Ausgabe|--date|2026-01-01|--amount|650|--category|Wohnung; Miete|--interval|Monatlich|"
                      "--text|Miete Tann"_s);
         m_food = Add(u"Ausgabe|--date|2026-02-02|--amount|23,10|--category|Haushalt; Lebensmittel|--text|REWE"_s);
-        Do(u"import|"_s + file.fileName() + u"|--book-account|Girokonto|--keep-start"_s);
+        Do(u"import|"_s + file + u"|--book-account|Girokonto|--keep-start"_s);
         m_rows = Do(u"staged|--json"_s).Column(u"ID"_s);
         QCOMPARE(m_rows.size(), 3);
     }
@@ -75,11 +69,9 @@ private Q_SLOTS:
 
     void ImportBooksTheSafePart()
     {
-        QFile file(m_folder->filePath(u"next.sta"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray(statement).replace("260203D23,10", "260220D9,99").replace("D4,20", "D4,30"));
-        file.close();
-        const cCliRun run = Do(u"import|--book|"_s + file.fileName());
+        const QString file = Write(
+            u"next.sta"_s, QByteArray(statement).replace("260203D23,10", "260220D9,99").replace("D4,20", "D4,30"));
+        const cCliRun run = Do(u"import|--book|"_s + file);
         QVERIFY2(run.Out.contains(u"Offen bleiben: 1"_s), qPrintable(run.Text())); // of the new rows
         const QStringList assigned = Assigned();
         QCOMPARE(assigned.size(), 5);
@@ -101,15 +93,15 @@ private Q_SLOTS:
 
     void Refused_data() const
     {
-        QTest::addColumn<QString>("line"); // {0} the first row, {r} the rent, {f} the purchase
-        QTest::addColumn<int>("code");
-        QTest::newRow("no such row") << u"assign|999|{f}"_s << 1;
-        QTest::newRow("no such entry") << u"assign|{0}|999"_s << 1;
-        QTest::newRow("no number") << u"assign|eins|{f}"_s << 2;
-        QTest::newRow("another occurrence") << u"assign|{0}|{r}|1.3.2026"_s << 1;
-        QTest::newRow("a day of what is no series") << u"assign|{0}|{f}|1.2.2026"_s << 1;
-        QTest::newRow("not assigned") << u"release|{0}"_s << 1;
-        QTest::newRow("candidates of nothing") << u"match|--candidates|999"_s << 1;
+        // line: {0} the first row, {r} the rent, {f} the purchase
+        const cTestRows<QString, int> row("line", "code");
+        row("no such row", u"assign|999|{f}"_s, 1);
+        row("no such entry", u"assign|{0}|999"_s, 1);
+        row("no number", u"assign|eins|{f}"_s, 2);
+        row("another occurrence", u"assign|{0}|{r}|1.3.2026"_s, 1);
+        row("a day of what is no series", u"assign|{0}|{f}|1.2.2026"_s, 1);
+        row("not assigned", u"release|{0}"_s, 1);
+        row("candidates of nothing", u"match|--candidates|999"_s, 1);
     }
 
     void Refused()
@@ -123,9 +115,6 @@ private Q_SLOTS:
     }
 
 private:
-    [[nodiscard]] cCliRun Run(const QString& line) const { return cCliRun::Line(m_folder->path(), line); }
-    cCliRun Do(const QString& line) { return cCliRun::GoodLine(m_folder->path(), line); }
-
     [[nodiscard]] QString Add(const QString& line)
     {
         return Do(u"add|--json|--account|Girokonto|--kind|"_s + line).Column(u"ID"_s).value(0);
@@ -133,7 +122,6 @@ private:
 
     [[nodiscard]] QStringList Assigned() { return Do(u"staged|--json"_s).Column(u"ImportAssignedEntry"_s); }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     QStringList m_rows;
     QString m_rent;
     QString m_food;

@@ -1,11 +1,8 @@
 #include "cCliRun.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
-
-#include <memory>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,19 +16,15 @@ constexpr const char* statement = ":20:STARTUMS\r\n:25:99900010/4711000815\r\n:6
 } // namespace
 
 // The user's own rules from the command line, end to end: the program itself on a new book each time.
-class testCliRules final : public QObject
+class testCliRules final : public QObject, cCliBooks
 {
     Q_OBJECT
 
 private Q_SLOTS:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
-        m_file = m_folder->filePath(u"giro.sta"_s);
-        QFile file(m_file);
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(statement);
-        file.close();
+        Renew();
+        m_file = Write(u"giro.sta"_s, statement);
         Do(u"import|"_s + m_file + u"|--book-account|Girokonto|--keep-start"_s);
         Do(u"rules|add|--text|brezen|--kind|Ausgabe|--account|Girokonto|--category|Freizeit; Kino / Theater"_s);
         Do(u"rules|add|--counterparty|Korn|--category|Haushalt; Getränke|--interval|monatlich|--description|Brot"_s);
@@ -74,16 +67,15 @@ private Q_SLOTS:
 
     void Refused_data() const
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<int>("code");
-        QTest::newRow("no condition") << u"rules|add|--category|Haushalt"_s << 1;
-        QTest::newRow("no such category") << u"rules|add|--text|x|--category|Rohrpost"_s << 1;
-        QTest::newRow("no kind of a bank's") << u"rules|add|--text|x|--kind|Umbuchung|--category|Haushalt"_s << 2;
-        QTest::newRow("no such rule") << u"rules|delete|3|--yes"_s << 1;
-        QTest::newRow("no number") << u"rules|move|eins|2"_s << 2;
-        QTest::newRow("neither on nor off") << u"rules|switch|1|vielleicht"_s << 2;
-        QTest::newRow("no such row") << u"rules|test|99"_s << 1;
-        QTest::newRow("no such file") << u"rules|test|fehlt.sta"_s << 1;
+        const cTestRows<QString, int> row("line", "code");
+        row("no condition", u"rules|add|--category|Haushalt"_s, 1);
+        row("no such category", u"rules|add|--text|x|--category|Rohrpost"_s, 1);
+        row("no kind of a bank's", u"rules|add|--text|x|--kind|Umbuchung|--category|Haushalt"_s, 2);
+        row("no such rule", u"rules|delete|3|--yes"_s, 1);
+        row("no number", u"rules|move|eins|2"_s, 2);
+        row("neither on nor off", u"rules|switch|1|vielleicht"_s, 2);
+        row("no such row", u"rules|test|99"_s, 1);
+        row("no such file", u"rules|test|fehlt.sta"_s, 1);
     }
 
     void Refused()
@@ -96,12 +88,8 @@ private Q_SLOTS:
     }
 
 private:
-    [[nodiscard]] cCliRun Run(const QString& line) const { return cCliRun::Line(m_folder->path(), line); }
-    cCliRun Do(const QString& line) { return cCliRun::GoodLine(m_folder->path(), line); }
-
     [[nodiscard]] QStringList List(const QString& name) { return Do(u"rules|--json"_s).Column(name); }
 
-    std::unique_ptr<QTemporaryDir> m_folder;
     QString m_file;
 };
 

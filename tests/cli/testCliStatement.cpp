@@ -2,8 +2,6 @@
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
 
-#include <QFile>
-#include <QTemporaryDir>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -19,57 +17,40 @@ constexpr const char* incomplete =
 } // namespace
 
 // The statement of a bank account from the command line, from the file of the bank to what is wrong with it.
-class testCliStatement final : public QObject
+class testCliStatement final : public QObject, cCliBooks
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { Renew(); }
     void ShowsWhatIsMissing()
     {
-        QTemporaryDir folder;
-        QFile file(folder.filePath(u"giro.sta"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(incomplete);
-        file.close();
-        const auto run = [&](const QString& words) {
-            return cCliRun::Start(QStringLiteral(CLI_PROGRAM),
-                                  QStringList{u"--profile"_s, folder.path()} + words.split(u'|'));
-        };
-        QCOMPARE(run(u"import|--book-account|Girokonto|"_s + file.fileName()).Code, 0);
+        Do(u"import|--book-account|Girokonto|"_s + Write(u"giro.sta"_s, incomplete));
         // Another number of the account, as online banking names it: no rows are read for it.
         cTestFile::Run(
-            folder.filePath(u"Veltrino Kontorelle/data.db"_s),
+            Book(),
             "INSERT INTO setting (SettingName, SettingValue) VALUES ('KTO:DE02120300000000202051', 'Girokonto')");
-        QCOMPARE(run(u"reconcile|--account|DE02120300000000202051"_s).Code, 1);
-        const QJsonObject all =
-            QJsonDocument::fromJson(run(u"statement|--account|girokonto|--json"_s).Out.toUtf8()).object();
+        QCOMPARE(Run(u"reconcile|--account|DE02120300000000202051"_s).Code, 1);
+        const QJsonObject all = Do(u"statement|--account|girokonto|--json"_s).Object();
         QCOMPARE(cCliRun::Column(all.value(u"Differences"_s).toArray(), u"Missing"_s), QStringList(u"-23.1"_s));
         QCOMPARE(cCliRun::Column(all.value(u"Differences"_s).toArray(), u"From"_s), QStringList(u"2026-02-02"_s));
         QCOMPARE(cCliRun::Column(all.value(u"Rows"_s).toArray(), u"Balance"_s), QStringList(u"216.9"_s));
-        QVERIFY(run(u"statement|--from|2026-02-05"_s).Out.contains(u"Ab dem 02.02.2026 fehlen 23,10"));
-        QCOMPARE(run(u"statement|--account|4712"_s).Code, 1);
+        QVERIFY(Run(u"statement|--from|2026-02-05"_s).Out.contains(u"Ab dem 02.02.2026 fehlen 23,10"));
+        QCOMPARE(Run(u"statement|--account|4712"_s).Code, 1);
     }
 
     // The first statement brings the start balance, and the book agrees once its row is booked.
     void ReconcilesRowByRow()
     {
-        QTemporaryDir folder;
-        QFile file(folder.filePath(u"giro.sta"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(QByteArray(incomplete).replace("216,90", "240,00"));
-        file.close();
-        const auto run = [&](const QString& words) {
-            return cCliRun::Start(QStringLiteral(CLI_PROGRAM),
-                                  QStringList{u"--profile"_s, folder.path()} + words.split(u'|'));
-        };
-        const cCliRun import = run(u"import|--book-account|Girokonto|"_s + file.fileName());
+        const cCliRun import = Do(u"import|--book-account|Girokonto|"_s
+                                  + Write(u"giro.sta"_s, QByteArray(incomplete).replace("216,90", "240,00")));
         QVERIFY2(import.Error.contains(u"Startguthaben von 'Girokonto': 900,00"), qPrintable(import.Text()));
-        const QJsonObject open = QJsonDocument::fromJson(run(u"reconcile|--json"_s).Out.toUtf8()).object();
+        const QJsonObject open = Run(u"reconcile|--json"_s).Object();
         QCOMPARE(cCliRun::Column(open.value(u"Differences"_s).toArray(), u"Kind"_s), QStringList(u"bank only"_s));
-        QCOMPARE(run(u"reconcile|--confirm"_s).Code, 1);
-        QCOMPARE(run(u"book|--all"_s).Code, 0);
-        const cCliRun done = run(u"reconcile|--confirm"_s);
-        QVERIFY2(done.Code == 0 && done.Out.contains(u"stimmt bis 05.02.2026"), qPrintable(done.Text()));
+        QCOMPARE(Run(u"reconcile|--confirm"_s).Code, 1);
+        Do(u"book|--all"_s);
+        const cCliRun done = Do(u"reconcile|--confirm"_s);
+        QVERIFY2(done.Out.contains(u"stimmt bis 05.02.2026"), qPrintable(done.Text()));
     }
 };
 

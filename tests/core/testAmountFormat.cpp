@@ -1,6 +1,7 @@
 #include "core/cAmountFormat.h"
 #include "core/cConfiguration.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/fakes.h"
 
 #include <QLocale>
@@ -48,21 +49,18 @@ private Q_SLOTS:
 
     void Cultures_data() const
     {
-        QTest::addColumn<QString>("culture");
-        QTest::addColumn<double>("amount");
-        QTest::addColumn<bool>("isNegative");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("none chosen") << QString() << 1234.5 << false << u"1.234,50\u00A0€"_s;
-        QTest::newRow("unknown culture") << u"xx-YY"_s << 1234.5 << false << u"1.234,50\u00A0€"_s;
-        QTest::newRow("name with hyphen") << u"en-GB"_s << 1234.5 << false << u"£1,234.50"_s;
-        QTest::newRow("name with underscore") << u"en_GB"_s << 1234.5 << false << u"£1,234.50"_s;
-        QTest::newRow("the sign is not the amount's") << QString() << -1234.5 << false << u"1.234,50\u00A0€"_s;
-        QTest::newRow("negative asked for") << QString() << 12.0 << true << u"-12,00\u00A0€"_s;
-        QTest::newRow("negative amount, negative asked for") << QString() << -12.0 << true << u"-12,00\u00A0€"_s;
-        QTest::newRow("half a cent") << QString() << 1.005 << false << u"1,01\u00A0€"_s;
-        QTest::newRow("nothing has no sign") << QString() << 0.004 << true << u"0,00\u00A0€"_s;
-        QTest::newRow("rupiah, whole") << u"id-ID"_s << 15000.0 << false << u"15.000"_s;
-        QTest::newRow("rupiah with decimals") << u"id-ID"_s << 1234.5 << false << u"1.234,50"_s;
+        const cTestRows<QString, double, bool, QString> row("culture", "amount", "isNegative", "text");
+        row("none chosen", {}, 1234.5, false, u"1.234,50\u00A0€"_s);
+        row("unknown culture", u"xx-YY"_s, 1234.5, false, u"1.234,50\u00A0€"_s);
+        row("name with hyphen", u"en-GB"_s, 1234.5, false, u"£1,234.50"_s);
+        row("name with underscore", u"en_GB"_s, 1234.5, false, u"£1,234.50"_s);
+        row("the sign is not the amount's", {}, -1234.5, false, u"1.234,50\u00A0€"_s);
+        row("negative asked for", {}, 12.0, true, u"-12,00\u00A0€"_s);
+        row("negative amount, negative asked for", {}, -12.0, true, u"-12,00\u00A0€"_s);
+        row("half a cent", {}, 1.005, false, u"1,01\u00A0€"_s);
+        row("nothing has no sign", {}, 0.004, true, u"0,00\u00A0€"_s);
+        row("rupiah, whole", u"id-ID"_s, 15000.0, false, u"15.000"_s);
+        row("rupiah with decimals", u"id-ID"_s, 1234.5, false, u"1.234,50"_s);
     }
 
     void Cultures() const
@@ -77,14 +75,12 @@ private Q_SLOTS:
 
     void Repairs_data() const
     {
-        QTest::addColumn<QString>("formatted");
-        QTest::addColumn<bool>("isStripped");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("Swiss minus") << u"SFr.-12.00"_s << false << u"SFr. -12.00"_s;
-        QTest::newRow("rupiah below zero") << u"-Rp1.000,00"_s << false << u"-1.000"_s;
-        QTest::newRow("rupiah sign elsewhere") << u"5 Rp,00"_s << false << u"5 Rp,00"_s;
-        QTest::newRow("markup kept") << u"<1'000\">"_s << false << u"<1'000\">"_s;
-        QTest::newRow("markup stripped") << u"<1'000\">"_s << true << u"1000"_s;
+        const cTestRows<QString, bool, QString> row("formatted", "isStripped", "text");
+        row("Swiss minus", u"SFr.-12.00"_s, false, u"SFr. -12.00"_s);
+        row("rupiah below zero", u"-Rp1.000,00"_s, false, u"-1.000"_s);
+        row("rupiah sign elsewhere", u"5 Rp,00"_s, false, u"5 Rp,00"_s);
+        row("markup kept", u"<1'000\">"_s, false, u"<1'000\">"_s);
+        row("markup stripped", u"<1'000\">"_s, true, u"1000"_s);
     }
 
     void Repairs() const
@@ -121,15 +117,14 @@ private Q_SLOTS:
     // fields do not know (other digits, say) is refused, but never taken for another amount.
     void ShownAmountsAreReadBack_data() const
     {
-        QTest::addColumn<QString>("culture");
-        QTest::addColumn<bool>("isOffered");
+        const cTestRows<QString, bool> row("culture", "isOffered");
         for (const char* culture : {"de-DE", "de-AT", "de-CH", "de-LU", "en-GB", "en-IE", "en-US", "da-DK", "pl-PL",
                                     "cs-CZ", "hu-HU", "id-ID"}) {
-            QTest::newRow(culture) << QString::fromLatin1(culture) << true;
+            row(culture, QString::fromLatin1(culture), true);
         }
         for (const char* culture : {"fr-FR", "fr-CH", "nl-NL", "sv-SE", "ja-JP", "en-IN", "ar-EG", "fa-IR", "ar-TN",
                                     "pt-BR", "tr-TR", "he-IL", "bg-BG", "ru-RU"}) {
-            QTest::newRow(culture) << QString::fromLatin1(culture) << false;
+            row(culture, QString::fromLatin1(culture), false);
         }
     }
 
@@ -153,15 +148,14 @@ private Q_SLOTS:
 
     void DayForms_data() const
     {
-        QTest::addColumn<QString>("culture");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("none chosen") << QString() << u"09.02.2024"_s;
-        QTest::newRow("Switzerland") << u"de-CH"_s << u"09.02.2024"_s;
-        QTest::newRow("Great Britain") << u"en-GB"_s << u"09/02/2024"_s;
-        QTest::newRow("United States") << u"en_US"_s << u"02/09/2024"_s;
-        QTest::newRow("Netherlands") << u"nl-NL"_s << u"09-02-2024"_s;
-        QTest::newRow("Sweden") << u"sv-SE"_s << u"2024-02-09"_s;
-        QTest::newRow("Hungary") << u"hu-HU"_s << u"2024.02.09"_s;
+        const cTestRows<QString, QString> row("culture", "text");
+        row("none chosen", {}, u"09.02.2024"_s);
+        row("Switzerland", u"de-CH"_s, u"09.02.2024"_s);
+        row("Great Britain", u"en-GB"_s, u"09/02/2024"_s);
+        row("United States", u"en_US"_s, u"02/09/2024"_s);
+        row("Netherlands", u"nl-NL"_s, u"09-02-2024"_s);
+        row("Sweden", u"sv-SE"_s, u"2024-02-09"_s);
+        row("Hungary", u"hu-HU"_s, u"2024.02.09"_s);
     }
 
     // The days of the program follow the format and not the currency.

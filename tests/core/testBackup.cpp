@@ -9,9 +9,9 @@
 #include "store/cUndoStep.h"
 #include "store/modBookFile.h"
 #include "store/modSchema.h"
+#include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/fakes.h"
+#include "support/cTestRows.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -44,7 +44,7 @@ QStringList FilesIn(const QString& folder)
 }
 
 // An open book with two entries and what works on it.
-struct cMachine
+struct cMachine : cFakeMachine
 {
     cMachine()
     {
@@ -54,16 +54,10 @@ struct cMachine
         Configuration.SetDatabase(&Book.Settings());
     }
 
-    [[nodiscard]] QString Path(const QString& name) const { return File.Path(name); }
     [[nodiscard]] QString Copies() const { return File.Folder() + u"/Sicherungen"_s; }
 
     void Write() { Book.Database().Execute("INSERT INTO data (EntryDate) VALUES ('2026-02-01')"); }
 
-    cTestFile File;
-    cFakeShell Shell;
-    cFakeUser User;
-    cFakeClock Clock{QDate(2026, 3, 15)};
-    cFakeRegistry Registry;
     cConfiguration Configuration{Registry};
     cBook Book{User};
     cBackup Backup{Book.Database(), Shell};
@@ -237,15 +231,13 @@ private Q_SLOTS:
 
     void Surplus_data() const
     {
-        QTest::addColumn<QStringList>("days");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<QStringList>("surplus");
+        const cTestRows<QStringList, int, QStringList> row("days", "count", "surplus");
         const QStringList week{u"2026-03-01"_s, u"2026-03-02"_s, u"2026-03-03"_s, u"2026-03-04"_s};
-        QTest::newRow("fewer than the count") << week << 4 << QStringList();
-        QTest::newRow("the oldest go") << week << 2 << QStringList({u"2026-03-02"_s, u"2026-03-01"_s});
-        QTest::newRow("the last of a month stays")
-            << QStringList({u"2025-03-07"_s, u"2026-01-30"_s, u"2026-01-31"_s, u"2026-02-01"_s, u"2026-03-01"_s}) << 1
-            << QStringList(u"2026-01-30"_s);
+        row("fewer than the count", week, 4, {});
+        row("the oldest go", week, 2, {u"2026-03-02"_s, u"2026-03-01"_s});
+        row("the last of a month stays",
+            {u"2025-03-07"_s, u"2026-01-30"_s, u"2026-01-31"_s, u"2026-02-01"_s, u"2026-03-01"_s}, 1,
+            {u"2026-01-30"_s});
     }
 
     void Surplus() const
@@ -445,10 +437,9 @@ private Q_SLOTS:
 
     void NothingToCopy_data() const
     {
-        QTest::addColumn<QString>("count");
-        QTest::addColumn<QString>("sql");
-        QTest::newRow("switched off") << u"0"_s << QString();
-        QTest::newRow("no entries") << u"10"_s << u"DELETE FROM data"_s;
+        const cTestRows<QString, QString> row("count", "sql");
+        row("switched off", u"0"_s, {});
+        row("no entries", u"10"_s, u"DELETE FROM data"_s);
     }
 
     void NothingToCopy() const

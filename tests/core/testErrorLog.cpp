@@ -2,6 +2,7 @@
 #include "core/cErrorLog.h"
 #include "core/cLoggedUser.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/fakes.h"
 
 #include <QTest>
@@ -60,28 +61,23 @@ private Q_SLOTS:
 
 void testErrorLog::NothingPrivateIsWritten_data()
 {
-    QTest::addColumn<QString>("Message");
-    QTest::addColumn<QString>("Written");
-
-    QTest::newRow("path and reason")
-        << cText::Fill(
-               u"Die Datei '{0}' konnte nicht geschrieben werden: {1}\nWas dort schon stand, ist unverändert."_s,
-               {u"/home/erika/Familie Mustermann/auszug.csv"_s, u"Der Name ist zu lang."_s})
-        << u"Die Datei '…' konnte nicht geschrieben werden: Der Name ist zu lang. Was dort schon stand, ist "
-           "unverändert."_s;
-    QTest::newRow("amount") << u"Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von 1.234,56 €."_s
-                            << u"Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von …."_s;
-    QTest::newRow("words of the database")
-        << u"ERROR: AddNewEntry\nno such column: Erika Mustermann"_s << u"no such column: …"_s;
-    QTest::newRow("words of the system") << u"Permission denied"_s << u"Permission denied"_s;
-    QTest::newRow("words of nobody known")
-        << u"ERROR: ChangeEntry\nErika Mustermann schuldet DE02 1002 0030 0001 2345 67 noch 500"_s << u"…"_s;
-    QTest::newRow("account that is called like an action") << u"Daten exportieren"_s << u"…"_s;
-    QTest::newRow("sentence that begins with the name")
-        << u"'Arztpraxis Dr. Mustermann' ist hier nicht möglich."_s << u"'…' ist hier nicht möglich."_s;
-    QTest::newRow("several messages")
-        << u"Der Name ist zu lang.\nMustermann GmbH 4711\nDie Datei ist schreibgeschützt."_s
-        << u"Der Name ist zu lang. … Die Datei ist schreibgeschützt."_s;
+    const cTestRows<QString, QString> row("Message", "Written");
+    row("path and reason",
+        cText::Fill(u"Die Datei '{0}' konnte nicht geschrieben werden: {1}\nWas dort schon stand, ist unverändert."_s,
+                    {u"/home/erika/Familie Mustermann/auszug.csv"_s, u"Der Name ist zu lang."_s}),
+        u"Die Datei '…' konnte nicht geschrieben werden: Der Name ist zu lang. Was dort schon stand, ist "
+        "unverändert."_s);
+    row("amount", u"Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von 1.234,56 €."_s,
+        u"Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von …."_s);
+    row("words of the database", u"ERROR: AddNewEntry\nno such column: Erika Mustermann"_s, u"no such column: …"_s);
+    row("words of the system", u"Permission denied"_s, u"Permission denied"_s);
+    row("words of nobody known",
+        u"ERROR: ChangeEntry\nErika Mustermann schuldet DE02 1002 0030 0001 2345 67 noch 500"_s, u"…"_s);
+    row("account that is called like an action", u"Daten exportieren"_s, u"…"_s);
+    row("sentence that begins with the name", u"'Arztpraxis Dr. Mustermann' ist hier nicht möglich."_s,
+        u"'…' ist hier nicht möglich."_s);
+    row("several messages", u"Der Name ist zu lang.\nMustermann GmbH 4711\nDie Datei ist schreibgeschützt."_s,
+        u"Der Name ist zu lang. … Die Datei ist schreibgeschützt."_s);
 }
 
 void testErrorLog::NothingPrivateIsWritten()

@@ -6,6 +6,7 @@
 #include "store/modSchema.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/fakes.h"
 
 #include <QTest>
@@ -163,12 +164,12 @@ class testSettings final : public QObject
 private Q_SLOTS:
     void TruthValues_data() const
     {
-        QTest::addColumn<bool>("isTrue");
+        const cTestRows<bool> row("isTrue");
         for (const char* text : {"wahr", "Wahr", "TRUE", "true", "True", "1", "-1", "0.5", " 2 "}) {
-            QTest::newRow(text) << true;
+            row(text, true);
         }
         for (const char* text : {"falsch", "FALSE", "false", "0", "0,0", "", "ja", "nan"}) {
-            QTest::newRow(text) << false;
+            row(text, false);
         }
     }
 
@@ -380,17 +381,15 @@ private Q_SLOTS:
 
     void Passwords_data() const
     {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<QString>("typed");
-        QTest::addColumn<bool>("isRight");
+        const cTestRows<QString, QString, bool> row("stored", "typed", "isRight");
         const QString digest = u"900150983cd24fb0d6963f7d28e17f72"_s;
-        QTest::newRow("digest") << digest << u"abc"_s << true;
-        QTest::newRow("digest in capitals") << digest.toUpper() << u"abc"_s << true;
-        QTest::newRow("other letter case") << digest << u"ABC"_s << false;
-        QTest::newRow("the digest itself") << digest << digest << false;
-        QTest::newRow("older file: the password") << u"abc"_s << u"abc"_s << true;
-        QTest::newRow("older file: wrong") << u"abc"_s << u"abd"_s << false;
-        QTest::newRow("nothing typed") << digest << QString() << false;
+        row("digest", digest, u"abc"_s, true);
+        row("digest in capitals", digest.toUpper(), u"abc"_s, true);
+        row("other letter case", digest, u"ABC"_s, false);
+        row("the digest itself", digest, digest, false);
+        row("older file: the password", u"abc"_s, u"abc"_s, true);
+        row("older file: wrong", u"abc"_s, u"abd"_s, false);
+        row("nothing typed", digest, {}, false);
     }
 
     void Passwords() const

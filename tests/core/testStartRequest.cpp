@@ -1,5 +1,6 @@
 #include "core/cStartRequest.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -15,23 +16,16 @@ private Q_SLOTS:
     // By their content, so that a bank file never ends in the questions around a damaged book.
     void SortsFiles_data()
     {
-        QTest::addColumn<QStringList>("files");
-        QTest::addColumn<QString>("book");
-        QTest::addColumn<QStringList>("statements");
-        QTest::addColumn<QString>("error");
-
-        QTest::newRow("nothing") << QStringList() << u""_s << QStringList() << u""_s;
-        QTest::newRow("book") << QStringList{u"haushalt.xyz"_s} << u"haushalt.xyz"_s << QStringList() << u""_s;
-        QTest::newRow("new book") << QStringList{u"neu.db"_s} << u"neu.db"_s << QStringList() << u""_s;
-        QTest::newRow("damaged book") << QStringList{u"kaputt.db"_s} << u"kaputt.db"_s << QStringList() << u""_s;
-        QTest::newRow("statements") << QStringList{u"a.sta"_s, u"b.xml"_s} << u""_s
-                                    << QStringList{u"a.sta"_s, u"b.xml"_s} << u""_s;
-        QTest::newRow("both") << QStringList{u"a.sta"_s, u"haushalt.xyz"_s} << u"haushalt.xyz"_s
-                              << QStringList{u"a.sta"_s} << u""_s;
-        QTest::newRow("two books") << QStringList{u"kaputt.db"_s, u"haushalt.xyz"_s} << u""_s << QStringList()
-                                   << u"nur ein Haushaltsbuch"_s;
-        QTest::newRow("folder") << QStringList{u"."_s} << u""_s << QStringList() << u"ist ein Ordner"_s;
-        QTest::newRow("missing") << QStringList{u"fehlt.sta"_s} << u""_s << QStringList() << u"gibt es nicht"_s;
+        const cTestRows<QStringList, QString, QStringList, QString> row("files", "book", "statements", "error");
+        row("nothing", {}, u""_s, {}, u""_s);
+        row("book", {u"haushalt.xyz"_s}, u"haushalt.xyz"_s, {}, u""_s);
+        row("new book", {u"neu.db"_s}, u"neu.db"_s, {}, u""_s);
+        row("damaged book", {u"kaputt.db"_s}, u"kaputt.db"_s, {}, u""_s);
+        row("statements", {u"a.sta"_s, u"b.xml"_s}, u""_s, {u"a.sta"_s, u"b.xml"_s}, u""_s);
+        row("both", {u"a.sta"_s, u"haushalt.xyz"_s}, u"haushalt.xyz"_s, {u"a.sta"_s}, u""_s);
+        row("two books", {u"kaputt.db"_s, u"haushalt.xyz"_s}, u""_s, {}, u"nur ein Haushaltsbuch"_s);
+        row("folder", {u"."_s}, u""_s, {}, u"ist ein Ordner"_s);
+        row("missing", {u"fehlt.sta"_s}, u""_s, {}, u"gibt es nicht"_s);
     }
 
     void SortsFiles()

@@ -4,9 +4,9 @@
 #include "core/cStartUp.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
+#include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/fakes.h"
+#include "support/cTestRows.h"
 
 #include <QDir>
 #include <QTest>
@@ -16,7 +16,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 // A machine with an installed program and nothing of the user's yet.
-struct cMachine
+struct cMachine : cFakeMachine
 {
     cMachine() { cTestFile::Run(Template(), cTestFile::Tables); }
 
@@ -28,15 +28,9 @@ struct cMachine
 
     void Configure(const QString& path) { Registry.Write(cConfiguration::RegistryKey, u"Database"_s, path); }
 
-    cFakeShell Shell;
-    cFakeUser User;
-    cFakeRescue Rescue;
-    cFakeClock Clock{QDate(2026, 3, 15)};
-    cFakeRegistry Registry;
     cConfiguration Configuration{Registry};
     cBook Book{User};
     cStartUp StartUp{{Shell, User, Rescue, Clock}, Configuration, u"0.1.0"_s};
-    cTestFile File;
 };
 
 } // namespace
@@ -48,14 +42,11 @@ class testStartUp final : public QObject
 private Q_SLOTS:
     void OldCurrency_data() const
     {
-        QTest::addColumn<QString>("symbol");
-        QTest::addColumn<eAnswer>("answer");
-        QTest::addColumn<int>("asked");
-        QTest::addColumn<int>("opened");
-        QTest::newRow("euro") << u"€"_s << eAnswer::Yes << 0 << 0;
-        QTest::newRow("mark, in any form") << u" dm "_s << eAnswer::Yes << 1 << 1;
-        QTest::newRow("mark, and it stays") << u"DM"_s << eAnswer::No << 1 << 0;
-        QTest::newRow("another with these letters") << u"DMX"_s << eAnswer::Yes << 0 << 0;
+        const cTestRows<QString, eAnswer, int, int> row("symbol", "answer", "asked", "opened");
+        row("euro", u"€"_s, eAnswer::Yes, 0, 0);
+        row("mark, in any form", u" dm "_s, eAnswer::Yes, 1, 1);
+        row("mark, and it stays", u"DM"_s, eAnswer::No, 1, 0);
+        row("another with these letters", u"DMX"_s, eAnswer::Yes, 0, 0);
     }
 
     void OldCurrency() const
@@ -134,12 +125,10 @@ private Q_SLOTS:
     // A program killed at the wrong moment, or a file taken away: what lies beside the book may be all that is left.
     void MissingBookHasLeftovers_data() const
     {
-        QTest::addColumn<int>("chosen");
-        QTest::addColumn<bool>("opens");
-        QTest::addColumn<int>("entries");
-        QTest::newRow("the replaced file") << 0 << true << 1;
-        QTest::newRow("none of them") << 1 << true << 0;
-        QTest::newRow("no answer") << -1 << false << 0;
+        const cTestRows<int, bool, int> row("chosen", "opens", "entries");
+        row("the replaced file", 0, true, 1);
+        row("none of them", 1, true, 0);
+        row("no answer", -1, false, 0);
     }
 
     void MissingBookHasLeftovers() const

@@ -1,5 +1,6 @@
 #include "fints/cBankAnswer.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -43,21 +44,20 @@ class testBankAnswer : public QObject
 private Q_SLOTS:
     void ReadsWhatBanksMakeOfTheEnvelope_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<bool>("isRead");
+        const cTestRows<QByteArray, bool> row("bytes", "isRead");
         const QByteArray head = "HNHBK:1:3+000000000100+300+0+1+0:1'";
         const QByteArray refusal = "HIRMG:2:2:+9800::Dialog beendet.'";
         const QByteArray signature = "HNSHK:2:4+PIN:1+999+1+1+1+2::0+1+1+1:999:1+6:10:19+280:12345678:x:S:0:0'";
-        QTest::newRow("wrapped") << Wrapped(refusal) << true;
-        QTest::newRow("signed") << Wrapped(signature + refusal + "HNSHA:3:2+1'") << true;
-        QTest::newRow("unwrapped") << head + refusal + "HNHBS:3:1+1'" << true;
-        QTest::newRow("line break at the end") << head + refusal + "HNHBS:3:1+1'\r\n" << true;
-        QTest::newRow("without an end") << head + refusal << false;
-        QTest::newRow("cut in the container") << Wrapped(refusal).chopped(20) << false;
-        QTest::newRow("no dialog") << "HNHBK:1:3'" + refusal + "HNHBS:3:1+1'" << false;
-        QTest::newRow("page of a proxy") << QByteArray("<html>9800</html>") << false;
-        QTest::newRow("only separators") << head + QByteArray(2'000'000, '+') + "'HNHBS:3:1+1'" << false;
-        QTest::newRow("nothing") << QByteArray() << false;
+        row("wrapped", Wrapped(refusal), true);
+        row("signed", Wrapped(signature + refusal + "HNSHA:3:2+1'"), true);
+        row("unwrapped", head + refusal + "HNHBS:3:1+1'", true);
+        row("line break at the end", head + refusal + "HNHBS:3:1+1'\r\n", true);
+        row("without an end", head + refusal, false);
+        row("cut in the container", Wrapped(refusal).chopped(20), false);
+        row("no dialog", "HNHBK:1:3'" + refusal + "HNHBS:3:1+1'", false);
+        row("page of a proxy", "<html>9800</html>", false);
+        row("only separators", head + QByteArray(2'000'000, '+') + "'HNHBS:3:1+1'", false);
+        row("nothing", {}, false);
     }
     void ReadsWhatBanksMakeOfTheEnvelope()
     {
@@ -109,16 +109,13 @@ private Q_SLOTS:
 
     void ReadsAccountsOfAllVersions_data()
     {
-        QTest::addColumn<QByteArray>("segment");
-        QTest::addColumn<QString>("iban");
-        QTest::newRow("4") << QByteArray("HIUPD:5:4:4+47:EUR:280:12345678+cust+EUR+Eva+Otto+Giro+K?:1+HKKAZ:1+HKSAL:1'")
-                           << QString();
-        QTest::newRow("5") << QByteArray(
-            "HIUPD:5:5:4+47:EUR:280:12345678+cust+1+EUR+Eva+Otto+Giro+K?:1+HKKAZ:1+HKSAL:1'")
-                           << QString();
-        QTest::newRow("6") << "HIUPD:5:6:4+47:EUR:280:12345678+DE02+cust+1+EUR+Eva+Otto+Giro+K?:1+HKKAZ:1+HKSAL:1"
-                + QByteArray(998, '+') + "{\"time\"?:\"2026\"}'"
-                           << u"DE02"_s;
+        const cTestRows<QByteArray, QString> row("segment", "iban");
+        row("4", "HIUPD:5:4:4+47:EUR:280:12345678+cust+EUR+Eva+Otto+Giro+K?:1+HKKAZ:1+HKSAL:1'", {});
+        row("5", "HIUPD:5:5:4+47:EUR:280:12345678+cust+1+EUR+Eva+Otto+Giro+K?:1+HKKAZ:1+HKSAL:1'", {});
+        row("6",
+            "HIUPD:5:6:4+47:EUR:280:12345678+DE02+cust+1+EUR+Eva+Otto+Giro+K?:1+HKKAZ:1+HKSAL:1" + QByteArray(998, '+')
+                + "{\"time\"?:\"2026\"}'",
+            u"DE02"_s);
     }
     void ReadsAccountsOfAllVersions()
     {
@@ -205,12 +202,11 @@ private Q_SLOTS:
 
     void ReadsABalance_data()
     {
-        QTest::addColumn<QByteArray>("element");
-        QTest::addColumn<qint64>("cents");
-        QTest::newRow("credit") << QByteArray("C:123,45:EUR:20260301") << qint64(12345);
-        QTest::newRow("debit with a time") << QByteArray("D:1234567,8:EUR:20260301:120000") << qint64(-123456780);
-        QTest::newRow("whole") << QByteArray("C:5,:EUR:20260301") << qint64(500);
-        QTest::newRow("nothing") << QByteArray("C:0,:EUR:20260301") << qint64(0);
+        const cTestRows<QByteArray, qint64> row("element", "cents");
+        row("credit", "C:123,45:EUR:20260301", 12345);
+        row("debit with a time", "D:1234567,8:EUR:20260301:120000", -123456780);
+        row("whole", "C:5,:EUR:20260301", 500);
+        row("nothing", "C:0,:EUR:20260301", 0);
     }
     void ReadsABalance()
     {

@@ -1,6 +1,7 @@
 #include "base/cSecret.h"
 #include "fints/HBCIFactory.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -70,30 +71,25 @@ private Q_SLOTS:
     // A bank counts: the size in the head, the length of the container.
     void HasTheRightSize_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<int>("size");
-        QTest::addColumn<int>("length");
+        const cTestRows<QByteArray, int, int> row("text", "size", "length");
         const cCase second{.Function = u"922"_s, .SystemId = "SYSID1", .DialogId = "DIALOG2", .Number = 3};
         cCase withTan = second;
         withTan.Tan = u"777666"_s;
-        QTest::newRow("synchronisation") << TextOf({},
-                                                   {HBCIFactory::Identification(u"12345678"_s, u"testuser"_s, "0"),
-                                                    Preparation(u"300"_s, u"0"_s, u"0"_s),
-                                                    HBCIFactory::Synchronisation(u"300"_s)})
-                                         << 370 << 209;
-        QTest::newRow("end") << TextOf({.SystemId = "SYSID1", .DialogId = "DIALOG1", .Number = 2},
-                                       {HBCIFactory::End("DIALOG1")})
-                             << 309 << 137;
-        QTest::newRow("start") << TextOf({.Function = u"922"_s, .SystemId = "SYSID1"},
-                                         {HBCIFactory::Identification(u"12345678"_s, u"testuser"_s, "SYSID1"),
-                                          Preparation(u"300"_s, u"78"_s, u"3"_s),
-                                          HBCIFactory::Tan(6, {.Process = "4", .Segment = "HKIDN"})})
-                               << 392 << 226;
-        QTest::newRow("statement") << StatementText() << 378 << 206;
-        QTest::newRow("TAN") << TextOf(withTan, {HBCIFactory::Tan(6, {.Process = "2", .Reference = reference})}) << 342
-                             << 170;
-        QTest::newRow("approval") << TextOf(second, {HBCIFactory::Tan(7, {.Process = "S", .Reference = reference})})
-                                  << 335 << 163;
+        row("synchronisation",
+            TextOf({},
+                   {HBCIFactory::Identification(u"12345678"_s, u"testuser"_s, "0"),
+                    Preparation(u"300"_s, u"0"_s, u"0"_s), HBCIFactory::Synchronisation(u"300"_s)}),
+            370, 209);
+        row("end", TextOf({.SystemId = "SYSID1", .DialogId = "DIALOG1", .Number = 2}, {HBCIFactory::End("DIALOG1")}),
+            309, 137);
+        row("start",
+            TextOf({.Function = u"922"_s, .SystemId = "SYSID1"},
+                   {HBCIFactory::Identification(u"12345678"_s, u"testuser"_s, "SYSID1"),
+                    Preparation(u"300"_s, u"78"_s, u"3"_s), HBCIFactory::Tan(6, {.Process = "4", .Segment = "HKIDN"})}),
+            392, 226);
+        row("statement", StatementText(), 378, 206);
+        row("TAN", TextOf(withTan, {HBCIFactory::Tan(6, {.Process = "2", .Reference = reference})}), 342, 170);
+        row("approval", TextOf(second, {HBCIFactory::Tan(7, {.Process = "S", .Reference = reference})}), 335, 163);
     }
     void HasTheRightSize()
     {

@@ -1,5 +1,6 @@
 #include "fints/modBankParameters.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -24,16 +25,15 @@ private Q_SLOTS:
     // Two rows of each version: only with the right number of fields does the second begin in its place. It is short.
     void ReadsProceduresOfAllVersions_data()
     {
-        QTest::addColumn<int>("version");
-        QTest::addColumn<QByteArray>("rows");
+        const cTestRows<int, QByteArray> row("version", "rows");
         const QByteArray end = ":920:2:smsTAN";
-        QTest::newRow("1") << 1 << "0:912:2:HHD:Karte:6:1:Label:3:1:J:J" + end;
-        QTest::newRow("2") << 2 << "912:2:HHD:Karte:6:1:Label:3:1:J:2:0:N:J:J" + end;
-        QTest::newRow("3") << 3 << "912:2:HHD:Karte:6:1:Label:3:1:J:2:0:N:J:J:01:2:5" + end;
-        QTest::newRow("4") << 4 << "912:2:HHD:ZKA:1.4:Karte:6:1:Label:3:1:J:2:0:N:N:J:J:N:01:2:5" + end;
-        QTest::newRow("5") << 5 << "912:2:HHD:ZKA:1.4:Karte:6:1:Label:3:1:J:2:0:N:0:0:J:N:01:2:5" + end;
-        QTest::newRow("6") << 6 << "912:2:HHD:ZKA:1.4:Karte:6:1:Label:3:J:2:N:0:0:J:N:01:2:J:5" + end;
-        QTest::newRow("7") << 7 << "912:2:HHD:ZKA:1.4:Karte:6:1:Label:3:J:2:N:0:0:J:N:01:2:J:5:9:3:2:J:N" + end;
+        row("1", 1, "0:912:2:HHD:Karte:6:1:Label:3:1:J:J" + end);
+        row("2", 2, "912:2:HHD:Karte:6:1:Label:3:1:J:2:0:N:J:J" + end);
+        row("3", 3, "912:2:HHD:Karte:6:1:Label:3:1:J:2:0:N:J:J:01:2:5" + end);
+        row("4", 4, "912:2:HHD:ZKA:1.4:Karte:6:1:Label:3:1:J:2:0:N:N:J:J:N:01:2:5" + end);
+        row("5", 5, "912:2:HHD:ZKA:1.4:Karte:6:1:Label:3:1:J:2:0:N:0:0:J:N:01:2:5" + end);
+        row("6", 6, "912:2:HHD:ZKA:1.4:Karte:6:1:Label:3:J:2:N:0:0:J:N:01:2:J:5" + end);
+        row("7", 7, "912:2:HHD:ZKA:1.4:Karte:6:1:Label:3:J:2:N:0:0:J:N:01:2:J:5:9:3:2:J:N" + end);
     }
     void ReadsProceduresOfAllVersions()
     {

@@ -1,5 +1,6 @@
 #include "fints/cBankScene.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -104,10 +105,7 @@ void testBusinessFetch::JoinsPagesByteByByte()
 
 void testBusinessFetch::OneAccountLeavesTheOthers_data()
 {
-    QTest::addColumn<cBankProfile>("profile");
-    QTest::addColumn<QString>("story");
-    QTest::addColumn<eBankFault>("first");
-    QTest::addColumn<eBankFault>("second");
+    const cTestRows<cBankProfile, QString, eBankFault, eBankFault> row("profile", "story", "first", "second");
     const auto with = [](void (*change)(cBankProfile&)) {
         cBankProfile profile = Profile([](cBankProfile&) {});
         profile.Parameters.removeIf([](const QByteArray& parameter) { return parameter.startsWith("HISALS"); });
@@ -115,25 +113,22 @@ void testBusinessFetch::OneAccountLeavesTheOthers_data()
         change(profile);
         return profile;
     };
-    QTest::newRow("refused") << with([](cBankProfile& bank) { bank.Accounts.first().Refusal = "9210::Nicht heute."; })
-                             << init + u"HKKAZ5 111 | HKKAZ5 222 | end" << eBankFault::Other << eBankFault::None;
-    QTest::newRow("no statements") << with([](cBankProfile& bank) { bank.Accounts.first().Orders = "HKWPD:1"; })
-                                   << init + u"HKKAZ5 222 | end" << eBankFault::NoStatements << eBankFault::None;
-    QTest::newRow("wrong TAN") << with([](cBankProfile& bank) {
-        bank.AskedTans["HKKAZ"] = {.Refusal = "9941::TAN ung."};
-    }) << init + u"HKKAZ5 | TAN? | TAN | HKKAZ5 222 | end"
-                               << eBankFault::TanWrong << eBankFault::None;
-    QTest::newRow("ended by the bank") << with(
-        [](cBankProfile& bank) { bank.Refusals["HKKAZ"] = {.Global = "9800::Ende."}; })
-                                       << init + u"HKKAZ5" << eBankFault::EndedByBank << eBankFault::EndedByBank;
-    QTest::newRow("camt, because the account has nothing else") << with([](cBankProfile& bank) {
-        bank.Parameters.append(
-            "HICAZS:1+1+1+0+90:N:N:urn?:iso?:std?:iso?:20022?:tech?:xsd?:camt.052.001.02:urn?:iso?:std?:iso?:20022?:"
-            "tech?:xsd?:camt.052.001.08");
-        bank.Accounts.first().Orders = "HKCAZ:1";
-        bank.Accounts.first().Camt = {"<Document>1</Document>", "<Document>2</Document>"};
-    }) << init + u"HKCAZ1 111 | HKCAZ1 111 page 2 | HKKAZ5 222 | end"
-                                                                << eBankFault::None << eBankFault::None;
+    row("refused", with([](cBankProfile& bank) { bank.Accounts.first().Refusal = "9210::Nicht heute."; }),
+        init + u"HKKAZ5 111 | HKKAZ5 222 | end", eBankFault::Other, eBankFault::None);
+    row("no statements", with([](cBankProfile& bank) { bank.Accounts.first().Orders = "HKWPD:1"; }),
+        init + u"HKKAZ5 222 | end", eBankFault::NoStatements, eBankFault::None);
+    row("wrong TAN", with([](cBankProfile& bank) { bank.AskedTans["HKKAZ"] = {.Refusal = "9941::TAN ung."}; }),
+        init + u"HKKAZ5 | TAN? | TAN | HKKAZ5 222 | end", eBankFault::TanWrong, eBankFault::None);
+    row("ended by the bank", with([](cBankProfile& bank) { bank.Refusals["HKKAZ"] = {.Global = "9800::Ende."}; }),
+        init + u"HKKAZ5", eBankFault::EndedByBank, eBankFault::EndedByBank);
+    row("camt, because the account has nothing else", with([](cBankProfile& bank) {
+            bank.Parameters.append("HICAZS:1+1+1+0+90:N:N:urn?:iso?:std?:iso?:20022?:tech?:xsd?:camt.052.001.02:urn?:"
+                                   "iso?:std?:iso?:20022?:"
+                                   "tech?:xsd?:camt.052.001.08");
+            bank.Accounts.first().Orders = "HKCAZ:1";
+            bank.Accounts.first().Camt = {"<Document>1</Document>", "<Document>2</Document>"};
+        }),
+        init + u"HKCAZ1 111 | HKCAZ1 111 page 2 | HKKAZ5 222 | end", eBankFault::None, eBankFault::None);
 }
 
 void testBusinessFetch::OneAccountLeavesTheOthers()

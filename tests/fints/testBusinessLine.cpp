@@ -1,6 +1,7 @@
 #include "fints/cBankScene.h"
 #include "fints/HBCIFactory.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -95,9 +96,9 @@ void testBusinessLine::SurvivesAccidents()
 
 void testBusinessLine::ReadsEveryWrapping_data()
 {
-    QTest::addColumn<eSpoil>("how");
-    QTest::newRow("as it is") << eSpoil::Plain;
-    QTest::newRow("in lines") << eSpoil::Lines;
+    const cTestRows<eSpoil> row("how");
+    row("as it is", eSpoil::Plain);
+    row("in lines", eSpoil::Lines);
 }
 
 void testBusinessLine::ReadsEveryWrapping()
@@ -128,17 +129,15 @@ void testBusinessLine::StopsWhereTheUserStops()
 
 void testBusinessLine::StopsWhereTheBankStops_data()
 {
-    QTest::addColumn<QByteArray>("step");
-    QTest::addColumn<int>("nth");
-    QTest::addColumn<eBankFault>("fault");
+    const cTestRows<QByteArray, int, eBankFault> row("step", "nth", "fault");
     const QList<std::pair<QByteArray, int>> steps{{"HKIDN", 1},  {"HKIDN", 2}, {"HKTAN2", 1},
                                                   {"HKTAB", 1},  {"HKIDN", 3}, {"HKKAZ", 1},
                                                   {"HKTAN2", 2}, {"HKSAL", 1}, {"HKKAZ", 2}};
     for (const auto& [step, nth] : steps) {
         QTest::addRow("%s %d", step.constData(), nth) << step << nth << eBankFault::EndedByBank;
     }
-    QTest::newRow("last balance") << QByteArray("HKSAL") << 2 << eBankFault::None;
-    QTest::newRow("end") << QByteArray("HKEND") << 1 << eBankFault::None;
+    row("last balance", "HKSAL", 2, eBankFault::None);
+    row("end", "HKEND", 1, eBankFault::None);
 }
 
 // A dialog that the bank ended hears nothing more, not even its end.
@@ -167,22 +166,20 @@ void testBusinessLine::NamesTheServer()
 // The bank of these tests would be worth nothing if it took everything.
 void testBusinessLine::TheBankNoticesFaults_data()
 {
-    QTest::addColumn<QByteArray>("from");
-    QTest::addColumn<QByteArray>("to");
-    QTest::addColumn<QString>("complaint");
-    QTest::newRow("none") << QByteArray("+0'") << QByteArray("+0'") << QString();
-    QTest::newRow("size") << QByteArray("BK:1:3+0") << QByteArray("BK:1:3+1") << u"size"_s;
-    QTest::newRow("binary length") << QByteArray("HNVSD:999:1+@2") << QByteArray("HNVSD:999:1+@1") << u"frame"_s;
-    QTest::newRow("segment number") << QByteArray("VB:4:") << QByteArray("VB:5:") << u"number of segment HKVVB"_s;
-    QTest::newRow("end number") << QByteArray("HNHBS:7") << QByteArray("HNHBS:8") << u"number of the message end"_s;
-    QTest::newRow("message number") << QByteArray("+0+1'HNVSK") << QByteArray("+0+2'HNVSK") << u"message end"_s;
-    QTest::newRow("dialog ID") << QByteArray("+0+1'HNVSK") << QByteArray("+7+1'HNVSK") << u"a dialog begins"_s;
-    QTest::newRow("system ID") << QByteArray("1::0+1:2") << QByteArray("1::9+1:2") << u"customer system"_s;
-    QTest::newRow("profile") << QByteArray("3+PIN:1") << QByteArray("3+PIN:2") << u"security profile"_s;
-    QTest::newRow("PIN") << QByteArray("++12345'") << QByteArray("++12346'") << u"PIN"_s;
-    QTest::newRow("TAN") << QByteArray("++12345'") << QByteArray("++123:5'") << u"no TAN in"_s;
-    QTest::newRow("version") << QByteArray("VB:4:3") << QByteArray("VB:4:2") << u"preparation"_s;
-    QTest::newRow("empty end") << QByteArray(":S:0:0'") << QByteArray(":S:0:+'") << u"no empty elements"_s;
+    const cTestRows<QByteArray, QByteArray, QString> row("from", "to", "complaint");
+    row("none", "+0'", "+0'", {});
+    row("size", "BK:1:3+0", "BK:1:3+1", u"size"_s);
+    row("binary length", "HNVSD:999:1+@2", "HNVSD:999:1+@1", u"frame"_s);
+    row("segment number", "VB:4:", "VB:5:", u"number of segment HKVVB"_s);
+    row("end number", "HNHBS:7", "HNHBS:8", u"number of the message end"_s);
+    row("message number", "+0+1'HNVSK", "+0+2'HNVSK", u"message end"_s);
+    row("dialog ID", "+0+1'HNVSK", "+7+1'HNVSK", u"a dialog begins"_s);
+    row("system ID", "1::0+1:2", "1::9+1:2", u"customer system"_s);
+    row("profile", "3+PIN:1", "3+PIN:2", u"security profile"_s);
+    row("PIN", "++12345'", "++12346'", u"PIN"_s);
+    row("TAN", "++12345'", "++123:5'", u"no TAN in"_s);
+    row("version", "VB:4:3", "VB:4:2", u"preparation"_s);
+    row("empty end", ":S:0:0'", ":S:0:+'", u"no empty elements"_s);
 }
 
 void testBusinessLine::TheBankNoticesFaults()

@@ -1,5 +1,6 @@
 #include "fints/cBankScene.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -120,52 +121,45 @@ void testBusinessSetUp::FindsAccounts()
 
 void testBusinessSetUp::SaysWhatIsWrong_data()
 {
-    QTest::addColumn<cBankProfile>("profile");
-    QTest::addColumn<eBankFault>("fault");
-    QTest::addColumn<QString>("text"); // with which ErrorText begins
-    QTest::addColumn<QString>("story");
+    // text: with which ErrorText begins
+    const cTestRows<cBankProfile, eBankFault, QString, QString> row("profile", "fault", "text", "story");
     const QString pin = u"Sie haben die falsche PIN eingegeben. Häufige Fehleingaben können zur Sperrung von Ihrem "
                         "Account führen."_s;
     const QString sync = u"sync 999 0/0"_s;
     for (const QByteArray code : {"9942", "9931", "9340", "9910", "9930", "9933"}) {
-        QTest::newRow(code.constData()) << Refusing("HKIDN", 1, code + "::Nein.") << eBankFault::WrongPin << pin
-                                        << sync;
+        row(code.constData(), Refusing("HKIDN", 1, code + "::Nein."), eBankFault::WrongPin, pin, sync);
     }
-    QTest::newRow("wrong PIN by words") << Refusing("HKIDN", 1, u"9210::Die PIN ist ungültig."_s.toLatin1())
-                                        << eBankFault::WrongPin << pin << sync;
-    QTest::newRow("wrong PIN after the first dialog")
-        << Refusing("HKIDN", 2, "9942::PIN falsch.") << eBankFault::WrongPin << pin << syncEnd + u"init 912 78/0 HKIDN";
-    QTest::newRow("locked") << Refusing("HKIDN", 1, "3938::Zugang gesperrt.", "9800::Ende.") << eBankFault::Locked
-                            << u"9800"_s << sync;
-    QTest::newRow("locked, with a challenge") << Profile([](cBankProfile& bank) {
-        bank.AskedTans["HKIDN"] = {};
-        bank.Refusals["HKIDN"] = {
-            .Nth = 2, .Global = "0020::Gut.", .Local = "3931::Sperre liegt vor.", .Extra = "HITAN:6+4++12+TAN bitte"};
-    }) << eBankFault::Locked << u"3931"_s << syncEnd + u"init 912 78/0 HKIDN";
+    row("wrong PIN by words", Refusing("HKIDN", 1, u"9210::Die PIN ist ungültig."_s.toLatin1()), eBankFault::WrongPin,
+        pin, sync);
+    row("wrong PIN after the first dialog", Refusing("HKIDN", 2, "9942::PIN falsch."), eBankFault::WrongPin, pin,
+        syncEnd + u"init 912 78/0 HKIDN");
+    row("locked", Refusing("HKIDN", 1, "3938::Zugang gesperrt.", "9800::Ende."), eBankFault::Locked, u"9800"_s, sync);
+    row("locked, with a challenge", Profile([](cBankProfile& bank) {
+            bank.AskedTans["HKIDN"] = {};
+            bank.Refusals["HKIDN"] = {.Nth = 2,
+                                      .Global = "0020::Gut.",
+                                      .Local = "3931::Sperre liegt vor.",
+                                      .Extra = "HITAN:6+4++12+TAN bitte"};
+        }),
+        eBankFault::Locked, u"3931"_s, syncEnd + u"init 912 78/0 HKIDN");
     for (const QByteArray code : {"3078", "3079", "9078", "9952", "9160", "9400"}) {
-        QTest::newRow(code.constData()) << Refusing("HKIDN", 1, code + "::Produkt.") << eBankFault::Registration
-                                        << u"9050"_s << u"sync 999 0/0 | end"_s;
+        row(code.constData(), Refusing("HKIDN", 1, code + "::Produkt."), eBankFault::Registration, u"9050"_s,
+            u"sync 999 0/0 | end"_s);
     }
-    QTest::newRow("login") << Refusing("HKIDN", 1, "9010::Benutzerkennung unbekannt.") << eBankFault::LoginRefused
-                           << u"9050 Fehler.\r\n9010 Benutzerkennung"_s << u"sync 999 0/0 | end"_s;
-    QTest::newRow("neither accounts nor procedures")
-        << Profile([](cBankProfile& bank) { bank.IsListed = false; }) << eBankFault::NoAccounts
-        << u"Die Kontodaten konnten nicht abgerufen werden."_s << u"sync 999 0/0 | end"_s;
-    QTest::newRow("old procedures only") << Profile([](cBankProfile& bank) { bank.Methods.first().Version = 5; })
-                                         << eBankFault::NoMethod
-                                         << u"Kein unterstütztes TAN-Verfahren gefunden.\r\n3060"_s
-                                         << u"sync 999 0/0 | end"_s;
-    QTest::newRow("procedures of others")
-        << Profile([](cBankProfile& bank) { bank.Functions = "944"; }) << eBankFault::NoMethod
-        << u"Kein unterstütztes TAN-Verfahren gefunden.\r\n3060"_s << u"sync 999 0/0 | end"_s;
-    QTest::newRow("ended in the synchronisation")
-        << Refusing("HKSYN", 1, {}, "9800::Ende.") << eBankFault::EndedByBank << u"9800 Ende."_s << sync;
-    QTest::newRow("ended in the initialisation")
-        << Refusing("HKIDN", 2, {}, "9800::Ende.") << eBankFault::EndedByBank
-        << u"Die Kontodaten konnten nicht ermittelt werden.\n"_s << syncEnd + u"init 912 78/0 HKIDN";
-    QTest::newRow("ended in the list of media")
-        << Refusing("HKTAB", 1, {}, "9800::Ende.") << eBankFault::EndedByBank
-        << u"Die Kontodaten konnten nicht ermittelt werden.\n"_s << syncEnd + u"init 912 78/0 HKIDN | HKTAB4";
+    row("login", Refusing("HKIDN", 1, "9010::Benutzerkennung unbekannt."), eBankFault::LoginRefused,
+        u"9050 Fehler.\r\n9010 Benutzerkennung"_s, u"sync 999 0/0 | end"_s);
+    row("neither accounts nor procedures", Profile([](cBankProfile& bank) { bank.IsListed = false; }),
+        eBankFault::NoAccounts, u"Die Kontodaten konnten nicht abgerufen werden."_s, u"sync 999 0/0 | end"_s);
+    row("old procedures only", Profile([](cBankProfile& bank) { bank.Methods.first().Version = 5; }),
+        eBankFault::NoMethod, u"Kein unterstütztes TAN-Verfahren gefunden.\r\n3060"_s, u"sync 999 0/0 | end"_s);
+    row("procedures of others", Profile([](cBankProfile& bank) { bank.Functions = "944"; }), eBankFault::NoMethod,
+        u"Kein unterstütztes TAN-Verfahren gefunden.\r\n3060"_s, u"sync 999 0/0 | end"_s);
+    row("ended in the synchronisation", Refusing("HKSYN", 1, {}, "9800::Ende."), eBankFault::EndedByBank,
+        u"9800 Ende."_s, sync);
+    row("ended in the initialisation", Refusing("HKIDN", 2, {}, "9800::Ende."), eBankFault::EndedByBank,
+        u"Die Kontodaten konnten nicht ermittelt werden.\n"_s, syncEnd + u"init 912 78/0 HKIDN");
+    row("ended in the list of media", Refusing("HKTAB", 1, {}, "9800::Ende."), eBankFault::EndedByBank,
+        u"Die Kontodaten konnten nicht ermittelt werden.\n"_s, syncEnd + u"init 912 78/0 HKIDN | HKTAB4");
 }
 
 void testBusinessSetUp::SaysWhatIsWrong()

@@ -1,5 +1,6 @@
 #include "fints/cBankScene.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -36,17 +37,13 @@ private Q_SLOTS:
 
 void testBusinessTan::AsksForApproval_data()
 {
-    QTest::addColumn<cBankProfile>("profile");
-    QTest::addColumn<QString>("story");
-    QTest::newRow("at once") << WithMethod(cBankScene::App("0:0:0:J:J"), cBankScene::Approval(0))
-                             << u"wait 0 | status 111 | done"_s;
-    QTest::newRow("after the waits of the bank")
-        << WithMethod(cBankScene::App("3:10:4:J:J"), cBankScene::Approval(2))
-        << u"wait 10 | status | wait 4 | status | wait 4 | status 111 | done"_s;
+    const cTestRows<cBankProfile, QString> row("profile", "story");
+    row("at once", WithMethod(cBankScene::App("0:0:0:J:J"), cBankScene::Approval(0)), u"wait 0 | status 111 | done"_s);
+    row("after the waits of the bank", WithMethod(cBankScene::App("3:10:4:J:J"), cBankScene::Approval(2)),
+        u"wait 10 | status | wait 4 | status | wait 4 | status 111 | done"_s);
     cAskedTan received = cBankScene::Approval(0);
     received.Code = "0030::Auftrag empfangen.";
-    QTest::newRow("with the code of a TAN")
-        << WithMethod(cBankScene::App("0:0:0:J:J"), received) << u"wait 0 | status 111 | done"_s;
+    row("with the code of a TAN", WithMethod(cBankScene::App("0:0:0:J:J"), received), u"wait 0 | status 111 | done"_s);
 }
 
 void testBusinessTan::AsksForApproval()
@@ -64,21 +61,16 @@ void testBusinessTan::AsksForApproval()
 
 void testBusinessTan::EndsWithoutApproval_data()
 {
-    QTest::addColumn<cBankProfile>("profile");
-    QTest::addColumn<int>("cancelsWait");
-    QTest::addColumn<eBankFault>("fault");
-    QTest::addColumn<QString>("story");
-    QTest::newRow("as often as the bank allows")
-        << WithMethod(cBankScene::App("2:5:2:J:J"), cBankScene::Approval(-1)) << 0 << eBankFault::ApprovalMissing
-        << u"wait 5 | status | wait 2 | status | done | end"_s;
-    QTest::newRow("rejected") << WithMethod(cBankScene::App("0:0:0:J:J"), cBankScene::Approval(1, "9941::Abgelehnt."))
-                              << 0 << eBankFault::ApprovalRejected
-                              << u"wait 0 | status | wait 0 | status | done | end"_s;
-    QTest::newRow("something else is wrong")
-        << WithMethod(cBankScene::App("0:0:0:J:J"), cBankScene::Approval(0, "9210::Konto gesperrt.")) << 0
-        << eBankFault::Other << u"wait 0 | status | done | end"_s;
-    QTest::newRow("cancelled") << WithMethod(cBankScene::App("0:0:1:J:J"), cBankScene::Approval(-1)) << 2
-                               << eBankFault::Cancelled << u"wait 0 | status | wait 1 | done | end"_s;
+    const cTestRows<cBankProfile, int, eBankFault, QString> row("profile", "cancelsWait", "fault", "story");
+    row("as often as the bank allows", WithMethod(cBankScene::App("2:5:2:J:J"), cBankScene::Approval(-1)), 0,
+        eBankFault::ApprovalMissing, u"wait 5 | status | wait 2 | status | done | end"_s);
+    row("rejected", WithMethod(cBankScene::App("0:0:0:J:J"), cBankScene::Approval(1, "9941::Abgelehnt.")), 0,
+        eBankFault::ApprovalRejected, u"wait 0 | status | wait 0 | status | done | end"_s);
+    row("something else is wrong",
+        WithMethod(cBankScene::App("0:0:0:J:J"), cBankScene::Approval(0, "9210::Konto gesperrt.")), 0,
+        eBankFault::Other, u"wait 0 | status | done | end"_s);
+    row("cancelled", WithMethod(cBankScene::App("0:0:1:J:J"), cBankScene::Approval(-1)), 2, eBankFault::Cancelled,
+        u"wait 0 | status | wait 1 | done | end"_s);
 }
 
 void testBusinessTan::EndsWithoutApproval()
@@ -98,23 +90,21 @@ void testBusinessTan::EndsWithoutApproval()
 
 void testBusinessTan::AsksForATan_data()
 {
-    QTest::addColumn<cOfferedMethod>("method");
-    QTest::addColumn<cAskedTan>("tan");
-    QTest::addColumn<bool>("isAsked");
-    QTest::addColumn<eTanDisplay>("display");
+    const cTestRows<cOfferedMethod, cAskedTan, bool, eTanDisplay> row("method", "tan", "isAsked", "display");
     const cOfferedMethod sms{.Function = "912"};
-    QTest::newRow("typed") << sms << cAskedTan{} << true << eTanDisplay::Text;
-    QTest::newRow("picture") << cOfferedMethod{.Function = "913", .Technical = "MS1.0.0", .Name = "photoTAN"}
-                             << cAskedTan{.HhdUc = QByteArray("\0\11image/png\0\14\211PNG+'@5@\r\n\032\n", 25),
-                                          }
-                             << true << eTanDisplay::Picture;
-    QTest::newRow("flicker code") << cOfferedMethod{.Function = "914", .Technical = "HHD1.4OPT", .Name = "chipTAN"}
-                                  << cAskedTan{.HhdUc = "0248A0120452019980812345678",
-                                               }
-                                  << true << eTanDisplay::Flicker;
-    QTest::newRow("no challenge") << sms << cAskedTan{.Challenge = "nochallenge"} << false << eTanDisplay::Text;
-    QTest::newRow("not required") << sms << cAskedTan{.Code = "3076::Nicht erforderlich."} << false
-                                  << eTanDisplay::Text;
+    row("typed", sms, cAskedTan{}, true, eTanDisplay::Text);
+    row("picture", cOfferedMethod{.Function = "913", .Technical = "MS1.0.0", .Name = "photoTAN"},
+        cAskedTan{
+            .HhdUc = QByteArray("\0\11image/png\0\14\211PNG+'@5@\r\n\032\n", 25),
+        },
+        true, eTanDisplay::Picture);
+    row("flicker code", cOfferedMethod{.Function = "914", .Technical = "HHD1.4OPT", .Name = "chipTAN"},
+        cAskedTan{
+            .HhdUc = "0248A0120452019980812345678",
+        },
+        true, eTanDisplay::Flicker);
+    row("no challenge", sms, cAskedTan{.Challenge = "nochallenge"}, false, eTanDisplay::Text);
+    row("not required", sms, cAskedTan{.Code = "3076::Nicht erforderlich."}, false, eTanDisplay::Text);
 }
 
 void testBusinessTan::AsksForATan()

@@ -1,6 +1,7 @@
 #include "fints/cBankAnswer.h"
 #include "fints/modChallenge.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -51,16 +52,14 @@ private Q_SLOTS:
 
 void testChallenge::ShowsTheWordsOfTheBank_data()
 {
-    QTest::addColumn<QString>("challenge");
-    QTest::addColumn<QString>("shown");
-
-    QTest::newRow("lines and marks") << u"<b>Umsatzabfrage</b><br>Konto <i>4711</i><br/>Bitte TAN eingeben"_s
-                                     << u"Umsatzabfrage\r\nKonto 4711\r\nBitte TAN eingeben"_s;
-    QTest::newRow("capitals") << u"Eins<BR>zwei"_s << u"Eins\r\nzwei"_s;
-    QTest::newRow("everything else stays") << u"a < b & <u>c</u> &lt;br&gt;"_s << u"a < b & <u>c</u> &lt;br&gt;"_s;
-    QTest::newRow("in parts") << u"CHLGUC  002624088715131306389726041,00CHLGTEXT0021Kontoabfrage<br>Start"_s
-                              << u"Kontoabfrage\r\nStart"_s;
-    QTest::newRow("a code without words behind it") << u"TAN bitte: CHLGUC  0004abcd Danke"_s << u"TAN bitte:  Danke"_s;
+    const cTestRows<QString, QString> row("challenge", "shown");
+    row("lines and marks", u"<b>Umsatzabfrage</b><br>Konto <i>4711</i><br/>Bitte TAN eingeben"_s,
+        u"Umsatzabfrage\r\nKonto 4711\r\nBitte TAN eingeben"_s);
+    row("capitals", u"Eins<BR>zwei"_s, u"Eins\r\nzwei"_s);
+    row("everything else stays", u"a < b & <u>c</u> &lt;br&gt;"_s, u"a < b & <u>c</u> &lt;br&gt;"_s);
+    row("in parts", u"CHLGUC  002624088715131306389726041,00CHLGTEXT0021Kontoabfrage<br>Start"_s,
+        u"Kontoabfrage\r\nStart"_s);
+    row("a code without words behind it", u"TAN bitte: CHLGUC  0004abcd Danke"_s, u"TAN bitte:  Danke"_s);
 }
 
 void testChallenge::ShowsTheWordsOfTheBank()
@@ -128,25 +127,20 @@ void testChallenge::CodeInTheTextFlickers()
 
 void testChallenge::PictureComesWithItsType_data()
 {
-    QTest::addColumn<QByteArray>("data");
-    QTest::addColumn<QByteArray>("file");
-    QTest::addColumn<QString>("type");
-
+    const cTestRows<QByteArray, QByteArray, QString> row("data", "file", "type");
     const QByteArray png("\x89PNG\r\n\x1a\n", 8);
-    QTest::newRow("framed") << picture << png << u"image/png"_s;
-    QTest::newRow("five bytes") << QByteArray("\x00\x09image/png\x00\x05"
-                                              "abcde",
-                                              18)
-                                << QByteArray("abcde") << u"image/png"_s;
-    QTest::newRow("a wrong length") << QByteArray("\x00\x09image/png\x00\x01\x89PNG\r\n\x1a\n", 21) << png
-                                    << u"image/png"_s;
-    QTest::newRow("a wrong type") << QByteArray("\x00\x09image/png\x00\x06GIF89a", 19) << QByteArray("GIF89a")
-                                  << u"image/gif"_s;
-    QTest::newRow("the file alone") << QByteArray("\xff\xd8\xff\xe0", 4) << QByteArray("\xff\xd8\xff\xe0", 4)
-                                    << u"image/jpeg"_s;
-    QTest::newRow("no picture") << QByteArray("\x00\x09text/html\x00\x02<a", 15) << QByteArray() << QString();
-    QTest::newRow("cut in its type") << QByteArray("\x00\x09image/p", 9) << QByteArray() << QString();
-    QTest::newRow("cut in its length") << QByteArray("\x00\x09image/png\x00", 12) << QByteArray() << QString();
+    row("framed", picture, png, u"image/png"_s);
+    row("five bytes",
+        QByteArray("\x00\x09image/png\x00\x05"
+                   "abcde",
+                   18),
+        "abcde", u"image/png"_s);
+    row("a wrong length", QByteArray("\x00\x09image/png\x00\x01\x89PNG\r\n\x1a\n", 21), png, u"image/png"_s);
+    row("a wrong type", QByteArray("\x00\x09image/png\x00\x06GIF89a", 19), "GIF89a", u"image/gif"_s);
+    row("the file alone", QByteArray("\xff\xd8\xff\xe0", 4), QByteArray("\xff\xd8\xff\xe0", 4), u"image/jpeg"_s);
+    row("no picture", QByteArray("\x00\x09text/html\x00\x02<a", 15), {}, {});
+    row("cut in its type", QByteArray("\x00\x09image/p", 9), {}, {});
+    row("cut in its length", QByteArray("\x00\x09image/png\x00", 12), {}, {});
 }
 
 void testChallenge::PictureComesWithItsType()

@@ -2,6 +2,7 @@
 #include "fints/modFintsSplit.h"
 #include "fints/modFintsValue.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -27,12 +28,7 @@ class testFintsSplit : public QObject
 private Q_SLOTS:
     void Splits_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<char>("separator");
-        QTest::addColumn<QList<QByteArray>>("tokens");
-        const auto row = [](const char* name, const QByteArray& text, char separator, const QList<QByteArray>& tokens) {
-            QTest::newRow(name) << text << separator << tokens;
-        };
+        const cTestRows<QByteArray, char, QList<QByteArray>> row("text", "separator", "tokens");
         row("no text is one token", "", '+', {""});
         row("no token behind the last end", "HNHBK:1:3+000000000123+300+0+1'", '\'',
             {"HNHBK:1:3+000000000123+300+0+1"});
@@ -64,12 +60,11 @@ private Q_SLOTS:
 
     void CutsGroupsExactly_data()
     {
-        QTest::addColumn<QByteArray>("element");
-        QTest::addColumn<QList<QByteArray>>("parts");
-        QTest::newRow("two escape characters") << QByteArray("A??:B") << QList<QByteArray>{"A??", "B"};
-        QTest::newRow("three") << QByteArray("A???:B:C?:") << QList<QByteArray>{"A???:B", "C?:"};
-        QTest::newRow("binaries") << QByteArray("@3@a:b:@2@'+:x") << QList<QByteArray>{"@3@a:b", "@2@'+", "x"};
-        QTest::newRow("an at sign of a text") << QByteArray("a@3@b:c") << QList<QByteArray>{"a@3@b", "c"};
+        const cTestRows<QByteArray, QList<QByteArray>> row("element", "parts");
+        row("two escape characters", "A??:B", {"A??", "B"});
+        row("three", "A???:B:C?:", {"A???:B", "C?:"});
+        row("binaries", "@3@a:b:@2@'+:x", {"@3@a:b", "@2@'+", "x"});
+        row("an at sign of a text", "a@3@b:c", {"a@3@b", "c"});
     }
     void CutsGroupsExactly()
     {
@@ -112,13 +107,12 @@ private Q_SLOTS:
 
     void SeesWhatIsCutOff_data()
     {
-        QTest::addColumn<QByteArray>("message");
-        QTest::addColumn<bool>("isCut");
-        QTest::newRow("whole") << QByteArray("A+@3@abc'") << false;
-        QTest::newRow("cut") << QByteArray("A+@5@abc'") << true;
-        QTest::newRow("longer than the container") << QByteArray("HNVSD:1:1+@9@A:1+@5@bc'D'") << true;
-        QTest::newRow("length beyond all numbers") << QByteArray("A+@99999999999999999999@'B'") << true;
-        QTest::newRow("no length") << QByteArray("A+@b@'") << false;
+        const cTestRows<QByteArray, bool> row("message", "isCut");
+        row("whole", "A+@3@abc'", false);
+        row("cut", "A+@5@abc'", true);
+        row("longer than the container", "HNVSD:1:1+@9@A:1+@5@bc'D'", true);
+        row("length beyond all numbers", "A+@99999999999999999999@'B'", true);
+        row("no length", "A+@b@'", false);
     }
     void SeesWhatIsCutOff()
     {

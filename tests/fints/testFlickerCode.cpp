@@ -1,5 +1,6 @@
 #include "fints/modFlickerCode.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -21,32 +22,24 @@ private Q_SLOTS:
 // every second digit counted double; its lower half is the exclusive or of all half bytes before.
 void testFlickerCode::BecomesTheBytesOfTheGenerator_data()
 {
-    QTest::addColumn<QByteArray>("sent");
-    QTest::addColumn<eHhd>("version");
-    QTest::addColumn<QByteArray>("complete");
-    QTest::addColumn<QString>("typed");
-
-    QTest::newRow("1.4, a control byte and a number")
-        << QByteArray("0248A0120452019980812345678") << eHhd::V14 << QByteArray("0D85012045201998041234567855")
-        << u"2045201998 12345678"_s;
-    QTest::newRow("1.4, an odd start code, three elements, an amount as text")
-        << QByteArray("039870110490631098765432100812345678041,00") << eHhd::V14
-        << QByteArray("1784011049063F059876543210041234567844312C303019") << u"1049063 9876543210 12345678 1,00"_s;
+    const cTestRows<QByteArray, eHhd, QByteArray, QString> row("sent", "version", "complete", "typed");
+    row("1.4, a control byte and a number", "0248A0120452019980812345678", eHhd::V14, "0D85012045201998041234567855",
+        u"2045201998 12345678"_s);
+    row("1.4, an odd start code, three elements, an amount as text", "039870110490631098765432100812345678041,00",
+        eHhd::V14, "1784011049063F059876543210041234567844312C303019", u"1049063 9876543210 12345678 1,00"_s);
     // 10 + 2 + 6 + 8 + 5 + 7 is 38, two less than 40
-    QTest::newRow("1.4, two control bytes, texts by their flags")
-        << QByteArray("012C28101AB6612") << eHhd::V14 << QByteArray("09C28101414242313229") << u"AB 12"_s;
-    QTest::newRow("1.4, line end behind it") << QByteArray("0248A0120452019980812345678\r\n") << eHhd::V14
-                                             << QByteArray("0D85012045201998041234567855") << u"2045201998 12345678"_s;
+    row("1.4, two control bytes, texts by their flags", "012C28101AB6612", eHhd::V14, "09C28101414242313229",
+        u"AB 12"_s);
+    row("1.4, line end behind it", "0248A0120452019980812345678\r\n", eHhd::V14, "0D85012045201998041234567855",
+        u"2045201998 12345678"_s);
     // 13 + 2 + 7 + 7 + 10 + 14 + 5 + 5 + 8 + 3 + 3 is 77, three less than 80
-    QTest::newRow("1.3, an amount as text")
-        << QByteArray("24088715131306389726041,00") << eHhd::V13 << QByteArray("0F04871513130338972614312C30303B")
-        << u"87151313 389726 1,00"_s;
+    row("1.3, an amount as text", "24088715131306389726041,00", eHhd::V13, "0F04871513130338972614312C30303B",
+        u"87151313 389726 1,00"_s);
     // 12 + 5 + 11 + 8 + 10 is 46, four less than 50
-    QTest::newRow("1.3, a number with an odd number of digits")
-        << QByteArray("130277071234567") << eHhd::V13 << QByteArray("080177041234567F42") << u"77 1234567"_s;
+    row("1.3, a number with an odd number of digits", "130277071234567", eHhd::V13, "080177041234567F42",
+        u"77 1234567"_s);
     // 12 + 5 is 17, three less than 20
-    QTest::newRow("1.3, an empty element keeps its place")
-        << QByteArray("100277000212") << eHhd::V13 << QByteArray("06017700011235") << u"77  12"_s;
+    row("1.3, an empty element keeps its place", "100277000212", eHhd::V13, "06017700011235", u"77  12"_s);
 }
 
 void testFlickerCode::BecomesTheBytesOfTheGenerator()

@@ -2,6 +2,7 @@
 #include "import/read/modAccountNumber.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -14,20 +15,17 @@ class testAccountMap : public QObject
 private Q_SLOTS:
     void SameAccount_data()
     {
-        QTest::addColumn<QString>("number");
-        QTest::addColumn<QString>("bankCode");
-        QTest::addColumn<QString>("other");
-        QTest::addColumn<bool>("isSame");
+        const cTestRows<QString, QString, QString, bool> row("number", "bankCode", "other", "isSame");
         const QString iban = u"DE81100200300001234567"_s;
-        QTest::newRow("blanks and case") << u"de81 1002 0030 0001 2345 67"_s << QString() << iban << true;
-        QTest::newRow("leading zeros") << u"0001234567"_s << QString() << u"1234567"_s << true;
-        QTest::newRow("IBAN and number") << iban << QString() << u"1234567"_s << true;
-        QTest::newRow("number and IBAN, bank known") << u"1234567"_s << u"10020030"_s << iban << true;
-        QTest::newRow("number of another bank") << u"1234567"_s << u"99920030"_s << iban << false;
-        QTest::newRow("BIC says nothing") << u"1234567"_s << u"HOHEDE01XXX"_s << iban << true;
-        QTest::newRow("foreign IBAN") << u"CH8110020030000123456"_s << QString() << u"1234567"_s << false;
-        QTest::newRow("zeros are no account") << u"0000"_s << QString() << u"DE81100200300000000000"_s << false;
-        QTest::newRow("other number") << u"1234568"_s << QString() << iban << false;
+        row("blanks and case", u"de81 1002 0030 0001 2345 67"_s, {}, iban, true);
+        row("leading zeros", u"0001234567"_s, {}, u"1234567"_s, true);
+        row("IBAN and number", iban, {}, u"1234567"_s, true);
+        row("number and IBAN, bank known", u"1234567"_s, u"10020030"_s, iban, true);
+        row("number of another bank", u"1234567"_s, u"99920030"_s, iban, false);
+        row("BIC says nothing", u"1234567"_s, u"HOHEDE01XXX"_s, iban, true);
+        row("foreign IBAN", u"CH8110020030000123456"_s, {}, u"1234567"_s, false);
+        row("zeros are no account", u"0000"_s, {}, u"DE81100200300000000000"_s, false);
+        row("other number", u"1234568"_s, {}, iban, false);
     }
 
     void SameAccount()
@@ -58,26 +56,20 @@ private Q_SLOTS:
 
     void ProposesWhatSpeaksForOne_data()
     {
-        QTest::addColumn<QString>("number");
-        QTest::addColumn<QString>("rows"); // "day amount name purpose", all of March 2026
-        QTest::addColumn<QString>("balance");
-        QTest::addColumn<QString>("account");
+        // rows: "day amount name purpose", all of March 2026
+        const cTestRows<QString, QString, QString, QString> row("number", "rows", "balance", "account");
         const QString iban = u"DE02100200300001234567"_s;
-        QTest::newRow("nothing") << iban << u"3 -500 A"_s << QString() << QString();
-        QTest::newRow("many payees") << iban << u"3 -500 A;4 -600 B;5 -700 C;6 900 D"_s << QString() << u"Girokonto"_s;
-        QTest::newRow("entries made by hand") << iban << u"9 -1000 A;13 -2000 A"_s << QString() << u"Sparkonto"_s;
-        QTest::newRow("one equal amount is chance") << iban << u"9 -1000 A"_s << QString() << QString();
-        QTest::newRow("balance") << iban << u"20 -1 A"_s << u"2026-03-15=-3000"_s << u"Sparkonto"_s;
-        QTest::newRow("start balance of a later day")
-            << iban << u"20 -1 A"_s << u"2026-03-15=70000"_s << u"Girokonto"_s;
-        QTest::newRow("many payees, and the only one is called like the bank")
-            << iban << u"3 -500 A;4 -600 B;5 -700 C;6 900 D"_s << QString() << u"Volksbank"_s;
-        QTest::newRow("many purposes") << iban << u"3 -500  Miete;4 -600  Strom;5 -700  Einkauf;6 900  Lohn"_s
-                                       << QString() << u"Girokonto"_s;
-        QTest::newRow("one purpose of many months")
-            << iban << u"3 5  Zins1;4 6  Zins2;5 7  Zins3;6 9  Zins4"_s << QString() << QString();
-        QTest::newRow("a card is no current account")
-            << u"4711XXXXXXXX1234"_s << u"3 -500 A;4 -600 B;5 -700 C;6 900 D"_s << QString() << QString();
+        row("nothing", iban, u"3 -500 A"_s, {}, {});
+        row("many payees", iban, u"3 -500 A;4 -600 B;5 -700 C;6 900 D"_s, {}, u"Girokonto"_s);
+        row("entries made by hand", iban, u"9 -1000 A;13 -2000 A"_s, {}, u"Sparkonto"_s);
+        row("one equal amount is chance", iban, u"9 -1000 A"_s, {}, {});
+        row("balance", iban, u"20 -1 A"_s, u"2026-03-15=-3000"_s, u"Sparkonto"_s);
+        row("start balance of a later day", iban, u"20 -1 A"_s, u"2026-03-15=70000"_s, u"Girokonto"_s);
+        row("many payees, and the only one is called like the bank", iban, u"3 -500 A;4 -600 B;5 -700 C;6 900 D"_s, {},
+            u"Volksbank"_s);
+        row("many purposes", iban, u"3 -500  Miete;4 -600  Strom;5 -700  Einkauf;6 900  Lohn"_s, {}, u"Girokonto"_s);
+        row("one purpose of many months", iban, u"3 5  Zins1;4 6  Zins2;5 7  Zins3;6 9  Zins4"_s, {}, {});
+        row("a card is no current account", u"4711XXXXXXXX1234"_s, u"3 -500 A;4 -600 B;5 -700 C;6 900 D"_s, {}, {});
     }
 
     void ProposesWhatSpeaksForOne()

@@ -3,10 +3,10 @@
 #include "import/propose/cBooking.h"
 #include "import/propose/cProposer.h"
 #include "import/propose/modCorrected.h"
-#include "import/stage/cStatementImport.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -14,21 +14,12 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct cBank : cImportBook
+struct cBank : cBankBook
 {
-    cBank() { IsReady = Accounts.Assign(u"111"_s, u"Girokonto"_s) && Accounts.Assign(u"222"_s, u"Sparkonto"_s); }
-
     int Stage(QDate date, double value, const QString& name, const QString& account = {}, const QString& own = u"111"_s,
               const QString& purpose = u"zu  Nr. 1"_s)
     {
-        cImportEntry row;
-        row.ImportAccount = own;
-        row.ImportDate = date;
-        row.ImportValue = modAmount::ToCents(value);
-        row.ImportBeneficiary = name;
-        row.ImportBeneficiaryAccount = account;
-        row.ImportPurpose = purpose;
-        return cStaging(Hive).StageImportEntry(row, eDuplicateTest::Skip) == eStaged::Staged ? row.ID : 0;
+        return cBankBook::Stage(BankRow(own, date, modAmount::ToCents(value), name, purpose, account));
     }
 
     cProposal Propose(int row) { return Booking.Propose({row}).value(row); }
@@ -37,11 +28,6 @@ struct cBank : cImportBook
     {
         cNoProgress progress;
         return Booking.Book(rows, Booking.Propose(rows), progress);
-    }
-
-    int EntryOf(int row)
-    {
-        return Hive.GetImportHive().GetImportEntryByID(row).value_or(cImportEntry()).ImportAssignedEntry;
     }
 
     // Books a row under a category of the user's own.
@@ -54,7 +40,6 @@ struct cBank : cImportBook
     }
 
     cBooking Booking{Data, Hive, Accounts};
-    bool IsReady = false;
 };
 
 const QDate day(2026, 1, 10);
@@ -69,7 +54,6 @@ private Q_SLOTS:
     void ProposesByRule()
     {
         cBank bank;
-        QVERIFY(bank.IsReady);
         const cProposal proposal = bank.Propose(bank.Stage(day, -23.1, u"REWE  Markt"_s));
         QCOMPARE(proposal.Entry.EntryDate, day);
         QCOMPARE(proposal.Entry.EntryDateEnd, modRecurrence::OpenEnd);
@@ -210,11 +194,10 @@ private Q_SLOTS:
 
     void CashBeforeTheStartTeachesNothing_data()
     {
-        QTest::addColumn<bool>("isOldFirst");
-        QTest::addColumn<double>("value");
-        QTest::newRow("the old month first") << true << -200.0;
-        QTest::newRow("the new month first") << false << -200.0;
-        QTest::newRow("abroad") << true << -53.17;
+        const cTestRows<bool, double> row("isOldFirst", "value");
+        row("the old month first", true, -200.0);
+        row("the new month first", false, -200.0);
+        row("abroad", true, -53.17);
     }
 
     // Two months beside the day on which the notes were counted, one booked and then the other: no notes are in the
@@ -316,19 +299,17 @@ private Q_SLOTS:
 
     void KeywordsAloneMakeNoSeries_data()
     {
-        QTest::addColumn<QList<int>>("same"); // days after the row on which the payee is paid again
-        QTest::addColumn<QList<int>>("others");
-        QTest::addColumn<QList<int>>("back"); // on which the amount goes the other way
-        QTest::addColumn<QString>("interval");
-        QTest::newRow("the only row") << QList<int>{} << QList<int>{} << QList<int>{} << u"Monatlich"_s;
-        QTest::newRow("a month later again") << QList<int>{33} << QList<int>{90} << QList<int>{} << u"Monatlich"_s;
-        QTest::newRow("a month before") << QList<int>{-31} << QList<int>{90} << QList<int>{} << u"Monatlich"_s;
-        QTest::newRow("never again") << QList<int>{} << QList<int>{20, 60} << QList<int>{} << u"Einmalig"_s;
-        QTest::newRow("not to be known yet") << QList<int>{} << QList<int>{20, 40} << QList<int>{} << u"Monatlich"_s;
-        QTest::newRow("every week or so") << QList<int>{8, 30} << QList<int>{} << QList<int>{} << u"Einmalig"_s;
-        QTest::newRow("returned") << QList<int>{31} << QList<int>{} << QList<int>{10} << u"Einmalig"_s;
-        QTest::newRow("paid once more") << QList<int>{31} << QList<int>{} << QList<int>{-2} << u"Einmalig"_s;
-        QTest::newRow("another matter") << QList<int>{31} << QList<int>{} << QList<int>{11} << u"Monatlich"_s;
+        // same: days after the row on which the payee is paid again; back: on which the amount goes the other way
+        const cTestRows<QList<int>, QList<int>, QList<int>, QString> row("same", "others", "back", "interval");
+        row("the only row", {}, {}, {}, u"Monatlich"_s);
+        row("a month later again", {33}, {90}, {}, u"Monatlich"_s);
+        row("a month before", {-31}, {90}, {}, u"Monatlich"_s);
+        row("never again", {}, {20, 60}, {}, u"Einmalig"_s);
+        row("not to be known yet", {}, {20, 40}, {}, u"Monatlich"_s);
+        row("every week or so", {8, 30}, {}, {}, u"Einmalig"_s);
+        row("returned", {31}, {}, {10}, u"Einmalig"_s);
+        row("paid once more", {31}, {}, {-2}, u"Einmalig"_s);
+        row("another matter", {31}, {}, {11}, u"Monatlich"_s);
     }
 
     void KeywordsAloneMakeNoSeries()

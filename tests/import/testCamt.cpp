@@ -6,8 +6,9 @@
 #include "import/xml/modXmlPieces.h"
 #include "import/zip/modZip.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -16,8 +17,7 @@ namespace {
 
 QByteArray Fixture(const QString& name)
 {
-    QFile file(QStringLiteral(TEST_DATA "/camt/") + name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return cTestFile::Bytes(QStringLiteral(TEST_DATA "/camt/") + name);
 }
 
 cStatementRead ReadBytes(const QByteArray& bytes, const QString& account = {})
@@ -74,6 +74,10 @@ private Q_SLOTS:
         QCOMPARE(camt.ClosingBalance, std::optional<qint64>(-1234));
         QCOMPARE(camt.Balances.last(), (cAccountBalance{u"DE02100200300001234567"_s, -1234, QDate(2026, 1, 31)}));
         QVERIFY(camt.Problems.isEmpty());
+        QCOMPARE(camt.Skipped.size(), 1);
+        QCOMPARE(camt.Skipped.first().Kind, eSkipped::Pending);
+        QCOMPARE(camt.Skipped.first().Entry.ImportPurpose, u"Kiosk"_s);
+        QCOMPARE(camt.Skipped.first().Reason.Line, 46);
     }
 
     // In the character set that the bytes have, whatever the first line says; or already decoded by somebody else.
@@ -84,15 +88,6 @@ private Q_SLOTS:
         QCOMPARE(ReadBytes(text.toLatin1()).Entries, entries);
         QCOMPARE(ReadBytes("\xEF\xBB\xBF" + text.toUtf8()).Entries, entries);
         QCOMPARE(modCamt::Read({u"a.xml"_s, {}, text}, {}).Entries, entries);
-    }
-
-    void LeavesPendingOut()
-    {
-        const cStatementRead read = ReadBytes(Fixture(u"giro.xml"_s));
-        QCOMPARE(read.Skipped.size(), 1);
-        QCOMPARE(read.Skipped.first().Kind, eSkipped::Pending);
-        QCOMPARE(read.Skipped.first().Entry.ImportPurpose, u"Kiosk"_s);
-        QCOMPARE(read.Skipped.first().Reason.Line, 46);
     }
 
     void PrefixesDoNotCount()
@@ -106,17 +101,16 @@ private Q_SLOTS:
 
     void ReadsDays_data()
     {
-        QTest::addColumn<QByteArray>("day");
-        QTest::addColumn<QDate>("read");
+        const cTestRows<QByteArray, QDate> row("day", "read");
         const QDate day(2026, 9, 1);
-        QTest::newRow("day") << QByteArray("<Dt>2026-09-01</Dt>") << day;
-        QTest::newRow("zone") << QByteArray("<Dt>2026-09-01+02:00</Dt>") << day;
-        QTest::newRow("western zone") << QByteArray("<Dt>2026-09-01-05:00</Dt>") << day;
-        QTest::newRow("Greenwich") << QByteArray("<Dt>2026-09-01Z</Dt>") << day;
-        QTest::newRow("time and zone") << QByteArray("<DtTm>2026-09-01T23:30:00.000+02:00</DtTm>") << day;
-        QTest::newRow("time beside an empty day") << QByteArray("<Dt/><DtTm>2026-09-01T08:00:00Z</DtTm>") << day;
-        QTest::newRow("no day of the calendar") << QByteArray("<Dt>2026-02-30</Dt>") << QDate();
-        QTest::newRow("something behind it") << QByteArray("<Dt>2026-09-015</Dt>") << QDate();
+        row("day", "<Dt>2026-09-01</Dt>", day);
+        row("zone", "<Dt>2026-09-01+02:00</Dt>", day);
+        row("western zone", "<Dt>2026-09-01-05:00</Dt>", day);
+        row("Greenwich", "<Dt>2026-09-01Z</Dt>", day);
+        row("time and zone", "<DtTm>2026-09-01T23:30:00.000+02:00</DtTm>", day);
+        row("time beside an empty day", "<Dt/><DtTm>2026-09-01T08:00:00Z</DtTm>", day);
+        row("no day of the calendar", "<Dt>2026-02-30</Dt>", {});
+        row("something behind it", "<Dt>2026-09-015</Dt>", {});
     }
 
     // A row without a day is told and not staged: on what day should it be?
@@ -139,23 +133,14 @@ private Q_SLOTS:
 
     void TakesCounterpartyBySide_data()
     {
-        QTest::addColumn<QByteArray>("amount");
-        QTest::addColumn<QByteArray>("mark");
-        QTest::addColumn<QByteArray>("before");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("bank");
-        QTest::addColumn<qint64>("value");
+        const cTestRows<QByteArray, QByteArray, QByteArray, QString, QString, qint64> row(
+            {"amount", "mark", "before", "name", "bank", "value"});
         const QString creditor = u"Empfänger DE2"_s;
         const QString debtor = u"Zahler DE1"_s;
-        QTest::newRow("out") << QByteArray("5.00") << QByteArray("DBIT") << QByteArray() << creditor << u"20030040"_s
-                             << qint64{-500};
-        QTest::newRow("in") << QByteArray("5.00") << QByteArray("CRDT") << QByteArray() << debtor << u"ZAHLDEFF"_s
-                            << qint64{500};
-        QTest::newRow("money comes back")
-            << QByteArray("5.00") << QByteArray("CRDT") << QByteArray("<RvslInd>true</RvslInd>") << creditor
-            << u"20030040"_s << qint64{500};
-        QTest::newRow("five decimals") << QByteArray("8.85000") << QByteArray("CRDT") << QByteArray() << debtor
-                                       << u"ZAHLDEFF"_s << qint64{885};
+        row("out", "5.00", "DBIT", {}, creditor, u"20030040"_s, -500);
+        row("in", "5.00", "CRDT", {}, debtor, u"ZAHLDEFF"_s, 500);
+        row("money comes back", "5.00", "CRDT", "<RvslInd>true</RvslInd>", creditor, u"20030040"_s, 500);
+        row("five decimals", "8.85000", "CRDT", {}, debtor, u"ZAHLDEFF"_s, 885);
     }
 
     void TakesCounterpartyBySide()
@@ -180,20 +165,16 @@ private Q_SLOTS:
 
     void SplitsBatch_data()
     {
-        QTest::addColumn<QByteArray>("details");
-        QTest::addColumn<QList<qint64>>("values");
-        QTest::addColumn<int>("problems");
+        const cTestRows<QByteArray, QList<qint64>, int> row("details", "values", "problems");
         const QByteArray three = R"(<Amt Ccy="EUR">3.00</Amt>)";
         const QByteArray two = R"(<AmtDtls><TxAmt><Amt Ccy="EUR">2.00</Amt></TxAmt></AmtDtls>)";
         const QByteArray back = R"(<Amt Ccy="EUR">1.00</Amt><CdtDbtInd>CRDT</CdtDbtInd>)";
-        QTest::newRow("sum agrees") << QByteArray(Detail(three) + Detail(two)) << QList<qint64>{-300, -200} << 0;
-        QTest::newRow("sum of both signs")
-            << QByteArray(Detail(three) + Detail(three) + Detail(back)) << QList<qint64>{-300, -300, 100} << 0;
-        QTest::newRow("sum differs") << QByteArray(Detail(three) + Detail(three)) << QList<qint64>{-500} << 1;
-        QTest::newRow("an amount is missing") << QByteArray(Detail(three) + Detail({})) << QList<qint64>{-500} << 1;
-        QTest::newRow("another currency")
-            << QByteArray(Detail(three) + Detail(two)).replace("EUR", "USD") << QList<qint64>{-500} << 1;
-        QTest::newRow("single detail says otherwise") << Detail(three) << QList<qint64>{-500} << 0;
+        row("sum agrees", QByteArray(Detail(three) + Detail(two)), {-300, -200}, 0);
+        row("sum of both signs", QByteArray(Detail(three) + Detail(three) + Detail(back)), {-300, -300, 100}, 0);
+        row("sum differs", QByteArray(Detail(three) + Detail(three)), {-500}, 1);
+        row("an amount is missing", QByteArray(Detail(three) + Detail({})), {-500}, 1);
+        row("another currency", QByteArray(Detail(three) + Detail(two)).replace("EUR", "USD"), {-500}, 1);
+        row("single detail says otherwise", Detail(three), {-500}, 0);
     }
 
     void SplitsBatch()
@@ -219,18 +200,15 @@ private Q_SLOTS:
 
     void WritesPurposeAsMt940_data()
     {
-        QTest::addColumn<QStringList>("lines");
-        QTest::addColumn<QString>("endToEnd");
-        QTest::addColumn<QString>("purpose");
-        QTest::newRow("references are left out") << QStringList{u"Miete"_s} << u"E1"_s << u"Miete"_s;
-        QTest::newRow("references only when there is nothing else") << QStringList() << u"E1"_s << u"EREF+E1"_s;
-        QTest::newRow("lines that are subfields already")
-            << QStringList{u"EREF+E1"_s, u"SVWZ+Rechnung vom 12.03.202"_s, u"6"_s} << u"E1"_s
-            << u"Rechnung vom 12.03.202 6"_s;
-        QTest::newRow("keywords inside of the text") << QStringList{u"EREF+E1 SVWZ+Miete fuer den Monat Januar 2026"_s}
-                                                     << u"E1"_s << u"Miete fuer den Monat Januar 2026"_s;
-        QTest::newRow("a long text stays whole") << QStringList{QString(400, u'x')} << QString() << QString(400, u'x');
-        QTest::newRow("nothing") << QStringList() << QString() << QString();
+        const cTestRows<QStringList, QString, QString> row("lines", "endToEnd", "purpose");
+        row("references are left out", {u"Miete"_s}, u"E1"_s, u"Miete"_s);
+        row("references only when there is nothing else", {}, u"E1"_s, u"EREF+E1"_s);
+        row("lines that are subfields already", {u"EREF+E1"_s, u"SVWZ+Rechnung vom 12.03.202"_s, u"6"_s}, u"E1"_s,
+            u"Rechnung vom 12.03.202 6"_s);
+        row("keywords inside of the text", {u"EREF+E1 SVWZ+Miete fuer den Monat Januar 2026"_s}, u"E1"_s,
+            u"Miete fuer den Monat Januar 2026"_s);
+        row("a long text stays whole", {QString(400, u'x')}, {}, QString(400, u'x'));
+        row("nothing", {}, {}, {});
     }
 
     void WritesPurposeAsMt940()
@@ -286,11 +264,11 @@ private Q_SLOTS:
 
     void RefusesWhatIsNoStatement_data()
     {
-        QTest::addColumn<QByteArray>("xml");
-        QTest::newRow("another message") << QByteArray("<Document><CstmrCdtTrfInitn/></Document>");
-        QTest::newRow("no XML") << QByteArray("BkToCstmrStmt");
-        QTest::newRow("entry in pieces") << With("<Ntry><Amt></Ntry>");
-        QTest::newRow("entry without end") << With("<Ntry><Amt>1</Amt>");
+        const cTestRows<QByteArray> row("xml");
+        row("another message", "<Document><CstmrCdtTrfInitn/></Document>");
+        row("no XML", "BkToCstmrStmt");
+        row("entry in pieces", With("<Ntry><Amt></Ntry>"));
+        row("entry without end", With("<Ntry><Amt>1</Amt>"));
     }
 
     void RefusesWhatIsNoStatement()

@@ -1,11 +1,10 @@
 #include "cImportBook.h"
-#include "import/stage/cBankBalances.h"
 #include "import/stage/cFetchedStatement.h"
 #include "import/stage/cFetchMemory.h"
-#include "import/stage/cStatementImport.h"
 #include "store/cUndoStep.h"
 #include "support/bankMonth.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -16,7 +15,7 @@ namespace {
 const QString account = u"0001234567"_s;
 
 // A book with an import that fetches and reads files of one account.
-struct cFetchBook : cImportBook
+struct cFetchBook : cReadingBook
 {
     cImportResult Fetch(const QString& mt940, const QList<QByteArray>& camt = {}, bool isComplete = true)
     {
@@ -39,9 +38,6 @@ struct cFetchBook : cImportBook
     }
 
     int Count() { return Hive.GetImportHive().Count(); }
-
-    cBankBalances Balances{*Settings};
-    cStatementImport Import{Data, Hive, nullptr, &Balances};
 };
 
 } // namespace
@@ -55,11 +51,11 @@ private Q_SLOTS:
     // listed as such.
     void TellsNoBookingTwice_data()
     {
-        QTest::addColumn<QStringList>("ways");
-        QTest::newRow("fetched twice") << QStringList{u"M"_s, u"M"_s, u"C"_s, u"C"_s};
-        QTest::newRow("camt first") << QStringList{u"C"_s, u"M"_s, u"m"_s, u"c"_s};
-        QTest::newRow("files first") << QStringList{u"m"_s, u"c"_s, u"C"_s, u"M"_s};
-        QTest::newRow("camt file first") << QStringList{u"c"_s, u"M"_s, u"C"_s, u"m"_s};
+        const cTestRows<QStringList> row("ways");
+        row("fetched twice", {u"M"_s, u"M"_s, u"C"_s, u"C"_s});
+        row("camt first", {u"C"_s, u"M"_s, u"m"_s, u"c"_s});
+        row("files first", {u"m"_s, u"c"_s, u"C"_s, u"M"_s});
+        row("camt file first", {u"c"_s, u"M"_s, u"C"_s, u"m"_s});
     }
 
     void TellsNoBookingTwice()

@@ -1,5 +1,6 @@
 #include "import/stage/cImportHive.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QRandomGenerator>
 #include <QTest>
@@ -59,9 +60,9 @@ private Q_SLOTS:
 
     void LooksUp_data()
     {
-        QTest::addColumn<bool>("isDescending");
-        QTest::newRow("ascending") << false;
-        QTest::newRow("descending") << true;
+        const cTestRows<bool> row("isDescending");
+        row("ascending", false);
+        row("descending", true);
     }
 
     void LooksUp()
@@ -95,23 +96,22 @@ private Q_SLOTS:
     {
         cImportEntry other = Row(0, u"A"_s, 200);
         other.ImportDate = QDate(2026, 1, 3);
-        QTest::addColumn<cImportEntry>("entry");
-        QTest::addColumn<bool>("isDuplicate");
-        QTest::newRow("same") << other << true;
+        const cTestRows<cImportEntry, bool> row("entry", "isDuplicate");
+        row("same", other, true);
         const auto changed = [&](auto change) {
             cImportEntry entry = other;
             change(entry);
             return entry;
         };
-        QTest::newRow("kind") << changed([](auto& e) { e.ImportType = u"x"_s; }) << true;
-        QTest::newRow("currency") << changed([](auto& e) { e.ImportCurrency = u"x"_s; }) << true;
-        QTest::newRow("day") << changed([](auto& e) { e.ImportDate = QDate(2026, 1, 4); }) << false;
-        QTest::newRow("account case") << changed([](auto& e) { e.ImportAccount = u"a"_s; }) << false;
-        QTest::newRow("name") << changed([](auto& e) { e.ImportBeneficiary = u"x"_s; }) << false;
-        QTest::newRow("counterparty") << changed([](auto& e) { e.ImportBeneficiaryAccount = u"x"_s; }) << false;
-        QTest::newRow("bank") << changed([](auto& e) { e.ImportBeneficiaryBLZ = u"x"_s; }) << false;
-        QTest::newRow("purpose") << changed([](auto& e) { e.ImportPurpose = u"x"_s; }) << false;
-        QTest::newRow("amount") << changed([](auto& e) { e.ImportValue = 201; }) << false;
+        row("kind", changed([](auto& e) { e.ImportType = u"x"_s; }), true);
+        row("currency", changed([](auto& e) { e.ImportCurrency = u"x"_s; }), true);
+        row("day", changed([](auto& e) { e.ImportDate = QDate(2026, 1, 4); }), false);
+        row("account case", changed([](auto& e) { e.ImportAccount = u"a"_s; }), false);
+        row("name", changed([](auto& e) { e.ImportBeneficiary = u"x"_s; }), false);
+        row("counterparty", changed([](auto& e) { e.ImportBeneficiaryAccount = u"x"_s; }), false);
+        row("bank", changed([](auto& e) { e.ImportBeneficiaryBLZ = u"x"_s; }), false);
+        row("purpose", changed([](auto& e) { e.ImportPurpose = u"x"_s; }), false);
+        row("amount", changed([](auto& e) { e.ImportValue = 201; }), false);
     }
 
     void DuplicateTestComparesAsIsEqual()

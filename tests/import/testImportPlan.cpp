@@ -1,8 +1,8 @@
 #include "cImportBook.h"
 #include "import/plan/cImportPlan.h"
-#include "import/stage/cStaging.h"
 #include "model/modSplit.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -14,19 +14,11 @@ namespace {
 
 const QDate day(2026, 1, 10);
 
-struct cBank : cImportBook
+struct cBank : cBankBook
 {
-    cBank() { IsReady = Accounts.Assign(u"111"_s, u"Girokonto"_s) && Accounts.Assign(u"222"_s, u"Sparkonto"_s); }
-
     int Stage(QDate date, qint64 cents, const QString& name, const QString& account = {}, const QString& own = u"111"_s)
     {
-        cImportEntry row;
-        row.ImportAccount = own;
-        row.ImportDate = date;
-        row.ImportValue = cents;
-        row.ImportBeneficiary = name;
-        row.ImportBeneficiaryAccount = account;
-        return cStaging(Hive).StageImportEntry(row, eDuplicateTest::Skip) == eStaged::Staged ? row.ID : 0;
+        return cBankBook::Stage(BankRow(own, date, cents, name, {}, account));
     }
 
     int Enter(QDate date, qint64 cents, const QString& text, const QString& interval = modWord::Einmalig)
@@ -50,7 +42,6 @@ struct cBank : cImportBook
     cRowPlan PlanOf(int row) { return Make({row}).value(row); }
 
     cBooking Booking{Data, Hive, Accounts};
-    bool IsReady = false;
 };
 
 using fnChange = std::function<void(cEntryItem&, cImportEntry&)>;
@@ -73,7 +64,6 @@ private Q_SLOTS:
     void FindsWhatIsThere()
     {
         cBank bank;
-        QVERIFY(bank.IsReady);
         const int food = bank.Enter(day, 2310, u"REWE"_s);
         const int gift = bank.Enter(day, 5000, u"xyz"_s);
         const int certain = bank.Stage(day.addDays(2), -2310, u"REWE"_s);
@@ -121,12 +111,12 @@ private Q_SLOTS:
 
     void Transfers_data()
     {
-        QTest::addColumn<QString>("entered"); // as what one side stands in the book
-        QTest::addColumn<eRowGroup>("group");
-        QTest::addColumn<QString>("type"); // of what the other side becomes
-        QTest::newRow("nothing entered") << QString() << eRowGroup::InBook << modWord::Umbuchung;
-        QTest::newRow("the transfer") << modWord::Umbuchung << eRowGroup::InBook << modWord::Umbuchung;
-        QTest::newRow("an expense") << modWord::Ausgabe << eRowGroup::Look << modWord::Einnahme;
+        // entered: as what one side stands in the book
+        // type: of what the other side becomes
+        const cTestRows<QString, eRowGroup, QString> row("entered", "group", "type");
+        row("nothing entered", {}, eRowGroup::InBook, modWord::Umbuchung);
+        row("the transfer", modWord::Umbuchung, eRowGroup::InBook, modWord::Umbuchung);
+        row("an expense", modWord::Ausgabe, eRowGroup::Look, modWord::Einnahme);
     }
 
     void Transfers()

@@ -5,6 +5,7 @@
 #include "model/cImportEntry.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -17,24 +18,22 @@ class testKeywordRules : public QObject
 private Q_SLOTS:
     void Wildcards_data()
     {
-        QTest::addColumn<QString>("pattern");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("isMatch");
-        QTest::newRow("literal") << u"abc"_s << u"abc"_s << true;
-        QTest::newRow("case counts") << u"abc"_s << u"Abc"_s << false;
-        QTest::newRow("run") << u"*b*"_s << u"abc"_s << true;
-        QTest::newRow("empty run") << u"a**c"_s << u"ac"_s << true;
-        QTest::newRow("run is tried again") << u"*aab*c"_s << u"aaabxaabc"_s << true;
-        QTest::newRow("one character") << u"a?c"_s << u"ac"_s << false;
-        QTest::newRow("digit") << u"nr #"_s << u"nr 7"_s << true;
-        QTest::newRow("no digit") << u"nr #"_s << u"nr x"_s << false;
-        QTest::newRow("class") << u"*ga nr[0-9][0-9][0-9]*"_s << u"ga nr123 bargeld"_s << true;
-        QTest::newRow("class too short") << u"*ga nr[0-9][0-9][0-9]*"_s << u"ga nr12 bargeld"_s << false;
-        QTest::newRow("list") << u"[abx-z]"_s << u"y"_s << true;
-        QTest::newRow("negated") << u"[!0-9]"_s << u"5"_s << false;
-        QTest::newRow("dash at the end") << u"[a-]"_s << u"-"_s << true;
-        QTest::newRow("open bracket is a character") << u"a[b"_s << u"a[b"_s << true;
-        QTest::newRow("nothing") << QString() << QString() << true;
+        const cTestRows<QString, QString, bool> row("pattern", "text", "isMatch");
+        row("literal", u"abc"_s, u"abc"_s, true);
+        row("case counts", u"abc"_s, u"Abc"_s, false);
+        row("run", u"*b*"_s, u"abc"_s, true);
+        row("empty run", u"a**c"_s, u"ac"_s, true);
+        row("run is tried again", u"*aab*c"_s, u"aaabxaabc"_s, true);
+        row("one character", u"a?c"_s, u"ac"_s, false);
+        row("digit", u"nr #"_s, u"nr 7"_s, true);
+        row("no digit", u"nr #"_s, u"nr x"_s, false);
+        row("class", u"*ga nr[0-9][0-9][0-9]*"_s, u"ga nr123 bargeld"_s, true);
+        row("class too short", u"*ga nr[0-9][0-9][0-9]*"_s, u"ga nr12 bargeld"_s, false);
+        row("list", u"[abx-z]"_s, u"y"_s, true);
+        row("negated", u"[!0-9]"_s, u"5"_s, false);
+        row("dash at the end", u"[a-]"_s, u"-"_s, true);
+        row("open bracket is a character", u"a[b"_s, u"a[b"_s, true);
+        row("nothing", {}, {}, true);
     }
 
     void Wildcards()

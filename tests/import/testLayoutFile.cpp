@@ -6,6 +6,7 @@
 #include "import/table/modTable.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -51,14 +52,13 @@ private Q_SLOTS:
 
     void SaysWhatIsWrong_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("fault");
-        QTest::newRow("empty") << QString() << u"leer"_s;
-        QTest::newRow("a statement") << table << u"kein Aufbau"_s;
-        QTest::newRow("unknown rule") << QString(layout).replace(u"umgekehrt"_s, u"rot"_s) << u"Zeile 7"_s;
-        QTest::newRow("unknown column") << QString(layout).replace(u"name:"_s, u"farbe:"_s) << u"farbe"_s;
-        QTest::newRow("two days") << QString(layout).replace(u"name:"_s, u"datum:"_s) << u"datum: Wer"_s;
-        QTest::newRow("no amount") << QString(layout).replace(u"Betrag:"_s, u"-:"_s) << u"Tag und Betrag"_s;
+        const cTestRows<QString, QString> row("text", "fault");
+        row("empty", {}, u"leer"_s);
+        row("a statement", table, u"kein Aufbau"_s);
+        row("unknown rule", QString(layout).replace(u"umgekehrt"_s, u"rot"_s), u"Zeile 7"_s);
+        row("unknown column", QString(layout).replace(u"name:"_s, u"farbe:"_s), u"farbe"_s);
+        row("two days", QString(layout).replace(u"name:"_s, u"datum:"_s), u"datum: Wer"_s);
+        row("no amount", QString(layout).replace(u"Betrag:"_s, u"-:"_s), u"Tag und Betrag"_s);
     }
 
     void SaysWhatIsWrong()

@@ -3,12 +3,12 @@
 #include "import/match/cMatcher.h"
 #include "import/match/modMatchScore.h"
 #include "import/propose/cBooking.h"
-#include "import/stage/cStatementImport.h"
 #include "model/modRecurrence.h"
 #include "model/modSplit.h"
 #include "model/modWord.h"
 #include "store/cUndoStep.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -18,21 +18,12 @@ namespace {
 
 const QDate day(2026, 1, 10);
 
-struct cBank : cImportBook
+struct cBank : cBankBook
 {
-    cBank() { IsReady = Accounts.Assign(u"111"_s, u"Girokonto"_s) && Accounts.Assign(u"222"_s, u"Sparkonto"_s); }
-
     int Stage(QDate date, double value, const QString& name, const QString& purpose = {}, const QString& own = u"111"_s,
               const QString& account = {})
     {
-        cImportEntry row;
-        row.ImportAccount = own;
-        row.ImportDate = date;
-        row.ImportValue = modAmount::ToCents(value);
-        row.ImportBeneficiary = name;
-        row.ImportBeneficiaryAccount = account;
-        row.ImportPurpose = purpose;
-        return cStaging(Hive).StageImportEntry(row, eDuplicateTest::Skip) == eStaged::Staged ? row.ID : 0;
+        return cBankBook::Stage(BankRow(own, date, modAmount::ToCents(value), name, purpose, account));
     }
 
     int Add(QDate date, qint64 cents, const QString& text, const QString& category = u"Sonstiges"_s,
@@ -66,13 +57,6 @@ struct cBank : cImportBook
     }
 
     QList<cMatchCandidate> Candidates(int row) { return cMatcher(Data, Hive, Accounts).Candidates(row); }
-
-    int EntryOf(int row)
-    {
-        return Hive.GetImportHive().GetImportEntryByID(row).value_or(cImportEntry()).ImportAssignedEntry;
-    }
-
-    bool IsReady = false;
 };
 
 // Stops at once, as a user who has changed his mind.
@@ -117,30 +101,28 @@ private Q_SLOTS:
 
 void testMatcher::OneRowAndOneEntry_data() const
 {
-    QTest::addColumn<int>("days"); // from the entry to the row
-    QTest::addColumn<qint64>("rowCents");
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QString>("purpose");
-    QTest::addColumn<QString>("text");      // of an entry of 23,10 in "Haushalt; Lebensmittel"
-    QTest::addColumn<QList<int>>("counts"); // assigned, proposed, left, of these with candidates
+    // days: from the entry to the row
+    // text: of an entry of 23,10 in "Haushalt; Lebensmittel"
+    // counts: assigned, proposed, left, of these with candidates
+    const cTestRows<int, qint64, QString, QString, QString, QList<int>> row(
+        {"days", "rowCents", "name", "purpose", "text", "counts"});
     const QList<int> assigned{1, 0, 0, 0};
     const QList<int> proposed{0, 1, 0, 0};
     const QList<int> listed{0, 0, 1, 1};
     const QList<int> nothing{0, 0, 1, 0};
     const QString rewe = u"REWE Markt GmbH Talheim"_s;
-    QTest::newRow("same payee") << 0 << qint64{-2310} << u"REWE"_s << QString() << u"Rewe"_s << assigned;
-    QTest::newRow("payee in short, ten days") << 10 << qint64{-2310} << rewe << QString() << u"REWE"_s << assigned;
-    QTest::newRow("eleven days") << 11 << qint64{-2310} << u"REWE"_s << QString() << u"REWE"_s << nothing;
-    QTest::newRow("before the entry") << -10 << qint64{-2310} << u"REWE"_s << QString() << u"REWE"_s << assigned;
-    QTest::newRow("words of the purpose")
-        << 3 << qint64{-2310} << u"Jana"_s << u"Geschenk für Oma, danke"_s << u"Geschenk Oma"_s << assigned;
-    QTest::newRow("category by rule") << 1 << qint64{-2310} << rewe << QString() << u"Wochenende"_s << assigned;
-    QTest::newRow("nothing but amount and day") << 0 << qint64{-2310} << u"Jana"_s << QString() << u"xyz"_s << proposed;
-    QTest::newRow("nothing but amount, later") << 4 << qint64{-2310} << u"Jana"_s << QString() << u"xyz"_s << listed;
-    QTest::newRow("amount nearly right") << 0 << qint64{-2300} << u"REWE"_s << QString() << u"REWE"_s << proposed;
-    QTest::newRow("amount less right") << 5 << qint64{-2200} << u"REWE"_s << QString() << u"REWE"_s << listed;
-    QTest::newRow("amount far away") << 0 << qint64{-1800} << u"REWE"_s << QString() << u"REWE"_s << nothing;
-    QTest::newRow("other direction") << 0 << qint64{2310} << u"REWE"_s << QString() << u"REWE"_s << nothing;
+    row("same payee", 0, -2310, u"REWE"_s, {}, u"Rewe"_s, assigned);
+    row("payee in short, ten days", 10, -2310, rewe, {}, u"REWE"_s, assigned);
+    row("eleven days", 11, -2310, u"REWE"_s, {}, u"REWE"_s, nothing);
+    row("before the entry", -10, -2310, u"REWE"_s, {}, u"REWE"_s, assigned);
+    row("words of the purpose", 3, -2310, u"Jana"_s, u"Geschenk für Oma, danke"_s, u"Geschenk Oma"_s, assigned);
+    row("category by rule", 1, -2310, rewe, {}, u"Wochenende"_s, assigned);
+    row("nothing but amount and day", 0, -2310, u"Jana"_s, {}, u"xyz"_s, proposed);
+    row("nothing but amount, later", 4, -2310, u"Jana"_s, {}, u"xyz"_s, listed);
+    row("amount nearly right", 0, -2300, u"REWE"_s, {}, u"REWE"_s, proposed);
+    row("amount less right", 5, -2200, u"REWE"_s, {}, u"REWE"_s, listed);
+    row("amount far away", 0, -1800, u"REWE"_s, {}, u"REWE"_s, nothing);
+    row("other direction", 0, 2310, u"REWE"_s, {}, u"REWE"_s, nothing);
 }
 
 void testMatcher::OneRowAndOneEntry() const
@@ -152,7 +134,6 @@ void testMatcher::OneRowAndOneEntry() const
     QFETCH(const QString, text);
     QFETCH(const QList<int>, counts);
     cBank bank;
-    QVERIFY(bank.IsReady);
     const int entry = bank.Add(day, -2310, text, u"Haushalt; Lebensmittel"_s);
     const int row = bank.Stage(day.addDays(days), static_cast<double>(rowCents) / 100.0, name, purpose);
     const cMatchResult result = bank.Match({row});

@@ -3,8 +3,9 @@
 #include "import/xml/modOfxRepair.h"
 #include "import/xml/modOfxText.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -13,8 +14,7 @@ namespace {
 
 QByteArray Fixture()
 {
-    QFile file(QStringLiteral(TEST_DATA "/ofx/giro.ofx"));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return cTestFile::Bytes(QStringLiteral(TEST_DATA "/ofx/giro.ofx"));
 }
 
 cStatementRead ReadBytes(const QByteArray& bytes, eMissingPurpose missing = eMissingPurpose::Empty,
@@ -44,14 +44,12 @@ class testOfx : public QObject
 private Q_SLOTS:
     void AddsEndTags_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QByteArray>("xml");
-        QTest::newRow("value without end tag") << QByteArray("<OFX>\n<A>1") << QByteArray("<OFX>\n<A>1</A>\n");
-        QTest::newRow("value with end tag") << QByteArray("<OFX>\n<A>1</A>") << QByteArray("<OFX>\n<A>1</A>\n");
-        QTest::newRow("blanks and returns")
-            << QByteArray("<OFX>\r\n\t <A>1 \r\n</OFX>") << QByteArray("<OFX>\n<A>1</A>\n</OFX>\n");
-        QTest::newRow("header is dropped") << QByteArray("DATA:X\n\n<OFX>\n") << QByteArray("<OFX>\n\n");
-        QTest::newRow("no document") << QByteArray("<A>1\n") << QByteArray();
+        const cTestRows<QByteArray, QByteArray> row("text", "xml");
+        row("value without end tag", "<OFX>\n<A>1", "<OFX>\n<A>1</A>\n");
+        row("value with end tag", "<OFX>\n<A>1</A>", "<OFX>\n<A>1</A>\n");
+        row("blanks and returns", "<OFX>\r\n\t <A>1 \r\n</OFX>", "<OFX>\n<A>1</A>\n</OFX>\n");
+        row("header is dropped", "DATA:X\n\n<OFX>\n", "<OFX>\n\n");
+        row("no document", "<A>1\n", {});
     }
 
     void AddsEndTags()
@@ -62,25 +60,18 @@ private Q_SLOTS:
 
     void RepairsText_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<QByteArray>("repaired");
-        QTest::newRow("tags on one line")
-            << QByteArray("<OFX><A>1<B>2</OFX>") << QByteArray("<OFX>\n<A>1</A>\n<B>2</B>\n</OFX>\n");
-        QTest::newRow("empty leaf without end tag")
-            << QByteArray("<OFX><A><B>2</OFX>") << QByteArray("<OFX>\n<A></A>\n<B>2</B>\n</OFX>\n");
-        QTest::newRow("empty leaves in several elements")
-            << QByteArray("<X><Y><A></Y><B></X>") << QByteArray("<X>\n<Y>\n<A></A>\n</Y>\n<B></B>\n</X>\n");
-        QTest::newRow("single tag") << QByteArray("<X><A/></X>") << QByteArray("<X>\n<A></A>\n</X>\n");
-        QTest::newRow("comments and declarations")
-            << QByteArray("<!-- <X> --><?xml a?><X><A>1<!-- c -->2</X>") << QByteArray("<X>\n<A>12</A>\n</X>\n");
-        QTest::newRow("ampersands") << QByteArray("<A>a & b &amp; &#228; &nbsp;")
-                                    << QByteArray("<A>a &amp; b &amp; &#228; &amp;nbsp;</A>\n");
-        QTest::newRow("less than") << QByteArray("<A>1 < 2 <3") << QByteArray("<A>1 &lt; 2 &lt;3</A>\n");
-        QTest::newRow("character data") << QByteArray("<A><![CDATA[<b> & &amp;]]>")
-                                        << QByteArray("<A>&lt;b> &amp; &amp;amp;</A>\n");
-        QTest::newRow("value on two lines") << QByteArray("<A>one\r\ntwo\n") << QByteArray("<A>one  two</A>\n");
-        QTest::newRow("end tag too many") << QByteArray("<X></B></X>") << QByteArray("<X>\n</X>\n");
-        QTest::newRow("small letters") << QByteArray("<ofx><a>1</a></ofx>") << QByteArray("<OFX>\n<A>1</A>\n</OFX>\n");
+        const cTestRows<QByteArray, QByteArray> row("text", "repaired");
+        row("tags on one line", "<OFX><A>1<B>2</OFX>", "<OFX>\n<A>1</A>\n<B>2</B>\n</OFX>\n");
+        row("empty leaf without end tag", "<OFX><A><B>2</OFX>", "<OFX>\n<A></A>\n<B>2</B>\n</OFX>\n");
+        row("empty leaves in several elements", "<X><Y><A></Y><B></X>", "<X>\n<Y>\n<A></A>\n</Y>\n<B></B>\n</X>\n");
+        row("single tag", "<X><A/></X>", "<X>\n<A></A>\n</X>\n");
+        row("comments and declarations", "<!-- <X> --><?xml a?><X><A>1<!-- c -->2</X>", "<X>\n<A>12</A>\n</X>\n");
+        row("ampersands", "<A>a & b &amp; &#228; &nbsp;", "<A>a &amp; b &amp; &#228; &amp;nbsp;</A>\n");
+        row("less than", "<A>1 < 2 <3", "<A>1 &lt; 2 &lt;3</A>\n");
+        row("character data", "<A><![CDATA[<b> & &amp;]]>", "<A>&lt;b> &amp; &amp;amp;</A>\n");
+        row("value on two lines", "<A>one\r\ntwo\n", "<A>one  two</A>\n");
+        row("end tag too many", "<X></B></X>", "<X>\n</X>\n");
+        row("small letters", "<ofx><a>1</a></ofx>", "<OFX>\n<A>1</A>\n</OFX>\n");
     }
 
     void RepairsText()
@@ -91,14 +82,13 @@ private Q_SLOTS:
 
     void ReadsAmounts_data()
     {
-        QTest::addColumn<QString>("amount");
-        QTest::addColumn<QString>("german");
-        QTest::newRow("point") << u"-23.10"_s << u"-23,10"_s;
-        QTest::newRow("comma") << u"-23,10"_s << u"-23,10"_s;
-        QTest::newRow("grouped with points") << u"1.234,50"_s << u"1234,50"_s;
-        QTest::newRow("grouped with commas") << u"1,234.50"_s << u"1234,50"_s;
-        QTest::newRow("millions") << u"1.234.567"_s << u"1234567"_s;
-        QTest::newRow("whole") << u"+5"_s << u"+5"_s;
+        const cTestRows<QString, QString> row("amount", "german");
+        row("point", u"-23.10"_s, u"-23,10"_s);
+        row("comma", u"-23,10"_s, u"-23,10"_s);
+        row("grouped with points", u"1.234,50"_s, u"1234,50"_s);
+        row("grouped with commas", u"1,234.50"_s, u"1234,50"_s);
+        row("millions", u"1.234.567"_s, u"1234567"_s);
+        row("whole", u"+5"_s, u"+5"_s);
     }
 
     void ReadsAmounts()
@@ -146,22 +136,19 @@ private Q_SLOTS:
 
     void TakesCounterparty_data()
     {
-        QTest::addColumn<QByteArray>("fields");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("account"); // and bank
-        QTest::newRow("name") << QByteArray("<NAME>Krume & Sohn<MEMO>Brot") << u"Krume & Sohn"_s << u" "_s;
-        QTest::newRow("name in the middle")
-            << QByteArray("<NAME>REWE 12<MEMO>Karte REWE 12 Talheim") << u"REWE 12"_s << u" "_s;
-        QTest::newRow("the purpose once more") << QByteArray("<NAME>Krume<MEMO>krume") << QString() << u" "_s;
-        QTest::newRow("the purpose cut off")
-            << QByteArray("<NAME>Beitrag 2026  Turnv<MEMO>Beitrag 2026 Turnverein") << QString() << u" "_s;
-        QTest::newRow("no purpose but the name") << QByteArray("<NAME>Krume") << QString() << u" "_s;
-        QTest::newRow("the bank's word") << QByteArray("<NAME>SEPA-Lastschrift<MEMO>Strom") << QString() << u" "_s;
-        QTest::newRow("a number") << QByteArray("<NAME>0815<MEMO>Strom") << QString() << u" "_s;
-        QTest::newRow("payee with account") << QByteArray(
+        // account: and bank
+        const cTestRows<QByteArray, QString, QString> row("fields", "name", "account");
+        row("name", "<NAME>Krume & Sohn<MEMO>Brot", u"Krume & Sohn"_s, u" "_s);
+        row("name in the middle", "<NAME>REWE 12<MEMO>Karte REWE 12 Talheim", u"REWE 12"_s, u" "_s);
+        row("the purpose once more", "<NAME>Krume<MEMO>krume", {}, u" "_s);
+        row("the purpose cut off", "<NAME>Beitrag 2026  Turnv<MEMO>Beitrag 2026 Turnverein", {}, u" "_s);
+        row("no purpose but the name", "<NAME>Krume", {}, u" "_s);
+        row("the bank's word", "<NAME>SEPA-Lastschrift<MEMO>Strom", {}, u" "_s);
+        row("a number", "<NAME>0815<MEMO>Strom", {}, u" "_s);
+        row("payee with account",
             "<MEMO>Strom<PAYEE><NAME>Stadtwerke<CITY>Talheim</PAYEE><BANKACCTTO><BANKID>10020030<ACCTID>77"
-            "</BANKACCTTO>") << u"Stadtwerke"_s
-                                            << u"77 10020030"_s;
+            "</BANKACCTTO>",
+            u"Stadtwerke"_s, u"77 10020030"_s);
     }
 
     void TakesCounterparty()
@@ -176,11 +163,10 @@ private Q_SLOTS:
 
     void HonoursCharacterSetOfHeader_data()
     {
-        QTest::addColumn<QByteArray>("charset");
-        QTest::addColumn<QByteArray>("umlaut");
-        QTest::newRow("Windows") << QByteArray("1252") << QByteArray("\xFC");
-        QTest::newRow("DOS") << QByteArray("850") << QByteArray("\x81");
-        QTest::newRow("UTF-8 all the same") << QByteArray("1252") << QByteArray("\xC3\xBC");
+        const cTestRows<QByteArray, QByteArray> row("charset", "umlaut");
+        row("Windows", "1252", "\xFC");
+        row("DOS", "850", "\x81");
+        row("UTF-8 all the same", "1252", "\xC3\xBC");
     }
 
     void HonoursCharacterSetOfHeader()
@@ -196,25 +182,22 @@ private Q_SLOTS:
     // Every transaction in the text is read or told, wherever it stands.
     void LosesNoTransaction_data()
     {
-        QTest::addColumn<QByteArray>("text");
-        QTest::addColumn<int>("entries");
-        QTest::addColumn<int>("skipped");
+        const cTestRows<QByteArray, int, int> row("text", "entries", "skipped");
         const QByteArray one = "<STMTTRN><DTPOSTED>20260102<TRNAMT>1</STMTTRN>";
         const QByteArray open = "<STMTTRN><DTPOSTED>20260102<TRNAMT>1";
         const QByteArray list = With(one + one);
-        QTest::newRow("no list") << QByteArray(list).replace("<BANKTRANLIST>", "").replace("</BANKTRANLIST>", "") << 2
-                                 << 0;
-        QTest::newRow("no end of the list") << QByteArray(list).replace("</BANKTRANLIST>", "") << 2 << 0;
-        QTest::newRow("list ends too early") << With(one + "</BANKTRANLIST>" + one) << 2 << 0;
-        QTest::newRow("no ends of transactions") << With(open + open) << 2 << 0;
-        QTest::newRow("no ends at all, then the balance")
-            << With(open + open + "<LEDGERBAL><BALAMT>7</LEDGERBAL>").replace("</BANKTRANLIST>", "") << 2 << 0;
-        QTest::newRow("outside of the statement")
-            << QByteArray(list).replace("</BANKMSGSRSV1>", QByteArray(one + "</BANKMSGSRSV1>")) << 2 << 1;
-        QTest::newRow("two documents") << QByteArray(list + list) << 4 << 0;
-        QTest::newRow("no amount") << With(one + "<STMTTRN><DTPOSTED>20260102<TRNAMT>viel</STMTTRN>") << 1 << 1;
-        QTest::newRow("no day") << With(one + "<STMTTRN><DTPOSTED>2026<TRNAMT>1</STMTTRN>") << 1 << 1;
-        QTest::newRow("not a word of it") << With(one + "<STMTTRN>*</STMTTRN>") << 1 << 1;
+        row("no list", QByteArray(list).replace("<BANKTRANLIST>", "").replace("</BANKTRANLIST>", ""), 2, 0);
+        row("no end of the list", QByteArray(list).replace("</BANKTRANLIST>", ""), 2, 0);
+        row("list ends too early", With(one + "</BANKTRANLIST>" + one), 2, 0);
+        row("no ends of transactions", With(open + open), 2, 0);
+        row("no ends at all, then the balance",
+            With(open + open + "<LEDGERBAL><BALAMT>7</LEDGERBAL>").replace("</BANKTRANLIST>", ""), 2, 0);
+        row("outside of the statement",
+            QByteArray(list).replace("</BANKMSGSRSV1>", QByteArray(one + "</BANKMSGSRSV1>")), 2, 1);
+        row("two documents", QByteArray(list + list), 4, 0);
+        row("no amount", With(one + "<STMTTRN><DTPOSTED>20260102<TRNAMT>viel</STMTTRN>"), 1, 1);
+        row("no day", With(one + "<STMTTRN><DTPOSTED>2026<TRNAMT>1</STMTTRN>"), 1, 1);
+        row("not a word of it", With(one + "<STMTTRN>*</STMTTRN>"), 1, 1);
     }
 
     void LosesNoTransaction()

@@ -4,9 +4,9 @@
 #include "import/propose/cOwnRules.h"
 #include "import/propose/cRuleMatcher.h"
 #include "import/propose/modOwnRule.h"
-#include "import/stage/cStaging.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -18,13 +18,7 @@ const QDate day(2026, 1, 10);
 
 cImportEntry Row(double value, const QString& name, const QString& purpose, const QString& account = {})
 {
-    cImportEntry row;
-    row.ImportAccount = u"111"_s;
-    row.ImportDate = day;
-    row.ImportValue = modAmount::ToCents(value);
-    row.ImportBeneficiary = name;
-    row.ImportBeneficiaryAccount = account;
-    row.ImportPurpose = purpose;
+    cImportEntry row = BankRow(u"111"_s, day, modAmount::ToCents(value), name, purpose, account);
     row.ImportType = u"KARTENZAHLUNG"_s;
     return row;
 }
@@ -37,15 +31,8 @@ cOwnRule Food(const QString& text)
     return rule;
 }
 
-struct cBank : cImportBook
+struct cBank : cBankBook
 {
-    cBank() { IsReady = Accounts.Assign(u"111"_s, u"Girokonto"_s) && Accounts.Assign(u"222"_s, u"Sparkonto"_s); }
-
-    int Stage(cImportEntry row)
-    {
-        return cStaging(Hive).StageImportEntry(row, eDuplicateTest::Skip) == eStaged::Staged ? row.ID : 0;
-    }
-
     cProposal Propose(const cImportEntry& row)
     {
         const int id = Stage(row);
@@ -53,8 +40,6 @@ struct cBank : cImportBook
     }
 
     void Keep(const QList<cOwnRule>& rules) { QVERIFY(cOwnRules(*Settings).Save(rules)); }
-
-    bool IsReady = false;
 };
 
 // What a proposal says, in one line.
@@ -136,20 +121,20 @@ private Q_SLOTS:
 
     void StoredLines_data() const
     {
-        QTest::addColumn<QString>("line");
-        QTest::addColumn<bool>("isReadable");
-        QTest::newRow("separator that is not escaped") << u"1;text=a;category=A; B"_s << false;
-        QTest::newRow("all fields") << u"1;off;sign=in;text=a%3bb=c%25|d;counterparty=Müller & Söhne;account=Giro;"
-                                       "category=A%3b B;interval=Monatlich;description=x%0ay"_s
-                                    << true;
-        QTest::newRow("the least") << u"1;sign=out;category=A"_s << true;
-        QTest::newRow("later version") << u"2;text=a;category=A"_s << false;
-        QTest::newRow("condition that is not known") << u"1;text=a;weekday=3;category=A"_s << false;
-        QTest::newRow("broken escape") << u"1;text=a%zz;category=A"_s << false;
-        QTest::newRow("no such interval") << u"1;text=a;interval=Oft"_s << false;
-        QTest::newRow("no condition") << u"1;category=A"_s << false;
-        QTest::newRow("nothing to set") << u"1;text=a"_s << false;
-        QTest::newRow("other text") << u"rewe"_s << false;
+        const cTestRows<QString, bool> row("line", "isReadable");
+        row("separator that is not escaped", u"1;text=a;category=A; B"_s, false);
+        row("all fields",
+            u"1;off;sign=in;text=a%3bb=c%25|d;counterparty=Müller & Söhne;account=Giro;"
+            "category=A%3b B;interval=Monatlich;description=x%0ay"_s,
+            true);
+        row("the least", u"1;sign=out;category=A"_s, true);
+        row("later version", u"2;text=a;category=A"_s, false);
+        row("condition that is not known", u"1;text=a;weekday=3;category=A"_s, false);
+        row("broken escape", u"1;text=a%zz;category=A"_s, false);
+        row("no such interval", u"1;text=a;interval=Oft"_s, false);
+        row("no condition", u"1;category=A"_s, false);
+        row("nothing to set", u"1;text=a"_s, false);
+        row("other text", u"rewe"_s, false);
     }
 
     // Whatever is stored comes out again as it was, and what cannot be read does nothing.
@@ -165,24 +150,22 @@ private Q_SLOTS:
 
     void Proposals_data() const
     {
-        QTest::addColumn<cOwnRule>("rule");
-        QTest::addColumn<cImportEntry>("row");
-        QTest::addColumn<QString>("said");
+        const cTestRows<cOwnRule, cImportEntry, QString> row("rule", "row", "said");
         const cImportEntry power = Row(-60, u"Stadtwerke"_s, u"Abschlag"_s);
         const cImportEntry unknown = Row(-60, u"Tann"_s, u"Abschlag"_s);
         cOwnRule rule = Food(u"abschlag"_s);
-        QTest::newRow("before a keyword, whose interval does not count")
-            << rule << power << u"Haushalt; Lebensmittel|Einmalig|Stadtwerke - Abschlag|Eigene Regel: abschlag"_s;
+        row("before a keyword, whose interval does not count", rule, power,
+            u"Haushalt; Lebensmittel|Einmalig|Stadtwerke - Abschlag|Eigene Regel: abschlag"_s);
         rule.Category = u"Wohnung; Strom"_s;
-        QTest::newRow("the category of the keyword keeps its interval")
-            << rule << power << u"Wohnung; Strom|Monatlich|Stadtwerke - Abschlag|Eigene Regel: abschlag"_s;
+        row("the category of the keyword keeps its interval", rule, power,
+            u"Wohnung; Strom|Monatlich|Stadtwerke - Abschlag|Eigene Regel: abschlag"_s);
         rule.Interval = u"Jährlich"_s;
         rule.Description = u"Strom"_s;
-        QTest::newRow("everything") << rule << power << u"Wohnung; Strom|Jährlich|Strom|Eigene Regel: abschlag"_s;
+        row("everything", rule, power, u"Wohnung; Strom|Jährlich|Strom|Eigene Regel: abschlag"_s);
         rule.Category.clear();
-        QTest::newRow("all but the category")
-            << rule << power << u"Wohnung; Strom|Jährlich|Strom|Regel: stadtwerke; Eigene Regel: abschlag"_s;
-        QTest::newRow("default category") << rule << unknown << u"Allgemein|Jährlich|Strom|Eigene Regel: abschlag"_s;
+        row("all but the category", rule, power,
+            u"Wohnung; Strom|Jährlich|Strom|Regel: stadtwerke; Eigene Regel: abschlag"_s);
+        row("default category", rule, unknown, u"Allgemein|Jährlich|Strom|Eigene Regel: abschlag"_s);
     }
 
     void Proposals() const
@@ -198,7 +181,6 @@ private Q_SLOTS:
     void BeforeWhatWasLearned() const
     {
         cBank bank;
-        QVERIFY(bank.IsReady);
         cBooking booking(bank.Data, bank.Hive, bank.Accounts);
         const int first = bank.Stage(Row(-5, u"Korn"_s, u"Brot"_s));
         cEntryItem entry = booking.Propose({first}).value(first).Entry;
@@ -221,20 +203,15 @@ private Q_SLOTS:
 
     void FromARow_data() const
     {
-        QTest::addColumn<cImportEntry>("row");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QString>("counterparty");
-        QTest::newRow("name") << Row(-5, u"REWE  Markt"_s, u"Einkauf"_s) << QString() << u"REWE Markt"_s;
-        QTest::newRow("account only") << Row(-5, {}, u"Miete"_s, u"DE44100200300000000815"_s) << QString()
-                                      << u"DE44100200300000000815"_s;
-        QTest::newRow("purpose only") << Row(5, {}, u"Rechnung 4711 Vereinsbeitrag Kletterhalle vom 3.4."_s)
-                                      << u"Vereinsbeitrag Kletterhalle"_s << QString();
-        QTest::newRow("words apart") << Row(5, {}, u"Kletterhalle, Ref AB12CD Beitrag"_s) << u"Kletterhalle*Beitrag"_s
-                                     << QString();
-        QTest::newRow("one that collects for others")
-            << Row(-5, u"PayPal Europe"_s, u"PP.1234.PP Ihr Einkauf bei Strickwaren24"_s) << u"Einkauf"_s
-            << u"PayPal Europe"_s;
-        QTest::newRow("nothing but the booking text") << Row(-5, {}, u"0815"_s) << u"KARTENZAHLUNG"_s << QString();
+        const cTestRows<cImportEntry, QString, QString> row("row", "text", "counterparty");
+        row("name", Row(-5, u"REWE  Markt"_s, u"Einkauf"_s), {}, u"REWE Markt"_s);
+        row("account only", Row(-5, {}, u"Miete"_s, u"DE44100200300000000815"_s), {}, u"DE44100200300000000815"_s);
+        row("purpose only", Row(5, {}, u"Rechnung 4711 Vereinsbeitrag Kletterhalle vom 3.4."_s),
+            u"Vereinsbeitrag Kletterhalle"_s, {});
+        row("words apart", Row(5, {}, u"Kletterhalle, Ref AB12CD Beitrag"_s), u"Kletterhalle*Beitrag"_s, {});
+        row("one that collects for others", Row(-5, u"PayPal Europe"_s, u"PP.1234.PP Ihr Einkauf bei Strickwaren24"_s),
+            u"Einkauf"_s, u"PayPal Europe"_s);
+        row("nothing but the booking text", Row(-5, {}, u"0815"_s), u"KARTENZAHLUNG"_s, {});
     }
 
     void FromARow() const

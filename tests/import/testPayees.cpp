@@ -7,8 +7,9 @@
 #include "import/read/modPayee.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -21,29 +22,27 @@ struct cExample
     QStringList Expected; // any of them is right
 };
 
+cImportEntry Row(double value, const QString& name, const QString& purpose, const QString& type = {})
+{
+    cImportEntry row = BankRow(u"111"_s, QDate(2026, 3, 10), modAmount::ToCents(value), name, purpose);
+    row.ImportType = type;
+    return row;
+}
+
 // The rows of a file below tests/data/payees.
 QList<cExample> Examples(const QString& name)
 {
-    QFile file(QStringLiteral(TEST_DATA "/payees/") + name);
     QList<cExample> examples;
-    if (!file.open(QIODevice::ReadOnly)) {
-        return examples;
-    }
-    const QStringList lines = QString::fromUtf8(file.readAll()).split(u'\n', Qt::SkipEmptyParts);
+    const QByteArray bytes = cTestFile::Bytes(QStringLiteral(TEST_DATA "/payees/") + name);
+    const QStringList lines = QString::fromUtf8(bytes).split(u'\n', Qt::SkipEmptyParts);
     for (const QString& line : lines) {
         const QStringList fields = line.split(u'\t');
         if (line.startsWith(u'#') || fields.size() != 5) {
             continue;
         }
-        cExample example;
+        const double value = QString(fields.at(0)).replace(u',', u'.').toDouble();
+        cExample example{Row(value, fields.at(1), fields.at(2), fields.at(3)), fields.at(4).split(u" | "_s)};
         example.Row.ID = static_cast<int>(examples.size()) + 1;
-        example.Row.ImportAccount = u"111"_s;
-        example.Row.ImportDate = QDate(2026, 3, 10);
-        example.Row.ImportValue = modAmount::ToCents(QString(fields.at(0)).replace(u',', u'.').toDouble());
-        example.Row.ImportBeneficiary = fields.at(1);
-        example.Row.ImportPurpose = fields.at(2);
-        example.Row.ImportType = fields.at(3);
-        example.Expected = fields.at(4).split(u" | "_s);
         examples.append(example);
     }
     return examples;
@@ -59,10 +58,7 @@ struct cScore
 
 cScore Judge(const QList<cExample>& examples)
 {
-    cImportBook book;
-    if (!book.Accounts.Assign(u"111"_s, u"Girokonto"_s)) {
-        return {};
-    }
+    cBankBook book;
     cProposer proposer(book.Data, book.Hive, book.Accounts);
     cScore score;
     for (const cExample& example : examples) {
@@ -80,16 +76,6 @@ cScore Judge(const QList<cExample>& examples)
     return score;
 }
 
-cImportEntry Row(double value, const QString& name, const QString& purpose, const QString& type = {})
-{
-    cImportEntry row;
-    row.ImportValue = modAmount::ToCents(value);
-    row.ImportBeneficiary = name;
-    row.ImportPurpose = purpose;
-    row.ImportType = type;
-    return row;
-}
-
 } // namespace
 
 class testPayees : public QObject
@@ -99,12 +85,10 @@ class testPayees : public QObject
 private Q_SLOTS:
     void KnowsEverydayPayees_data()
     {
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<int>("count");
-        QTest::addColumn<int>("fewest");
-        QTest::newRow("a hundred") << u"everyday.tsv"_s << 100 << 90;
+        const cTestRows<QString, int, int> row("file", "count", "fewest");
+        row("a hundred", u"everyday.tsv"_s, 100, 90);
         // Written before the list was, and the list not mended for them: how it does elsewhere.
-        QTest::newRow("fifty others") << u"others.tsv"_s << 50 << 40;
+        row("fifty others", u"others.tsv"_s, 50, 40);
     }
 
     void KnowsEverydayPayees()
@@ -151,12 +135,7 @@ private Q_SLOTS:
 
     void CleansPayees_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("purpose");
-        QTest::addColumn<QString>("key");
-        QTest::addColumn<QString>("shown");
-        const auto row = [](const char* tag, const QString& name, const QString& purpose, const QString& key,
-                            const QString& shown) { QTest::newRow(tag) << name << purpose << key << shown; };
+        const cTestRows<QString, QString, QString, QString> row("name", "purpose", "key", "shown");
         row("store number and thanks", u"REWE SAGT DANKE 43110"_s, {}, u"rewe"_s, u"REWE"_s);
         row("place behind a slash", u"ROSSMANN VIELEN DANK//Hannover/DE"_s, {}, u"rossmann"_s, u"ROSSMANN"_s);
         row("dots and branch", u"EDEKA.CENTER.LINDNER/Hamburg"_s, {}, u"edeka center lindner"_s,
@@ -194,14 +173,8 @@ private Q_SLOTS:
     // What the keyword rules say stays; whether anybody may book it unseen is another question.
     void DoubtsKeywords_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("purpose");
-        QTest::addColumn<double>("value");
-        QTest::addColumn<QString>("category");
-        QTest::addColumn<bool>("isSure");
-        const auto row = [](const char* tag, const QString& name, const QString& purpose, double value,
-                            const QString& category,
-                            bool isSure) { QTest::newRow(tag) << name << purpose << value << category << isSure; };
+        const cTestRows<QString, QString, double, QString, bool> row(
+            {"name", "purpose", "value", "category", "isSure"});
         row("a word", u"REWE Markt"_s, {}, -20, u"Haushalt; Lebensmittel"_s, true);
         row("end of a compound", u"Stadtapotheke"_s, {}, -20, u"Haushalt; Medikamente"_s, true);
         row("inside a name", u"Tobias Kern"_s, u"danke"_s, -20, u"Haushalt"_s, false);
@@ -236,16 +209,15 @@ private Q_SLOTS:
 
     void RecognisesCash_data()
     {
-        QTest::addColumn<cImportEntry>("row");
-        QTest::addColumn<bool>("isCash");
-        QTest::newRow("machine") << Row(-200, u"GA NR00012345 BLZ37050198 0"_s, u"04.02/15.32UHR KOELN"_s) << true;
-        QTest::newRow("booking text") << Row(-50, u"Sparkasse"_s, {}, u"BARGELDAUSZAHLUNG"_s) << true;
-        QTest::newRow("Austria") << Row(-100, {}, u"Bargeldbehebung 1010 Wien"_s) << true;
-        QTest::newRow("paid in") << Row(300, u"Sparkasse"_s, {}, u"Bareinzahlung"_s) << true;
-        QTest::newRow("fee") << Row(-5, u"Sparkasse"_s, u"Entgelt Bargeldauszahlung"_s) << false;
-        QTest::newRow("without cash") << Row(-50, u"Kiosk"_s, u"Bargeldlose Zahlung"_s) << false;
-        QTest::newRow("card payment") << Row(-50, u"BILLA"_s, u"POS 50,00"_s, u"Bankomat-Zahlung"_s) << false;
-        QTest::newRow("health insurance") << Row(-60, u"BARMER"_s, u"Beitrag"_s) << false;
+        const cTestRows<cImportEntry, bool> row("row", "isCash");
+        row("machine", Row(-200, u"GA NR00012345 BLZ37050198 0"_s, u"04.02/15.32UHR KOELN"_s), true);
+        row("booking text", Row(-50, u"Sparkasse"_s, {}, u"BARGELDAUSZAHLUNG"_s), true);
+        row("Austria", Row(-100, {}, u"Bargeldbehebung 1010 Wien"_s), true);
+        row("paid in", Row(300, u"Sparkasse"_s, {}, u"Bareinzahlung"_s), true);
+        row("fee", Row(-5, u"Sparkasse"_s, u"Entgelt Bargeldauszahlung"_s), false);
+        row("without cash", Row(-50, u"Kiosk"_s, u"Bargeldlose Zahlung"_s), false);
+        row("card payment", Row(-50, u"BILLA"_s, u"POS 50,00"_s, u"Bankomat-Zahlung"_s), false);
+        row("health insurance", Row(-60, u"BARMER"_s, u"Beitrag"_s), false);
     }
 
     void RecognisesCash()

@@ -1,7 +1,8 @@
 #include "import/qif/modQif.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 
-#include <QFile>
 #include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
@@ -10,8 +11,7 @@ namespace {
 
 QString Fixture()
 {
-    QFile file(QStringLiteral(TEST_DATA "/qif/giro.qif"));
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+    return QString::fromUtf8(cTestFile::Bytes(QStringLiteral(TEST_DATA "/qif/giro.qif")));
 }
 
 cStatementRead ReadText(const QString& text, const cReadOptions& options = {})
@@ -37,14 +37,13 @@ class testQif : public QObject
 private Q_SLOTS:
     void Recognises_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<bool>("isQif");
-        QTest::newRow("bank") << u"!Type:Bank\nD1.1.26"_s << true;
-        QTest::newRow("capitals") << u"!TYPE:CCARD\n"_s << true;
-        QTest::newRow("behind a list") << u"!Account\nNGiro\n^\n!type:bank\n"_s << true;
-        QTest::newRow("behind a remark") << u"# aus dem Archiv\n\n!Option:MDY\n!Type:Bank\n"_s << true;
-        QTest::newRow("table") << u"Datum;Betrag\n1.1.26;!Type:Bank\n"_s << false;
-        QTest::newRow("nothing") << QString() << false;
+        const cTestRows<QString, bool> row("text", "isQif");
+        row("bank", u"!Type:Bank\nD1.1.26"_s, true);
+        row("capitals", u"!TYPE:CCARD\n"_s, true);
+        row("behind a list", u"!Account\nNGiro\n^\n!type:bank\n"_s, true);
+        row("behind a remark", u"# aus dem Archiv\n\n!Option:MDY\n!Type:Bank\n"_s, true);
+        row("table", u"Datum;Betrag\n1.1.26;!Type:Bank\n"_s, false);
+        row("nothing", {}, false);
     }
 
     void Recognises()
@@ -101,13 +100,12 @@ private Q_SLOTS:
 
     void ReadsAmounts_data()
     {
-        QTest::addColumn<QString>("amount");
-        QTest::addColumn<qint64>("value");
-        QTest::newRow("English") << u"-1,010.50"_s << qint64{-101050};
-        QTest::newRow("grouped whole number") << u"30,020"_s << qint64{3002000};
-        QTest::newRow("decimal comma") << u"-4,50"_s << qint64{-450};
-        QTest::newRow("German") << u"1.234,50"_s << qint64{123450};
-        QTest::newRow("millions") << u"1,234,567.00"_s << qint64{123456700};
+        const cTestRows<QString, qint64> row("amount", "value");
+        row("English", u"-1,010.50"_s, -101050);
+        row("grouped whole number", u"30,020"_s, 3002000);
+        row("decimal comma", u"-4,50"_s, -450);
+        row("German", u"1.234,50"_s, 123450);
+        row("millions", u"1,234,567.00"_s, 123456700);
     }
 
     void ReadsAmounts()

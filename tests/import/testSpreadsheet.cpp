@@ -4,6 +4,8 @@
 #include "import/sheet/modSpreadsheet.h"
 #include "import/stage/modStatementFormat.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -61,8 +63,7 @@ QByteArray Xlsx(const QList<cWrittenSheet>& sheets, eTexts texts = eTexts::Share
         WriteSheet(book, sheet);
     }
     workbook_close(book);
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return cTestFile::Bytes(path);
 }
 
 cXlsFile Xls()
@@ -152,25 +153,21 @@ private Q_SLOTS:
     {
         const QStringList two = {u"2026-01-31|-12.50|Bücher"_s, u"2026-02-01|2345.67|Gehalt"_s};
         const QStringList big = {u"2026-01-31|-1234.57|Rechnung 4711"_s, u"2026-01-30|100.00|Rechnung 4711"_s};
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QStringList>("facts");
-        QTest::newRow("XLSX") << u"a.xlsx"_s << Xlsx({{"Daten", 2}}) << big;
-        QTest::newRow("XLSX named otherwise") << u"a.csv"_s << Xlsx({{"Daten", 2}}) << big;
-        QTest::newRow("XLSX with the texts in the cells") << u"a.xls"_s << Xlsx({{"Daten", 2}}, eTexts::Inline) << big;
-        QTest::newRow("most transactions") << u"a.xlsx"_s << Xlsx({{"Info", 0}, {"Alt", 1}, {"Neu", 2}}) << big;
-        QTest::newRow("XLS") << u"a.xls"_s << Xls().Bytes() << two;
-        QTest::newRow("XLS named otherwise") << u"a.dat"_s << Xls().Bytes() << two;
-        QTest::newRow("XLS without container") << u"a.xls"_s << BareXls() << two;
-        QTest::newRow("XML of 2003") << u"a.xls"_s << sheetXml << two;
-        QTest::newRow("XML of 2003 under its own name") << u"a.xml"_s << sheetXml << two;
-        QTest::newRow("HTML") << u"a.xls"_s << html
-                              << QStringList{u"2026-01-31|-1012.50|Bücher & mehr € 5 < 6 España € &nosuch &"_s,
-                                             two.last()};
-        QTest::newRow("text") << u"a.xls"_s
-                              << "Buchungstag\tVerwendungszweck\tBetrag\r\n31.01.2026\tBücher\t-12,50\r\n"_ba
-                                 "01.02.2026\tGehalt\t2.345,67"
-                              << two;
+        const cTestRows<QString, QByteArray, QStringList> row("name", "bytes", "facts");
+        row("XLSX", u"a.xlsx"_s, Xlsx({{"Daten", 2}}), big);
+        row("XLSX named otherwise", u"a.csv"_s, Xlsx({{"Daten", 2}}), big);
+        row("XLSX with the texts in the cells", u"a.xls"_s, Xlsx({{"Daten", 2}}, eTexts::Inline), big);
+        row("most transactions", u"a.xlsx"_s, Xlsx({{"Info", 0}, {"Alt", 1}, {"Neu", 2}}), big);
+        row("XLS", u"a.xls"_s, Xls().Bytes(), two);
+        row("XLS named otherwise", u"a.dat"_s, Xls().Bytes(), two);
+        row("XLS without container", u"a.xls"_s, BareXls(), two);
+        row("XML of 2003", u"a.xls"_s, sheetXml, two);
+        row("XML of 2003 under its own name", u"a.xml"_s, sheetXml, two);
+        row("HTML", u"a.xls"_s, html, {u"2026-01-31|-1012.50|Bücher & mehr € 5 < 6 España € &nosuch &"_s, two.last()});
+        row("text", u"a.xls"_s,
+            "Buchungstag\tVerwendungszweck\tBetrag\r\n31.01.2026\tBücher\t-12,50\r\n"_ba
+            "01.02.2026\tGehalt\t2.345,67",
+            two);
     }
 
     void ReadsByContent()
@@ -219,20 +216,18 @@ private Q_SLOTS:
         const QByteArray xlsx = Xlsx({{"Daten", 2}});
         QByteArray broken = xlsx;
         broken[broken.indexOf("xl/worksheets/sheet1.xml") + 60] ^= '\x55';
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("protected XLS") << ProtectedXls() << u"mit einem Kennwort geschützt"_s;
-        QTest::newRow("protected XLSX") << encrypted << u"mit einem Kennwort geschützt"_s;
-        QTest::newRow("half an XLSX") << xlsx.left(xlsx.size() / 2) << u"beschädigt oder keine Arbeitsmappe"_s;
-        QTest::newRow("changed XLSX") << broken << u"beschädigt, verschlüsselt oder zu groß"_s;
-        QTest::newRow("half an XLS") << Xls().Bytes().left(2000) << u"beschädigt oder keine Arbeitsmappe"_s;
-        QTest::newRow("half an XML") << sheetXml.left(800) << u"beschädigt oder zu groß"_s;
-        QTest::newRow("half an HTML table")
-            << "<table><tr><td>Datum<td>Betrag<tr><td>01.02.2026<td>-1"_ba << u"beschädigt oder unvollständig"_s;
-        QTest::newRow("no transactions") << Xlsx({{"Daten", 0}}) << u"keine Spalten mit Datum und Betrag"_s;
-        QTest::newRow("endless rows") << "<table>" + QByteArray("<tr><td colspan=255><td>x").repeated(16000)
-                                      << u"zu groß"_s;
-        QTest::newRow("HTML without rows") << "<html><table></table></html>"_ba << u"keine Spalten"_s;
+        const cTestRows<QByteArray, QString> row("bytes", "message");
+        row("protected XLS", ProtectedXls(), u"mit einem Kennwort geschützt"_s);
+        row("protected XLSX", encrypted, u"mit einem Kennwort geschützt"_s);
+        row("half an XLSX", xlsx.left(xlsx.size() / 2), u"beschädigt oder keine Arbeitsmappe"_s);
+        row("changed XLSX", broken, u"beschädigt, verschlüsselt oder zu groß"_s);
+        row("half an XLS", Xls().Bytes().left(2000), u"beschädigt oder keine Arbeitsmappe"_s);
+        row("half an XML", sheetXml.left(800), u"beschädigt oder zu groß"_s);
+        row("half an HTML table", "<table><tr><td>Datum<td>Betrag<tr><td>01.02.2026<td>-1"_ba,
+            u"beschädigt oder unvollständig"_s);
+        row("no transactions", Xlsx({{"Daten", 0}}), u"keine Spalten mit Datum und Betrag"_s);
+        row("endless rows", "<table>" + QByteArray("<tr><td colspan=255><td>x").repeated(16000), u"zu groß"_s);
+        row("HTML without rows", "<html><table></table></html>"_ba, u"keine Spalten"_s);
     }
 
     void RefusesBadFiles()
@@ -246,16 +241,16 @@ private Q_SLOTS:
 
     void TellsDaysByFormat_data()
     {
-        QTest::addColumn<QString>("code");
-        QTest::addColumn<QString>("text"); // of 46053.5
-        QTest::newRow("plain") << u"General"_s << u"46053,50"_s;
-        QTest::newRow("plain in German") << u"Standard"_s << u"46053,50"_s;
-        QTest::newRow("day") << u"[$-407]d. mmmm yyyy;@"_s << u"31.01.2026"_s;
-        QTest::newRow("day in German") << u"TT.MM.JJJJ"_s << u"31.01.2026"_s;
-        QTest::newRow("day and time") << u"yyyy\\-mm\\-dd hh:mm:ss.000"_s << u"31.01.2026"_s;
-        QTest::newRow("letters in quotes") << u"\"Tag\" 0.00"_s << u"46053,50"_s;
-        QTest::newRow("letters of a currency") << u"#,##0.00 USD"_s << u"46053,50"_s;
-        QTest::newRow("colour") << u"[Red]0"_s << u"46053,50"_s;
+        // text: of 46053.5
+        const cTestRows<QString, QString> row("code", "text");
+        row("plain", u"General"_s, u"46053,50"_s);
+        row("plain in German", u"Standard"_s, u"46053,50"_s);
+        row("day", u"[$-407]d. mmmm yyyy;@"_s, u"31.01.2026"_s);
+        row("day in German", u"TT.MM.JJJJ"_s, u"31.01.2026"_s);
+        row("day and time", u"yyyy\\-mm\\-dd hh:mm:ss.000"_s, u"31.01.2026"_s);
+        row("letters in quotes", u"\"Tag\" 0.00"_s, u"46053,50"_s);
+        row("letters of a currency", u"#,##0.00 USD"_s, u"46053,50"_s);
+        row("colour", u"[Red]0"_s, u"46053,50"_s);
     }
 
     void TellsDaysByFormat()
@@ -266,14 +261,13 @@ private Q_SLOTS:
 
     void WritesNumbersInFull_data()
     {
-        QTest::addColumn<double>("value");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("noise of binary fractions") << 0.1 + 0.2 << u"0,30"_s;
-        QTest::newRow("account number") << 532013000.0 << u"532013000"_s;
-        QTest::newRow("large") << -9876543210.12 << u"-9876543210,12"_s;
-        QTest::newRow("small") << 0.0625 << u"0,0625"_s;
-        QTest::newRow("nothing") << 0.0 << u"0"_s;
-        QTest::newRow("longer than exact") << 1e20 << u"100000000000000000000"_s;
+        const cTestRows<double, QString> row("value", "text");
+        row("noise of binary fractions", 0.1 + 0.2, u"0,30"_s);
+        row("account number", 532013000.0, u"532013000"_s);
+        row("large", -9876543210.12, u"-9876543210,12"_s);
+        row("small", 0.0625, u"0,0625"_s);
+        row("nothing", 0.0, u"0"_s);
+        row("longer than exact", 1e20, u"100000000000000000000"_s);
     }
 
     void WritesNumbersInFull()

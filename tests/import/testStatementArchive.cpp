@@ -1,6 +1,8 @@
 #include "import/stage/modStatementArchive.h"
 #include "import/stage/modStatementFormat.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -27,14 +29,12 @@ QByteArray Zip(const cFiles& files)
         zipCloseFileInZip(zip);
     }
     zipClose(zip, nullptr);
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return cTestFile::Bytes(path);
 }
 
 QByteArray Fixture(const QString& name)
 {
-    QFile file(QStringLiteral(TEST_DATA "/") + name);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    return cTestFile::Bytes(QStringLiteral(TEST_DATA "/") + name);
 }
 
 constexpr const char* table = "Datum;Verwendungszweck;Betrag\n03.02.2026;Kiosk;-4,20\n04.02.2026;vorgemerkt;x\n";
@@ -48,26 +48,23 @@ class testStatementArchive : public QObject
 private Q_SLOTS:
     void Reads_data()
     {
-        QTest::addColumn<cFiles>("files");
-        QTest::addColumn<int>("rows");
-        QTest::addColumn<QString>("text"); // of the refusal, else of the first problem or row left out
+        // text: of the refusal, else of the first problem or row left out
+        const cTestRows<cFiles, int, QString> row("files", "rows", "text");
         const std::pair<QString, QByteArray> swift{u"b/giro.sta"_s, Fixture(u"mt940/giro.sta"_s)};
         const std::pair<QString, QByteArray> csv{u"a.csv"_s, table};
-        QTest::newRow("two formats") << cFiles{swift, csv} << 7 << u"a.csv: Der Betrag ist keine Zahl"_s;
-        QTest::newRow("columns without names")
-            << cFiles{swift, {u"a.csv"_s, "03.02.2026;Kiosk;-4,20\n04.02.2026;Kino;-9,00\n"}} << 8
-            << u"a.csv: Die Spalten sind aus dem Inhalt geraten"_s;
-        QTest::newRow("a letter beside it")
-            << cFiles{swift, {u"Hinweis.pdf"_s, "%PDF"}} << 6 << u"Hinweis.pdf: Dieses"_s;
-        QTest::newRow("a text beside it") << cFiles{swift, {u"a.txt"_s, "Guten Tag"}} << 6 << u"a.txt: In der Datei"_s;
-        QTest::newRow("what a system puts beside it")
-            << cFiles{swift, {u"__MACOSX/b/._giro.sta"_s, "x"}, {u".DS_Store"_s, "x"}} << 6 << QString();
-        QTest::newRow("an archive within") << cFiles{swift, {u"c.zip"_s, Zip({csv})}} << 6 << u"c.zip: Dieses Format"_s;
-        QTest::newRow("nothing to read") << cFiles{{u"a.pdf"_s, "%PDF"}} << 0 << u"Im ZIP-Archiv ist kein"_s;
-        QTest::newRow("a message of another kind")
-            << cFiles{swift, {u"a.xml"_s, "<Document><CstmrCdtTrfInitn/></Document>"}} << 0 << u"Die Datei 'a.xml'"_s;
-        QTest::newRow("damaged statement")
-            << cFiles{swift, {u"a.ofx"_s, "<OFX><BANKTRANLIST><STMTTRN></OFX>"}} << 0 << u"Die Datei 'a.ofx'"_s;
+        row("two formats", cFiles{swift, csv}, 7, u"a.csv: Der Betrag ist keine Zahl"_s);
+        row("columns without names", cFiles{swift, {u"a.csv"_s, "03.02.2026;Kiosk;-4,20\n04.02.2026;Kino;-9,00\n"}}, 8,
+            u"a.csv: Die Spalten sind aus dem Inhalt geraten"_s);
+        row("a letter beside it", cFiles{swift, {u"Hinweis.pdf"_s, "%PDF"}}, 6, u"Hinweis.pdf: Dieses"_s);
+        row("a text beside it", cFiles{swift, {u"a.txt"_s, "Guten Tag"}}, 6, u"a.txt: In der Datei"_s);
+        row("what a system puts beside it", cFiles{swift, {u"__MACOSX/b/._giro.sta"_s, "x"}, {u".DS_Store"_s, "x"}}, 6,
+            {});
+        row("an archive within", cFiles{swift, {u"c.zip"_s, Zip({csv})}}, 6, u"c.zip: Dieses Format"_s);
+        row("nothing to read", cFiles{{u"a.pdf"_s, "%PDF"}}, 0, u"Im ZIP-Archiv ist kein"_s);
+        row("a message of another kind", cFiles{swift, {u"a.xml"_s, "<Document><CstmrCdtTrfInitn/></Document>"}}, 0,
+            u"Die Datei 'a.xml'"_s);
+        row("damaged statement", cFiles{swift, {u"a.ofx"_s, "<OFX><BANKTRANLIST><STMTTRN></OFX>"}}, 0,
+            u"Die Datei 'a.ofx'"_s);
     }
 
     void Reads()

@@ -1,5 +1,6 @@
 #include "import/stage/modStatementFormat.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -13,24 +14,22 @@ private Q_SLOTS:
     void Detects_data()
     {
         const QString mt940 = u":20:A\r\n:25:1\r\n:60F:C\r\n:62F:C\r\n"_s;
-        QTest::addColumn<QString>("file");
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<eStatementFormat>("format");
-        QTest::newRow("spreadsheet by name") << u"a.xlsx"_s << mt940 << eStatementFormat::Spreadsheet;
-        QTest::newRow("PDF by name") << u"A.Pdf"_s << mt940 << eStatementFormat::Pdf;
-        QTest::newRow("shortcut") << u"a.lnk"_s << mt940 << eStatementFormat::Unknown;
-        QTest::newRow("MT940 by balances") << u"statement.TXT"_s << mt940 << eStatementFormat::Mt940;
-        QTest::newRow("MT940 by intermediate balances") << u"a"_s << u":60M:x:62M:"_s << eStatementFormat::Mt940;
-        QTest::newRow("MT942 by tags") << u"a.txt"_s << u":20:x:61:x:86:"_s << eStatementFormat::Mt940;
-        QTest::newRow("no details, but named so") << u"a.MT940"_s << u":20:x:61:x"_s << eStatementFormat::Mt940;
-        QTest::newRow("no details") << u"a.txt"_s << u":20:x:61:x"_s << eStatementFormat::Csv;
-        QTest::newRow("MT940 without balances and details") << u"a.sta"_s << u":20:x:61:x"_s << eStatementFormat::Mt940;
-        QTest::newRow("named so, other content") << u"a.mt940"_s << u"Datum;Betrag"_s << eStatementFormat::Csv;
-        QTest::newRow("OFX") << u"a.txt"_s << u"OFXHEADER:100 <BANKTRANLIST> </OFX>"_s << eStatementFormat::Ofx;
-        QTest::newRow("OFX without list") << u"a.ofx"_s << u"<OFX></OFX>"_s << eStatementFormat::Ofx;
-        QTest::newRow("QIF") << u"a.txt"_s << u"!Type:Bank\nD1/1/10"_s << eStatementFormat::Qif;
-        QTest::newRow("QIF card") << u"a.txt"_s << u"!TYPE:CCARD"_s << eStatementFormat::Qif;
-        QTest::newRow("all else") << u"a.dat"_s << QString() << eStatementFormat::Csv;
+        const cTestRows<QString, QString, eStatementFormat> row("file", "text", "format");
+        row("spreadsheet by name", u"a.xlsx"_s, mt940, eStatementFormat::Spreadsheet);
+        row("PDF by name", u"A.Pdf"_s, mt940, eStatementFormat::Pdf);
+        row("shortcut", u"a.lnk"_s, mt940, eStatementFormat::Unknown);
+        row("MT940 by balances", u"statement.TXT"_s, mt940, eStatementFormat::Mt940);
+        row("MT940 by intermediate balances", u"a"_s, u":60M:x:62M:"_s, eStatementFormat::Mt940);
+        row("MT942 by tags", u"a.txt"_s, u":20:x:61:x:86:"_s, eStatementFormat::Mt940);
+        row("no details, but named so", u"a.MT940"_s, u":20:x:61:x"_s, eStatementFormat::Mt940);
+        row("no details", u"a.txt"_s, u":20:x:61:x"_s, eStatementFormat::Csv);
+        row("MT940 without balances and details", u"a.sta"_s, u":20:x:61:x"_s, eStatementFormat::Mt940);
+        row("named so, other content", u"a.mt940"_s, u"Datum;Betrag"_s, eStatementFormat::Csv);
+        row("OFX", u"a.txt"_s, u"OFXHEADER:100 <BANKTRANLIST> </OFX>"_s, eStatementFormat::Ofx);
+        row("OFX without list", u"a.ofx"_s, u"<OFX></OFX>"_s, eStatementFormat::Ofx);
+        row("QIF", u"a.txt"_s, u"!Type:Bank\nD1/1/10"_s, eStatementFormat::Qif);
+        row("QIF card", u"a.txt"_s, u"!TYPE:CCARD"_s, eStatementFormat::Qif);
+        row("all else", u"a.dat"_s, {}, eStatementFormat::Csv);
     }
 
     void Detects()
@@ -38,16 +37,6 @@ private Q_SLOTS:
         QFETCH(QString, file);
         QFETCH(QString, text);
         QTEST(DetectStatementFormat(file, text), "format");
-    }
-
-    void RefusesByName()
-    {
-        QVERIFY(modStatementFormat::Reader(eStatementFormat::Mt940) != nullptr);
-        QVERIFY(modStatementFormat::Reader(eStatementFormat::Csv) != nullptr);
-        QVERIFY(modStatementFormat::Reader(eStatementFormat::Pdf) == nullptr);
-        QCOMPARE(modStatementFormat::Refusal(eStatementFormat::Pdf),
-                 u"Dieses Format kann nicht eingelesen werden: Portable Document Format (PDF-Datei)"_s);
-        QCOMPARE(modStatementFormat::Name(eStatementFormat::Unknown), u"Unbekanntes Dateiformat"_s);
     }
 };
 

@@ -1,6 +1,7 @@
 #include "import/read/modStatementFile.h"
 #include "import/read/modStatementText.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -13,18 +14,17 @@ class testStatementText : public QObject
 private Q_SLOTS:
     void DecodesEveryEncoding_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("UTF-8") << QByteArray("M\xC3\xBCller") << u"Müller"_s;
-        QTest::newRow("UTF-8 with mark") << QByteArray("\xEF\xBB\xBF:20:\xE2\x82\xAC") << u":20:€"_s;
-        QTest::newRow("UTF-16 little endian") << QByteArray("\xFF\xFE:\0\xDC\0", 6) << u":Ü"_s;
-        QTest::newRow("UTF-16 big endian") << QByteArray("\xFE\xFF\0:\0\xDC", 6) << u":Ü"_s;
-        QTest::newRow("Windows-1252") << QByteArray("M\xFCller 5 \x80 \x96 \x8E") << u"Müller 5 € – Ž"_s;
-        QTest::newRow("UTF-8 cut at the end") << QByteArray("Stra\xC3") << u"StraÃ"_s;
-        QTest::newRow("overlong sequence is not UTF-8") << QByteArray("\xC0\xAF") << u"À¯"_s;
-        QTest::newRow("mark before broken UTF-8") << QByteArray("\xEF\xBB\xBF\xFC") << u"ü"_s;
-        QTest::newRow("NULs vanish") << QByteArray("a\0b", 3) << u"ab"_s;
-        QTest::newRow("nothing") << QByteArray() << QString();
+        const cTestRows<QByteArray, QString> row("bytes", "text");
+        row("UTF-8", "M\xC3\xBCller", u"Müller"_s);
+        row("UTF-8 with mark", "\xEF\xBB\xBF:20:\xE2\x82\xAC", u":20:€"_s);
+        row("UTF-16 little endian", QByteArray("\xFF\xFE:\0\xDC\0", 6), u":Ü"_s);
+        row("UTF-16 big endian", QByteArray("\xFE\xFF\0:\0\xDC", 6), u":Ü"_s);
+        row("Windows-1252", "M\xFCller 5 \x80 \x96 \x8E", u"Müller 5 € – Ž"_s);
+        row("UTF-8 cut at the end", "Stra\xC3", u"StraÃ"_s);
+        row("overlong sequence is not UTF-8", "\xC0\xAF", u"À¯"_s);
+        row("mark before broken UTF-8", "\xEF\xBB\xBF\xFC", u"ü"_s);
+        row("NULs vanish", QByteArray("a\0b", 3), u"ab"_s);
+        row("nothing", {}, {});
     }
 
     void DecodesEveryEncoding()
@@ -36,11 +36,10 @@ private Q_SLOTS:
     // A bank that wraps its lines by bytes tears letters apart; the file is no UTF-8 then, but its joined fields are.
     void RepairsFields_data()
     {
-        QTest::addColumn<QString>("field");
-        QTest::addColumn<QString>("text");
-        QTest::newRow("torn letter") << modStatementText::Decode("GEB\xC3\x9CHR \xFC").left(7) << u"GEBÜHR"_s;
-        QTest::newRow("right text stays") << u"Müller & Söhne – 5 €"_s << u"Müller & Söhne – 5 €"_s;
-        QTest::newRow("other scripts stay") << u"Ã¼ 東京"_s << u"Ã¼ 東京"_s;
+        const cTestRows<QString, QString> row("field", "text");
+        row("torn letter", modStatementText::Decode("GEB\xC3\x9CHR \xFC").left(7), u"GEBÜHR"_s);
+        row("right text stays", u"Müller & Söhne – 5 €"_s, u"Müller & Söhne – 5 €"_s);
+        row("other scripts stay", u"Ã¼ 東京"_s, u"Ã¼ 東京"_s);
     }
 
     void RepairsFields()
@@ -52,21 +51,18 @@ private Q_SLOTS:
     // Readers hold a field several times over, so nobody else looks at one of 50 MB.
     void EndlessFieldsAreRefused_data()
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<int>("line"); // 0: read
+        // Line 0: it is read.
+        const cTestRows<QByteArray, int> row("bytes", "line");
         const QByteArray endless(1'100'000, 'x');
         const QByteArray tags = QByteArray("<Ntry>1</Ntry>").repeated(200'000);
-        QTest::newRow("cell") << QByteArray("Tag;Betrag\n1;2\n\"" + endless + "\";3\n4;5\n") << 3;
-        QTest::newRow("last line") << QByteArray("Tag;Betrag\r\n" + endless) << 2;
-        QTest::newRow("many lines") << QByteArray("1;2\n").repeated(600'000) << 0;
-        QTest::newRow("document of one line") << QByteArray("\n<?xml?>" + tags) << 0;
-        QTest::newRow("text of a tag") << QByteArray("<?xml?>\n" + tags + "<Ustrd>"
-                                                     + QByteArray(endless).replace("xx", "x\n"))
-                                       << 2;
-        QTest::newRow("OFX of one line") << QByteArray("OFXHEADER:100 <OFX>" + tags) << 0;
-        QTest::newRow("SWIFT of one line")
-            << QByteArray(":20:STARTUMS@@" + QByteArray(":61:2403@@").repeated(200'000)) << 0;
-        QTest::newRow("archive") << QByteArray("PK\3\4" + endless) << 0;
+        row("cell", QByteArray("Tag;Betrag\n1;2\n\"" + endless + "\";3\n4;5\n"), 3);
+        row("last line", QByteArray("Tag;Betrag\r\n" + endless), 2);
+        row("many lines", QByteArray("1;2\n").repeated(600'000), 0);
+        row("document of one line", QByteArray("\n<?xml?>" + tags), 0);
+        row("text of a tag", QByteArray("<?xml?>\n" + tags + "<Ustrd>" + QByteArray(endless).replace("xx", "x\n")), 2);
+        row("OFX of one line", QByteArray("OFXHEADER:100 <OFX>" + tags), 0);
+        row("SWIFT of one line", QByteArray(":20:STARTUMS@@" + QByteArray(":61:2403@@").repeated(200'000)), 0);
+        row("archive", QByteArray("PK\3\4" + endless), 0);
     }
 
     void EndlessFieldsAreRefused()

@@ -10,6 +10,8 @@
 #include "import/table/modTableText.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 
 #include <QDir>
 #include <QTest>
@@ -19,12 +21,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QString folder = QStringLiteral(TEST_DATA "/csv");
-
-QByteArray ReadAll(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
 
 cStatementRead ReadText(const QString& text, const cReadOptions& options = {})
 {
@@ -80,11 +76,11 @@ class testTable : public QObject
 private Q_SLOTS:
     void KnownLayouts_data()
     {
-        QTest::addColumn<QString>("file");
+        const cTestRows<QString> row("file");
         const QStringList files = QDir(folder).entryList({u"*.csv"_s});
         QVERIFY(!files.isEmpty());
         for (const QString& file : files) {
-            QTest::newRow(qPrintable(file)) << QDir(folder).filePath(file);
+            row(qPrintable(file), QDir(folder).filePath(file));
         }
     }
 
@@ -94,9 +90,9 @@ private Q_SLOTS:
         QFETCH(QString, file);
         cReadOptions options;
         options.Account = u"4711"_s;
-        const cStatementSource source = modStatementFormat::Source(file, ReadAll(file));
+        const cStatementSource source = modStatementFormat::Source(file, cTestFile::Bytes(file));
         QCOMPARE(modStatementFormat::Detect(source), eStatementFormat::Csv);
-        const QString expected = QString::fromUtf8(ReadAll(file.chopped(3) + u"txt"_s));
+        const QString expected = QString::fromUtf8(cTestFile::Bytes(file.chopped(3) + u"txt"_s));
         QCOMPARE(Shown(modTable::Read(source, options)), expected);
     }
 
@@ -105,18 +101,14 @@ private Q_SLOTS:
         QStringList missing = modTableProfile::Names();
         const QStringList files = QDir(folder).entryList({u"*.txt"_s});
         for (const QString& file : files) {
-            missing.removeAll(QString::fromUtf8(ReadAll(QDir(folder).filePath(file))).section(u'\n', 0, 0));
+            missing.removeAll(QString::fromUtf8(cTestFile::Bytes(QDir(folder).filePath(file))).section(u'\n', 0, 0));
         }
         QCOMPARE(missing, QStringList());
     }
 
     void Detects_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("read");
-        const auto row = [](const char* name, const QString& text, const QStringList& read) {
-            QTest::newRow(name) << text << read;
-        };
+        const cTestRows<QString, QStringList> row("text", "read");
         row("header on the first line", u"Datum;Betrag;Verwendungszweck\n03.02.2025;-12,00;a\n"_s,
             {u"2025-02-03 -12.00 1"_s});
         row("lines above the header",
@@ -218,12 +210,8 @@ private Q_SLOTS:
 
     void Fees_data()
     {
-        QTest::addColumn<QString>("rows");
-        QTest::addColumn<qint64>("value"); // of the second row
-        QTest::addColumn<int>("problems");
-        const auto row = [](const char* name, const QString& rows, qint64 value, int problems) {
-            QTest::newRow(name) << rows << value << problems;
-        };
+        // value: of the second row
+        const cTestRows<QString, qint64, int> row("rows", "value", "problems");
         row("beside the amount", u"1;10,00;0;10,00|2;-2,00;0,50;7,50"_s, -250, 1);
         row("beside, with a sign, newest first", u"3;1,00;0;8,50|2;-2,00;-0,50;7,50|1;10,00;;10,00"_s, -250, 1);
         row("in the amount", u"1;10,00;0;10,00|2;-2,00;0,50;8,00"_s, -200, 0);
@@ -246,12 +234,7 @@ private Q_SLOTS:
     // What a spreadsheet or the bank broke is put right and said, or left out with the reason.
     void Mends_data()
     {
-        QTest::addColumn<QString>("rows");
-        QTest::addColumn<QString>("read");
-        QTest::addColumn<int>("told");
-        const auto row = [](const char* name, const QString& rows, const QString& read, int told) {
-            QTest::newRow(name) << rows << read << told;
-        };
+        const cTestRows<QString, QString, int> row("rows", "read", "told");
         row("semicolon for the comma", u"03.02.2025;A;x;\"-30;9\";EUR|04.02.2025;B;y;-15;EUR"_s,
             u"-30.90 A x, -15.00 B y"_s, 1);
         row("a field is missing", u"03.02.2025;A;x;-1,00;EUR|04.02.2025;Rente;2.647,74;EUR"_s,
@@ -299,18 +282,16 @@ private Q_SLOTS:
 
     void Sections_data()
     {
-        QTest::addColumn<QString>("middle"); // between the two parts
-        QTest::addColumn<QStringList>("read");
-        QTest::addColumn<int>("told");
+        // middle: between the two parts
+        const cTestRows<QString, QStringList, int> row("middle", "read", "told");
         const QString first = u"2025-02-03 -1.00 1"_s;
-        QTest::newRow("another account by its title")
-            << u"Summe;;;-1,00\n\nUmsätze Visa-Karte\nNeuer Kontostand;5,00 EUR\n\nBuchungstag;Umsatztag;Text;Betrag\n"_s
-            << QStringList{first, u"2025-02-05 -2.00 Visa-Karte"_s} << 2;
-        QTest::newRow("another account by its number, the same columns")
-            << u"\nTagesgeldkonto;DE02120300000000202051\nBuchungstag;Wertstellung;Text;Betrag\n"_s
-            << QStringList{first, u"2025-02-04 -2.00 DE02120300000000202051"_s} << 1;
-        QTest::newRow("the next page") << u"Buchungstag;Wertstellung;Text;Betrag\n"_s
-                                       << QStringList{first, u"2025-02-04 -2.00 1"_s} << 0;
+        row("another account by its title",
+            u"Summe;;;-1,00\n\nUmsätze Visa-Karte\nNeuer Kontostand;5,00 EUR\n\nBuchungstag;Umsatztag;Text;Betrag\n"_s,
+            {first, u"2025-02-05 -2.00 Visa-Karte"_s}, 2);
+        row("another account by its number, the same columns",
+            u"\nTagesgeldkonto;DE02120300000000202051\nBuchungstag;Wertstellung;Text;Betrag\n"_s,
+            {first, u"2025-02-04 -2.00 DE02120300000000202051"_s}, 1);
+        row("the next page", u"Buchungstag;Wertstellung;Text;Betrag\n"_s, {first, u"2025-02-04 -2.00 1"_s}, 0);
     }
 
     void Sections()
@@ -329,11 +310,7 @@ private Q_SLOTS:
     // Columns count by their names; what nearly is a known layout must not become another bank's.
     void NearlyKnown_data()
     {
-        QTest::addColumn<QString>("header");
-        QTest::addColumn<QString>("layout");
-        const auto row = [](const char* name, const QString& header, const QString& layout) {
-            QTest::newRow(name) << header << layout;
-        };
+        const cTestRows<QString, QString> row("header", "layout");
         row("other capitals",
             u"BUCHUNG;Valuta;Sender / empfänger;IBAN / Konto-Nr.;BIC / BLZ;Buchungstext;"
             "Verwendungszweck;Betrag in EUR"_s,

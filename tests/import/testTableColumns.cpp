@@ -3,6 +3,7 @@
 #include "import/table/modTablePurpose.h"
 #include "import/table/modTableText.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -37,11 +38,7 @@ class testTableColumns : public QObject
 private Q_SLOTS:
     void WordsOfTheHeader_data()
     {
-        QTest::addColumn<QString>("header");
-        QTest::addColumn<QString>("map");
-        const auto row = [](const char* name, const QString& header, const QString& map) {
-            QTest::newRow(name) << header << map;
-        };
+        const cTestRows<QString, QString> row("header", "map");
         row("value day replaces booking day, Währung is not told",
             u"Buchungstag;Valuta;Auftraggeber/Empfänger;Kontonummer;BLZ;Verwendungszweck;Betrag;Währung"_s,
             u"date=1 purpose=5 name=2 account=3 bank=4 amount=6"_s);
@@ -83,20 +80,18 @@ private Q_SLOTS:
 
     void Wildcards_data()
     {
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("list");
-        QTest::addColumn<bool>("isMatch");
-        QTest::newRow("whole name") << u"Umsatz"_s << u"Betrag|umsatz"_s << true;
-        QTest::newRow("not a part") << u"Umsatzart"_s << u"Umsatz"_s << false;
-        QTest::newRow("star") << u"Mein Umsatz heute"_s << u"*umsatz*"_s << true;
-        QTest::newRow("star needs nothing") << u"Umsatz"_s << u"*Umsatz*"_s << true;
-        QTest::newRow("star goes on looking") << u"Vwz Zeile 11"_s << u"Vwz*1"_s << true;
-        QTest::newRow("one character") << u"A1"_s << u"A?"_s << true;
-        QTest::newRow("digit") << u"A1"_s << u"A#"_s << true;
-        QTest::newRow("no digit") << u"AB"_s << u"A#"_s << false;
-        QTest::newRow("class") << u"Ab"_s << u"A[xb-c]"_s << true;
-        QTest::newRow("class turned round") << u"Ab"_s << u"A[!xb-c]"_s << false;
-        QTest::newRow("empty alternative") << QString() << u"A|"_s << true;
+        const cTestRows<QString, QString, bool> row("name", "list", "isMatch");
+        row("whole name", u"Umsatz"_s, u"Betrag|umsatz"_s, true);
+        row("not a part", u"Umsatzart"_s, u"Umsatz"_s, false);
+        row("star", u"Mein Umsatz heute"_s, u"*umsatz*"_s, true);
+        row("star needs nothing", u"Umsatz"_s, u"*Umsatz*"_s, true);
+        row("star goes on looking", u"Vwz Zeile 11"_s, u"Vwz*1"_s, true);
+        row("one character", u"A1"_s, u"A?"_s, true);
+        row("digit", u"A1"_s, u"A#"_s, true);
+        row("no digit", u"AB"_s, u"A#"_s, false);
+        row("class", u"Ab"_s, u"A[xb-c]"_s, true);
+        row("class turned round", u"Ab"_s, u"A[!xb-c]"_s, false);
+        row("empty alternative", {}, u"A|"_s, true);
     }
 
     void Wildcards()
@@ -116,11 +111,8 @@ private Q_SLOTS:
 
     void Splits_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("rows"); // cells joined by "|"
-        const auto row = [](const char* name, const QString& text, const QStringList& rows) {
-            QTest::newRow(name) << text << rows;
-        };
+        // rows: cells joined by "|"
+        const cTestRows<QString, QStringList> row("text", "rows");
         row("line ends", u"a;b\r\nc\nd;\re"_s, {u"a|b"_s, u"c"_s, u"d|"_s, u"e"_s});
         row("blanks and quotes go", u" a ; \"b\" ;\" c \""_s, {u"a|b|c"_s});
         row("separator, break and doubled quote inside", u"\"a;b\nc\"\"d\"\"e\";f\ng"_s, {u"a;b c\"d\"e|f"_s, u"g"_s});
@@ -157,12 +149,11 @@ private Q_SLOTS:
 
     void Purposes_data()
     {
-        QTest::addColumn<QString>("joined");
-        QTest::addColumn<QString>("purpose");
-        QTest::newRow("signs become blanks") << u"a;b\"c\""_s << u"a b c"_s;
-        QTest::newRow("doubled blanks") << u"a    b"_s << u"a b"_s;
-        QTest::newRow("line breaks") << u"a<BR><BR>b"_s << u"a\nb"_s;
-        QTest::newRow("SEPA") << u"EREF+1SVWZ+MieteABWA+Otto"_s << u"Miete (Otto)"_s;
+        const cTestRows<QString, QString> row("joined", "purpose");
+        row("signs become blanks", u"a;b\"c\""_s, u"a b c"_s);
+        row("doubled blanks", u"a    b"_s, u"a b"_s);
+        row("line breaks", u"a<BR><BR>b"_s, u"a\nb"_s);
+        row("SEPA", u"EREF+1SVWZ+MieteABWA+Otto"_s, u"Miete (Otto)"_s);
     }
 
     void Purposes()

@@ -1,5 +1,6 @@
 #include "import/table/modTableValue.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -12,29 +13,28 @@ class testTableValue : public QObject
 private Q_SLOTS:
     void Dates_data()
     {
-        QTest::addColumn<QString>("cell");
-        QTest::addColumn<QDate>("date");
-        QTest::newRow("German") << u"03.02.2025"_s << QDate(2025, 2, 3);
-        QTest::newRow("short") << u"3.2.25"_s << QDate(2025, 2, 3);
-        QTest::newRow("two-digit years are of this century") << u"01.01.99"_s << QDate(2099, 1, 1);
-        QTest::newRow("other signs") << u"03-02/2025"_s << QDate(2025, 2, 3);
-        QTest::newRow("year first") << u"2025-02-03"_s << QDate(2025, 2, 3);
-        QTest::newRow("digits alone") << u"20250203"_s << QDate(2025, 2, 3);
-        QTest::newRow("with time") << u"03.02.2025 14:30:59"_s << QDate(2025, 2, 3);
-        QTest::newRow("with time and zone") << u"2025-02-03T14:30:00+01:00"_s << QDate(2025, 2, 3);
-        QTest::newRow("with letters") << u"Mo. 03.02.2025"_s << QDate(2025, 2, 3);
-        QTest::newRow("month as a word") << u"30 Jun 2023"_s << QDate(2023, 6, 30);
-        QTest::newRow("German month") << u"3. März 2024"_s << QDate(2024, 3, 3);
-        QTest::newRow("shortened, with point and time") << u"05. Okt. 24, 14:30"_s << QDate(2024, 10, 5);
-        QTest::newRow("month before day") << u"September 5, 2024"_s << QDate(2024, 9, 5);
-        QTest::newRow("strokes and capitals") << u"07-MAI-2024"_s << QDate(2024, 5, 7);
-        QTest::newRow("weekday in front") << u"Do., 1. Februar 2024"_s << QDate(2024, 2, 1);
-        QTest::newRow("no month") << u"3 Stk 2024"_s << QDate();
-        QTest::newRow("month without such a day") << u"31. April 2024"_s << QDate();
-        QTest::newRow("no such day") << u"30.02.2025"_s << QDate();
-        QTest::newRow("a number") << u"12"_s << QDate();
-        QTest::newRow("many digits") << u"999999999999999999999.1.1"_s << QDate();
-        QTest::newRow("empty") << QString() << QDate();
+        const cTestRows<QString, QDate> row("cell", "date");
+        row("German", u"03.02.2025"_s, QDate(2025, 2, 3));
+        row("short", u"3.2.25"_s, QDate(2025, 2, 3));
+        row("two-digit years are of this century", u"01.01.99"_s, QDate(2099, 1, 1));
+        row("other signs", u"03-02/2025"_s, QDate(2025, 2, 3));
+        row("year first", u"2025-02-03"_s, QDate(2025, 2, 3));
+        row("digits alone", u"20250203"_s, QDate(2025, 2, 3));
+        row("with time", u"03.02.2025 14:30:59"_s, QDate(2025, 2, 3));
+        row("with time and zone", u"2025-02-03T14:30:00+01:00"_s, QDate(2025, 2, 3));
+        row("with letters", u"Mo. 03.02.2025"_s, QDate(2025, 2, 3));
+        row("month as a word", u"30 Jun 2023"_s, QDate(2023, 6, 30));
+        row("German month", u"3. März 2024"_s, QDate(2024, 3, 3));
+        row("shortened, with point and time", u"05. Okt. 24, 14:30"_s, QDate(2024, 10, 5));
+        row("month before day", u"September 5, 2024"_s, QDate(2024, 9, 5));
+        row("strokes and capitals", u"07-MAI-2024"_s, QDate(2024, 5, 7));
+        row("weekday in front", u"Do., 1. Februar 2024"_s, QDate(2024, 2, 1));
+        row("no month", u"3 Stk 2024"_s, {});
+        row("month without such a day", u"31. April 2024"_s, {});
+        row("no such day", u"30.02.2025"_s, {});
+        row("a number", u"12"_s, {});
+        row("many digits", u"999999999999999999999.1.1"_s, {});
+        row("empty", {}, {});
     }
 
     void Dates()
@@ -83,11 +83,7 @@ private Q_SLOTS:
 
     void FormatOfAColumn_data()
     {
-        QTest::addColumn<QStringList>("cells");
-        QTest::addColumn<eNumberFormat>("format");
-        const auto row = [](const char* name, const QStringList& cells, eNumberFormat format) {
-            QTest::newRow(name) << cells << format;
-        };
+        const cTestRows<QStringList, eNumberFormat> row("cells", "format");
         row("a point with two digits and never a comma", {u"10.50"_s, u"-4.0"_s, u"1"_s}, eNumberFormat::English);
         row("one comma makes points group", {u"10.50"_s, u"1,00"_s}, eNumberFormat::German);
         row("thousands alone", {u"1.450"_s, u"29.000"_s}, eNumberFormat::German);

@@ -4,6 +4,7 @@
 #include "import/table/cTable.h"
 #include "import/table/modTable.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -50,11 +51,7 @@ class testUnseenTables : public QObject
 private Q_SLOTS:
     void Reads_data()
     {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<QStringList>("read");
-        const auto row = [](const char* name, const QString& text, const QStringList& read) {
-            QTest::newRow(name) << text << read;
-        };
+        const cTestRows<QString, QStringList> row("text", "read");
         Sides(row);
         Cards(row);
         Accounts(row);

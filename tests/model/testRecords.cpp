@@ -4,6 +4,7 @@
 #include "model/modPeriod.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -16,25 +17,23 @@ class testRecords final : public QObject
 private Q_SLOTS:
     void PeriodNames_data() const
     {
-        QTest::addColumn<QDate>("today");
-        QTest::addColumn<QDate>("start");
-        QTest::addColumn<QDate>("end");
+        const cTestRows<QDate, QDate, QDate> row("today", "start", "end");
         const QDate march(2024, 3, 31);
         const QDate january(2024, 1, 15);
         const QDate november(2024, 11, 30);
-        QTest::newRow("Alle Buchungen") << march << QDate() << QDate();
-        QTest::newRow("Aktueller Tag") << march << march << march;
-        QTest::newRow("Buchungen bis heute") << march << QDate(1001, 1, 1) << march;
-        QTest::newRow("Aktueller Monat") << march << QDate(2024, 3, 1) << march;
-        QTest::newRow("Aktuelles Quartal") << march << QDate(2024, 1, 1) << march;
-        QTest::newRow("Aktuelles Jahr") << march << QDate(2024, 1, 1) << QDate(2024, 12, 31);
-        QTest::newRow("Letzter Monat") << march << QDate(2024, 2, 1) << QDate(2024, 2, 29);
-        QTest::newRow("Letztes Quartal") << january << QDate(2023, 10, 1) << QDate(2023, 12, 31);
-        QTest::newRow("Letztes Jahr") << january << QDate(2023, 1, 1) << QDate(2023, 12, 31);
-        QTest::newRow("Nächster Monat") << november << QDate(2024, 12, 1) << QDate(2024, 12, 31);
-        QTest::newRow("Nächstes Quartal") << november << QDate(2025, 1, 1) << QDate(2025, 3, 31);
-        QTest::newRow("Nächstes Jahr") << november << QDate(2025, 1, 1) << QDate(2025, 12, 31);
-        QTest::newRow("Freier Zeitraum") << march << QDate(2020, 5, 5) << QDate(2020, 6, 6);
+        row("Alle Buchungen", march, {}, {});
+        row("Aktueller Tag", march, march, march);
+        row("Buchungen bis heute", march, QDate(1001, 1, 1), march);
+        row("Aktueller Monat", march, QDate(2024, 3, 1), march);
+        row("Aktuelles Quartal", march, QDate(2024, 1, 1), march);
+        row("Aktuelles Jahr", march, QDate(2024, 1, 1), QDate(2024, 12, 31));
+        row("Letzter Monat", march, QDate(2024, 2, 1), QDate(2024, 2, 29));
+        row("Letztes Quartal", january, QDate(2023, 10, 1), QDate(2023, 12, 31));
+        row("Letztes Jahr", january, QDate(2023, 1, 1), QDate(2023, 12, 31));
+        row("Nächster Monat", november, QDate(2024, 12, 1), QDate(2024, 12, 31));
+        row("Nächstes Quartal", november, QDate(2025, 1, 1), QDate(2025, 3, 31));
+        row("Nächstes Jahr", november, QDate(2025, 1, 1), QDate(2025, 12, 31));
+        row("Freier Zeitraum", march, QDate(2020, 5, 5), QDate(2020, 6, 6));
     }
 
     void PeriodNames() const
@@ -50,13 +49,11 @@ private Q_SLOTS:
 
     void CategoryPaths_data() const
     {
-        QTest::addColumn<QString>("category");
-        QTest::addColumn<QString>("name");
-        QTest::addColumn<QString>("path");
-        QTest::newRow("nothing") << QString() << QString() << u"Keine Angabe"_s;
-        QTest::newRow("sub-category alone") << QString() << u"Lotto"_s << u"Sonstiges; Lotto"_s;
-        QTest::newRow("main category alone") << u"Haushalt"_s << QString() << u"Haushalt"_s;
-        QTest::newRow("both") << u"Haushalt"_s << u"Strom"_s << u"Haushalt; Strom"_s;
+        const cTestRows<QString, QString, QString> row("category", "name", "path");
+        row("nothing", {}, {}, u"Keine Angabe"_s);
+        row("sub-category alone", {}, u"Lotto"_s, u"Sonstiges; Lotto"_s);
+        row("main category alone", u"Haushalt"_s, {}, u"Haushalt"_s);
+        row("both", u"Haushalt"_s, u"Strom"_s, u"Haushalt; Strom"_s);
     }
 
     void CategoryPaths() const
@@ -84,17 +81,14 @@ private Q_SLOTS:
 
     void ValueOfACategoryByItsInterval_data() const
     {
-        QTest::addColumn<QString>("kind");
-        QTest::addColumn<QString>("interval");
-        QTest::addColumn<qint64>("proposed");
-        QTest::addColumn<qint64>("limitOfAYear");
-        QTest::newRow("a month's limit") << modWord::Ausgabe << modWord::Einmalig << qint64{0} << qint64{120'000};
-        QTest::newRow("monthly") << modWord::Ausgabe << u"Monatlich"_s << qint64{10'000} << qint64{120'000};
-        QTest::newRow("yearly") << modWord::Ausgabe << u"Jährlich"_s << qint64{10'000} << qint64{10'000};
-        QTest::newRow("quarterly") << modWord::Ausgabe << u"Alle 3 Monate"_s << qint64{10'000} << qint64{40'000};
-        QTest::newRow("weekly") << modWord::Ausgabe << u"Wöchentlich"_s << qint64{10'000} << qint64{520'000};
-        QTest::newRow("income") << modWord::Einnahme << u"Monatlich"_s << qint64{10'000} << qint64{0};
-        QTest::newRow("word of a filter") << QString() << u"Alle"_s << qint64{0} << qint64{120'000};
+        const cTestRows<QString, QString, qint64, qint64> row("kind", "interval", "proposed", "limitOfAYear");
+        row("a month's limit", modWord::Ausgabe, modWord::Einmalig, 0, 120'000);
+        row("monthly", modWord::Ausgabe, u"Monatlich"_s, 10'000, 120'000);
+        row("yearly", modWord::Ausgabe, u"Jährlich"_s, 10'000, 10'000);
+        row("quarterly", modWord::Ausgabe, u"Alle 3 Monate"_s, 10'000, 40'000);
+        row("weekly", modWord::Ausgabe, u"Wöchentlich"_s, 10'000, 520'000);
+        row("income", modWord::Einnahme, u"Monatlich"_s, 10'000, 0);
+        row("word of a filter", {}, u"Alle"_s, 0, 120'000);
     }
 
     void ValueOfACategoryByItsInterval() const

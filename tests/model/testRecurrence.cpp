@@ -3,6 +3,7 @@
 #include "model/modSeries.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -47,35 +48,27 @@ class testRecurrence final : public QObject
 private Q_SLOTS:
     void Occurrences_data() const
     {
-        QTest::addColumn<QString>("interval");
-        QTest::addColumn<QDate>("start");
-        QTest::addColumn<QDate>("end");
-        QTest::addColumn<QDate>("from");
-        QTest::addColumn<QDate>("to");
-        QTest::addColumn<QString>("days");
+        const cTestRows<QString, QDate, QDate, QDate, QDate, QString> row(
+            {"interval", "start", "end", "from", "to", "days"});
         const QDate open = modRecurrence::OpenEnd;
-        QTest::newRow("weekly") << u"Wöchentlich"_s << QDate(2024, 1, 1) << open << QDate(2024, 1, 10)
-                                << QDate(2024, 1, 20) << u"2024-01-15"_s;
-        QTest::newRow("both ends of the period count")
-            << u"Wöchentlich"_s << QDate(2024, 1, 1) << open << QDate(2024, 1, 8) << QDate(2024, 1, 15)
-            << u"2024-01-08 2024-01-15"_s;
-        QTest::newRow("end of month drifts") << u"Monatlich"_s << QDate(2024, 1, 31) << open << QDate(2024, 2, 1)
-                                             << QDate(2024, 4, 30) << u"2024-02-29 2024-03-29 2024-04-29"_s;
-        QTest::newRow("leap day drifts") << u"Jährlich"_s << QDate(2024, 2, 29) << open << QDate(2024, 1, 1)
-                                         << QDate(2028, 12, 31)
-                                         << u"2024-02-29 2025-02-28 2026-02-28 2027-02-28 2028-02-28"_s;
-        QTest::newRow("four weeks are not a month")
-            << u"Alle 4 Wochen"_s << QDate(2024, 1, 1) << open << QDate(2024, 1, 1) << QDate(2024, 2, 29)
-            << u"2024-01-01 2024-01-29 2024-02-26"_s;
-        QTest::newRow("own end before the period's")
-            << u"Alle 2 Monate"_s << QDate(2024, 1, 15) << QDate(2024, 5, 15) << QDate(2024, 1, 1)
-            << QDate(2024, 12, 31) << u"2024-01-15 2024-03-15 2024-05-15"_s;
-        QTest::newRow("open period, closed series")
-            << u"Alle 6 Monate"_s << QDate(2024, 1, 15) << QDate(2024, 7, 14) << QDate() << QDate() << u"2024-01-15"_s;
-        QTest::newRow("starts behind the period")
-            << u"Täglich"_s << QDate(2025, 1, 1) << open << QDate(2024, 1, 1) << QDate(2024, 12, 31) << QString();
-        QTest::newRow("unknown interval happens once") << u"Alle 5 Tage"_s << QDate(2024, 1, 1) << open
-                                                       << QDate(2024, 1, 1) << QDate(2024, 12, 31) << u"2024-01-01"_s;
+        row("weekly", u"Wöchentlich"_s, QDate(2024, 1, 1), open, QDate(2024, 1, 10), QDate(2024, 1, 20),
+            u"2024-01-15"_s);
+        row("both ends of the period count", u"Wöchentlich"_s, QDate(2024, 1, 1), open, QDate(2024, 1, 8),
+            QDate(2024, 1, 15), u"2024-01-08 2024-01-15"_s);
+        row("end of month drifts", u"Monatlich"_s, QDate(2024, 1, 31), open, QDate(2024, 2, 1), QDate(2024, 4, 30),
+            u"2024-02-29 2024-03-29 2024-04-29"_s);
+        row("leap day drifts", u"Jährlich"_s, QDate(2024, 2, 29), open, QDate(2024, 1, 1), QDate(2028, 12, 31),
+            u"2024-02-29 2025-02-28 2026-02-28 2027-02-28 2028-02-28"_s);
+        row("four weeks are not a month", u"Alle 4 Wochen"_s, QDate(2024, 1, 1), open, QDate(2024, 1, 1),
+            QDate(2024, 2, 29), u"2024-01-01 2024-01-29 2024-02-26"_s);
+        row("own end before the period's", u"Alle 2 Monate"_s, QDate(2024, 1, 15), QDate(2024, 5, 15),
+            QDate(2024, 1, 1), QDate(2024, 12, 31), u"2024-01-15 2024-03-15 2024-05-15"_s);
+        row("open period, closed series", u"Alle 6 Monate"_s, QDate(2024, 1, 15), QDate(2024, 7, 14), {}, {},
+            u"2024-01-15"_s);
+        row("starts behind the period", u"Täglich"_s, QDate(2025, 1, 1), open, QDate(2024, 1, 1), QDate(2024, 12, 31),
+            {});
+        row("unknown interval happens once", u"Alle 5 Tage"_s, QDate(2024, 1, 1), open, QDate(2024, 1, 1),
+            QDate(2024, 12, 31), u"2024-01-01"_s);
     }
 
     void Occurrences() const
@@ -112,16 +105,14 @@ private Q_SLOTS:
 
     void Periods_data() const
     {
-        QTest::addColumn<QString>("interval");
-        QTest::addColumn<QDate>("start");
-        QTest::addColumn<QDate>("end");
+        const cTestRows<QString, QDate, QDate> row("interval", "start", "end");
         const QDate day(2024, 2, 14);
-        QTest::newRow("once") << u"Einmalig"_s << day << day;
-        QTest::newRow("day") << u"Täglich"_s << day << day;
-        QTest::newRow("week") << u"Wöchentlich"_s << day << QDate(2024, 2, 20);
-        QTest::newRow("month") << u"Monatlich"_s << QDate(2024, 2, 1) << QDate(2024, 2, 29);
-        QTest::newRow("quarter") << u"Alle 3 Monate"_s << day << QDate(2024, 5, 13);
-        QTest::newRow("year") << u"Jährlich"_s << QDate(2024, 1, 1) << QDate(2024, 12, 31);
+        row("once", u"Einmalig"_s, day, day);
+        row("day", u"Täglich"_s, day, day);
+        row("week", u"Wöchentlich"_s, day, QDate(2024, 2, 20));
+        row("month", u"Monatlich"_s, QDate(2024, 2, 1), QDate(2024, 2, 29));
+        row("quarter", u"Alle 3 Monate"_s, day, QDate(2024, 5, 13));
+        row("year", u"Jährlich"_s, QDate(2024, 1, 1), QDate(2024, 12, 31));
     }
 
     void Periods() const
@@ -154,24 +145,19 @@ private Q_SLOTS:
 
     void Moved_data() const
     {
-        QTest::addColumn<QString>("interval");
-        QTest::addColumn<QDate>("start");
-        QTest::addColumn<QDate>("key"); // of the correction
-        QTest::addColumn<QDate>("day");
-        QTest::addColumn<QString>("days"); // in February and March 2024; the series ends on 15 March
+        // key: of the correction
+        // days: in February and March 2024; the series ends on 15 March
+        const cTestRows<QString, QDate, QDate, QDate, QString> row("interval", "start", "key", "day", "days");
         const QDate start(2023, 12, 31);
-        QTest::newRow("within the period")
-            << u"Monatlich"_s << start << QDate(2024, 2, 1) << QDate(2024, 2, 27) << u"2024-02-27"_s;
-        QTest::newRow("into it from before")
-            << u"Monatlich"_s << start << QDate(2024, 1, 1) << QDate(2024, 2, 2) << u"2024-02-02 2024-02-29"_s;
-        QTest::newRow("out of it") << u"Monatlich"_s << start << QDate(2024, 2, 1) << QDate(2024, 1, 30) << QString();
-        QTest::newRow("of a year") << u"Jährlich"_s << QDate(2022, 3, 14) << QDate(2024, 1, 1) << QDate(2024, 2, 1)
-                                   << u"2024-02-01"_s;
-        QTest::newRow("behind the end of the series") << u"Wöchentlich"_s << QDate(2024, 3, 7) << QDate(2024, 3, 14)
-                                                      << QDate(2024, 3, 28) << u"2024-03-07 2024-03-28"_s;
-        QTest::newRow("days are in order, whatever moves")
-            << u"Wöchentlich"_s << QDate(2024, 3, 1) << QDate(2024, 3, 1) << QDate(2024, 3, 9)
-            << u"2024-03-08 2024-03-09 2024-03-15"_s;
+        row("within the period", u"Monatlich"_s, start, QDate(2024, 2, 1), QDate(2024, 2, 27), u"2024-02-27"_s);
+        row("into it from before", u"Monatlich"_s, start, QDate(2024, 1, 1), QDate(2024, 2, 2),
+            u"2024-02-02 2024-02-29"_s);
+        row("out of it", u"Monatlich"_s, start, QDate(2024, 2, 1), QDate(2024, 1, 30), {});
+        row("of a year", u"Jährlich"_s, QDate(2022, 3, 14), QDate(2024, 1, 1), QDate(2024, 2, 1), u"2024-02-01"_s);
+        row("behind the end of the series", u"Wöchentlich"_s, QDate(2024, 3, 7), QDate(2024, 3, 14), QDate(2024, 3, 28),
+            u"2024-03-07 2024-03-28"_s);
+        row("days are in order, whatever moves", u"Wöchentlich"_s, QDate(2024, 3, 1), QDate(2024, 3, 1),
+            QDate(2024, 3, 9), u"2024-03-08 2024-03-09 2024-03-15"_s);
     }
 
     // The key stays that of the planned day, and the days after it drift as if nothing had moved.

@@ -3,6 +3,7 @@
 #include "model/modSplit.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -37,15 +38,13 @@ private Q_SLOTS:
 
 void testSeries::OccurrenceOfADay_data()
 {
-    QTest::addColumn<QString>("interval");
-    QTest::addColumn<QDate>("day");
-    QTest::addColumn<QDate>("occurrence");
-    QTest::newRow("month before its occurrence") << u"Monatlich"_s << QDate(2026, 5, 1) << QDate(2026, 5, 28);
-    QTest::newRow("week from its occurrence") << u"Wöchentlich"_s << QDate(2026, 2, 9) << QDate(2026, 2, 7);
-    QTest::newRow("year") << u"Jährlich"_s << QDate(2028, 1, 1) << QDate(2028, 1, 31);
-    QTest::newRow("before the series") << u"Wöchentlich"_s << QDate(2026, 1, 30) << QDate();
-    QTest::newRow("after its end") << u"Monatlich"_s << QDate(2029, 1, 1) << QDate();
-    QTest::newRow("one-off") << modWord::Einmalig << QDate(2026, 1, 31) << QDate();
+    const cTestRows<QString, QDate, QDate> row("interval", "day", "occurrence");
+    row("month before its occurrence", u"Monatlich"_s, QDate(2026, 5, 1), QDate(2026, 5, 28));
+    row("week from its occurrence", u"Wöchentlich"_s, QDate(2026, 2, 9), QDate(2026, 2, 7));
+    row("year", u"Jährlich"_s, QDate(2028, 1, 1), QDate(2028, 1, 31));
+    row("before the series", u"Wöchentlich"_s, QDate(2026, 1, 30), {});
+    row("after its end", u"Monatlich"_s, QDate(2029, 1, 1), {});
+    row("one-off", modWord::Einmalig, QDate(2026, 1, 31), {});
 }
 
 void testSeries::OccurrenceOfADay()
@@ -74,15 +73,12 @@ void testSeries::CountsToTheEnd()
 
 void testSeries::KeepsCorrectionsOnlyOfSamePeriods_data()
 {
-    QTest::addColumn<QString>("before");
-    QTest::addColumn<QString>("interval");
-    QTest::addColumn<QDate>("start");
-    QTest::addColumn<bool>("kept");
+    const cTestRows<QString, QString, QDate, bool> row("before", "interval", "start", "kept");
     const QDate same(2026, 1, 5);
-    QTest::newRow("another day of the month") << u"Monatlich"_s << u"Monatlich"_s << QDate(2026, 1, 20) << true;
-    QTest::newRow("another day of the week") << u"Wöchentlich"_s << u"Wöchentlich"_s << QDate(2026, 1, 6) << false;
-    QTest::newRow("month becomes quarter") << u"Monatlich"_s << u"Alle 3 Monate"_s << same << false;
-    QTest::newRow("day becomes week") << u"Täglich"_s << u"Wöchentlich"_s << same << false;
+    row("another day of the month", u"Monatlich"_s, u"Monatlich"_s, QDate(2026, 1, 20), true);
+    row("another day of the week", u"Wöchentlich"_s, u"Wöchentlich"_s, QDate(2026, 1, 6), false);
+    row("month becomes quarter", u"Monatlich"_s, u"Alle 3 Monate"_s, same, false);
+    row("day becomes week", u"Täglich"_s, u"Wöchentlich"_s, same, false);
 }
 
 void testSeries::KeepsCorrectionsOnlyOfSamePeriods()

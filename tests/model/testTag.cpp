@@ -1,5 +1,6 @@
 #include "model/modTag.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 
 #include <QTest>
 
@@ -20,19 +21,18 @@ private Q_SLOTS:
 
 void testTag::Found_data()
 {
-    QTest::addColumn<QString>("text");
-    QTest::addColumn<QString>("tags");
-    QTest::newRow("words") << u"#urlaub Hotel #Kinder_2 am Meer"_s << u"#urlaub #Kinder_2"_s;
-    QTest::newRow("umlauts") << u"Grundgebühr #Müll-Abfuhr"_s << u"#Müll-Abfuhr"_s;
-    QTest::newRow("digits with a letter") << u"#2026urlaub"_s << u"#2026urlaub"_s;
-    QTest::newRow("numbers") << u"Rechnung #1, Los #2026-11, #"_s << u""_s;
-    QTest::newRow("inside words and addresses") << u"C# und a#b, https://x.de/#oben, ##doppelt"_s << u""_s;
-    QTest::newRow("behind marks of addresses") << u"https://app.de/?#login, x:#y, Rg.#RE2026-17, a!#b, c+#d"_s << u""_s;
-    QTest::newRow("a list") << u"#auto,#boot"_s << u"#auto #boot"_s;
-    QTest::newRow("between punctuation") << u"(#auto), \"#haus\": #boot! #rad-"_s << u"#auto #haus #boot #rad"_s;
-    QTest::newRow("each once") << u"#Auto #auto #AUTO"_s << u"#Auto"_s;
-    QTest::newRow("one behind the other") << u"#eins#zwei"_s << u"#eins"_s;
-    QTest::newRow("nothing but marks") << u"#- #_ #-1"_s << u""_s;
+    const cTestRows<QString, QString> row("text", "tags");
+    row("words", u"#urlaub Hotel #Kinder_2 am Meer"_s, u"#urlaub #Kinder_2"_s);
+    row("umlauts", u"Grundgebühr #Müll-Abfuhr"_s, u"#Müll-Abfuhr"_s);
+    row("digits with a letter", u"#2026urlaub"_s, u"#2026urlaub"_s);
+    row("numbers", u"Rechnung #1, Los #2026-11, #"_s, u""_s);
+    row("inside words and addresses", u"C# und a#b, https://x.de/#oben, ##doppelt"_s, u""_s);
+    row("behind marks of addresses", u"https://app.de/?#login, x:#y, Rg.#RE2026-17, a!#b, c+#d"_s, u""_s);
+    row("a list", u"#auto,#boot"_s, u"#auto #boot"_s);
+    row("between punctuation", u"(#auto), \"#haus\": #boot! #rad-"_s, u"#auto #haus #boot #rad"_s);
+    row("each once", u"#Auto #auto #AUTO"_s, u"#Auto"_s);
+    row("one behind the other", u"#eins#zwei"_s, u"#eins"_s);
+    row("nothing but marks", u"#- #_ #-1"_s, u""_s);
 }
 
 void testTag::Found()
@@ -50,14 +50,14 @@ void testTag::SameInAnySpelling()
 
 void testTag::Typed_data()
 {
-    QTest::addColumn<QString>("text"); // "|" is the cursor
-    QTest::addColumn<QString>("typed");
-    QTest::newRow("at the end") << u"Hotel #ur|"_s << u"#ur"_s;
-    QTest::newRow("mark alone") << u"#|"_s << u"#"_s;
-    QTest::newRow("in the middle") << u"Hotel #ur| am Meer"_s << u"#ur"_s;
-    QTest::newRow("behind it") << u"Hotel #ur |"_s << u""_s;
-    QTest::newRow("no tag") << u"C#x|"_s << u""_s;
-    QTest::newRow("empty") << u"|"_s << u""_s;
+    // text: "|" is the cursor
+    const cTestRows<QString, QString> row("text", "typed");
+    row("at the end", u"Hotel #ur|"_s, u"#ur"_s);
+    row("mark alone", u"#|"_s, u"#"_s);
+    row("in the middle", u"Hotel #ur| am Meer"_s, u"#ur"_s);
+    row("behind it", u"Hotel #ur |"_s, u""_s);
+    row("no tag", u"C#x|"_s, u""_s);
+    row("empty", u"|"_s, u""_s);
 }
 
 void testTag::Typed()

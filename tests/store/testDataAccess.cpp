@@ -4,6 +4,7 @@
 #include "store/modSchema.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/fakes.h"
 
 #include <QTest>
@@ -85,15 +86,13 @@ private Q_SLOTS:
 
     void TextsThatSayTheSameStay_data() const
     {
-        QTest::addColumn<QString>("stored");
-        QTest::addColumn<qint64>("cents");
-        QTest::addColumn<QString>("written");
-        QTest::newRow("comma") << u"12,5"_s << qint64{1250} << u"12,5"_s;
-        QTest::newRow("sign") << u"-3"_s << qint64{300} << u"-3"_s;
-        QTest::newRow("fraction of a cent") << u"0.333"_s << qint64{33} << u"0.333"_s;
-        QTest::newRow("unreadable") << u"viel"_s << qint64{0} << u"viel"_s;
-        QTest::newRow("unreadable, edited") << u"viel"_s << qint64{100} << u"1.00"_s;
-        QTest::newRow("edited") << u"12,5"_s << qint64{1251} << u"12.51"_s;
+        const cTestRows<QString, qint64, QString> row("stored", "cents", "written");
+        row("comma", u"12,5"_s, 1250, u"12,5"_s);
+        row("sign", u"-3"_s, 300, u"-3"_s);
+        row("fraction of a cent", u"0.333"_s, 33, u"0.333"_s);
+        row("unreadable", u"viel"_s, 0, u"viel"_s);
+        row("unreadable, edited", u"viel"_s, 100, u"1.00"_s);
+        row("edited", u"12,5"_s, 1251, u"12.51"_s);
     }
 
     void TextsThatSayTheSameStay() const
@@ -283,24 +282,23 @@ private Q_SLOTS:
     void Failures_data() const
     {
         using fnCall = bool (*)(cDataAccess&);
-        QTest::addColumn<fnCall>("call");
-        const auto add = [](const char* start, fnCall call) { QTest::newRow(start) << call; };
-        add("ERROR: AddNewEntry|no such table: data", [](cDataAccess& data) {
+        const cTestRows<fnCall> row("call");
+        row("ERROR: AddNewEntry|no such table: data", [](cDataAccess& data) {
             cEntryItem entry = Entry();
             return data.AddNewEntry(entry);
         });
-        add("ERROR: ChangeEntryAccount|no such table: data",
+        row("ERROR: ChangeEntryAccount|no such table: data",
             [](cDataAccess& data) { return data.ChangeEntryAccount({}, {}); });
-        add("ERROR: GetEntries|no such table: data", [](cDataAccess& data) { return !data.GetEntries({}).isEmpty(); });
-        add("ERROR: ChangeEntryMod|no such table: datamod", [](cDataAccess& data) { return data.ChangeEntryMod({}); });
-        add("ERROR: DeleteEntryMod|", [](cDataAccess& data) { return data.DeleteEntryMod(1); });
-        add("ERROR: DeleteTemplate|no such table: template", [](cDataAccess& data) { return data.DeleteTemplate(1); });
-        add("FEHLER: GetImportEntries|no such table: import",
+        row("ERROR: GetEntries|no such table: data", [](cDataAccess& data) { return !data.GetEntries({}).isEmpty(); });
+        row("ERROR: ChangeEntryMod|no such table: datamod", [](cDataAccess& data) { return data.ChangeEntryMod({}); });
+        row("ERROR: DeleteEntryMod|", [](cDataAccess& data) { return data.DeleteEntryMod(1); });
+        row("ERROR: DeleteTemplate|no such table: template", [](cDataAccess& data) { return data.DeleteTemplate(1); });
+        row("FEHLER: GetImportEntries|no such table: import",
             [](cDataAccess& data) { return !data.GetImportEntries().isEmpty(); });
-        add("ERROR: DeleteAllImports|no such table: import", [](cDataAccess& data) { return data.DeleteAllImports(); });
-        add("ERROR: SetStartGuthaben|no such table: data",
+        row("ERROR: DeleteAllImports|no such table: import", [](cDataAccess& data) { return data.DeleteAllImports(); });
+        row("ERROR: SetStartGuthaben|no such table: data",
             [](cDataAccess& data) { return data.SetStartGuthaben({}, 1, QDate(2024, 1, 1)); });
-        add("ERROR: ChangeSettingItem|no such table: setting",
+        row("ERROR: ChangeSettingItem|no such table: setting",
             [](cDataAccess& data) { return data.ChangeSettingItem({}, {}); });
     }
 

@@ -3,6 +3,7 @@
 #include "store/modSchema.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/fakes.h"
 
 #include <QTest>
@@ -167,16 +168,16 @@ private Q_SLOTS:
 
     void Window_data() const
     {
-        QTest::addColumn<QString>("change");
-        QTest::newRow("days that only the database reads") << u"UPDATE data SET ID = ID"_s;
-        QTest::newRow("plain days") << u"DELETE FROM data WHERE ID IN (3, 6)"_s;
-        QTest::newRow("a day beyond its month") << u"UPDATE data SET EntryDate = '2024-02-30' WHERE ID IN (3, 6)"_s;
-        QTest::newRow("no interval") << u"UPDATE data SET EntryInterval = NULL WHERE ID IN (3, 6)"_s;
-        QTest::newRow("no day, no known interval")
-            << u"UPDATE data SET EntryInterval = 'nie', EntryDate = 'bald' WHERE ID IN (3, 6)"_s;
-        QTest::newRow("moved into the window")
-            << u"INSERT INTO datamod (EntryRelation, EntryModType, EntryStartDate, EntryValue) "
-               "SELECT 11, 'Betrag; Tag 2024-02-03', '2024-01-01', '8.00'; DELETE FROM data WHERE ID IN (3, 6)"_s;
+        const cTestRows<QString> row("change");
+        row("days that only the database reads", u"UPDATE data SET ID = ID"_s);
+        row("plain days", u"DELETE FROM data WHERE ID IN (3, 6)"_s);
+        row("a day beyond its month", u"UPDATE data SET EntryDate = '2024-02-30' WHERE ID IN (3, 6)"_s);
+        row("no interval", u"UPDATE data SET EntryInterval = NULL WHERE ID IN (3, 6)"_s);
+        row("no day, no known interval",
+            u"UPDATE data SET EntryInterval = 'nie', EntryDate = 'bald' WHERE ID IN (3, 6)"_s);
+        row("moved into the window",
+            u"INSERT INTO datamod (EntryRelation, EntryModType, EntryStartDate, EntryValue) "
+            "SELECT 11, 'Betrag; Tag 2024-02-03', '2024-01-01', '8.00'; DELETE FROM data WHERE ID IN (3, 6)"_s);
     }
 
     // One pass gives what the queries for it give, and what is kept of it goes with the next write.

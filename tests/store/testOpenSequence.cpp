@@ -3,6 +3,7 @@
 #include "store/modSchema.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/fakes.h"
 
 #include <QDir>
@@ -256,17 +257,13 @@ private Q_SLOTS:
 
     void WithoutPermission_data() const
     {
-        QTest::addColumn<QFile::Permissions>("folder");
-        QTest::addColumn<QFile::Permissions>("file");
-        QTest::addColumn<eOpenResult>("result");
-        QTest::addColumn<QString>("message");
+        const cTestRows<QFile::Permissions, QFile::Permissions, eOpenResult, QString> row(
+            {"folder", "file", "result", "message"});
         const QString reading = u"Die Datenbank '%1' kann nur gelesen werden. Änderungen werden nicht gespeichert."_s;
-        QTest::newRow("read-only file") << (enterable | writable) << readable << eOpenResult::OpenedReadOnly << reading;
-        QTest::newRow("read-only folder")
-            << enterable << (readable | writable) << eOpenResult::OpenedReadOnly << reading;
-        QTest::newRow("unreadable file")
-            << (enterable | writable) << QFile::Permissions() << eOpenResult::Ended
-            << u"Die Datenbank '%1' kann nicht gelesen werden. Bitte prüfen Sie die Zugriffsrechte."_s;
+        row("read-only file", enterable | writable, readable, eOpenResult::OpenedReadOnly, reading);
+        row("read-only folder", enterable, readable | writable, eOpenResult::OpenedReadOnly, reading);
+        row("unreadable file", enterable | writable, QFile::Permissions(), eOpenResult::Ended,
+            u"Die Datenbank '%1' kann nicht gelesen werden. Bitte prüfen Sie die Zugriffsrechte."_s);
     }
 
     void WithoutPermission() const
@@ -298,20 +295,18 @@ private Q_SLOTS:
 
     void CopyBeforeUpgrade_data() const
     {
-        QTest::addColumn<QString>("sql");
-        QTest::addColumn<eOrigin>("origin");
-        QTest::addColumn<bool>("isCopied");
+        const cTestRows<QString, eOrigin, bool> row("sql", "origin", "isCopied");
         const QString ours = QString::fromUtf8(lastOpenedByUs);
-        QTest::newRow("never opened") << QString() << eOrigin::Existing << true;
-        QTest::newRow("opened by another version")
-            << QString(ours + u"UPDATE setting SET SettingValue = '0.0.9'"_s) << eOrigin::Existing << true;
-        QTest::newRow("opened by this version") << ours << eOrigin::Existing << false;
-        QTest::newRow("opened by the command line of this version")
-            << QString(ours
-                       + u"UPDATE setting SET SettingValue = '0.0.9'; INSERT INTO setting (SettingName, "
-                         u"SettingValue) VALUES ('LastCommandLineVersion', '0.1.0')"_s)
-            << eOrigin::Existing << false;
-        QTest::newRow("just made from the template") << QString() << eOrigin::Fresh << false;
+        row("never opened", {}, eOrigin::Existing, true);
+        row("opened by another version", QString(ours + u"UPDATE setting SET SettingValue = '0.0.9'"_s),
+            eOrigin::Existing, true);
+        row("opened by this version", ours, eOrigin::Existing, false);
+        row("opened by the command line of this version",
+            QString(ours
+                    + u"UPDATE setting SET SettingValue = '0.0.9'; INSERT INTO setting (SettingName, "
+                      u"SettingValue) VALUES ('LastCommandLineVersion', '0.1.0')"_s),
+            eOrigin::Existing, false);
+        row("just made from the template", {}, eOrigin::Fresh, false);
     }
 
     void CopyBeforeUpgrade() const

@@ -2,6 +2,7 @@
 #include "store/modSchema.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/fakes.h"
 
 #include <QTest>
@@ -35,16 +36,14 @@ private Q_SLOTS:
 
     void OldCodes_data() const
     {
-        QTest::addColumn<QString>("type");
-        QTest::addColumn<QString>("interval");
-        QTest::addColumn<QString>("words");
-        QTest::newRow("filter words") << u"0"_s << u"0"_s << u"Alle Buchungsarten/Alle"_s;
-        QTest::newRow("once") << u"1"_s << u"1"_s << u"Einnahme/Einmalig"_s;
-        QTest::newRow("all intervals") << u"2"_s << u"2"_s << u"Ausgabe/Alle Intervalle"_s;
-        QTest::newRow("two weeks") << u"3"_s << u"5"_s << u"Umbuchung/Alle 2 Wochen"_s;
-        QTest::newRow("month, without four weeks before it") << u"4"_s << u"6"_s << u"4/Monatlich"_s;
-        QTest::newRow("year") << u"Ausgabe"_s << u"10"_s << u"Ausgabe/Jährlich"_s;
-        QTest::newRow("beyond the list") << u"Ausgabe"_s << u"11"_s << u"Ausgabe/11"_s;
+        const cTestRows<QString, QString, QString> row("type", "interval", "words");
+        row("filter words", u"0"_s, u"0"_s, u"Alle Buchungsarten/Alle"_s);
+        row("once", u"1"_s, u"1"_s, u"Einnahme/Einmalig"_s);
+        row("all intervals", u"2"_s, u"2"_s, u"Ausgabe/Alle Intervalle"_s);
+        row("two weeks", u"3"_s, u"5"_s, u"Umbuchung/Alle 2 Wochen"_s);
+        row("month, without four weeks before it", u"4"_s, u"6"_s, u"4/Monatlich"_s);
+        row("year", u"Ausgabe"_s, u"10"_s, u"Ausgabe/Jährlich"_s);
+        row("beyond the list", u"Ausgabe"_s, u"11"_s, u"Ausgabe/11"_s);
     }
 
     void OldCodes() const
@@ -81,24 +80,19 @@ private Q_SLOTS:
 
     void WhatIsNoDatabase_data() const
     {
-        QTest::addColumn<QByteArray>("bytes");
-        QTest::addColumn<QString>("sql");
-        QTest::addColumn<eDatabaseFault>("fault");
-        QTest::newRow("text") << QByteArray("Dies ist keine Datenbank, sondern ein längerer Text.\n").repeated(40)
-                              << QString() << eDatabaseFault::Damaged;
-        QTest::newRow("empty file") << QByteArray() << QString() << eDatabaseFault::Damaged;
-        QTest::newRow("header and rubbish")
-            << QByteArray("SQLite format 3\0", 16) + QByteArray(2000, 'x') << QString() << eDatabaseFault::Damaged;
-        QTest::newRow("without table data")
-            << QByteArray() << u"CREATE TABLE other (ID INTEGER)"_s << eDatabaseFault::Damaged;
+        const cTestRows<QByteArray, QString, eDatabaseFault> row("bytes", "sql", "fault");
+        row("text", QByteArray("Dies ist keine Datenbank, sondern ein längerer Text.\n").repeated(40), {},
+            eDatabaseFault::Damaged);
+        row("empty file", {}, {}, eDatabaseFault::Damaged);
+        row("header and rubbish", QByteArray("SQLite format 3\0", 16) + QByteArray(2000, 'x'), {},
+            eDatabaseFault::Damaged);
+        row("without table data", {}, u"CREATE TABLE other (ID INTEGER)"_s, eDatabaseFault::Damaged);
         const QString endless = u" AS WITH RECURSIVE c(x) AS (SELECT 1 UNION ALL SELECT x FROM c) SELECT x FROM c"_s;
-        QTest::newRow("endless view") << QByteArray() << u"CREATE VIEW data"_s + endless << eDatabaseFault::Damaged;
-        QTest::newRow("endless view for settings")
-            << QByteArray() << u"CREATE TABLE data (ID INTEGER); CREATE VIEW Setting"_s + endless
-            << eDatabaseFault::Damaged;
-        QTest::newRow("table of a module")
-            << QByteArray() << u"CREATE VIRTUAL TABLE data USING fts5(ID)"_s << eDatabaseFault::Damaged;
-        QTest::newRow("just the table") << QByteArray() << u"CREATE TABLE data (ID INTEGER)"_s << eDatabaseFault::None;
+        row("endless view", {}, u"CREATE VIEW data"_s + endless, eDatabaseFault::Damaged);
+        row("endless view for settings", {}, u"CREATE TABLE data (ID INTEGER); CREATE VIEW Setting"_s + endless,
+            eDatabaseFault::Damaged);
+        row("table of a module", {}, u"CREATE VIRTUAL TABLE data USING fts5(ID)"_s, eDatabaseFault::Damaged);
+        row("just the table", {}, u"CREATE TABLE data (ID INTEGER)"_s, eDatabaseFault::None);
     }
 
     void WhatIsNoDatabase() const
@@ -182,16 +176,13 @@ private Q_SLOTS:
 
     void DefaultDatabase_data() const
     {
-        QTest::addColumn<bool>("hasTemplate");
-        QTest::addColumn<bool>("hasDatabase");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QString>("message");
-        QTest::newRow("made from the template") << true << false << QByteArray("template") << QString();
-        QTest::newRow("left as it is") << true << true << QByteArray("mine") << QString();
-        QTest::newRow("present, template lost") << false << true << QByteArray("mine") << QString();
-        QTest::newRow("nothing there") << false << false << QByteArray()
-                                       << u"Die Installation ist beschädigt. Eine Neuinstallation könnte das Problem "
-                                          u"beheben.\nDie Datei 'template.dat' konnte nicht gefunden werden!"_s;
+        const cTestRows<bool, bool, QByteArray, QString> row("hasTemplate", "hasDatabase", "content", "message");
+        row("made from the template", true, false, "template", {});
+        row("left as it is", true, true, "mine", {});
+        row("present, template lost", false, true, "mine", {});
+        row("nothing there", false, false, {},
+            u"Die Installation ist beschädigt. Eine Neuinstallation könnte das Problem "
+            u"beheben.\nDie Datei 'template.dat' konnte nicht gefunden werden!"_s);
     }
 
     void DefaultDatabase() const

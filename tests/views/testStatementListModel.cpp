@@ -8,6 +8,7 @@
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"
+#include "views/ledger/cOpeningBalance.h"
 #include "views/ledger/cStatementListModel.h"
 #include "views/statement/cOpeningBalance.h"
 

@@ -1,4 +1,5 @@
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "windows/chart/cChartAxis.h"
 #include "windows/chart/cChartBox.h"
 #include "windows/chart/cChartTable.h"
@@ -108,12 +109,12 @@ class testChartView final : public QObject
 private Q_SLOTS:
     void AnswersWhereItPaints_data()
     {
-        QTest::addColumn<eChart>("kind");
-        QTest::newRow("pie") << eChart::Pie;
-        QTest::newRow("columns") << eChart::Columns;
-        QTest::newRow("stacked") << eChart::StackedColumns;
-        QTest::newRow("line") << eChart::Line;
-        QTest::newRow("areas") << eChart::Areas;
+        const cTestRows<eChart> row("kind");
+        row("pie", eChart::Pie);
+        row("columns", eChart::Columns);
+        row("stacked", eChart::StackedColumns);
+        row("line", eChart::Line);
+        row("areas", eChart::Areas);
     }
 
     // Each part answers at its place, its colour is there in the picture, and a click names it.
@@ -316,16 +317,12 @@ private Q_SLOTS:
 
     void DividesTheAxis_data()
     {
-        QTest::addColumn<qint64>("smallest");
-        QTest::addColumn<qint64>("largest");
-        QTest::addColumn<QList<qint64>>("ticks");
-
-        QTest::newRow("up") << qint64(0) << qint64(9500) << QList<qint64>{0, 2000, 4000, 6000, 8000, 10000};
-        QTest::newRow("both") << qint64(-1) << qint64(399) << QList<qint64>{-100, 0, 100, 200, 300, 400};
-        QTest::newRow("down") << qint64(-5000) << qint64(0) << QList<qint64>{-5000, -4000, -3000, -2000, -1000, 0};
-        QTest::newRow("nothing") << qint64(0) << qint64(0) << QList<qint64>{0, 1};
-        QTest::newRow("far above") << qint64(100010) << qint64(100049)
-                                   << QList<qint64>{100010, 100020, 100030, 100040, 100050};
+        const cTestRows<qint64, qint64, QList<qint64>> row("smallest", "largest", "ticks");
+        row("up", 0, 9500, {0, 2000, 4000, 6000, 8000, 10000});
+        row("both", -1, 399, {-100, 0, 100, 200, 300, 400});
+        row("down", -5000, 0, {-5000, -4000, -3000, -2000, -1000, 0});
+        row("nothing", 0, 0, {0, 1});
+        row("far above", 100010, 100049, {100010, 100020, 100030, 100040, 100050});
     }
 
     void DividesTheAxis()

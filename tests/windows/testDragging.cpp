@@ -1,5 +1,6 @@
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
 #include "views/statement/cImportReview.h"
@@ -85,9 +86,9 @@ void testDragging::RowsOfTheReviewTakeACategory()
 
 void testDragging::EntriesGoToAnAccount_data()
 {
-    QTest::addColumn<bool>("isReadOnly");
-    QTest::newRow("usual") << false;
-    QTest::newRow("book that can only be read") << true;
+    const cTestRows<bool> row("isReadOnly");
+    row("usual", false);
+    row("book that can only be read", true);
 }
 
 void testDragging::EntriesGoToAnAccount()

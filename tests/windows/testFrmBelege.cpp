@@ -1,8 +1,11 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeDesk.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
+#include "support/windowHands.h"
 #include "views/ledger/cStatementListModel.h"
 #include "views/list/cEntryListModel.h"
 #include "views/receipt/cReceiptListModel.h"
@@ -15,19 +18,15 @@
 
 #include <QApplication>
 #include <QClipboard>
-#include <QDropEvent>
 #include <QImage>
-#include <QListView>
-#include <QMimeData>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
-#include <QToolButton>
 #include <QTreeView>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace modWindowHands;
 
 namespace {
 
@@ -66,35 +65,10 @@ struct cScene
 
     QString Bytes(const QString& name, const QByteArray& bytes) const
     {
-        QFile file(Path(name));
-        if (!file.open(QIODevice::WriteOnly) || file.write(bytes) < 0) {
-            qFatal("no room for a file");
-        }
-        return file.fileName();
+        cTestFile::Write(Path(name), bytes);
+        return Path(name);
     }
 };
-
-QToolButton* Tool(const QWidget& window, const QString& name)
-{
-    const QList<QToolButton*> tools = window.findChildren<QToolButton*>();
-    for (QToolButton* tool : tools) {
-        if (tool->accessibleName() == name) {
-            return tool;
-        }
-    }
-    return nullptr;
-}
-
-QPushButton* Button(const QWidget& window, const QString& text)
-{
-    const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
-    for (QPushButton* button : buttons) {
-        if (button->text() == text) {
-            return button;
-        }
-    }
-    return nullptr;
-}
 
 } // namespace
 
@@ -123,29 +97,26 @@ void testFrmBelege::PagesAreTurnedAndEnlarged()
     QTRY_VERIFY(preview->HasPicture());
     QCOMPARE(modWindowFaults::All(window), QStringList());
     QCOMPARE(preview->Pages(), 3);
-    QVERIFY(!Tool(window, u"Vorige Seite"_s)->isEnabled());
+    QVERIFY(!Button(window, u"Vorige Seite"_s).isEnabled());
     QTest::keyClick(&window, Qt::Key_PageDown, Qt::AltModifier);
     QTRY_COMPARE(preview->Page(), 1);
     const int whole = preview->widget()->minimumWidth();
     QTest::keyClick(&window, Qt::Key_Plus, Qt::ControlModifier);
     QTRY_VERIFY(preview->widget()->minimumWidth() > whole);
     QVERIFY(preview->accessibleDescription().startsWith(u"Seite 2 von 3 von "_s));
-    Tool(window, u"Ganze Seite"_s)->click();
-    QTRY_VERIFY(!Tool(window, u"Kleiner"_s)->isEnabled());
-    Button(window, u"&Öffnen"_s)->click();
+    Button(window, u"Ganze Seite"_s).click();
+    QTRY_VERIFY(!Button(window, u"Kleiner"_s).isEnabled());
+    Button(window, u"Öffnen"_s).click();
     QCOMPARE(scene.Desk.Opened, QStringList{scene.Receipts.NameAt(0)});
 }
 
 void testFrmBelege::FilesThatAreNoneAreSaid_data()
 {
-    QTest::addColumn<QString>("name");
-    QTest::addColumn<QByteArray>("bytes");
-    QTest::addColumn<QString>("text");
-
-    QTest::newRow("no PDF") << u"a.pdf"_s << QByteArray("%PDF-1.7 kaputt") << u"Die Datei ist beschädigt"_s;
-    QTest::newRow("half a picture") << u"a.png"_s << QByteArray::fromHex("89504e470d0a1a0a0000000d49484452")
-                                    << u"Die Datei ist beschädigt"_s;
-    QTest::newRow("no picture") << u"a.odt"_s << QByteArray("PK") << u"Für diese Art von Datei"_s;
+    const cTestRows<QString, QByteArray, QString> row("name", "bytes", "text");
+    row("no PDF", u"a.pdf"_s, "%PDF-1.7 kaputt", u"Die Datei ist beschädigt"_s);
+    row("half a picture", u"a.png"_s, QByteArray::fromHex("89504e470d0a1a0a0000000d49484452"),
+        u"Die Datei ist beschädigt"_s);
+    row("no picture", u"a.odt"_s, "PK", u"Für diese Art von Datei"_s);
 }
 
 void testFrmBelege::FilesThatAreNoneAreSaid()
@@ -183,12 +154,12 @@ void testFrmBelege::PastedPictureBecomesAReceipt()
     frmBelege window(scene.Receipts);
     window.show();
     QApplication::clipboard()->clear();
-    Button(window, u"&Einfügen"_s)->click();
+    Button(window, u"Einfügen"_s).click();
     QCOMPARE(scene.Book.User.Shown, QStringList{u"In der Zwischenablage ist weder ein Bild noch eine Datei."_s});
     QImage image(40, 30, QImage::Format_RGB32);
     image.fill(Qt::red);
     QApplication::clipboard()->setImage(image);
-    Button(window, u"&Einfügen"_s)->click();
+    Button(window, u"Einfügen"_s).click();
     QVERIFY(scene.Receipts.NameAt(0).startsWith(u"2026-03-10 Waschmaschine "_s));
     QCOMPARE(QImage(scene.Receipts.PathAt(0)).size(), image.size());
     auto* preview = window.findChild<cPreviewView*>();
@@ -204,11 +175,11 @@ void testFrmBelege::MissingFileOffersAnother()
     frmBelege window(receipts);
     window.show();
     QVERIFY(window.findChild<cPreviewView*>()->accessibleDescription().contains(u"fehlt im Ordner"_s));
-    QVERIFY(!Button(window, u"&Öffnen"_s)->isEnabled());
+    QVERIFY(!Button(window, u"Öffnen"_s).isEnabled());
     scene.Book.User.Files = {scene.Pdf(1)};
-    Button(window, u"Datei &neu wählen…"_s)->click();
+    Button(window, u"Datei neu wählen…"_s).click();
     QTRY_VERIFY(window.findChild<cPreviewView*>()->HasPicture());
-    QVERIFY(!Button(window, u"Datei &neu wählen…"_s)->isVisible());
+    QVERIFY(!Button(window, u"Datei neu wählen…"_s).isVisible());
 }
 
 // Statements go on to who reads them, wherever they fall.
@@ -229,12 +200,7 @@ void testFrmBelege::OnlyReceiptsHangAtTheLineTheyFallOn()
     QSignalSpy others(&drop, &cReceiptDrop::OthersDropped);
     tree.show();
     const auto fall = [&](const QString& path, const QPoint& at) {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(path)});
-        QDragEnterEvent enter(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(tree.viewport(), &enter);
-        QDropEvent event(at, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(tree.viewport(), &event);
+        DropFiles(*tree.viewport(), at, {QUrl::fromLocalFile(path)});
     };
     const QPoint line = tree.visualRect(list.index(0, 0)).center();
     fall(scene.Pdf(1), line);
@@ -255,16 +221,7 @@ void testFrmBelege::OnlyPapersFallIntoTheStatement()
     QSignalSpy papers(&window, &frmKontoauszug::PapersDropped);
     window.show();
     const auto accepts = [&](const QString& path) {
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(path)});
-        QDragEnterEvent enter(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        enter.ignore();
-        QApplication::sendEvent(&window, &enter);
-        if (enter.isAccepted()) {
-            QDropEvent event(QPoint(5, 5), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-            QApplication::sendEvent(&window, &event);
-        }
-        return enter.isAccepted();
+        return DropFiles(window, QPoint(5, 5), {QUrl::fromLocalFile(path)});
     };
     QVERIFY(!accepts(scene.Bytes(u"auszug.csv"_s, "x")));
     QVERIFY(accepts(scene.Pdf(1)));
@@ -273,7 +230,7 @@ void testFrmBelege::OnlyPapersFallIntoTheStatement()
     shown.SetDay(u"2026-03"_s);
     QVERIFY(shown.Add({{papers.first().first().toStringList().value(0)}}));
     statement.Reload();
-    QVERIFY(Button(window, u"&PDF-Auszüge (1)…"_s)->isEnabled());
+    QVERIFY(Button(window, u"PDF-Auszüge (1)…"_s).isEnabled());
 }
 
 TEST_CLASS(testFrmBelege, QApplication)

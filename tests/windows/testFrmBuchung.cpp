@@ -1,5 +1,7 @@
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
+#include "support/windowHands.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
 #include "windows/entry/cSplitTable.h"
@@ -47,13 +49,6 @@ QString FocusName()
     return QApplication::focusWidget() == nullptr ? QString() : QApplication::focusWidget()->objectName();
 }
 
-void Show(QDialog& dialog)
-{
-    dialog.show();
-    dialog.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
-}
-
 // The editor on a small book, with its window in front.
 class cScene
 {
@@ -64,7 +59,7 @@ public:
     {
         const bool isGiven = !fields.Account.isEmpty();
         Form = std::make_unique<frmBuchung>(Editor, isGiven ? fields : Editor.Start(u"Girokonto"_s));
-        Show(*Form);
+        modWindowHands::Bring(*Form);
     }
     void OpenEntry(int id) { Open(Editor.Load(id).value_or(cEntryFields())); }
 
@@ -115,8 +110,7 @@ void AnswerForm(tAnswer answer)
     QTimer::singleShot(0, qApp, [answer] {
         auto* form = qobject_cast<frmKorrektur*>(QApplication::activeModalWidget());
         QVERIFY(form != nullptr);
-        form->activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(form));
+        modWindowHands::Bring(*form);
         answer(*form);
         form->close();
     });
@@ -192,17 +186,13 @@ void testFrmBuchung::FromOpeningToSavedWithoutMouse()
 
 void testFrmBuchung::CategoryIsFoundByTyping_data()
 {
-    QTest::addColumn<QString>("typed");
-    QTest::addColumn<QList<Qt::Key>>("keys");
-    QTest::addColumn<QString>("path");
-    QTest::newRow("Enter takes the first") << u"lebensm"_s << QList{Qt::Key_Return} << u"Haushalt; Lebensmittel"_s;
-    QTest::newRow("Tab too, umlauts are blind") << u"getranke"_s << QList{Qt::Key_Tab} << u"Haushalt; Getränke"_s;
-    QTest::newRow("words of both levels") << u"kinder kleid"_s << QList{Qt::Key_Return} << u"Kinder; Kleidung"_s;
-    QTest::newRow("Down to the second") << u"kleidung"_s << QList{Qt::Key_Down, Qt::Key_Return}
-                                        << u"Kinder; Kleidung"_s;
-    QTest::newRow("typed, list closed, field left")
-        << u"werkstatt"_s << QList{Qt::Key_Escape, Qt::Key_Tab} << u"Auto; Werkstatt"_s;
-    QTest::newRow("nothing of that name") << u"xyz"_s << QList{Qt::Key_Tab} << QString();
+    const cTestRows<QString, QList<Qt::Key>, QString> row("typed", "keys", "path");
+    row("Enter takes the first", u"lebensm"_s, QList{Qt::Key_Return}, u"Haushalt; Lebensmittel"_s);
+    row("Tab too, umlauts are blind", u"getranke"_s, QList{Qt::Key_Tab}, u"Haushalt; Getränke"_s);
+    row("words of both levels", u"kinder kleid"_s, QList{Qt::Key_Return}, u"Kinder; Kleidung"_s);
+    row("Down to the second", u"kleidung"_s, QList{Qt::Key_Down, Qt::Key_Return}, u"Kinder; Kleidung"_s);
+    row("typed, list closed, field left", u"werkstatt"_s, QList{Qt::Key_Escape, Qt::Key_Tab}, u"Auto; Werkstatt"_s);
+    row("nothing of that name", u"xyz"_s, QList{Qt::Key_Tab}, {});
 }
 
 void testFrmBuchung::CategoryIsFoundByTyping()
@@ -504,14 +494,8 @@ void testFrmBuchung::CorrectionsOfASeries()
     Key(Qt::Key_Tab, Qt::ControlModifier); // to the other page
     QVERIFY(list.isVisible());
     const auto press = [&](const QString& text) {
-        const QList<QPushButton*> buttons = scene.Form->findChildren<QPushButton*>();
-        for (QPushButton* button : buttons) {
-            if (button->text() == text) {
-                QVERIFY(button->isEnabled());
-                button->click();
-            }
-        }
-        Show(*scene.Form); // behind a modal form no window is active
+        modWindowHands::Button(*scene.Form, text).click();
+        modWindowHands::Bring(*scene.Form); // behind a modal form no window is active
     };
     AnswerForm([](frmKorrektur& form) {
         form.findChild<QLineEdit*>(u"txtTag"_s)->setText(u"1.1.2020"_s); // before the series
@@ -523,7 +507,7 @@ void testFrmBuchung::CorrectionsOfASeries()
         form.findChild<QLineEdit*>(u"txtTag"_s)->setText(u"20.2.2026"_s);
         QTest::keyClick(form.findChild<QLineEdit*>(u"txtBetrag"_s), Qt::Key_Return);
     });
-    press(u"&Hinzufügen…"_s);
+    press(u"Hinzufügen…"_s);
     QCOMPARE(list.topLevelItemCount(), 1);
     QCOMPARE(list.topLevelItem(0)->text(0), u"Manuelle Korrektur vom 01.02.2026"_s);
     QCOMPARE(list.topLevelItem(0)->text(3), u"720,00"_s);
@@ -531,7 +515,7 @@ void testFrmBuchung::CorrectionsOfASeries()
         form.findChild<QLineEdit*>(u"txtBetrag"_s)->setText(u"710"_s);
         QTest::keyClick(form.findChild<QLineEdit*>(u"txtBetrag"_s), Qt::Key_Return);
     });
-    press(u"&Ändern…"_s);
+    press(u"Ändern…"_s);
     QCOMPARE(list.topLevelItem(0)->text(3), u"710,00"_s);
     QVERIFY(scene.Book.Data.GetEntryMods(rent).isEmpty()); // until it is saved
     Key(Qt::Key_Return, Qt::ControlModifier);
@@ -540,7 +524,7 @@ void testFrmBuchung::CorrectionsOfASeries()
 
     scene.OpenEntry(rent);
     QCOMPARE(scene.Find<QTreeWidget>(u"lstKorrekturen"_s).topLevelItemCount(), 1);
-    press(u"Ent&fernen"_s);
+    press(u"Entfernen"_s);
     QCOMPARE(scene.Find<QTreeWidget>(u"lstKorrekturen"_s).topLevelItemCount(), 0);
     Key(Qt::Key_Return, Qt::ControlModifier);
     QVERIFY(scene.Book.Data.GetEntryMods(rent).isEmpty());
@@ -553,7 +537,7 @@ void testFrmBuchung::CorrectsOneOccurrence()
     cSeriesChange change(book.Tools);
     frmKorrektur form(change, change.StartPeriod(rent, QDate(2026, 2, 1)).value());
     QSignalSpy saved(&form, &frmKorrektur::CorrectionSaved);
-    Show(form);
+    modWindowHands::Bring(form);
     QCOMPARE(FocusName(), u"txtBetrag"_s);
     Type(u"7x"_s);
     Key(Qt::Key_Return);
@@ -570,7 +554,7 @@ void testFrmBuchung::CorrectsOneOccurrence()
 
     frmKorrektur again(change, change.StartPeriod(rent, QDate(2026, 2, 1)).value());
     QSignalSpy removed(&again, &frmKorrektur::CorrectionSaved);
-    Show(again);
+    modWindowHands::Bring(again);
     Key(Qt::Key_E, Qt::AltModifier);
     QTRY_VERIFY(!change.Correction(rent, QDate(2026, 2, 1)));
     QCOMPARE(saved.size() + removed.size(), 2);

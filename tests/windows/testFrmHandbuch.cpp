@@ -1,12 +1,12 @@
 #include "support/cTestClass.h"
 #include "support/fakes.h"
+#include "support/windowHands.h"
 #include "views/help/cManualBrowser.h"
 #include "windows/help/frmHandbuch.h"
 #include "windows/report/cReportView.h"
 
 #include <QApplication>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
 #include <QTest>
 #include <QTimer>
@@ -31,17 +31,6 @@ struct cScene
         for (QTreeWidget* tree : trees) {
             (tree->accessibleName() == u"Inhalt" ? Contents : Hits) = tree;
         }
-    }
-
-    [[nodiscard]] QPushButton* Button(const QString& text) const
-    {
-        const QList<QPushButton*> buttons = Window->findChildren<QPushButton*>();
-        for (QPushButton* button : buttons) {
-            if (button->text() == text) {
-                return button;
-            }
-        }
-        return nullptr;
     }
 
     // A text of the page, in pixels of the viewport.
@@ -94,7 +83,7 @@ private Q_SLOTS:
         QCOMPARE(scene.View->verticalScrollBar()->value(), 0);
         QTest::keyClick(scene.Window.get(), Qt::Key_Left, Qt::AltModifier);
         QCOMPARE(scene.View->verticalScrollBar()->value(), left);
-        QVERIFY(scene.Button(u"&Vor"_s)->isEnabled());
+        QVERIFY(modWindowHands::Button(*scene.Window, u"Vor"_s).isEnabled());
     }
 
     void SearchListsPlacesAndEnterOpensThem() const
@@ -157,7 +146,7 @@ private Q_SLOTS:
         const auto goBack = [&](const QDialog& dialog) {
             const bool isBeside = QTest::qWaitFor(
                 [&] { return scene.Window->windowHandle()->transientParent() == dialog.windowHandle(); });
-            Click(*scene.Button(u"&Zurück"_s));
+            Click(modWindowHands::Button(*scene.Window, u"Zurück"_s));
             pages.append(isBeside ? scene.Browser->Place().Page : QString());
         };
         QTimer::singleShot(0, &first, [&] {
@@ -172,7 +161,7 @@ private Q_SLOTS:
         first.exec();
         QCOMPARE(pages, QStringList({u"05-serien.html"_s, u"index.html"_s}));
         QVERIFY(scene.Window->isVisible());
-        Click(*scene.Button(u"&Vor"_s));
+        Click(modWindowHands::Button(*scene.Window, u"Vor"_s));
         QCOMPARE(scene.Browser->Place().Page, u"05-serien.html"_s);
     }
 };

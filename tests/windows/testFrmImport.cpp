@@ -1,6 +1,8 @@
 #include "base/cProgress.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
+#include "support/windowHands.h"
 #include "views/statement/cImportReview.h"
 #include "windows/statement/cStagedTree.h"
 #include "windows/statement/frmImport.h"
@@ -15,13 +17,10 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
-#include <QMimeData>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QSemaphore>
 #include <QTest>
 #include <QTimer>
-#include <QUrl>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -38,9 +37,7 @@ public:
         Book.User.Choices = {u"Girokonto"_s, u"Sparkonto"_s};
         Page.ImportFiles({fixture});
         Page.resize(1200, 600);
-        Page.show();
-        Page.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&Page));
+        modWindowHands::Bring(Page);
         Tree.setFocus();
     }
 
@@ -69,16 +66,6 @@ public:
 
     QComboBox* Field() { return Tree.findChild<QComboBox*>(); }
     QString Cell(int row, int column) { return Review.Rows().index(row, column).data().toString(); }
-    QPushButton& Button(const QString& text)
-    {
-        const QList<QPushButton*> buttons = Page.findChildren<QPushButton*>();
-        for (QPushButton* button : buttons) {
-            if (button->text().remove(u'&') == text) {
-                return *button;
-            }
-        }
-        qFatal("no such button");
-    }
 
     cTestBook Book;
     cImportReview Review{Book.Tools};
@@ -137,9 +124,7 @@ private Q_SLOTS:
         QVERIFY(scene.Review.View().Keep());
         const std::unique_ptr<cImportReview> one = scene.Review.StartImportReview();
         frmImportReview window(*one);
-        window.show();
-        window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&window));
+        modWindowHands::Bring(window);
         QTest::keyClick(window.findChild<cStagedTree*>(), Qt::Key_1, Qt::ControlModifier);
         QCOMPARE(one->View().Filter(), u"rewe"_s);
         QCOMPARE(window.findChild<QLineEdit*>()->text(), u"rewe"_s);
@@ -152,7 +137,7 @@ private Q_SLOTS:
         scene.Tree.selectionModel()->setCurrentIndex(scene.Review.Rows().index(0, cStagedListModel::Category),
                                                      QItemSelectionModel::NoUpdate);
         QTest::keyClick(&scene.Tree, Qt::Key_F2);
-        auto* combo = scene.Tree.findChild<QComboBox*>();
+        auto* combo = scene.Field();
         QVERIFY(combo != nullptr && combo->isEditable());
         QTest::keyClicks(combo, u"geschenke"_s);
         QTest::keyClick(combo, Qt::Key_Return);
@@ -167,14 +152,14 @@ private Q_SLOTS:
         cScene scene;
         scene.Select(0);
         QTest::keyClicks(&scene.Tree, u"g"_s);
-        auto* combo = scene.Tree.findChild<QComboBox*>();
+        auto* combo = scene.Field();
         QVERIFY(combo != nullptr);
         QCOMPARE(combo->currentText(), u"g"_s);
         QTest::keyClicks(combo, u"eschenke"_s);
         QTest::keyClick(combo, Qt::Key_Return);
         QTRY_VERIFY(scene.Cell(0, cStagedListModel::Category).contains(u"geschenke"_s, Qt::CaseInsensitive));
         QCOMPARE(scene.Book.Data.CountEntries(), 0); // the first Enter is the field's
-        QTRY_VERIFY(scene.Tree.findChild<QComboBox*>() == nullptr && scene.Tree.hasFocus());
+        QTRY_VERIFY(scene.Field() == nullptr && scene.Tree.hasFocus());
         QTest::keyClick(&scene.Tree, Qt::Key_Return);
         QCOMPARE(scene.Book.Data.CountEntries(), 1);
         QVERIFY(scene.Book.Data.GetEntries({}).value(0).EntryCategory.contains(u"Geschenke"_s, Qt::CaseInsensitive));
@@ -185,25 +170,25 @@ private Q_SLOTS:
     {
         cScene scene;
         scene.LeadToDoubtful();
-        const auto field = [&] { return scene.Field(); };
-        QTest::keyClicks(field(), u"geschenke"_s);
-        QTest::keyClick(field(), Qt::Key_Return);
+        QTest::keyClicks(scene.Field(), u"geschenke"_s);
+        QTest::keyClick(scene.Field(), Qt::Key_Return);
         QTRY_COMPARE(scene.Review.Rows().Counts().Open, 1);
         QCOMPARE(scene.Book.Data.CountEntriesOfCategory(u"Freizeit; Geschenke"_s), 1);
-        QTRY_VERIFY(field() != nullptr && field()->hasFocus());
-        QTest::keyClicks(field(), u"Ponyhof"_s); // names no category, and the user says no to a new one
+        QTRY_VERIFY(scene.Field() != nullptr && scene.Field()->hasFocus());
+        QTest::keyClicks(scene.Field(), u"Ponyhof"_s); // names no category, and the user says no to a new one
         for (const Qt::KeyboardModifier with : {Qt::NoModifier, Qt::ControlModifier, Qt::NoModifier}) {
             scene.Book.User.Asked.clear();
-            QTest::keyClick(field(), Qt::Key_Return, with); // asks each time
+            QTest::keyClick(scene.Field(), Qt::Key_Return, with); // asks each time
             QTRY_COMPARE(scene.Book.User.Asked.size(), 1);
             QTest::qWait(1);
             QCOMPARE(scene.Book.User.Asked.size(), 1);
             QCOMPARE(scene.Review.Rows().Counts().Open, 1);
-            QVERIFY(field() != nullptr && field()->currentText() == u"Ponyhof"); // still waits for a category
+            QVERIFY(scene.Field() != nullptr
+                    && scene.Field()->currentText() == u"Ponyhof"); // still waits for a category
         }
         scene.Book.User.Answers = {eAnswer::Yes};
-        QTest::keyClicks(field(), u"Reiten"_s);
-        QTest::keyClick(field(), Qt::Key_Return);
+        QTest::keyClicks(scene.Field(), u"Reiten"_s);
+        QTest::keyClick(scene.Field(), Qt::Key_Return);
         QTRY_COMPARE(scene.Book.Data.CountEntriesOfCategory(u"Reiten"_s), 1);
         QCOMPARE(scene.Review.Rows().Counts().Open, 0);
     }
@@ -211,9 +196,9 @@ private Q_SLOTS:
     // The row leaves the list with the category that it takes, and its neighbour is selected.
     void EnterBooksTheRowOfTheField_data()
     {
-        QTest::addColumn<Qt::KeyboardModifiers>("keys");
-        QTest::newRow("Enter") << Qt::KeyboardModifiers();
-        QTest::newRow("Ctrl and Enter") << Qt::KeyboardModifiers(Qt::ControlModifier);
+        const cTestRows<Qt::KeyboardModifiers> row("keys");
+        row("Enter", Qt::KeyboardModifiers());
+        row("Ctrl and Enter", Qt::KeyboardModifiers(Qt::ControlModifier));
     }
 
     void EnterBooksTheRowOfTheField()
@@ -239,14 +224,14 @@ private Q_SLOTS:
 
     void AnEmptiedFieldBooksNothing_data()
     {
-        QTest::addColumn<QList<Qt::Key>>("keys");
-        QTest::addColumn<Qt::KeyboardModifiers>("last"); // with Enter
+        // last: with Enter
+        const cTestRows<QList<Qt::Key>, Qt::KeyboardModifiers> row("keys", "last");
         const Qt::KeyboardModifiers none;
-        QTest::newRow("at once") << QList{Qt::Key_Return} << none;
-        QTest::newRow("without the list") << QList{Qt::Key_Escape, Qt::Key_Return} << none;
-        QTest::newRow("with a list that is opened") << QList{Qt::Key_Escape, Qt::Key_F4, Qt::Key_Return} << none;
-        QTest::newRow("the button") << QList<Qt::Key>() << none;
-        QTest::newRow("Ctrl") << QList{Qt::Key_Escape, Qt::Key_Return} << Qt::KeyboardModifiers(Qt::ControlModifier);
+        row("at once", QList{Qt::Key_Return}, none);
+        row("without the list", QList{Qt::Key_Escape, Qt::Key_Return}, none);
+        row("with a list that is opened", QList{Qt::Key_Escape, Qt::Key_F4, Qt::Key_Return}, none);
+        row("the button", {}, none);
+        row("Ctrl", QList{Qt::Key_Escape, Qt::Key_Return}, Qt::KeyboardModifiers(Qt::ControlModifier));
     }
 
     void AnEmptiedFieldBooksNothing()
@@ -261,7 +246,7 @@ private Q_SLOTS:
             QTest::qWait(1); // what the field tells comes a moment later
         }
         if (keys.isEmpty()) {
-            QTest::mouseClick(&scene.Button(u"Buchen"_s), Qt::LeftButton);
+            QTest::mouseClick(&modWindowHands::Button(scene.Page, u"Buchen"_s), Qt::LeftButton);
         }
         QCOMPARE(scene.Review.Rows().Counts().Open, 2);
         QVERIFY(scene.Field() != nullptr && scene.Field()->hasFocus()); // so that the next Enter books nothing either
@@ -353,16 +338,15 @@ private Q_SLOTS:
         cScene scene;
         scene.Tree.setCurrentIndex(scene.Review.Rows().index(0, cStagedListModel::Category));
         QTest::keyClick(&scene.Tree, Qt::Key_F2);
-        const auto editor = [&] { return scene.Tree.findChild<QComboBox*>(); };
         scene.Book.User.Asked.clear();
-        QTest::keyClicks(editor(), u"Ponyhof"_s);
-        QTest::keyClick(editor(), Qt::Key_Tab); // the user says no, and the text is still there
+        QTest::keyClicks(scene.Field(), u"Ponyhof"_s);
+        QTest::keyClick(scene.Field(), Qt::Key_Tab); // the user says no, and the text is still there
         QTRY_COMPARE(scene.Book.User.Asked.size(), 1);
-        QTRY_VERIFY(editor() != nullptr && editor()->currentText() == u"Ponyhof");
+        QTRY_VERIFY(scene.Field() != nullptr && scene.Field()->currentText() == u"Ponyhof");
         scene.Book.User.Answers = {eAnswer::Yes};
-        QTest::keyClicks(editor(), u"Ponyhof"_s); // over the selected text
-        QTest::keyClick(editor(), Qt::Key_Down);
-        QTest::keyClick(editor(), Qt::Key_Return);
+        QTest::keyClicks(scene.Field(), u"Ponyhof"_s); // over the selected text
+        QTest::keyClick(scene.Field(), Qt::Key_Down);
+        QTest::keyClick(scene.Field(), Qt::Key_Return);
         QTRY_COMPARE(scene.Cell(0, cStagedListModel::Category), u"Ponyhof"_s);
     }
 
@@ -410,19 +394,15 @@ private Q_SLOTS:
     void DroppedFilesAreRead()
     {
         cScene scene;
-        QMimeData data;
-        data.setUrls({QUrl::fromLocalFile(fixture), QUrl(u"https://example.org/x.sta"_s)});
-        QDragEnterEvent enter(QPoint(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&scene.Page, &enter);
-        QVERIFY(enter.isAccepted());
-        QDropEvent drop(QPointF(10, 10), Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(&scene.Page, &drop);
+        QVERIFY(modWindowHands::DropFiles(scene.Page, QPoint(10, 10),
+                                          {QUrl::fromLocalFile(fixture), QUrl(u"https://example.org/x.sta"_s)}));
         auto* duplicates = scene.Page.findChild<QListWidget*>();
         QTRY_COMPARE(duplicates->count(), 5);
         QVERIFY(duplicates->isVisible());
-        QVERIFY(!scene.Button(u"Trotzdem übernehmen"_s).isEnabled());
+        QAbstractButton& take = modWindowHands::Button(scene.Page, u"Trotzdem übernehmen"_s);
+        QVERIFY(!take.isEnabled());
         duplicates->setCurrentRow(2);
-        scene.Button(u"Trotzdem übernehmen"_s).click();
+        take.click();
         QCOMPARE(duplicates->count(), 4);
         QCOMPARE(scene.Review.Rows().rowCount(), 6);
     }
@@ -471,7 +451,7 @@ private Q_SLOTS:
         QVERIFY(isBack && box.IsCancelled());
     }
 
-    void EveryControlHasAName()
+    void EveryButtonHasALetterOrAKey()
     {
         cScene scene;
         const QList<QAbstractButton*> buttons = scene.Page.findChildren<QAbstractButton*>();
@@ -479,10 +459,6 @@ private Q_SLOTS:
             const bool isOwn = button->parentWidget() == &scene.Page || button->inherits("QPushButton");
             const bool hasKey = button->toolTip().contains(u"(Strg+"_s); // where no letter is left
             QVERIFY2(!isOwn || hasKey || button->text().contains(u'&'), qPrintable(button->text()));
-        }
-        for (const QWidget* widget :
-             QWidgetList{&scene.Tree, scene.Page.findChild<QListWidget*>(), scene.Page.findChild<QPlainTextEdit*>()}) {
-            QVERIFY(!widget->accessibleName().isEmpty());
         }
     }
 };

@@ -1,13 +1,14 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
+#include "support/windowHands.h"
 #include "views/main/cMainModel.h"
 #include "views/sheet/modRowDrag.h"
 #include "windows/main/cAccountPanel.h"
 #include "windows/main/cBackBar.h"
 #include "windows/main/cEntryTree.h"
-#include "windows/main/cSavedViewMenu.h"
 #include "windows/main/cViewBar.h"
 #include "windows/main/frmMain.h"
 #include "windows/widget/cDayEdit.h"
@@ -15,18 +16,14 @@
 #include "windows/widget/modBadField.h"
 #include "windows/widget/modPlace.h"
 
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QComboBox>
 #include <QDropEvent>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPointer>
 #include <QSignalSpy>
 #include <QStatusBar>
-#include <QTabWidget>
 #include <QTest>
 #include <QToolButton>
 #include <QTreeView>
@@ -52,8 +49,7 @@ public:
         Window.show();
         Model.RestoreView(false);
         QTest::qWait(5);
-        Window.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&Window));
+        modWindowHands::Bring(Window);
         Tree().setFocus();
     }
 
@@ -88,8 +84,6 @@ private Q_SLOTS:
     void ListIsReadWhenItComesInSight();
     void ClickOnAnAccountFilters();
     void FreePeriodOpensTheDayFields();
-    void EveryControlHasANameForScreenReaders();
-    void MnemonicsAreUniqueInEachMenu();
     void CellsAreTypedInTheList();
     void BadAmountStaysInItsCell();
     void ClickElsewhereStoresTheCell();
@@ -99,7 +93,6 @@ private Q_SLOTS:
     void AnotherAccountBeginsOnTheSameDay();
     void MessageStandsInPlaceOfTheReminder();
     void DayIsJumpedTo();
-    void KeptViewsHaveKeys();
     void WayBackFromASelection();
     void PlaceIsInReach_data();
     void PlaceIsInReach();
@@ -341,46 +334,6 @@ void testFrmMain::FreePeriodOpensTheDayFields()
     QCOMPARE(days.constFirst()->text(), QString());
 }
 
-void testFrmMain::EveryControlHasANameForScreenReaders()
-{
-    cScene scene;
-    QSet<const QWidget*> labelled;
-    for (const QLabel* label : scene.Window.findChildren<QLabel*>()) {
-        labelled.insert(label->buddy());
-    }
-    for (const QWidget* widget : scene.Window.findChildren<QWidget*>()) {
-        const bool isField = qobject_cast<const QComboBox*>(widget) != nullptr
-            || qobject_cast<const cDayEdit*>(widget) != nullptr || qobject_cast<const QTreeView*>(widget) != nullptr;
-        const bool isInner = widget->objectName().startsWith(u"qt_"_s)
-            || qobject_cast<const QComboBox*>(widget->parentWidget()) != nullptr
-            || widget->parentWidget()->inherits("QComboBoxPrivateContainer");
-        if (isField && !isInner) {
-            QVERIFY2(labelled.contains(widget) || !widget->accessibleName().isEmpty(),
-                     widget->metaObject()->className());
-        }
-    }
-}
-
-void testFrmMain::MnemonicsAreUniqueInEachMenu()
-{
-    cScene scene;
-    QHash<QString, QSet<QChar>> used;
-    for (const QAction* action : scene.Window.findChildren<QAction*>()) {
-        const qsizetype at = action->text().indexOf(u'&');
-        if (at < 0 || action->parent() == nullptr || !action->data().isValid()) {
-            continue;
-        }
-        const QString menu = qobject_cast<const QWidget*>(action->parent()) != nullptr
-            ? static_cast<const QWidget*>(action->parent())->objectName()
-                + QString::number(reinterpret_cast<quintptr>(action->parent()))
-            : QString();
-        const QChar letter = action->text().at(at + 1).toLower();
-        QVERIFY2(!used[menu].contains(letter), qPrintable(action->text()));
-        used[menu].insert(letter);
-    }
-    QVERIFY(used.size() >= 3);
-}
-
 void testFrmMain::WayBackFromASelection()
 {
     cScene scene;
@@ -400,16 +353,14 @@ void testFrmMain::WayBackFromASelection()
 
 void testFrmMain::PlaceIsInReach_data()
 {
-    QTest::addColumn<QRect>("Place");
-    QTest::addColumn<QRect>("Shown");
-
+    const cTestRows<QRect, QRect> row("Place", "Shown");
     const QRect left(100, 100, 800, 600);
-    QTest::newRow("on the first screen") << left << left;
-    QTest::newRow("on the second screen") << left.translated(1400, 0) << left.translated(1400, 0);
-    QTest::newRow("half outside") << left.translated(-700, 300) << left.translated(-700, 300);
-    QTest::newRow("screen is gone") << left.translated(5000, 0) << QRect(240, 200, 800, 600);
-    QTest::newRow("edge above the screen") << left.translated(0, -400) << QRect(240, 200, 800, 600);
-    QTest::newRow("too large for what is left") << QRect(5000, 0, 3000, 2000) << QRect(0, 0, 1280, 1000);
+    row("on the first screen", left, left);
+    row("on the second screen", left.translated(1400, 0), left.translated(1400, 0));
+    row("half outside", left.translated(-700, 300), left.translated(-700, 300));
+    row("screen is gone", left.translated(5000, 0), QRect(240, 200, 800, 600));
+    row("edge above the screen", left.translated(0, -400), QRect(240, 200, 800, 600));
+    row("too large for what is left", QRect(5000, 0, 3000, 2000), QRect(0, 0, 1280, 1000));
 }
 
 void testFrmMain::PlaceIsInReach()
@@ -499,12 +450,11 @@ void testFrmMain::RowsGoToTheClipboard()
 
 void testFrmMain::RowsAreDropped_data()
 {
-    QTest::addColumn<bool>("isAccount");
-    QTest::addColumn<QString>("grouping");
-    QTest::addColumn<QString>("target"); // empty: not taken
-    QTest::newRow("on an account") << true << u"Keine Gruppierung"_s << u"Bargeld"_s;
-    QTest::newRow("on a category") << false << u"Nach Kategorie"_s << u"Haushalt; Lebensmittel"_s;
-    QTest::newRow("on another group") << false << u"Nach Monat"_s << QString();
+    // An empty target: not taken.
+    const cTestRows<bool, QString, QString> row("isAccount", "grouping", "target");
+    row("on an account", true, u"Keine Gruppierung"_s, u"Bargeld"_s);
+    row("on a category", false, u"Nach Kategorie"_s, u"Haushalt; Lebensmittel"_s);
+    row("on another group", false, u"Nach Monat"_s, {});
 }
 
 void testFrmMain::RowsAreDropped()
@@ -523,13 +473,9 @@ void testFrmMain::RowsAreDropped()
     const auto dropped = isAccount ? std::make_unique<QSignalSpy>(&scene.Window, &frmMain::RowsDropped)
                                    : std::make_unique<QSignalSpy>(&scene.Window, &frmMain::RowsRegrouped);
     const QPoint place = tree.visualRect(index).center();
-    QDragEnterEvent enter(place, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(tree.viewport(), &enter); // a drop goes to whom it was told of
-    QDropEvent event(place, Qt::CopyAction, &data, Qt::LeftButton, {});
-    QApplication::sendEvent(tree.viewport(), &event);
+    QCOMPARE(modWindowHands::Drop(*tree.viewport(), place, data), !target.isEmpty());
     QTest::qWait(5);
     QCOMPARE(dropped->size(), target.isEmpty() ? 0 : 1);
-    QCOMPARE(event.isAccepted(), !target.isEmpty());
     QCOMPARE(target.isEmpty() || dropped->first().at(0).value<QList<cEntryListModel::cKey>>() == rows, true);
     QCOMPARE(target.isEmpty() ? target : dropped->first().at(1).toString(), target);
     QDropEvent aside(place, Qt::CopyAction, &data, Qt::LeftButton, {}); // beside the list, at its header
@@ -580,20 +526,6 @@ void testFrmMain::DayIsJumpedTo()
     scene.Window.AskDay();
     QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
     QVERIFY(scene.Tree().hasFocus());
-}
-
-void testFrmMain::KeptViewsHaveKeys()
-{
-    cScene scene;
-    cSavedViewMenu menu(scene.Window.MenuOf(modCommand::SavedViews));
-    menu.Show({u"Haushalt & Co"_s, u"Urlaub"_s});
-    QSignalSpy chosen(&menu, &cSavedViewMenu::Chosen);
-    QTest::keyClick(&scene.Tree(), Qt::Key_2, Qt::ControlModifier);
-    QCOMPARE(chosen.size(), 1);
-    QCOMPARE(chosen.first().first().toInt(), 1);
-    menu.Show({});
-    QTest::keyClick(&scene.Tree(), Qt::Key_2, Qt::ControlModifier);
-    QCOMPARE(chosen.size(), 1);
 }
 
 TEST_CLASS(testFrmMain, QApplication)

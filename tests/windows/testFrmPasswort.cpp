@@ -2,17 +2,18 @@
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
+#include "support/windowHands.h"
 #include "windows/book/frmPasswort.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace modWindowHands;
 
 namespace {
 
@@ -29,17 +30,6 @@ void PassSeconds(const QDialog& window, int seconds)
 QLineEdit* Field(const QDialog& window, const QString& name)
 {
     return window.findChild<QLineEdit*>(name);
-}
-
-QPushButton* Button(const QDialog& window, const QString& text)
-{
-    const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
-    for (QPushButton* button : buttons) {
-        if (button->text().remove(u'&') == text) {
-            return button;
-        }
-    }
-    return nullptr;
 }
 
 QString Message(const QDialog& window)
@@ -79,7 +69,7 @@ void testFrmPasswort::StaysUntilThePasswordIsRight()
                  u"Das Passwort ist nicht richtig. Der nächste Versuch ist in %1 s möglich."_s.arg(wait));
         password->setText(u"geheim"_s);
         QTest::keyClick(password, Qt::Key_Return); // the right one has to wait as well
-        QVERIFY(prompt.isVisible() && !Button(prompt, u"OK"_s)->isEnabled());
+        QVERIFY(prompt.isVisible() && !Button(prompt, u"OK"_s).isEnabled());
         PassSeconds(prompt, wait);
         QCOMPARE(Message(prompt), u"Das Passwort ist nicht richtig. Bitte versuchen Sie es noch einmal."_s);
         password->clear();
@@ -97,9 +87,9 @@ void testFrmPasswort::WaitOutlivesTheWindow()
     tries.NoteWrong();
     frmPasswort prompt(tries, [](const QString&) { return true; });
     prompt.show();
-    QVERIFY(!Button(prompt, u"OK"_s)->isEnabled());
+    QVERIFY(!Button(prompt, u"OK"_s).isEnabled());
     PassSeconds(prompt, 2);
-    QVERIFY(Button(prompt, u"OK"_s)->isEnabled());
+    QVERIFY(Button(prompt, u"OK"_s).isEnabled());
 }
 
 void testFrmPasswort::EscapeGivesUp()
@@ -131,7 +121,7 @@ void testFrmPasswort::SetsAndRemoves()
     window.show();
     QCOMPARE(modWindowFaults::All(window), QStringList());
     QTest::keyClicks(Field(window, u"old"_s), u"eins"_s);
-    QTest::mouseClick(Button(window, u"Passwort entfernen"_s), Qt::LeftButton);
+    QTest::mouseClick(&Button(window, u"Passwort entfernen"_s), Qt::LeftButton);
     QVERIFY(!window.isVisible() && !flow.HasPassword());
 }
 
@@ -140,9 +130,7 @@ void testFrmPasswort::KeysStartInTheFirstField()
     cTestBook book;
     cPasswordFlow flow(book.Data, book.Configuration, book.User);
     frmPasswort window(flow);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    Bring(window);
     for (const QString& field : {u"new"_s, u"repeated"_s}) {
         QCOMPARE(QApplication::focusWidget(), Field(window, field));
         QTest::keyClicks(QApplication::focusWidget(), u"eins"_s);
@@ -164,13 +152,13 @@ void testFrmPasswort::WrongOldPasswordWaits()
     cPasswordFlow flow(book.Data, book.Configuration, book.User);
     frmPasswort window(flow);
     window.show();
-    QTest::mouseClick(Button(window, u"Passwort entfernen"_s), Qt::LeftButton);
+    QTest::mouseClick(&Button(window, u"Passwort entfernen"_s), Qt::LeftButton);
     QVERIFY(window.isVisible() && flow.HasPassword());
     for (const QString& button : {u"Passwort ändern"_s, u"Passwort entfernen"_s}) {
-        QVERIFY(!Button(window, button)->isEnabled());
+        QVERIFY(!Button(window, button).isEnabled());
     }
     PassSeconds(window, 1);
-    QVERIFY(Button(window, u"Passwort ändern"_s)->isEnabled());
+    QVERIFY(Button(window, u"Passwort ändern"_s).isEnabled());
 }
 
 TEST_CLASS(testFrmPasswort, QApplication)

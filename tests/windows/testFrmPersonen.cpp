@@ -1,6 +1,7 @@
 #include "model/modPeople.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
+#include "support/windowHands.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/list/cSearchModel.h"
 #include "views/people/cPeople.h"
@@ -12,9 +13,7 @@
 #include "windows/people/frmPersonen.h"
 
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QPushButton>
 #include <QTest>
 
@@ -37,9 +36,7 @@ void testFrmPersonen::PeopleAndSharesByKeyboard()
     cTestBook book;
     cPeople people(book.Tools);
     frmPersonen form(people);
-    form.show();
-    form.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&form));
+    modWindowHands::Bring(form);
     auto& name = *form.findChild<QLineEdit*>();
     QVERIFY(name.hasFocus());
     for (const QString& typed : {u"Anna"_s, u"Ben"_s}) {
@@ -97,24 +94,16 @@ void testFrmPersonen::SearchAsksForThePayerAmongSeveral()
     cSearchModel model(book.Tools);
     cCellEdit cells(book.Tools);
     frmSuche search(model, cells);
-    const auto payer = [&search]() -> QComboBox& {
-        const QList<QLabel*> labels = search.findChildren<QLabel*>();
-        for (const QLabel* label : labels) {
-            if (label->text() == u"Bezahlt v&on:") {
-                return *qobject_cast<QComboBox*>(label->buddy());
-            }
-        }
-        qFatal("no such label");
-    };
+    auto& payer = modWindowHands::Labelled<QComboBox>(search, u"Bezahlt von:"_s);
     search.Present();
-    QVERIFY(!payer().isVisible());
+    QVERIFY(!payer.isVisible());
     QVERIFY(cPeople(book.Tools).Add(u"Anna"_s));
     book.Add([](cEntryItem& entry) { modPeople::SetPayer(entry, u"Anna"_s); });
     search.Refresh();
-    QVERIFY(payer().isVisible());
-    payer().setCurrentIndex(1);
+    QVERIFY(payer.isVisible());
+    payer.setCurrentIndex(1);
     QCOMPARE(model.Entries().rowCount(), 1);
-    payer().setCurrentIndex(2); // nobody in particular
+    payer.setCurrentIndex(2); // nobody in particular
     QCOMPARE(model.Entries().rowCount(), 0);
 }
 

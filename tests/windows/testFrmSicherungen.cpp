@@ -2,10 +2,9 @@
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
 #include "model/modSettingKey.h"
+#include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/fakes.h"
-#include "support/windowFaults.h"
+#include "support/windowHands.h"
 #include "views/book/cBackupSettings.h"
 #include "windows/book/frmSicherungen.h"
 
@@ -13,7 +12,6 @@
 #include <QDir>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
 #include <QRegularExpression>
 #include <QSpinBox>
 #include <QTest>
@@ -22,7 +20,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct cMachine
+struct cMachine : cFakeMachine
 {
     cMachine()
     {
@@ -33,11 +31,6 @@ struct cMachine
         Plan.RunIfDue();
     }
 
-    cTestFile File;
-    cFakeShell Shell;
-    cFakeUser User;
-    cFakeClock Clock;
-    cFakeRegistry Registry;
     cConfiguration Configuration{Registry};
     cBook Book{User};
     cBackupPlan Plan{{Shell, User, Clock}, Book, Configuration};
@@ -61,18 +54,13 @@ void testFrmSicherungen::FolderAndNumber()
     cMachine machine;
     frmSicherungen window(machine.Settings);
     window.show();
-    QCOMPARE(modWindowFaults::All(window), QStringList());
     auto* count = window.findChild<QSpinBox*>();
     auto* copies = window.findChild<QListWidget*>();
     QCOMPARE(count->value(), 10);
     QCOMPARE(copies->count(), 1);
     QVERIFY(copies->item(0)->text().startsWith(u"15.03.2026, "_s));
     machine.User.Folder = machine.File.Path(u"neu"_s);
-    const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
-    const auto choose = std::find_if(buttons.begin(), buttons.end(),
-                                     [](QPushButton* button) { return button->text().contains(u"hlen"_s); });
-    QVERIFY(choose != buttons.end());
-    QTest::mouseClick(*choose, Qt::LeftButton);
+    modWindowHands::Button(window, u"Wählen…"_s).click();
     count->setValue(3);
     QTest::keyClick(&window, Qt::Key_Return);
     QVERIFY(!window.isVisible());
@@ -100,8 +88,6 @@ void testFrmSicherungen::UnusableFolderIsRefused()
     window.show();
     for (const QString& folder : {u"relativ"_s, machine.File.Path(u"data.db/unter"_s)}) {
         const QList<QLineEdit*> fields = window.findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly);
-        QCOMPARE(fields.size(), 1);
-
         fields.constFirst()->setText(folder);
         QTest::keyClick(&window, Qt::Key_Return);
         QVERIFY(window.isVisible());

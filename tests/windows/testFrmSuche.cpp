@@ -2,17 +2,16 @@
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
+#include "support/windowHands.h"
 #include "views/list/cSearchModel.h"
 #include "views/sheet/cCellEdit.h"
 #include "windows/main/cEntryTree.h"
 #include "windows/main/frmSuche.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
-#include <QLabel>
 #include <QLineEdit>
 #include <QSignalSpy>
 #include <QTest>
@@ -41,13 +40,7 @@ public:
     template <typename tWidget>
     tWidget& Labelled(const QString& text)
     {
-        const QList<QLabel*> labels = Window.findChildren<QLabel*>();
-        for (const QLabel* label : labels) {
-            if (label->text().remove(u'&') == text) {
-                return *qobject_cast<tWidget*>(label->buddy());
-            }
-        }
-        qFatal("no such label");
+        return modWindowHands::Labelled<tWidget>(Window, text);
     }
 
     cTestBook Book;
@@ -118,12 +111,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Tree.model()->rowCount(), 1);
         scene.Window.findChild<QCheckBox*>()->setChecked(true); // corrected only
         QCOMPARE(scene.Tree.model()->rowCount(), 0);
-        const QList<QAbstractButton*> buttons = scene.Window.findChildren<QAbstractButton*>();
-        for (QAbstractButton* button : buttons) {
-            if (button->text() == u"&Neue Suche") {
-                button->click();
-            }
-        }
+        modWindowHands::Button(scene.Window, u"Neue Suche"_s).click();
         QCOMPARE(period.currentIndex(), 0);
         QVERIFY(scene.Text.hasFocus());
         auto& category = scene.Labelled<QComboBox>(u"Kategorie:"_s);

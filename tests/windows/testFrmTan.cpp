@@ -1,6 +1,8 @@
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
+#include "support/windowHands.h"
 #include "views/bank/cApprovalWait.h"
 #include "views/bank/cBankLogView.h"
 #include "views/bank/cTanEntry.h"
@@ -17,13 +19,13 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
+using namespace modWindowHands;
 
 namespace {
 
@@ -54,17 +56,6 @@ QByteArray Picture()
 QLineEdit& Field(const QDialog& window)
 {
     return *window.findChild<QLineEdit*>();
-}
-
-QPushButton* Button(const QDialog& window, const QString& text)
-{
-    const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
-    for (QPushButton* button : buttons) {
-        if (button->text().remove(u'&') == text) {
-            return button;
-        }
-    }
-    return nullptr;
 }
 
 // The bars as they stand on the screen, "1" for white: the middle of each.
@@ -113,12 +104,9 @@ void testFrmTan::TanGoesByKeyboard()
     cTestBook book;
     cTanEntry entry(Question(eTanDisplay::Flicker), *book.Settings);
     frmTan window(entry);
-    window.show();
-    window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    QCOMPARE(modWindowFaults::All(window), QStringList());
+    Bring(window);
     QCOMPARE(QApplication::focusWidget(), &Field(window));
-    QVERIFY(!Button(window, u"TAN senden"_s)->isEnabled());
+    QVERIFY(!Button(window, u"TAN senden"_s).isEnabled());
     QTest::keyClick(&Field(window), Qt::Key_Return); // nothing typed yet
     QVERIFY(window.isVisible());
     QCOMPARE(Field(window).placeholderText(), u"Höchstens 6 Ziffern"_s);
@@ -132,12 +120,11 @@ void testFrmTan::TanGoesByKeyboard()
 
 void testFrmTan::NothingOfTheTanStays_data()
 {
-    QTest::addColumn<int>("way");
-
-    QTest::newRow("sent") << 0;
-    QTest::newRow("Escape") << 1;
-    QTest::newRow("closed") << 2;
-    QTest::newRow("cancelled") << 3;
+    const cTestRows<int> row("way");
+    row("sent", 0);
+    row("Escape", 1);
+    row("closed", 2);
+    row("cancelled", 3);
 }
 
 void testFrmTan::NothingOfTheTanStays()
@@ -149,10 +136,10 @@ void testFrmTan::NothingOfTheTanStays()
     window.show();
     QTest::keyClicks(&Field(window), u"123456"_s);
     switch (way) {
-    case 0: QTest::mouseClick(Button(window, u"TAN senden"_s), Qt::LeftButton); break;
+    case 0: QTest::mouseClick(&Button(window, u"TAN senden"_s), Qt::LeftButton); break;
     case 1: QTest::keyClick(&window, Qt::Key_Escape); break;
     case 2: window.close(); break;
-    default: QTest::mouseClick(Button(window, u"Abbrechen"_s), Qt::LeftButton); break;
+    default: QTest::mouseClick(&Button(window, u"Abbrechen"_s), Qt::LeftButton); break;
     }
     QVERIFY(!window.isVisible());
     QCOMPARE(Field(window).text(), QString());
@@ -233,7 +220,6 @@ void testFrmTan::PictureIsShownInItsWidth()
     cTanEntry entry(question, *book.Settings);
     frmTan window(entry);
     window.show();
-    QCOMPARE(modWindowFaults::All(window), QStringList());
     const auto* picture = window.findChild<cTanPictureView*>();
     const int before = picture->sizeHint().width();
     window.findChild<QSlider*>()->setValue(120);
@@ -270,12 +256,11 @@ void testFrmTan::ApprovalAsksInTime()
     frmTan window(wait);
     const QSignalSpy asked(&window, &frmTan::BankToBeAsked);
     window.show();
-    QCOMPARE(modWindowFaults::All(window), QStringList());
     const auto passSecond = [&] {
         clock.Time = clock.Time.addSecs(1);
         QMetaObject::invokeMethod(window.findChild<QTimer*>(u"tmrWait"_s), "timeout");
     };
-    QPushButton* look = Button(window, u"Jetzt prüfen"_s);
+    QAbstractButton* look = &Button(window, u"Jetzt prüfen"_s);
     QTest::mouseClick(look, Qt::LeftButton); // too early, but heard
     QVERIFY(!look->isEnabled() && asked.isEmpty());
     for (int i = 0; i < 3; ++i) {
@@ -300,7 +285,6 @@ void testFrmTan::PinIsHiddenAndForgotten()
     for (const bool isSent : {true, false}) {
         frmPin window({.Bank = u"Sparkasse Ahornstadt"_s, .BankCode = {}, .UserId = u"kunde1"_s, .UserIdLabel = {}});
         window.show();
-        QCOMPARE(modWindowFaults::All(window), QStringList());
         QCOMPARE(Field(window).echoMode(), QLineEdit::Password);
         QTest::keyClicks(&Field(window), u"geheim"_s);
         QTest::keyClick(&Field(window), isSent ? Qt::Key_Return : Qt::Key_Escape);
@@ -316,15 +300,14 @@ void testFrmTan::LogIsShownAndSaved()
     const cBankLogView log(u"HNHBK:1:3+000000000123"_s, u"HNHBK"_s, {book.User, book.Shell, book.Clock});
     frmProtokoll window(log);
     window.show();
-    QCOMPARE(modWindowFaults::All(window), QStringList());
     const auto* text = window.findChild<QPlainTextEdit*>();
     QVERIFY(text->isReadOnly());
     QCOMPARE(text->toPlainText(), u"HNHBK:1:3+000000000123"_s);
-    QTest::mouseClick(Button(window, u"Per E-Mail senden…"_s), Qt::LeftButton);
+    QTest::mouseClick(&Button(window, u"Per E-Mail senden…"_s), Qt::LeftButton);
     QCOMPARE(book.Shell.Mails.size(), 1);
     const cBankLogView nothing({}, {}, {book.User, book.Shell, book.Clock});
     const frmProtokoll empty(nothing);
-    QVERIFY(!Button(empty, u"Speichern…"_s)->isEnabled());
+    QVERIFY(!Button(empty, u"Speichern…"_s).isEnabled());
 }
 
 TEST_CLASS(testFrmTan, QApplication)

@@ -3,6 +3,7 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
+#include "support/windowHands.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
 #include "windows/statement/cStagedActions.h"
@@ -14,12 +15,9 @@
 #include <QAction>
 #include <QApplication>
 #include <QPlainTextEdit>
-#include <QPushButton>
 #include <QTest>
 #include <QTimer>
 #include <QTreeView>
-
-#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -41,9 +39,7 @@ struct cScene : cTestBook
         Stage(-50, u"Jana"_s);
         Stage(-99, u"Unbekannt"_s);
         Page.resize(1200, 600);
-        Page.show();
-        Page.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&Page));
+        modWindowHands::Bring(Page);
         Tree.setFocus();
     }
 
@@ -76,7 +72,7 @@ struct cScene : cTestBook
     void AssignWith(Qt::Key key)
     {
         HasOpened = false;
-        Activate();
+        modWindowHands::Bring(Page); // another window may have been in front
         QTimer::singleShot(0, &Page, [key, this] {
             QWidget* window = QApplication::activeModalWidget();
             HasOpened = qobject_cast<frmZuordnung*>(window) != nullptr;
@@ -88,15 +84,9 @@ struct cScene : cTestBook
         QTest::keyClick(&Tree, Qt::Key_R, Qt::ControlModifier);
     }
 
-    void Activate()
-    {
-        Page.activateWindow(); // another window may have been in front
-        QVERIFY(QTest::qWaitForWindowActive(&Page));
-    }
-
     void Press(Qt::Key key)
     {
-        Activate();
+        modWindowHands::Bring(Page);
         QTest::keyClick(&Tree, key, Qt::ControlModifier);
     }
 

@@ -1,5 +1,6 @@
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/cTextRecorder.h"
 #include "support/testFormat.h"
 #include "views/list/cEntryListModel.h"
@@ -119,13 +120,11 @@ private:
 
 void testListPrinter::EveryRowIsPrintedOnce_data()
 {
-    QTest::addColumn<int>("rows");
-    QTest::addColumn<QString>("grouping");
-
-    QTest::newRow("one") << 1 << modWord::KeineGruppierung;
-    QTest::newRow("many pages") << 300 << modWord::KeineGruppierung;
-    QTest::newRow("groups of one row") << 100 << u"Nach Datum"_s;
-    QTest::newRow("groups over several pages") << 300 << u"Nach Monat"_s;
+    const cTestRows<int, QString> row("rows", "grouping");
+    row("one", 1, modWord::KeineGruppierung);
+    row("many pages", 300, modWord::KeineGruppierung);
+    row("groups of one row", 100, u"Nach Datum"_s);
+    row("groups over several pages", 300, u"Nach Monat"_s);
 }
 
 void testListPrinter::EveryRowIsPrintedOnce()
@@ -148,12 +147,11 @@ void testListPrinter::EveryRowIsPrintedOnce()
 
 void testListPrinter::NothingLeavesThePage_data()
 {
-    QTest::addColumn<QSize>("size");
-
-    QTest::newRow("A4") << portrait;
-    QTest::newRow("A4 across") << portrait.transposed();
-    QTest::newRow("A5") << portrait / 1.414;
-    QTest::newRow("A6, where even the smallest text is too wide") << portrait / 2;
+    const cTestRows<QSize> row("size");
+    row("A4", portrait);
+    row("A4 across", portrait.transposed());
+    row("A5", portrait / 1.414);
+    row("A6, where even the smallest text is too wide", portrait / 2);
 }
 
 void testListPrinter::NothingLeavesThePage()

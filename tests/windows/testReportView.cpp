@@ -1,4 +1,5 @@
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testFormat.h"
 #include "views/report/cReportTreeModel.h"
 #include "views/report/modReportHtml.h"
@@ -156,14 +157,13 @@ void testReportView::LongNamesMakeTheirLineHigher()
 
 void testReportView::BarsKeepTheirTrack_data()
 {
-    QTest::addColumn<int>("Percent");
-    QTest::addColumn<int>("Width"); // of the whole bar with mark and borders
-
-    QTest::newRow("nearly nothing") << 1 << 311;
-    QTest::newRow("within the limit") << 45 << 311;
-    QTest::newRow("exactly the limit") << 100 << 311;
-    QTest::newRow("half above, both parts") << 150 << 311;
-    QTest::newRow("far above, no track left") << 250 << 308;
+    // Width: of the whole bar with mark and borders
+    const cTestRows<int, int> row("Percent", "Width");
+    row("nearly nothing", 1, 311);
+    row("within the limit", 45, 311);
+    row("exactly the limit", 100, 311);
+    row("half above, both parts", 150, 311);
+    row("far above, no track left", 250, 308);
 }
 
 // However little or much was spent, the parts of a bar stand side by side in one row of the same height.
@@ -302,19 +302,17 @@ Q_DECLARE_METATYPE(cLines)
 
 void testReportView::PagesEndBetweenLines_data()
 {
-    QTest::addColumn<cLines>("Lines");
-    QTest::addColumn<int>("Top");
-    QTest::addColumn<int>("End"); // of a page of 100
-
+    // End: of a page of 100
+    const cTestRows<cLines, int, int> row("Lines", "Top", "End");
     const cLines plain{{0, 30}, {40, 70}, {80, 110}, {120, 150}};
-    QTest::newRow("a line does not fit any more") << plain << 0 << 80;
-    QTest::newRow("the next page") << plain << 80 << 180;
-    QTest::newRow("a line ends with the page") << cLines{{0, 100}, {100, 130}} << 0 << 100;
-    QTest::newRow("a headline goes along") << cLines{{0, 30}, {40, 70, true}, {80, 110}} << 0 << 40;
-    QTest::newRow("two headlines go along") << cLines{{0, 30}, {35, 50, true}, {55, 70, true}, {80, 110}} << 0 << 35;
-    QTest::newRow("the page ends behind a headline") << cLines{{0, 60}, {70, 95, true}, {105, 130}} << 0 << 70;
-    QTest::newRow("nothing but headlines") << cLines{{0, 30, true}, {40, 70, true}, {80, 110}} << 0 << 80;
-    QTest::newRow("higher than a page") << cLines{{0, 250}} << 100 << 200;
+    row("a line does not fit any more", plain, 0, 80);
+    row("the next page", plain, 80, 180);
+    row("a line ends with the page", cLines{{0, 100}, {100, 130}}, 0, 100);
+    row("a headline goes along", cLines{{0, 30}, {40, 70, true}, {80, 110}}, 0, 40);
+    row("two headlines go along", cLines{{0, 30}, {35, 50, true}, {55, 70, true}, {80, 110}}, 0, 35);
+    row("the page ends behind a headline", cLines{{0, 60}, {70, 95, true}, {105, 130}}, 0, 70);
+    row("nothing but headlines", cLines{{0, 30, true}, {40, 70, true}, {80, 110}}, 0, 80);
+    row("higher than a page", cLines{{0, 250}}, 100, 200);
 }
 
 void testReportView::PagesEndBetweenLines()
