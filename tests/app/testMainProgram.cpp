@@ -221,7 +221,7 @@ private Q_SLOTS:
 
             program.Model().ChooseGrouping(u"Nach Sparte"_s);
             auto* german = program.Window().findChild<QMenu*>(u"languages"_s)->actions().at(1);
-            QCOMPARE(german->text(), u"Deutsch"_s);
+            QCOMPARE(german->text(), u"&Deutsch"_s);
             german->trigger();
             QTRY_COMPARE(FirstMenu(program), u"Datei"_s);
             QVERIFY(program.Window().isVisible());

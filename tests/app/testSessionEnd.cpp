@@ -145,7 +145,7 @@ void testSessionEnd::TypedContentsOutliveTheEnd() const
     InForm([&](frmBuchung& form) {
         amount = Line(form, u"txtBetrag"_s).text();
         isSplit = form.findChild<QPushButton*>(u"cmdAufteilen"_s)->text().startsWith(u"Nicht"_s);
-        machine.User.Answers = {eAnswer::No, eAnswer::Yes};
+        machine.User.Answers = {eAnswer::Cancel, eAnswer::No};
         form.reject(); // asks, because nothing of it is stored
         QVERIFY(form.isVisible());
         form.reject();
@@ -187,7 +187,7 @@ void testSessionEnd::CalledOffEndLeavesNoDraft() const
         Line(form, u"txtBetrag"_s).setText(u"47,11"_s);
         Q_EMIT run.Watch.SaveRequested();
         kept = machine.Drafts().size();
-        machine.User.Answers = {eAnswer::Yes};
+        machine.User.Answers = {eAnswer::No};
         form.reject();
     });
     run.Program.Navigation().OpenNewEntry();

@@ -101,14 +101,12 @@ private Q_SLOTS:
 
     void OtherCurrencyIsTakenOnRequest()
     {
-        QFile file(m_folder->filePath(u"a.sta"_s));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        file.write(":20:A\n:25:1\n:60F:C260101USD0,00\n:61:260101D1,00NTRF\n:86:x\n-\n");
-        file.close();
-        const cCliRun refused = Run({u"import"_s, file.fileName()});
+        const QString file =
+            Write(u"a.sta"_s, ":20:A\n:25:1\n:60F:C260101USD0,00\n:61:260101D1,00NTRF\n:86:x\n-\n");
+        const cCliRun refused = Run(u"import|"_s + file);
         QVERIFY2(refused.Code == 1 && refused.Error.contains("--take-currency"_L1), qPrintable(refused.Text()));
-        Do({u"import"_s, file.fileName(), u"--take-currency"_s});
-        Do({u"import"_s, file.fileName()});
+        Do(u"import|%1|--take-currency"_s.arg(file));
+        Do(u"import|"_s + file);
     }
 
     void SkippedRowsAndLayoutAreTold()

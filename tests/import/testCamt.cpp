@@ -133,8 +133,8 @@ private Q_SLOTS:
 
     void TakesCounterpartyBySide_data()
     {
-        const cTestRows<QByteArray, QByteArray, QByteArray, QString, QString, qint64> row(
-            {"amount", "mark", "before", "name", "bank", "value"});
+        const cTestRows<QByteArray, QByteArray, QByteArray, QString, QString, qint64> row("amount", "mark", "before",
+                                                                                          "name", "bank", "value");
         const QString creditor = u"Empfänger DE2"_s;
         const QString debtor = u"Zahler DE1"_s;
         row("out", "5.00", "DBIT", {}, creditor, u"20030040"_s, -500);

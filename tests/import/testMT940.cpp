@@ -39,8 +39,8 @@ class testMT940 : public QObject
 private Q_SLOTS:
     void ReadsTransactionLine_data()
     {
-        const cTestRows<QString, QString, QString, QString, QString, qint64> row(
-            {"line", "mark", "amount", "typeCode", "reference", "value"});
+        const cTestRows<QString, QString, QString, QString, QString, qint64> row("line", "mark", "amount", "typeCode",
+                                                                                 "reference", "value");
         row("entry date and mark", u"0902270227DR0,96NMSCNONREF"_s, u"DR"_s, u"0,96"_s, u"NMSC"_s, u"NONREF"_s, -96);
         row("no entry date", u"200219C65,00NMSC"_s, u"C"_s, u"65,00"_s, u"NMSC"_s, {}, 6500);
         row("cancelled debit counts as debit", u"2002010219RDR1027,25N068A//B"_s, u"RD"_s, u"1027,25"_s, u"N068"_s,

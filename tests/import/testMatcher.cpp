@@ -104,8 +104,8 @@ void testMatcher::OneRowAndOneEntry_data() const
     // days: from the entry to the row
     // text: of an entry of 23,10 in "Haushalt; Lebensmittel"
     // counts: assigned, proposed, left, of these with candidates
-    const cTestRows<int, qint64, QString, QString, QString, QList<int>> row(
-        {"days", "rowCents", "name", "purpose", "text", "counts"});
+    const cTestRows<int, qint64, QString, QString, QString, QList<int>> row("days", "rowCents", "name", "purpose",
+                                                                            "text", "counts");
     const QList<int> assigned{1, 0, 0, 0};
     const QList<int> proposed{0, 1, 0, 0};
     const QList<int> listed{0, 0, 1, 1};

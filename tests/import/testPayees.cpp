@@ -173,8 +173,7 @@ private Q_SLOTS:
     // What the keyword rules say stays; whether anybody may book it unseen is another question.
     void DoubtsKeywords_data()
     {
-        const cTestRows<QString, QString, double, QString, bool> row(
-            {"name", "purpose", "value", "category", "isSure"});
+        const cTestRows<QString, QString, double, QString, bool> row("name", "purpose", "value", "category", "isSure");
         row("a word", u"REWE Markt"_s, {}, -20, u"Haushalt; Lebensmittel"_s, true);
         row("end of a compound", u"Stadtapotheke"_s, {}, -20, u"Haushalt; Medikamente"_s, true);
         row("inside a name", u"Tobias Kern"_s, u"danke"_s, -20, u"Haushalt"_s, false);

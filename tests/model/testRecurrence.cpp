@@ -48,8 +48,8 @@ class testRecurrence final : public QObject
 private Q_SLOTS:
     void Occurrences_data() const
     {
-        const cTestRows<QString, QDate, QDate, QDate, QDate, QString> row(
-            {"interval", "start", "end", "from", "to", "days"});
+        const cTestRows<QString, QDate, QDate, QDate, QDate, QString> row("interval", "start", "end", "from", "to",
+                                                                          "days");
         const QDate open = modRecurrence::OpenEnd;
         row("weekly", u"Wöchentlich"_s, QDate(2024, 1, 1), open, QDate(2024, 1, 10), QDate(2024, 1, 20),
             u"2024-01-15"_s);

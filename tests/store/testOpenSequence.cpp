@@ -257,8 +257,8 @@ private Q_SLOTS:
 
     void WithoutPermission_data() const
     {
-        const cTestRows<QFile::Permissions, QFile::Permissions, eOpenResult, QString> row(
-            {"folder", "file", "result", "message"});
+        const cTestRows<QFile::Permissions, QFile::Permissions, eOpenResult, QString> row("folder", "file", "result",
+                                                                                          "message");
         const QString reading = u"Die Datenbank '%1' kann nur gelesen werden. Änderungen werden nicht gespeichert."_s;
         row("read-only file", enterable | writable, readable, eOpenResult::OpenedReadOnly, reading);
         row("read-only folder", enterable, readable | writable, eOpenResult::OpenedReadOnly, reading);

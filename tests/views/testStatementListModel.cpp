@@ -10,7 +10,6 @@
 #include "support/testBook.h"
 #include "views/ledger/cOpeningBalance.h"
 #include "views/ledger/cStatementListModel.h"
-#include "views/statement/cOpeningBalance.h"
 
 #include <QSignalSpy>
 #include <QTest>

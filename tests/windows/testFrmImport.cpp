@@ -272,7 +272,7 @@ private Q_SLOTS:
             QApplication::activePopupWidget()->close();
         });
         if (isMore) {
-            QTest::mouseClick(&scene.Button(u"Mehr"_s), Qt::LeftButton);
+            QTest::mouseClick(&modWindowHands::Button(scene.Page, u"Mehr"_s), Qt::LeftButton);
         } else {
             QWidget* list = scene.Tree.viewport();
             const QPoint place(1, scene.Tree.visualRect(scene.Tree.currentIndex()).center().y());
