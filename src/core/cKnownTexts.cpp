@@ -71,13 +71,12 @@ bool IsSentence(const QString& text)
 {
     static const QRegularExpression place(u"\\{\\d+\\}|%n"_s);
     static const QRegularExpression word(u"\\p{L}{2,}"_s);
-    QString own = text;
-    own.remove(place);
+    const QString own = QString(text).remove(place).trimmed();
     int words = 0;
     for (QRegularExpressionMatchIterator i = word.globalMatch(own); i.hasNext(); i.next()) {
         ++words;
     }
-    const QChar last = own.isEmpty() ? QChar() : own.trimmed().back();
+    const QChar last = own.isEmpty() ? QChar() : own.back();
     return words > 2 || (words == 2 && (last == u'.' || last == u':' || last == u'!' || last == u'?'));
 }
 

@@ -1,11 +1,13 @@
 #include "base/cText.h"
 #include "core/cErrorLog.h"
+#include "core/cKnownTexts.h"
 #include "core/cLoggedUser.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 #include "support/fakes.h"
 
 #include <QTest>
+#include <QTranslator>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -42,6 +44,18 @@ struct cLogScene
     cFakeClock Clock;
 };
 
+// A language whose word order leaves nothing of a text but its places.
+class cBareLanguage final : public QTranslator
+{
+public:
+    [[nodiscard]] bool isEmpty() const override { return false; }
+    [[nodiscard]] QString translate(const char* /*context*/, const char* /*source*/, const char* /*disambiguation*/,
+                                    int /*n*/) const override
+    {
+        return u"{0} {1}"_s;
+    }
+};
+
 } // namespace
 
 class testErrorLog final : public QObject
@@ -51,6 +65,7 @@ class testErrorLog final : public QObject
 private Q_SLOTS:
     void NothingPrivateIsWritten_data();
     void NothingPrivateIsWritten();
+    void TranslationsMayHaveNoWords();
     void OperationIsNamed();
     void OnlyFailuresAreTakenDown();
     void FiveRunsStay();
@@ -92,6 +107,13 @@ void testErrorLog::NothingPrivateIsWritten()
     for (const QString& secret : {u"Erika"_s, u"Mustermann"_s, u"1.234"_s, u"1002"_s, u"4711"_s, u"/home"_s}) {
         QVERIFY2(!bytes.contains(secret), qPrintable(bytes));
     }
+}
+
+void testErrorLog::TranslationsMayHaveNoWords()
+{
+    cBareLanguage language;
+    QCoreApplication::installTranslator(&language); // taken away by its destructor
+    QCOMPARE(cKnownTexts::OfProgram().WithoutData(u"database is locked"_s), u"database is locked"_s);
 }
 
 void testErrorLog::OperationIsNamed()
