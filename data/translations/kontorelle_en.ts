@@ -2799,12 +2799,6 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
         <translation>The folder &apos;{0}&apos; cannot be written to.</translation>
     </message>
     <message>
-        <source>Die Eingaben sind noch nicht gespeichert.
-Soll das Fenster trotzdem geschlossen werden?</source>
-        <translation>Your changes have not been saved yet.
-Do you want to close the window anyway?</translation>
-    </message>
-    <message>
         <source>{0} Treffer</source>
         <translation>{0} found</translation>
     </message>
@@ -4081,10 +4075,6 @@ You can create the account or move the entries to another one.</translation>
         <translation>No transactions found</translation>
     </message>
     <message>
-        <source>Lesen Sie mit &quot;Kontoauszug importieren&quot; (Strg+I) eine Datei Ihrer Bank ein.</source>
-        <translation>Use &quot;Import statement&quot; (Ctrl+I) to import a file from your bank.</translation>
-    </message>
-    <message>
         <source>Wählen Sie einen anderen Zeitraum, oder ändern Sie den Suchtext.</source>
         <translation>Choose another period, or change the search text.</translation>
     </message>
@@ -4217,10 +4207,6 @@ Suggestion: {2}</translation>
     <message>
         <source>Regel geändert</source>
         <translation>Rule changed</translation>
-    </message>
-    <message>
-        <source>Die Regel wurde geändert. Soll sie gespeichert werden?</source>
-        <translation>The rule has been changed. Do you want to save it?</translation>
     </message>
     <message>
         <source>Regeln</source>
@@ -4737,10 +4723,6 @@ Suggestion: {2}</translation>
         <translation>None</translation>
     </message>
     <message>
-        <source>Nach Empfänger / Auftraggeber</source>
-        <translation>By payee / payer</translation>
-    </message>
-    <message>
         <source>Nach Tag</source>
         <translation>By day</translation>
     </message>
@@ -4979,10 +4961,6 @@ Suggestion: {2}</translation>
     <message>
         <source>bis</source>
         <translation>to</translation>
-    </message>
-    <message>
-        <source>Alle &amp;Vorschläge annehmen</source>
-        <translation>Acce&amp;pt all suggestions</translation>
     </message>
     <message>
         <source>&amp;Kategorie…</source>
@@ -5934,10 +5912,6 @@ Do you want to continue?</translation>
         <translation>Print pre&amp;view</translation>
     </message>
     <message>
-        <source>Stellt die Zeile wieder her, wie sie gespeichert ist (Esc)</source>
-        <translation>Restores the line as it is stored (Esc)</translation>
-    </message>
-    <message>
         <source>Der Betrag {0} war für das Intervall &apos;{1}&apos; gemeint. Bitte geben Sie mit --interval auch --amount an, den Betrag je Intervall, oder --limit, das Monatslimit.</source>
         <translation>The amount {0} was meant for the interval &apos;{1}&apos;. With --interval please also give --amount, the amount per interval, or --limit, the monthly limit.</translation>
     </message>
@@ -6570,10 +6544,6 @@ They are not executed. If you have not made them yourself, please check where th
         <translation>The bank will be asked for your approval in {0} s.</translation>
     </message>
     <message>
-        <source>Klicken Sie auf &quot;Jetzt prüfen&quot;, sobald Sie freigegeben haben.</source>
-        <translation>Click &quot;Check now&quot; once you have approved.</translation>
-    </message>
-    <message>
         <source>wird neu angelegt</source>
         <translation>will be added</translation>
     </message>
@@ -6632,10 +6602,6 @@ They are not executed. If you have not made them yourself, please check where th
     <message>
         <source>Der Abruf wurde abgebrochen.</source>
         <translation>The fetch was cancelled.</translation>
-    </message>
-    <message>
-        <source>Es ist noch kein Bankkonto eingerichtet. Richten Sie unter &quot;Bankzugänge…&quot; eines ein.</source>
-        <translation>No bank account has been set up yet. Set one up under &quot;Bank logins…&quot;.</translation>
     </message>
     <message>
         <source>die Bank hält nur die letzten {0} Tage bereit.</source>
@@ -6728,10 +6694,6 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
     <message>
         <source>Noch kein Bankzugang</source>
         <translation>No bank login yet</translation>
-    </message>
-    <message>
-        <source>Mit „Neuer Zugang“ richten Sie den Abruf der Umsätze bei Ihrer Bank ein.</source>
-        <translation>“New login” sets up the fetching of transactions from your bank.</translation>
     </message>
     <message>
         <source>noch nie</source>
@@ -7508,10 +7470,6 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
         <translation>The address of the bank has to begin with https://.</translation>
     </message>
     <message>
-        <source>Die Bank nennt eine andere Adresse: {0}. Fragen Sie bei ihr nach, bevor Sie sie unter &quot;Bankzugänge…&quot; eintragen; von selbst wird sie nicht benutzt.</source>
-        <translation>The bank names another address: {0}. Ask the bank before you enter it under &quot;Bank logins…&quot;; it is not used by itself.</translation>
-    </message>
-    <message>
         <source>&apos;{0}&apos; verschoben</source>
         <translation>&apos;{0}&apos; moved</translation>
     </message>
@@ -7818,14 +7776,6 @@ Change it all the same?</translation>
     <message>
         <source>Aufbau laden</source>
         <translation>Load layout</translation>
-    </message>
-    <message>
-        <source>Der Aufbau &quot;{0}&quot; gilt nun für diese Datei und alle mit denselben Spaltennamen.</source>
-        <translation>The layout &quot;{0}&quot; now holds for this file and all with the same column names.</translation>
-    </message>
-    <message>
-        <source>Der Aufbau &quot;{0}&quot; ist gemerkt. Diese Datei hat andere Spaltennamen.</source>
-        <translation>The layout &quot;{0}&quot; is remembered. This file has other column names.</translation>
     </message>
     <message>
         <source>Kategorie eines Eintrags geändert</source>
@@ -8506,12 +8456,6 @@ Quit the program and open this file to install the new version.</translation>
         <translation>Only the number of your version is sent.</translation>
     </message>
     <message>
-        <source>Soll Kontorelle einmal in der Woche nachsehen, ob es eine neue Version gibt?
-Gesendet wird dabei nur die Nummer Ihrer Version, und geladen wird nichts ohne Sie. Ändern können Sie das jederzeit mit &quot;Hilfe&quot;, &quot;Nach Updates suchen&quot;.</source>
-        <translation>Shall Kontorelle look once a week whether there is a new version?
-Only the number of your version is sent, and nothing is downloaded without you. You can change this at any time with &quot;Help&quot;, &quot;Check for updates&quot;.</translation>
-    </message>
-    <message>
         <source>Neue Versionen</source>
         <translation>New versions</translation>
     </message>
@@ -8630,10 +8574,6 @@ Only the number of your version is sent, and nothing is downloaded without you. 
     <message>
         <source>Kontostände bis heute</source>
         <translation>Balances up to today</translation>
-    </message>
-    <message>
-        <source>&amp;System</source>
-        <translation>&amp;System</translation>
     </message>
     <message>
         <source>Hell oder dunkel, wie der Desktop es vorgibt.</source>
@@ -9094,10 +9034,6 @@ Only the number of your version is sent, and nothing is downloaded without you. 
         <translation>Take over accounts</translation>
     </message>
     <message>
-        <source>Kontoauszug einlesen…</source>
-        <translation>Read a statement…</translation>
-    </message>
-    <message>
         <source>Online-Banking einrichten…</source>
         <translation>Set up online banking…</translation>
     </message>
@@ -9326,10 +9262,6 @@ Only the number of your version is sent, and nothing is downloaded without you. 
         <translation>Year {0}</translation>
     </message>
     <message>
-        <source>Möchten Sie das geänderte Budget speichern?</source>
-        <translation>Do you want to save the changed budget?</translation>
-    </message>
-    <message>
         <source>Keine Kategorie hat ein Limit.</source>
         <translation>No category has a limit.</translation>
     </message>
@@ -9436,10 +9368,6 @@ Only the number of your version is sent, and nothing is downloaded without you. 
     <message>
         <source>Die Ansicht &apos;{0}&apos; gibt es schon. Ersetzen?</source>
         <translation>There is a view &apos;{0}&apos; already. Replace it?</translation>
-    </message>
-    <message>
-        <source>Noch ist keine Ansicht gemerkt. Wählen Sie Zeitraum, Konto, Filter und Spalten, und dann &quot;Ansicht merken…&quot;.</source>
-        <translation>No view is kept yet. Choose period, account, filter and columns, and then &quot;Keep view…&quot;.</translation>
     </message>
     <message>
         <source>Meine Ansichten</source>
@@ -9656,14 +9584,6 @@ Who paid is then no longer noted at {1}.</translation>
         <translation>not saved</translation>
     </message>
     <message>
-        <source>Diese Anteile sind nicht vollständig und werden nicht gespeichert:
-{0}
-Soll das Fenster trotzdem geschlossen werden?</source>
-        <translation>These shares are not complete and are not saved:
-{0}
-Close the window all the same?</translation>
-    </message>
-    <message>
         <source>Noch gibt es keine Personen. Sie legen sie unter „Extras“, „Haushalt“, „Personen“ an.</source>
         <translation>There are no people yet. You add them under “Tools”, “Household”, “People”.</translation>
     </message>
@@ -9778,10 +9698,6 @@ Close the window all the same?</translation>
     <message>
         <source>Beleg entfernen</source>
         <translation>Remove receipt</translation>
-    </message>
-    <message>
-        <source>&apos;{0}&apos; ist kein Bild und kein Dokument und wird deshalb nicht geöffnet. Mit &quot;Speichern unter…&quot; kommen Sie an die Datei.</source>
-        <translation>&apos;{0}&apos; is neither a picture nor a document and is therefore not opened. With &quot;Save as…&quot; you get at the file.</translation>
     </message>
     <message>
         <source>Für &apos;{0}&apos; wurde kein Programm gefunden, das die Datei öffnet.</source>
@@ -10152,20 +10068,8 @@ A click shows more.</translation>
         <translation>&amp;Rename</translation>
     </message>
     <message>
-        <source>Für diese Art von Datei gibt es keine Vorschau. &quot;Öffnen&quot; zeigt sie in einem anderen Programm.</source>
-        <translation>There is no preview for this kind of file. &quot;Open&quot; shows it in another program.</translation>
-    </message>
-    <message>
         <source>Die Datei ist beschädigt oder kein Bild und kein PDF.</source>
         <translation>The file is damaged, or neither a picture nor a PDF.</translation>
-    </message>
-    <message>
-        <source>Die Datei ist für eine Vorschau zu groß. &quot;Öffnen&quot; zeigt sie in einem anderen Programm.</source>
-        <translation>The file is too large for a preview. &quot;Open&quot; shows it in another program.</translation>
-    </message>
-    <message>
-        <source>Das PDF ist mit einem Passwort geschützt. &quot;Öffnen&quot; zeigt es in einem anderen Programm.</source>
-        <translation>The PDF is protected by a password. &quot;Open&quot; shows it in another program.</translation>
     </message>
     <message>
         <source>Die Vorschau wird gelesen …</source>
@@ -10298,10 +10202,6 @@ A click shows more.</translation>
     <message>
         <source>Das Konto {0} hat keinen PDF-Auszug &apos;{1}&apos;.</source>
         <translation>The account {0} has no PDF statement &apos;{1}&apos;.</translation>
-    </message>
-    <message>
-        <source>listet die PDF-Auszüge eines Bankkontos, die neuesten zuerst</source>
-        <translation>lists the PDF statements of a bank account, newest first</translation>
     </message>
     <message>
         <source>kopiert PDF-Auszüge der Bank in den Ordner &quot;Belege&quot; neben der Datenbank und hängt sie an das Bankkonto</source>
@@ -10646,10 +10546,6 @@ A click shows more.</translation>
         <translation>There is no PDF in the clipboard.</translation>
     </message>
     <message>
-        <source>&apos;{0}&apos; ist kein PDF. Auszüge, die Kontorelle einlesen kann (CSV, MT940 und so weiter), gehören auf die Seite &quot;Kontoauszüge&quot;.</source>
-        <translation>&apos;{0}&apos; is not a PDF. Statements that Kontorelle can read (CSV, MT940 and so on) belong on the &quot;Statements&quot; page.</translation>
-    </message>
-    <message>
         <source>PDF-Auszug zu &apos;{0}&apos; hinzugefügt</source>
         <translation>PDF statement added to &apos;{0}&apos;</translation>
     </message>
@@ -10782,10 +10678,6 @@ A click shows more.</translation>
         <translation>All booked</translation>
     </message>
     <message>
-        <source>Alle &amp;Vorschläge annehmen ({0})</source>
-        <translation>Acce&amp;pt all suggestions ({0})</translation>
-    </message>
-    <message>
         <source>{0} markiert, davon {1} offen, Summe {2}. Die Eingabetaste bucht sie.</source>
         <translation>{0} selected, {1} of them open, sum {2}. Enter books them.</translation>
     </message>
@@ -10904,6 +10796,192 @@ What shall be done?</translation>
     <message>
         <source>Die Kategorie &apos;{0}&apos; ist ausgeblendet. Bitte wählen Sie eine andere, oder zeigen Sie sie unter „Kategorien und Konten“ wieder an.</source>
         <translation>The category &apos;{0}&apos; is hidden. Please choose another one, or show it again under “Categories and accounts”.</translation>
+    </message>
+    <message>
+        <source>auch Auszüge in einer anderen Währung als der des Buchs übernehmen, ohne umzurechnen</source>
+        <translation>take statements in another currency than the book&apos;s as well, without converting them</translation>
+    </message>
+    <message>
+        <source>Mit --take-currency wird der Auszug trotzdem eingelesen, und dieses Konto künftig ohne Rückfrage.</source>
+        <translation>With --take-currency the statement is read all the same, and this account without a question from then on.</translation>
+    </message>
+    <message>
+        <source>Kein Konto hat einen PDF-Auszug &apos;{0}&apos;.</source>
+        <translation>No account has a PDF statement &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>listet die PDF-Auszüge eines Bankkontos oder aller, die neuesten zuerst</source>
+        <translation>lists the PDF statements of one bank account or of all, newest first</translation>
+    </message>
+    <message>
+        <source>Die Datei ist abgeschnitten: Dem letzten Auszug fehlt das Ende. Es wurde nichts übernommen. Bitte laden Sie die Datei noch einmal herunter.</source>
+        <translation>The file is cut off: the last statement has no end. Nothing was taken. Please download the file again.</translation>
+    </message>
+    <message>
+        <source>Der Schlusssaldo ist abgeschnitten und wurde nicht übernommen.</source>
+        <translation>The closing balance is cut off and was not taken.</translation>
+    </message>
+    <message>
+        <source>die Gegenbuchung steht als Ausgabe im Buch, daraus wird die Umbuchung</source>
+        <translation>the other side is in the book as an expense, which becomes the transfer</translation>
+    </message>
+    <message>
+        <source>die Gegenbuchung steht als Einnahme im Buch, daraus wird die Umbuchung</source>
+        <translation>the other side is in the book as income, which becomes the transfer</translation>
+    </message>
+    <message>
+        <source>der Betrag wurde zurückgebucht, daher keine Serie</source>
+        <translation>the amount was booked back, so this is no series</translation>
+    </message>
+    <message>
+        <source>Der letzte Umsatz ist unvollständig und wurde nicht übernommen. Vielleicht wurde die Datei beim Herunterladen abgeschnitten; bitte laden Sie sie noch einmal herunter: {0}</source>
+        <translation>The last transaction is incomplete and was not taken. Perhaps the file was cut off while it was downloaded; please download it again: {0}</translation>
+    </message>
+    <message>
+        <source>Die Tabelle ist beschädigt oder unvollständig. Es wurde nichts übernommen.</source>
+        <translation>The table is damaged or incomplete. Nothing was taken.</translation>
+    </message>
+    <message>
+        <source>Der Auszug ist in {0}, das Buch in {1}. Beträge werden nicht umgerechnet.</source>
+        <translation>The statement is in {0}, the book in {1}. Amounts are not converted.</translation>
+    </message>
+    <message>
+        <source>Klicken Sie auf „Jetzt prüfen“, sobald Sie freigegeben haben.</source>
+        <translation>Click “Check now” once you have approved.</translation>
+    </message>
+    <message>
+        <source>Es ist noch kein Bankkonto eingerichtet. Richten Sie unter „Bankzugänge…“ eines ein.</source>
+        <translation>No bank account has been set up yet. Set one up under “Bank logins…”.</translation>
+    </message>
+    <message>
+        <source>Mit „Neuer Zugang…“ richten Sie den Abruf der Umsätze bei Ihrer Bank ein.</source>
+        <translation>“New login…” sets up the fetching of transactions from your bank.</translation>
+    </message>
+    <message>
+        <source>Die Bank nennt eine andere Adresse: {0}. Fragen Sie bei ihr nach, bevor Sie sie unter „Bankzugänge…“ eintragen; von selbst wird sie nicht benutzt.</source>
+        <translation>The bank names another address: {0}. Ask the bank before you enter it under “Bank logins…”; it is not used by itself.</translation>
+    </message>
+    <message>
+        <source>Soll Kontorelle einmal in der Woche nachsehen, ob es eine neue Version gibt?
+Gesendet wird dabei nur die Nummer Ihrer Version, und geladen wird nichts ohne Sie. Ändern können Sie das jederzeit mit „Hilfe“, „Nach Updates suchen“.</source>
+        <translation>Shall Kontorelle look once a week whether there is a new version?
+Only the number of your version is sent, and nothing is downloaded without you. You can change this at any time with “Help”, “Check for updates”.</translation>
+    </message>
+    <message>
+        <source>Jeder eingelesene Umsatz steht im Buch, doch seit dem {6} sind dort {5} weniger als bei der Bank.</source>
+        <translation>Every transaction read is in the book, yet since {6} it holds {5} less than the bank.</translation>
+    </message>
+    <message>
+        <source>Jeder eingelesene Umsatz steht im Buch, doch seit dem {6} sind dort {5} mehr als bei der Bank.</source>
+        <translation>Every transaction read is in the book, yet since {6} it holds {5} more than the bank.</translation>
+    </message>
+    <message>
+        <source>Lesen Sie die Kontoauszüge der Zeit um diesen Tag ein, auch schon gelesene noch einmal.</source>
+        <translation>Import the statements around that day, and those already read once more.</translation>
+    </message>
+    <message>
+        <source>Lesen Sie mit „Kontoauszug importieren“ (Strg+I) eine Datei Ihrer Bank ein.</source>
+        <translation>Use “Import statement” (Ctrl+I) to import a file from your bank.</translation>
+    </message>
+    <message>
+        <source>Auf dem Auszug stehen {0}: Einige seiner Umsätze haben ihre Wertstellung an einem anderen Tag.</source>
+        <translation>The statement says {0}: some of its transactions have their value date on another day.</translation>
+    </message>
+    <message>
+        <source>gleicher Betrag und Gegenkonto, {0}</source>
+        <translation>same amount and counterparty account, {0}</translation>
+    </message>
+    <message>
+        <source>gleicher Betrag und ähnlicher Name, {0}</source>
+        <translation>same amount and similar name, {0}</translation>
+    </message>
+    <message>
+        <source>Die Eingaben sind noch nicht gespeichert.
+Möchten Sie sie speichern?</source>
+        <translation>Your changes have not been saved yet.
+Do you want to save them?</translation>
+    </message>
+    <message>
+        <source>Noch ist keine Ansicht gemerkt. Wählen Sie Zeitraum, Konto, Filter und Spalten, und dann „Ansicht merken…“.</source>
+        <translation>No view is kept yet. Choose period, account, filter and columns, and then “Keep view…”.</translation>
+    </message>
+    <message>
+        <source>Wie das &amp;System</source>
+        <translation>Like the &amp;system</translation>
+    </message>
+    <message>
+        <source>Diese Anteile sind nicht vollständig und werden nicht gespeichert:
+{0}</source>
+        <translation>These shares are not complete and are not saved:
+{0}</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein Bild und kein Dokument und wird deshalb nicht geöffnet. Mit „Speichern unter…“ kommen Sie an die Datei.</source>
+        <translation>&apos;{0}&apos; is neither a picture nor a document and is therefore not opened. With “Save as…” you get at the file.</translation>
+    </message>
+    <message>
+        <source>&apos;{0}&apos; ist kein PDF. Auszüge, die Kontorelle einlesen kann (CSV, MT940 und so weiter), gehören auf die Seite „Kontoauszüge“.</source>
+        <translation>&apos;{0}&apos; is not a PDF. Statements that Kontorelle can read (CSV, MT940 and so on) belong on the “Statements” page.</translation>
+    </message>
+    <message>
+        <source>Der Aufbau &apos;{0}&apos; gilt nun für diese Datei und alle mit denselben Spaltennamen.</source>
+        <translation>The layout &apos;{0}&apos; now holds for this file and all with the same column names.</translation>
+    </message>
+    <message>
+        <source>Der Aufbau &apos;{0}&apos; ist gemerkt. Diese Datei hat andere Spaltennamen.</source>
+        <translation>The layout &apos;{0}&apos; is remembered. This file has other column names.</translation>
+    </message>
+    <message>
+        <source>Die Kategorie &apos;{0}&apos; gibt es nicht. Bitte wählen Sie eine andere.</source>
+        <translation>There is no category &apos;{0}&apos;. Please choose another one.</translation>
+    </message>
+    <message>
+        <source>&amp;Vorschläge annehmen</source>
+        <translation>Acce&amp;pt suggestions</translation>
+    </message>
+    <message>
+        <source>&amp;Vorschläge annehmen ({0})</source>
+        <translation>Acce&amp;pt suggestions ({0})</translation>
+    </message>
+    <message>
+        <source>{0}
+
+Soll er trotzdem eingelesen werden?</source>
+        <translation>{0}
+
+Is it to be read all the same?</translation>
+    </message>
+    <message>
+        <source>Andere Währung</source>
+        <translation>Other currency</translation>
+    </message>
+    <message>
+        <source>vielleicht abgeschnitten</source>
+        <translation>perhaps cut off</translation>
+    </message>
+    <message>
+        <source>Nach Empfänger</source>
+        <translation>By payee</translation>
+    </message>
+    <message>
+        <source>Kontoauszug importieren…</source>
+        <translation>Import statement…</translation>
+    </message>
+    <message>
+        <source>Für diese Art von Datei gibt es keine Vorschau. „Öffnen“ zeigt sie in einem anderen Programm.</source>
+        <translation>There is no preview for this kind of file. “Open” shows it in another program.</translation>
+    </message>
+    <message>
+        <source>Die Datei ist für eine Vorschau zu groß. „Öffnen“ zeigt sie in einem anderen Programm.</source>
+        <translation>The file is too large for a preview. “Open” shows it in another program.</translation>
+    </message>
+    <message>
+        <source>Das PDF ist mit einem Passwort geschützt. „Öffnen“ zeigt es in einem anderen Programm.</source>
+        <translation>The PDF is protected by a password. “Open” shows it in another program.</translation>
+    </message>
+    <message>
+        <source>Stellt die Zeile wieder her, wie sie gespeichert ist</source>
+        <translation>Restores the line as it is stored</translation>
     </message>
 </context>
 </TS>
