@@ -117,7 +117,7 @@ void testUpdateOverTls::EndsWithoutAnAnswer_data() const
     row("silence", {}, u"localhost antwortet nicht. Versuchen Sie es später noch einmal."_s);
     row("cut", "HTTP/1.1 200 OK\r\nContent-Length: 99\r\n\r\n<kontorelle/>",
         u"localhost antwortet nicht. Versuchen Sie es später noch einmal."_s);
-    row("no end of it", cTlsServer::Page(All(QByteArray(300 * 1024, ' '))),
+    row("no end of it", cTlsServer::Page(All(QByteArray(qsizetype{300} * 1024, ' '))),
         u"localhost sendet mehr, als angekündigt war. Es wurde nichts davon behalten."_s);
     row("not there", cTlsServer::Page(All({}), "404 Not Found"),
         u"localhost gibt keine Auskunft (HTTP 404). Versuchen Sie es später noch einmal."_s);

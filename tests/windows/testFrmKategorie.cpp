@@ -42,7 +42,7 @@ public:
     {
         return modWindowHands::Labelled<tField>(Window, label);
     }
-    QAbstractButton& Button(const QString& text) { return modWindowHands::Button(Window, text); }
+    [[nodiscard]] QAbstractButton& Button(const QString& text) const { return modWindowHands::Button(Window, text); }
     [[nodiscard]] QString Selected() const
     {
         const cTemplateNode* node = Tree(Tabs.currentIndex()).Current();
