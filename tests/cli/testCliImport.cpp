@@ -101,8 +101,7 @@ private Q_SLOTS:
 
     void OtherCurrencyIsTakenOnRequest()
     {
-        const QString file =
-            Write(u"a.sta"_s, ":20:A\n:25:1\n:60F:C260101USD0,00\n:61:260101D1,00NTRF\n:86:x\n-\n");
+        const QString file = Write(u"a.sta"_s, ":20:A\n:25:1\n:60F:C260101USD0,00\n:61:260101D1,00NTRF\n:86:x\n-\n");
         const cCliRun refused = Run(u"import|"_s + file);
         QVERIFY2(refused.Code == 1 && refused.Error.contains("--take-currency"_L1), qPrintable(refused.Text()));
         Do(u"import|%1|--take-currency"_s.arg(file));
