@@ -6,6 +6,7 @@
 #include "views/list/cSearchModel.h"
 #include "views/people/cPeople.h"
 #include "views/people/cSettlementModel.h"
+#include "views/sheet/cCellEdit.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/main/frmSuche.h"
 #include "windows/people/cShareTable.h"
