@@ -126,6 +126,7 @@ void cTemplatePanel::BuildFields()
 {
     auto* start = new QHBoxLayout(m_startRow);
     start->setContentsMargins(0, 0, 0, 0);
+    m_start->setAccessibleName(cText::Tr("Startguthaben")); // its label names the row around it
     start->addWidget(m_start, 1);
     start->addWidget(new QLabel(cText::Tr("am"), m_startRow));
     start->addWidget(m_date);
