@@ -17,6 +17,7 @@ struct cProposal
     int ExistingEntry = 0;  // entry in the book that the row belongs to (its series, or the transfer that waits for its
                             // second row); 0 when a new one is to be made
     QString BookedAs;       // what that entry is as long as it is not the transfer that it becomes; else empty
+    bool IsMissed = false;  // a transfer that the statement of the other account does not show
     bool IsAlone = false;   // a new entry is wanted, also where a series would take the row
 
     // The transfer is none: the row is an expense or an income of its own account.
@@ -28,5 +29,6 @@ struct cProposal
         Entry.EntryDate = row.ImportDate; // that of a transfer may be the other account's
         PartnerRow = ExistingEntry = 0;
         BookedAs.clear();
+        IsMissed = false;
     }
 };

@@ -146,6 +146,37 @@ private Q_SLOTS:
         }
     }
 
+    void OtherSidesOfDebits_data()
+    {
+        // credit, rival: days behind the debit on which the other account got it, and on which it was sent again
+        // isCovered: the other account has rows before and behind
+        const cTestRows<int, int, bool, eRowGroup> row("credit", "rival", "isCovered", "group");
+        row("over holidays", 10, 0, true, eRowGroup::InBook);
+        row("of the second debit", 10, 9, false, eRowGroup::Sure);
+        row("too slow", 11, 0, false, eRowGroup::Sure);
+        row("no statement yet", 0, 0, false, eRowGroup::Sure);
+        row("not on the statement", 0, 0, true, eRowGroup::Look);
+    }
+
+    void OtherSidesOfDebits()
+    {
+        QFETCH(const int, credit);
+        QFETCH(const int, rival);
+        QFETCH(const bool, isCovered);
+        cBank bank;
+        const int out = bank.Stage(day, -20000, u"Ich"_s, u"222"_s);
+        const auto stage = [&](bool isWanted, int days, qint64 cents, const QString& own, const QString& other) {
+            return isWanted ? bank.Stage(day.addDays(days), cents, u"Ich"_s, other, own) : 0;
+        };
+        const int in = stage(credit != 0, credit, 20000, u"222"_s, u"111"_s);
+        (void)stage(rival != 0, rival, -20000, u"111"_s, u"222"_s);
+        (void)stage(isCovered, -1, 100, u"222"_s, {});
+        (void)stage(isCovered, 12, 100, u"222"_s, {});
+        const cRowPlan plan = bank.PlanOf(out);
+        QTEST(plan.Group, "group");
+        QCOMPARE(plan.Proposal.PartnerRow, plan.Group == eRowGroup::InBook ? in : 0);
+    }
+
     void TurnsWhatTheOtherSideWasBookedAs_data()
     {
         QTest::addColumn<bool>("isDebitFirst");

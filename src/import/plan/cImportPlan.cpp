@@ -58,11 +58,14 @@ struct cImportPlan::cKnowledge
         }
     }
 
-    // Between accounts of banks everything is known of a transfer; which of several purses it was may not be.
+    // Between accounts of banks everything is known of a transfer whose other side is not missed; which of several
+    // purses it was may not be.
     [[nodiscard]] bool IsSure(const cProposal& transfer) const
     {
         const cEntryItem& entry = transfer.Entry;
-        return transfer.IsSure || (Numbered.contains(entry.EntryAccount) && Numbered.contains(entry.EntryAccountMove));
+        return !transfer.IsMissed
+            && (transfer.IsSure
+                || (Numbered.contains(entry.EntryAccount) && Numbered.contains(entry.EntryAccountMove)));
     }
 
     cParts Parts;

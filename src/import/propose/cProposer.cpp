@@ -210,8 +210,12 @@ void TakeTransfer(cProposal& proposal, const cTransferFinder::cTransfer& transfe
     proposal.PartnerRow = transfer.PartnerRow;
     proposal.ExistingEntry = transfer.ExistingEntry;
     proposal.BookedAs = transfer.BookedAs;
+    proposal.IsMissed = transfer.IsMissed;
     proposal.Reason = isOutgoing ? cText::Tr("eigenes Konto: an {0}", {transfer.Other})
                                  : cText::Tr("eigenes Konto: von {0}", {transfer.Other});
+    if (transfer.IsMissed) {
+        proposal.Reason = cText::Tr("auf dem Auszug von {0} fehlt die Gegenbuchung", {transfer.Other});
+    }
 }
 
 // The other side of the transfer stands in the book as income or expense: a new transfer would move the money twice.

@@ -15,6 +15,7 @@
 namespace {
 
 constexpr qint64 farthestDays = 5; // between the booking days of the two banks
+constexpr qint64 slowestDays = 10; // over holidays, or from abroad
 
 } // namespace
 
@@ -67,7 +68,13 @@ void cTransferFinder::Build()
     m_rows = m_hive.GetImportHive(eKeepCache::Yes).getImportEntryList();
     m_byCents.reserve(m_rows.size());
     for (qsizetype i = 0; i < m_rows.size(); ++i) {
-        m_byCents.insert(m_rows.at(i).ImportValue, i);
+        const cImportEntry& row = m_rows.at(i);
+        m_byCents.insert(row.ImportValue, i);
+        auto days = m_days.find(row.ImportAccount);
+        if (days == m_days.end()) {
+            days = m_days.insert(row.ImportAccount, {row.ImportDate, row.ImportDate});
+        }
+        *days = {std::min(days->first, row.ImportDate), std::max(days->second, row.ImportDate)};
     }
     m_isBuilt = true;
 }
@@ -83,7 +90,8 @@ void cTransferFinder::FindPartner(const cImportEntry& row, cTransfer& transfer)
         const int otherId = m_rows.at(i).ID;
         const bool isTaken =
             m_partners.value(otherId, row.ID) != row.ID || m_partners.value(row.ID, otherId) != otherId;
-        return isTaken || distance(i) > farthestDays || !IsPartner(row, m_rows.at(i), transfer);
+        return isTaken || distance(i) > slowestDays || !IsPartner(row, m_rows.at(i), transfer)
+            || (distance(i) > farthestDays && !IsSlowPartner(row, m_rows.at(i), transfer));
     });
     const auto rank = [&](qsizetype i) {
         const cImportEntry& other = m_rows.at(i);
@@ -100,6 +108,7 @@ void cTransferFinder::FindPartner(const cImportEntry& row, cTransfer& transfer)
             return;
         }
     }
+    transfer.IsMissed = !transfer.IsElsewhere && IsCovered(row, transfer);
 }
 
 bool cTransferFinder::IsPartner(const cImportEntry& row, const cImportEntry& other, const cTransfer& transfer)
@@ -110,6 +119,40 @@ bool cTransferFinder::IsPartner(const cImportEntry& row, const cImportEntry& oth
     // A bank that does not name the counterparty may still mean this one; one that names somebody else does not.
     return other.ImportBeneficiaryAccount.isEmpty()
         || OwnAccountOf(other.ImportBeneficiaryAccount, other.ImportBeneficiaryBLZ) == transfer.Own;
+}
+
+// Many days go by only where both banks name the other account, and no row of the own one lies nearer: of a weekly
+// amount whose first credit is not read yet each debit would get the credit of the next.
+bool cTransferFinder::IsSlowPartner(const cImportEntry& row, const cImportEntry& other, const cTransfer& transfer)
+{
+    const qint64 days = row.ImportDate.daysTo(other.ImportDate) * (row.ImportValue < 0 ? 1 : -1);
+    if (days <= farthestDays || days > slowestDays || other.ImportBeneficiaryAccount.isEmpty()) {
+        return false;
+    }
+    if (other.ImportAssigned) {
+        const std::optional<cEntryItem> entry = m_data.LoadEntry(other.ImportAssignedEntry);
+        if (!entry || modRecurrence::IsRecurring(entry->EntryInterval)) {
+            return false;
+        }
+    }
+    const QList<qsizetype> rivals = m_byCents.values(row.ImportValue);
+    return std::none_of(rivals.begin(), rivals.end(), [&](qsizetype i) {
+        const cImportEntry& rival = m_rows.at(i);
+        return rival.ID != row.ID && std::abs(rival.ImportDate.daysTo(other.ImportDate)) <= days
+            && AccountOf(rival.ImportAccount) == transfer.Own
+            && OwnAccountOf(rival.ImportBeneficiaryAccount, rival.ImportBeneficiaryBLZ) == transfer.Other;
+    });
+}
+
+// Whether the rows of the other account reach over all days on which its side could stand.
+bool cTransferFinder::IsCovered(const cImportEntry& row, const cTransfer& transfer)
+{
+    const bool isOutgoing = row.ImportValue < 0;
+    const QDate first = isOutgoing ? row.ImportDate : row.ImportDate.addDays(-slowestDays);
+    const QDate last = isOutgoing ? row.ImportDate.addDays(slowestDays) : row.ImportDate;
+    return std::any_of(m_days.constKeyValueBegin(), m_days.constKeyValueEnd(), [&](const auto& days) {
+        return days.second.first <= first && days.second.second >= last && AccountOf(days.first) == transfer.Other;
+    });
 }
 
 bool cTransferFinder::HasTaken(const cImportEntry& other, cTransfer& transfer)
@@ -127,7 +170,7 @@ bool cTransferFinder::HasTaken(const cImportEntry& other, cTransfer& transfer)
     const bool isThis = entry->EntryType == modWord::Umbuchung
         && ((entry->EntryAccount == transfer.Own && entry->EntryAccountMove == transfer.Other)
             || (entry->EntryAccount == transfer.Other && entry->EntryAccountMove == transfer.Own));
-    if (isThis && !IsHalf(other)) {
+    if (isThis && !IsHalf(*entry, other)) {
         return false;
     }
     if (isThis || CanBecome(transfer, *entry, other)) {
@@ -139,13 +182,15 @@ bool cTransferFinder::HasTaken(const cImportEntry& other, cTransfer& transfer)
     return !other.ImportBeneficiaryAccount.isEmpty();
 }
 
-bool cTransferFinder::IsHalf(const cImportEntry& other)
+// Of a series the rows of one occurrence count.
+bool cTransferFinder::IsHalf(const cEntryItem& entry, const cImportEntry& other)
 {
     const cImportHive& hive = m_hive.GetImportHive(eKeepCache::Yes);
-    return hive.GetImportEntryByArea(other.ImportAssignedEntry, other.ImportDate.addDays(-farthestDays),
-                                     other.ImportDate.addDays(farthestDays))
-               .size()
-        == 1;
+    const cImportEntryList rows = modRecurrence::IsRecurring(entry.EntryInterval)
+        ? hive.GetImportEntryByArea(entry.ID, other.ImportDate.addDays(-farthestDays),
+                                    other.ImportDate.addDays(farthestDays))
+        : hive.GetImportEntriesByAssignedID(entry.ID);
+    return rows.size() == 1;
 }
 
 // Booked as the money of somebody else, because the number was not known yet. Nothing that the user made of it since

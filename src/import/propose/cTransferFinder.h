@@ -27,6 +27,7 @@ public:
         int ExistingEntry = 0;    // in the book, whose second row this is; 0 when there is none
         QString BookedAs;         // what that entry is as long as it is no transfer; empty otherwise
         bool IsElsewhere = false; // the other row was booked as something that cannot become this transfer
+        bool IsMissed = false;    // the other account's rows reach over these days, and none is the other side
     };
 
     cTransferFinder(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts);
@@ -42,9 +43,11 @@ private:
     void Build();
     void FindPartner(const cImportEntry& row, cTransfer& transfer);
     [[nodiscard]] bool IsPartner(const cImportEntry& row, const cImportEntry& other, const cTransfer& transfer);
+    [[nodiscard]] bool IsSlowPartner(const cImportEntry& row, const cImportEntry& other, const cTransfer& transfer);
+    [[nodiscard]] bool IsCovered(const cImportEntry& row, const cTransfer& transfer);
     // False when `other` has its second row already, or may be meant for somebody else.
     [[nodiscard]] bool HasTaken(const cImportEntry& other, cTransfer& transfer);
-    [[nodiscard]] bool IsHalf(const cImportEntry& other);
+    [[nodiscard]] bool IsHalf(const cEntryItem& entry, const cImportEntry& other);
     [[nodiscard]] bool CanBecome(const cTransfer& transfer, const cEntryItem& entry, const cImportEntry& other);
 
     cDataAccess& m_data;
@@ -55,5 +58,6 @@ private:
     bool m_isBuilt = false;
     cImportEntryList m_rows;
     QMultiHash<qint64, qsizetype> m_byCents;
-    QHash<int, int> m_partners; // pairs already found, both ways
+    QHash<QString, std::pair<QDate, QDate>> m_days; // first and last of each account number
+    QHash<int, int> m_partners;                     // pairs already found, both ways
 };
