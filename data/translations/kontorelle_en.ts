@@ -10983,5 +10983,9 @@ Is it to be read all the same?</translation>
         <source>Stellt die Zeile wieder her, wie sie gespeichert ist</source>
         <translation>Restores the line as it is stored</translation>
     </message>
+    <message>
+        <source>auf dem Auszug von {0} fehlt die Gegenbuchung</source>
+        <translation>the statement of {0} does not have the other side</translation>
+    </message>
 </context>
 </TS>

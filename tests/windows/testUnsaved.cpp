@@ -1,13 +1,18 @@
 #include "support/cTestClass.h"
 #include "support/testBook.h"
+#include "support/windowHands.h"
+#include "views/entry/cEntrySuggestions.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/sheet/cManyChange.h"
+#include "windows/entry/cCorrectionsPage.h"
 #include "windows/entry/frmKorrektur.h"
 #include "windows/main/frmMehrere.h"
+#include "windows/widget/modProposal.h"
 
 #include <QApplication>
 #include <QLineEdit>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -40,6 +45,44 @@ private Q_SLOTS:
         QCOMPARE(book.User.Asked.size(), 4);
         QCOMPARE(book.Data.LoadEntry(entry.ID)->EntryDescription, u"Markt"_s);
         QCOMPARE(series.Correction(entry.ID, entry.EntryDate)->EntryComment, u"Markt"_s);
+    }
+
+    // Leaving a field tidies up what stands there, which is nobody's typing.
+    void NewCorrectionIsLeftWithoutAQuestion()
+    {
+        int asked = 0;
+        const auto ask = [&] {
+            ++asked;
+            return eAnswer::Cancel;
+        };
+        cCorrectionsPage page(
+            QDate(2026, 3, 15), [] { return cEntryFields(); }, ask);
+        page.show();
+        QTimer::singleShot(0, &page, [] {
+            auto* form = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            QVERIFY(QTest::qWaitForWindowActive(form));
+            QTest::keyClick(form->focusWidget(), Qt::Key_Tab);
+            form->reject();
+            form->done(QDialog::Rejected);
+        });
+        modWindowHands::Button(page, u"Hinzufügen…"_s).click();
+        QCOMPARE(asked, 0);
+    }
+
+    // Undo would take back a step of the book instead.
+    void WhatWasPickedCountsAsTyped()
+    {
+        cTestBook book;
+        (void)book.Add([](cEntryItem& entry) { entry.EntryDescription = u"Wocheneinkauf"_s; });
+        cEntrySuggestions suggestions(book.Data, book.User);
+        QLineEdit line;
+        (void)modProposal::AddDescriptions(line, suggestions);
+        modWindowHands::Bring(line);
+        QTest::keyClicks(&line, u"Woch"_s);
+        QTest::keyClick(&line, Qt::Key_Down);
+        QTest::keyClick(&line, Qt::Key_Return);
+        QCOMPARE(line.text(), u"Wocheneinkauf"_s);
+        QVERIFY(line.isModified());
     }
 };
 

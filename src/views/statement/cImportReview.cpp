@@ -2,7 +2,6 @@
 
 #include "base/cProgress.h"
 #include "base/cText.h"
-#include "base/cUser.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
@@ -16,6 +15,7 @@
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cEntrySuggestions.h"
 #include "views/list/modImportText.h"
+#include "views/list/modUnsaved.h"
 #include "views/rule/cRuleEditor.h"
 #include "views/sheet/cManyChange.h"
 #include "views/statement/cAssignListModel.h"
@@ -439,9 +439,9 @@ QString cImportReview::TypeOf(const QList<int>& rowIds)
     return isIn(rows.constFirst()) ? modWord::Einnahme : modWord::Ausgabe;
 }
 
-QStringList cImportReview::Categories() const
+eAnswer cImportReview::AskToSave() const
 {
-    return m_works->Proposals.Categories();
+    return modUnsaved::Ask(m_tools.User);
 }
 
 cEntrySuggestions& cImportReview::Suggestions()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/cUser.h"
 #include "model/cImportEntry.h"
 #include "views/statement/cMatchFlow.h"
 #include "views/statement/cPlanFlow.h"
@@ -104,7 +105,7 @@ public:
     // row has an entry already.
     void EditAndBook(const QList<int>& rowIds);
     [[nodiscard]] QString ChoiceTitle(const QList<int>& rowIds); // "Kategorie für 12 Umsätze"
-    [[nodiscard]] QStringList Categories() const;                // paths to choose from
+    [[nodiscard]] eAnswer AskToSave() const;                     // what was chosen; see modUnsaved
     // The kind of entry that all these rows become by their sign; empty when they differ.
     [[nodiscard]] QString TypeOf(const QList<int>& rowIds);
     [[nodiscard]] cEntrySuggestions& Suggestions(); // the same with what was used lately

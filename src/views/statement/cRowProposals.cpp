@@ -218,11 +218,6 @@ void cRowProposals::Warn(cStagedInfo& info, const cRowTwin& twin)
     info.Reason = warning;
 }
 
-QStringList cRowProposals::Categories() const
-{
-    return cEntrySuggestions::VisibleCategories(m_parts.Data);
-}
-
 void cRowProposals::TakeChoice(const QList<int>& rowIds, QString cChoice::*field, const QString& value)
 {
     const cImportHive& hive = m_parts.Hive.GetImportHive();
@@ -237,7 +232,7 @@ void cRowProposals::TakeChoice(const QList<int>& rowIds, QString cChoice::*field
 
 QString cRowProposals::PathOf(const QString& category) const
 {
-    const QStringList paths = Categories();
+    const QStringList paths = cEntrySuggestions::VisibleCategories(m_parts.Data);
     const auto path = std::find_if(paths.begin(), paths.end(), [wanted = category.trimmed()](const QString& known) {
         return known.compare(wanted, Qt::CaseInsensitive) == 0;
     });

@@ -52,7 +52,6 @@ public:
 
     // Whether it says what an entry was for; a transfer needs none.
     [[nodiscard]] static bool HasCategory(const cEntryItem& entry);
-    [[nodiscard]] QStringList Categories() const; // paths to choose from
     // The user's own choice for rows; false when it is none of those that can be chosen.
     bool SetCategory(const QList<int>& rowIds, const QString& category);
     bool SetInterval(const QList<int>& rowIds, const QString& interval);

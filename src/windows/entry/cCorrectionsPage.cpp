@@ -1,6 +1,7 @@
 #include "windows/entry/cCorrectionsPage.h"
 
 #include "base/cText.h"
+#include "base/modDate.h"
 #include "views/entry/modCorrections.h"
 #include "windows/entry/frmKorrektur.h"
 #include "windows/widget/cRowDelegate.h"
@@ -126,7 +127,7 @@ void cCorrectionsPage::Add()
 {
     cEntryFields fields = m_fields();
     frmKorrektur form({.Text = cText::Tr("Die Korrektur gilt für den Zeitraum, in dem der Tag liegt."),
-                       .Values = {.Day = cText::Tr("heute"), .Amount = fields.Amount, .Comment = {}},
+                       .Values = {.Day = modDate::ToText(m_today), .Amount = fields.Amount, .Comment = {}},
                        .Decimal = fields.Decimal,
                        .Today = m_today,
                        .IsAmountFirst = false,

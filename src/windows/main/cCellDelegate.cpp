@@ -24,6 +24,12 @@ cCellDelegate::cCellDelegate(cCellEdit& cells, QObject* parent) : cEntryDelegate
 {
 }
 
+void cCellDelegate::Begin(const QString& text, bool isTyped)
+{
+    m_text = text;
+    m_isTyped = isTyped;
+}
+
 std::optional<cCellDelegate::cTyped> cCellDelegate::TakeTyped()
 {
     std::optional<cTyped> typed = std::exchange(m_typed, std::nullopt);
@@ -66,10 +72,12 @@ void cCellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) con
         const bool isStored = m_text == index.data(Qt::DisplayRole).toString();
         box->SetPath(isStored ? m_text : QString(), m_text);
         box->lineEdit()->selectAll();
+        box->lineEdit()->setModified(m_isTyped);
     } else {
         auto& line = static_cast<QLineEdit&>(*editor);
         line.setText(m_text);
         line.selectAll();
+        line.setModified(m_isTyped);
     }
 }
 

@@ -26,8 +26,8 @@ public:
     // `cells` outlives the delegate.
     explicit cCellDelegate(cCellEdit& cells, QObject* parent = nullptr);
 
-    // What the next field starts with.
-    void Begin(const QString& text) { m_text = text; }
+    // What the next field starts with, and whether the user has typed it before.
+    void Begin(const QString& text, bool isTyped);
     [[nodiscard]] std::optional<cTyped> TakeTyped();
 
     [[nodiscard]] QWidget* createEditor(QWidget* parent, const QStyleOptionViewItem& option,
@@ -48,6 +48,7 @@ private:
 
     cCellEdit& m_cells;
     QString m_text;
+    bool m_isTyped = false;
     mutable int m_column = 0;              // of the field that is open
     mutable std::optional<cTyped> m_typed; // the base class tells of it in const functions
     std::optional<int> m_step;

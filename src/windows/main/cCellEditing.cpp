@@ -41,13 +41,13 @@ void cCellEditing::Edit(const QModelIndex& cell)
         column = cEntryListModel::Amount;
     }
     if (const std::optional<QString> text = m_cells.Start(key, column)) {
-        Open(cell.siblingAtColumn(column), *text);
+        Open(cell.siblingAtColumn(column), *text, false);
     }
 }
 
-void cCellEditing::Open(const QModelIndex& cell, const QString& text)
+void cCellEditing::Open(const QModelIndex& cell, const QString& text, bool isTyped)
 {
-    m_delegate->Begin(text);
+    m_delegate->Begin(text, isTyped);
     m_tree.selectionModel()->setCurrentIndex(cell, QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
     m_tree.scrollTo(cell);
     m_tree.edit(cell);
@@ -67,7 +67,7 @@ void cCellEditing::Finish()
     if (saved == cCellEdit::eSaved::Refused) {
         const QModelIndex line = m_model.IndexesOf({key}).value(0);
         if (line.isValid()) {
-            Open(line.siblingAtColumn(column), typed->Text);
+            Open(line.siblingAtColumn(column), typed->Text, true);
         }
         return;
     }

@@ -25,7 +25,7 @@ Q_SIGNALS:
     void Written(); // the book has changed, and the list has to be read again
 
 private:
-    void Open(const QModelIndex& cell, const QString& text);
+    void Open(const QModelIndex& cell, const QString& text, bool isTyped);
     void Finish();
     // `next`: the line that was the next one in that direction before the list was built anew.
     void GoOn(const cEntryListModel::cKey& key, int column, int step, const cEntryListModel::cKey& next);

@@ -139,7 +139,8 @@ void frmPersonen::reject()
     const bool isTyped = m_add->isEnabled();
     const eAnswer answer = isTyped || !wrong.isEmpty() ? m_people.AskToSave() : eAnswer::No;
     if (answer == eAnswer::Yes && m_people.AreStored(wrong)) {
-        m_add->click(); // as Enter does; a name that is refused stays in its field
+        // What was typed over a name renames it; a name that is refused stays in its field.
+        (m_rename->isEnabled() ? m_rename : m_add)->click();
     }
     const bool isSaved = answer == eAnswer::Yes && m_shares->Wrong().isEmpty() && !m_add->isEnabled();
     if (answer == eAnswer::No || isSaved) {

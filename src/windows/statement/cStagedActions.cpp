@@ -99,7 +99,7 @@ void cStagedActions::Run(eId id)
 {
     const QList<int> ids = m_tree.SelectedIds(); // with the category of its field a row may leave the list
     // The proposal was deleted, and nothing put in its place.
-    const bool isUnsaid = (id == Book || id == All) && m_tree.IsFieldEmpty();
+    const bool isUnsaid = (id == Book || id == Accept || id == All) && m_tree.IsFieldEmpty();
     if (!Get(id)->isEnabled() || isUnsaid || !m_tree.LeaveField(id == Book)) {
         return;
     }

@@ -89,6 +89,7 @@ void cStagedDelegate::setEditorData(QWidget* editor, const QModelIndex& index) c
         box->SetPath(m_start.isEmpty() ? text : QString(), m_start);
         box->lineEdit()->end(false);
         box->lineEdit()->home(true); // all of it is selected, and a narrow field shows how it begins
+        box->lineEdit()->setModified(!m_start.isEmpty());
         m_start.clear();
         return;
     }

@@ -58,6 +58,18 @@ void frmUmsatzKategorie::Build()
     layout->addWidget(buttons);
 }
 
+void frmUmsatzKategorie::reject()
+{
+    const bool isTyped = !m_category->currentText().trimmed().isEmpty() || m_interval->currentIndex() > 0
+        || !m_description->text().isEmpty();
+    const eAnswer answer = isTyped ? m_review.AskToSave() : eAnswer::No;
+    if (answer == eAnswer::Yes) {
+        accept();
+    } else if (answer == eAnswer::No) {
+        QDialog::reject();
+    }
+}
+
 void frmUmsatzKategorie::accept()
 {
     if (!m_category->UnknownText().isEmpty() && !m_category->AskNew()) {

@@ -17,6 +17,7 @@ public:
     // `review` outlives the window.
     frmUmsatzKategorie(cImportReview& review, const QList<int>& rowIds, QWidget* parent = nullptr);
 
+    void reject() override; // asks first where something was chosen
     void accept() override; // stays open while the category is unknown
 
 private:

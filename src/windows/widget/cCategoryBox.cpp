@@ -98,6 +98,7 @@ void cCategoryBox::showPopup()
 void cCategoryBox::Take(const QString& path)
 {
     SetPath(path);
+    lineEdit()->setModified(true);
     Q_EMIT PathPicked(path);
 }
 

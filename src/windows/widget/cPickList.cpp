@@ -123,10 +123,12 @@ void cPickList::Take(const QModelIndex& index)
     }
     if (const int cursor = index.data(cursorRole).toInt(); cursor >= 0) {
         m_edit.setText(index.data(lineRole).toString());
+        m_edit.setModified(true);
         m_edit.setCursorPosition(cursor);
         return;
     }
     m_edit.setText(text);
+    m_edit.setModified(true);
     Q_EMIT Picked(text);
 }
 

@@ -22,7 +22,7 @@ bool cRowDelegate::IsForBook(QObject& field, const QEvent& event)
     const auto& key = static_cast<const QKeyEvent&>(event);
     const bool isUndo = key.matches(QKeySequence::Undo);
     const bool isRedo = key.matches(QKeySequence::Redo) || key.keyCombination() == (Qt::CTRL | Qt::Key_Y);
-    return (isUndo || isRedo) && !line->isUndoAvailable() && !line->isRedoAvailable();
+    return (isUndo || isRedo) && !line->isModified() && !line->isRedoAvailable();
 }
 
 bool cRowDelegate::eventFilter(QObject* watched, QEvent* event)

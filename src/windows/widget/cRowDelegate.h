@@ -13,7 +13,8 @@ public:
     [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override;
 
 protected:
-    // In a field in which nothing was typed undo and redo mean the book, whether the user or the list has opened it.
+    // In a field in which nothing was typed or chosen undo and redo mean the book, whether the user or the list has
+    // opened it. Whoever sets what the user meant marks the text as modified.
     bool eventFilter(QObject* watched, QEvent* event) override;
     [[nodiscard]] static bool IsForBook(QObject& field, const QEvent& event);
 
