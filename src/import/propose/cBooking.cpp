@@ -14,7 +14,9 @@
 
 #include <QElapsedTimer>
 
+#include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -67,6 +69,17 @@ QHash<int, cProposal> cBooking::Propose(const QList<int>& rowIds)
     return proposals;
 }
 
+// Banks write the newest row first, but a series begins with the oldest.
+QList<int> cBooking::ByDay(QList<int> rowIds)
+{
+    const cImportHive& hive = m_hive.GetImportHive();
+    const auto place = [&](int id) {
+        return std::pair(hive.GetImportEntryByID(id).value_or(cImportEntry()).ImportDate, id);
+    };
+    std::sort(rowIds.begin(), rowIds.end(), [&](int a, int b) { return place(a) < place(b); });
+    return rowIds;
+}
+
 cBookingResult cBooking::Book(const QList<int>& rowIds, const QHash<int, cProposal>& proposals, cProgress& progress)
 {
     // A row and its entry belong together: a row that stays open beside its entry would be booked a second time.
@@ -76,13 +89,14 @@ cBookingResult cBooking::Book(const QList<int>& rowIds, const QHash<int, cPropos
     cBookingResult result;
     cSeriesFinder series(m_data, m_hive);
     progress.showProgressBar(static_cast<int>(rowIds.size()));
-    for (qsizetype i = 0; i < rowIds.size() && result.Failed == 0 && !progress.IsCancelled(); ++i) {
+    const QList<int> ids = ByDay(rowIds);
+    for (qsizetype i = 0; i < ids.size() && result.Failed == 0 && !progress.IsCancelled(); ++i) {
         if (i > 0 && i % progressStep == 0) {
             progress.addProgressValue(progressStep);
         }
-        const auto proposal = proposals.constFind(rowIds.at(i));
+        const auto proposal = proposals.constFind(ids.at(i));
         const bool isKnown = proposal != proposals.constEnd();
-        const eOutcome outcome = isKnown ? BookRow(rowIds.at(i), *proposal, series, result) : eOutcome::Skipped;
+        const eOutcome outcome = isKnown ? BookRow(ids.at(i), *proposal, series, result) : eOutcome::Skipped;
         result.Skipped += outcome == eOutcome::Skipped ? 1 : 0;
         result.Failed += outcome == eOutcome::Failed ? 1 : 0;
     }
@@ -114,7 +128,7 @@ cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinde
     }
     if (proposal.BookedAs.isEmpty() && modRecurrence::IsRecurring(proposal.Entry.EntryInterval)) {
         if (const std::optional<cSeriesMatch> match = series.Find(*row, proposal.Entry)) {
-            if (match->Reopens && !m_data.ChangeEntry(match->Series)) {
+            if (match->IsExtended && !m_data.ChangeEntry(match->Series)) {
                 return eOutcome::Failed;
             }
             series.Learn(*row, match->Series);
