@@ -41,6 +41,28 @@ bool IsJoiningTransfer(const cProposal& proposal)
     return proposal.ExistingEntry != 0 && proposal.Entry.EntryType == modWord::Umbuchung;
 }
 
+// What the user has chosen for a row goes to its entry, also where another row brought that.
+void TakeChosen(cEntryItem& entry, const cProposal& chosen)
+{
+    if (chosen.HasOwnCategory) {
+        entry.EntryCategory = chosen.Entry.EntryCategory;
+    }
+    if (chosen.HasOwnText) {
+        entry.EntryDescription = chosen.Entry.EntryDescription;
+    }
+}
+
+// The proposal of a row with what was chosen for the other row of its transfer, where nothing was for itself.
+cProposal WithPartner(cProposal proposal, const QHash<int, cProposal>& proposals)
+{
+    if (const cProposal partner = proposals.value(proposal.PartnerRow); partner.PartnerRow != 0) {
+        const cProposal own = proposal;
+        TakeChosen(proposal.Entry, partner);
+        TakeChosen(proposal.Entry, own);
+    }
+    return proposal;
+}
+
 void Trace(qsizetype wanted, const cBookingResult& result, const QElapsedTimer& time)
 {
     qCInfo(modLog::Booking) << "rows" << wanted << "booked" << result.Rows << "joined" << result.Joined << "entries"
@@ -96,7 +118,8 @@ cBookingResult cBooking::Book(const QList<int>& rowIds, const QHash<int, cPropos
         }
         const auto proposal = proposals.constFind(ids.at(i));
         const bool isKnown = proposal != proposals.constEnd();
-        const eOutcome outcome = isKnown ? BookRow(ids.at(i), *proposal, series, result) : eOutcome::Skipped;
+        const eOutcome outcome =
+            isKnown ? BookRow(ids.at(i), WithPartner(*proposal, proposals), series, result) : eOutcome::Skipped;
         result.Skipped += outcome == eOutcome::Skipped ? 1 : 0;
         result.Failed += outcome == eOutcome::Failed ? 1 : 0;
     }
@@ -198,6 +221,7 @@ cBooking::eOutcome cBooking::JoinTransfer(const cImportEntry& row, const cPropos
         transfer.EntryAccountMove = proposal.Entry.EntryAccountMove;
         transfer.EntryInterval = proposal.Entry.EntryInterval;
     }
+    TakeChosen(transfer, proposal);
     if (!HasAssigned(m_hive, row, transfer.ID)) {
         return eOutcome::Failed;
     }
