@@ -18,7 +18,9 @@ struct cProposal
                             // second row); 0 when a new one is to be made
     QString BookedAs;       // what that entry is as long as it is not the transfer that it becomes; else empty
     bool IsMissed = false;  // a transfer that the statement of the other account does not show
-    bool IsAlone = false;   // a new entry is wanted, also where a series would take the row
+    bool HasOwnCategory = false; // the user chose it, so an entry that is there gets it as well
+    bool HasOwnText = false;     // the same for the description
+    bool IsAlone = false;        // a new entry is wanted, also where a series would take the row
 
     // The transfer is none: the row is an expense or an income of its own account.
     void MakeSpent(const cImportEntry& row, const QString& account)

@@ -10,6 +10,8 @@
 
 #include <QTest>
 
+#include <algorithm>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -295,6 +297,50 @@ private Q_SLOTS:
         QCOMPARE(bank.Propose(extra).Entry.EntryInterval, modWord::Einmalig);
         const int next = bank.Stage(day.addMonths(3), -650, u"Miete Tann"_s, u"DE05"_s);
         QCOMPARE(bank.Propose(next).ExistingEntry, bank.EntryOf(rows.first()));
+    }
+
+    void NewestRowsFirstMakeOneSeries_data()
+    {
+        // together: booked at once; days: of the rows, with an amount in cents
+        const cTestRows<bool, QList<QDate>, int, int> row("together", "days", "oldest", "entries");
+        const QDate second(2026, 2, 11);
+        row("one file", true, {QDate(2026, 3, 10), second, day}, 65000, 1);
+        row("one run each", false, {QDate(2026, 3, 10), second, day}, 65000, 1);
+        row("the middle last", false, {QDate(2026, 3, 10), day, second}, 65000, 3);
+        row("another amount", false, {second, day}, 30000, 2);
+        row("before that", false, {QDate(2026, 5, 10), day}, 65000, 2);
+        row("no day fits", false, {QDate(2026, 5, 31), QDate(2026, 4, 30)}, 65000, 2);
+    }
+
+    // What the bank booked before the series began makes no second series beside it.
+    void NewestRowsFirstMakeOneSeries()
+    {
+        QFETCH(const bool, together);
+        QFETCH(const QList<QDate>, days);
+        QFETCH(const int, oldest);
+        cBank bank;
+        QList<int> rows;
+        for (const QDate date : days) {
+            const double cents = date == days.last() ? oldest : 65000;
+            rows.append(bank.Stage(date, -cents / 100.0, u"Miete Tann"_s, u"DE05"_s));
+            if (!together) {
+                QCOMPARE(bank.BookAll({rows.last()}).Rows, 1);
+            }
+        }
+        if (together) {
+            QCOMPARE(bank.BookAll(rows).Rows, rows.size());
+        }
+        QTEST(bank.Data.CountEntries(), "entries");
+        cEntryQuery query;
+        query.End = *std::max_element(days.begin(), days.end());
+        QList<QDate> booked;
+        const cEntryItemList entries = bank.Data.GetEntries(query);
+        for (const cEntryItem& entry : entries) {
+            booked.append(entry.EntryDate);
+        }
+        QList<QDate> paid = days;
+        std::sort(paid.begin(), paid.end());
+        QCOMPARE(booked, paid);
     }
 
     void KeywordsAloneMakeNoSeries_data()

@@ -290,6 +290,43 @@ private Q_SLOTS:
                  QStringList({modWord::Einnahme, u"Sparkonto"_s, {}}));
     }
 
+    void ATransferKeepsWhatWasChosen_data() const
+    {
+        const cTestRows<bool> row("isOneInBook");
+        row("both rows at once", false);
+        row("the other row was booked as an expense", true);
+    }
+
+    // Whichever row brings the entry, and whichever the user said it for.
+    void ATransferKeepsWhatWasChosen() const
+    {
+        QFETCH(const bool, isOneInBook);
+        cPage page;
+        const auto stage = [&](const QString& own, const QString& other, qint64 cents) {
+            cImportEntry row;
+            row.ImportAccount = own;
+            row.ImportBeneficiary = u"Jana"_s;
+            row.ImportBeneficiaryAccount = other;
+            row.ImportValue = cents;
+            row.ImportDate = day;
+            QVERIFY(page.Data.AddNewImportEntry(row));
+            page.Review.Refresh();
+        };
+        stage(u"1234567"_s, u"222"_s, -20000);
+        if (isOneInBook) {
+            QVERIFY(page.Review.Book({1}, page.Progress));
+        }
+        page.Settings->Set(modSettingKey::BankNumber.Of(u"222"_s), u"Sparkonto"_s);
+        stage(u"222"_s, u"1234567"_s, 20000);
+        QVERIFY(page.Review.Choose({2}, u"Freizeit; Geschenke"_s, {}, u"Für Jana"_s));
+        QVERIFY(page.Review.Book({1, 2}, page.Progress));
+        const cEntryItemList entries = page.Data.GetEntries({});
+        QCOMPARE(entries.size(), 1);
+        const cEntryItem& entry = entries.constFirst();
+        QCOMPARE(QStringList({entry.EntryType, entry.EntryCategory, entry.EntryDescription}),
+                 QStringList({modWord::Umbuchung, u"Freizeit; Geschenke"_s, u"Für Jana"_s}));
+    }
+
     // What the user has chosen is none of it, nor what was not booked any more.
     void CountsWhatWasBookedWithoutCategory() const
     {

@@ -196,6 +196,34 @@ private Q_SLOTS:
         QVERIFY(!model.TakeBank(0)); // booking is somebody else's work
     }
 
+    void NamesTheWayOut_data()
+    {
+        // an entry or series of 5.00 on the 2nd: where 5.00 of the bank are open, and whether that is the same
+        const cTestRows<QString, QList<int>, int> row("interval", "days", "rows");
+        row("ten days", modWord::Einmalig, {12}, 1);
+        row("farther", modWord::Einmalig, {13}, 0);
+        row("an occurrence", u"Monatlich"_s, {17}, 1);
+        row("two rows for one entry", modWord::Einmalig, {3, 4}, 1);
+    }
+
+    // The two are listed apart, and neither is to be booked or deleted.
+    void NamesTheWayOut()
+    {
+        QFETCH(const QString, interval);
+        QFETCH(const QList<int>, days);
+        QFETCH(const int, rows);
+        cScene scene;
+        (void)scene.Row(1, -100, u"Anfang"_s);
+        (void)scene.Entry(2, 500, u"Kiosk"_s, interval);
+        for (const int day : days) {
+            (void)scene.Row(day, -500, u"Kiosk"_s);
+        }
+        cReconciliation reconciliation(scene.Tools);
+        reconciliation.Load(number);
+        QCOMPARE(reconciliation.WayOut(u"match"_s).startsWith(u"Ein Umsatz davon ist offen"_s), rows == 1);
+        QCOMPARE(reconciliation.WayOut(u"match"_s).isEmpty(), rows == 0);
+    }
+
     // A transfer has one day, though the other bank booked it two days later; an occurrence is one of its series.
     void NamesNothingThatIsRight()
     {

@@ -58,7 +58,8 @@ void PrintTable(const cReconcileListModel& model)
         table.Add(cells);
     }
     const QString list = model.rowCount() > 0 ? table.ToString() + u'\n' : QString();
-    modConsole::Out(list + model.Finding() + u'\n');
+    const QString finding = model.Finding() + u' ' + model.Found().WayOut(u"match"_s);
+    modConsole::Out(list + finding.trimmed() + u'\n');
 }
 
 // Everything that differs gets the bank's day and amount. What only one of the two has is booked and deleted by other

@@ -14,7 +14,9 @@
 
 #include <QElapsedTimer>
 
+#include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -37,6 +39,28 @@ bool HasAssigned(cImportHiveCache& hive, cImportEntry row, int entryId)
 bool IsJoiningTransfer(const cProposal& proposal)
 {
     return proposal.ExistingEntry != 0 && proposal.Entry.EntryType == modWord::Umbuchung;
+}
+
+// What the user has chosen for a row goes to its entry, also where another row brought that.
+void TakeChosen(cEntryItem& entry, const cProposal& chosen)
+{
+    if (chosen.HasOwnCategory) {
+        entry.EntryCategory = chosen.Entry.EntryCategory;
+    }
+    if (chosen.HasOwnText) {
+        entry.EntryDescription = chosen.Entry.EntryDescription;
+    }
+}
+
+// The proposal of a row with what was chosen for the other row of its transfer, where nothing was for itself.
+cProposal WithPartner(cProposal proposal, const QHash<int, cProposal>& proposals)
+{
+    if (const cProposal partner = proposals.value(proposal.PartnerRow); partner.PartnerRow != 0) {
+        const cProposal own = proposal;
+        TakeChosen(proposal.Entry, partner);
+        TakeChosen(proposal.Entry, own);
+    }
+    return proposal;
 }
 
 void Trace(qsizetype wanted, const cBookingResult& result, const QElapsedTimer& time)
@@ -67,6 +91,17 @@ QHash<int, cProposal> cBooking::Propose(const QList<int>& rowIds)
     return proposals;
 }
 
+// Banks write the newest row first, but a series begins with the oldest.
+QList<int> cBooking::ByDay(QList<int> rowIds)
+{
+    const cImportHive& hive = m_hive.GetImportHive();
+    const auto place = [&](int id) {
+        return std::pair(hive.GetImportEntryByID(id).value_or(cImportEntry()).ImportDate, id);
+    };
+    std::sort(rowIds.begin(), rowIds.end(), [&](int a, int b) { return place(a) < place(b); });
+    return rowIds;
+}
+
 cBookingResult cBooking::Book(const QList<int>& rowIds, const QHash<int, cProposal>& proposals, cProgress& progress)
 {
     // A row and its entry belong together: a row that stays open beside its entry would be booked a second time.
@@ -76,13 +111,15 @@ cBookingResult cBooking::Book(const QList<int>& rowIds, const QHash<int, cPropos
     cBookingResult result;
     cSeriesFinder series(m_data, m_hive);
     progress.showProgressBar(static_cast<int>(rowIds.size()));
-    for (qsizetype i = 0; i < rowIds.size() && result.Failed == 0 && !progress.IsCancelled(); ++i) {
+    const QList<int> ids = ByDay(rowIds);
+    for (qsizetype i = 0; i < ids.size() && result.Failed == 0 && !progress.IsCancelled(); ++i) {
         if (i > 0 && i % progressStep == 0) {
             progress.addProgressValue(progressStep);
         }
-        const auto proposal = proposals.constFind(rowIds.at(i));
+        const auto proposal = proposals.constFind(ids.at(i));
         const bool isKnown = proposal != proposals.constEnd();
-        const eOutcome outcome = isKnown ? BookRow(rowIds.at(i), *proposal, series, result) : eOutcome::Skipped;
+        const eOutcome outcome =
+            isKnown ? BookRow(ids.at(i), WithPartner(*proposal, proposals), series, result) : eOutcome::Skipped;
         result.Skipped += outcome == eOutcome::Skipped ? 1 : 0;
         result.Failed += outcome == eOutcome::Failed ? 1 : 0;
     }
@@ -114,7 +151,7 @@ cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinde
     }
     if (proposal.BookedAs.isEmpty() && modRecurrence::IsRecurring(proposal.Entry.EntryInterval)) {
         if (const std::optional<cSeriesMatch> match = series.Find(*row, proposal.Entry)) {
-            if (match->Reopens && !m_data.ChangeEntry(match->Series)) {
+            if (match->IsExtended && !m_data.ChangeEntry(match->Series)) {
                 return eOutcome::Failed;
             }
             series.Learn(*row, match->Series);
@@ -184,6 +221,7 @@ cBooking::eOutcome cBooking::JoinTransfer(const cImportEntry& row, const cPropos
         transfer.EntryAccountMove = proposal.Entry.EntryAccountMove;
         transfer.EntryInterval = proposal.Entry.EntryInterval;
     }
+    TakeChosen(transfer, proposal);
     if (!HasAssigned(m_hive, row, transfer.ID)) {
         return eOutcome::Failed;
     }

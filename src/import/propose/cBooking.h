@@ -49,9 +49,9 @@ public:
     // Proposals by row ID, in one batch. Rows that are assigned or gone get none.
     [[nodiscard]] QHash<int, cProposal> Propose(const QList<int>& rowIds);
 
-    // Books the rows as proposed; a proposal may have been edited by the user before. Both rows of a transfer go to one
-    // entry. A failed assignment takes its new entry back. After two failures in a row the rest is given up and counted
-    // as failed.
+    // Books the rows as proposed, by day; a proposal may have been edited by the user before. Both rows of a transfer
+    // go to one entry. A failed assignment takes its new entry back. After two failures in a row the rest is given up
+    // and counted as failed.
     [[nodiscard]] cBookingResult Book(const QList<int>& rowIds, const QHash<int, cProposal>& proposals,
                                       cProgress& progress);
 
@@ -64,6 +64,7 @@ public:
 private:
     enum class eOutcome { Booked, Skipped, NoAccount, Failed };
 
+    [[nodiscard]] QList<int> ByDay(QList<int> rowIds);
     [[nodiscard]] eOutcome BookRow(int rowId, cProposal proposal, cSeriesFinder& series, cBookingResult& result);
     [[nodiscard]] eOutcome BookNew(const cImportEntry& row, const cProposal& proposal, cSeriesFinder& series,
                                    cBookingResult& result);

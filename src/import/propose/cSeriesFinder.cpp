@@ -6,6 +6,7 @@
 #include "import/stage/cImportHiveCache.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
+#include "model/modSplit.h"
 #include "store/cDataAccess.h"
 
 #include <algorithm>
@@ -19,6 +20,26 @@ bool IsLike(const cEntryItem& series, const cEntryItem& entry)
     return series.EntryInterval == entry.EntryInterval && series.EntryType == entry.EntryType
         && series.EntryAccount == entry.EntryAccount && series.EntryAccountMove == entry.EntryAccountMove
         && series.EntryCategory == entry.EntryCategory;
+}
+
+bool IsAbout(qint64 cents, const cEntryItem& entry)
+{
+    constexpr int mostPercent = 20;
+    return std::abs(std::abs(cents) - entry.EntryValue) * 100 <= entry.EntryValue * mostPercent;
+}
+
+// The day from which one step leads exactly to this one, so that a series moved to it keeps all its occurrences. There
+// is none before a 31st that follows a shorter month.
+QDate Previous(QDate day, const QString& interval)
+{
+    constexpr int mostShorter = 3; // days by which a month is shorter than another
+    const qint64 step = day.daysTo(modRecurrence::Next(day, interval));
+    for (QDate previous = day.addDays(-step - mostShorter); previous < day; previous = previous.addDays(1)) {
+        if (modRecurrence::Next(previous, interval) == day) {
+            return previous;
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -82,7 +103,8 @@ std::optional<cSeriesMatch> cSeriesFinder::Find(const cImportEntry& row, const c
             return match;
         }
     }
-    return Reopen(alike, row);
+    std::optional<cSeriesMatch> match = Reopen(alike, row);
+    return match ? match : Precede(alike, row);
 }
 
 cEntryItemList cSeriesFinder::Alike(const cImportEntry& row, const cEntryItem& entry)
@@ -102,7 +124,6 @@ cEntryItemList cSeriesFinder::Alike(const cImportEntry& row, const cEntryItem& e
 std::optional<cSeriesMatch> cSeriesFinder::Reopen(const cEntryItemList& alike, const cImportEntry& row)
 {
     constexpr int mostMissed = 3;
-    constexpr int mostPercent = 20;
     const auto latest = std::max_element(alike.begin(), alike.end(),
                                          [](const auto& a, const auto& b) { return a.EntryDate < b.EntryDate; });
     if (latest == alike.end() || modRecurrence::EffectiveEnd(latest->EntryDateEnd) >= row.ImportDate) {
@@ -112,13 +133,47 @@ std::optional<cSeriesMatch> cSeriesFinder::Reopen(const cEntryItemList& alike, c
     series.EntryDateEnd = modRecurrence::OpenEnd;
     const QList<QDate> next = modSeries::Next(series, latest->EntryDateEnd.addDays(1), mostMissed);
     std::optional<cSeriesMatch> match = Match(series, row);
-    const qint64 difference = match ? std::abs(std::abs(row.ImportValue) - match->Occurrence.EntryValue) : 0;
-    if (!match || !next.contains(match->Occurrence.Planned())
-        || difference * 100 > match->Occurrence.EntryValue * mostPercent) {
+    if (!match || !next.contains(match->Occurrence.Planned()) || !IsAbout(row.ImportValue, match->Occurrence)) {
         return std::nullopt;
     }
-    match->Reopens = true;
+    match->IsExtended = true;
     return match;
+}
+
+// The first of about that amount. Its start goes back by whole intervals, so its other occurrences stay as they are;
+// the day of the row is a correction like any other.
+std::optional<cSeriesMatch> cSeriesFinder::Precede(const cEntryItemList& alike, const cImportEntry& row)
+{
+    std::optional<cEntryItem> first;
+    for (const cEntryItem& series : alike) {
+        if (IsAbout(row.ImportValue, series) && (!first || series.EntryDate < first->EntryDate)) {
+            first = series;
+        }
+    }
+    const int reach = first ? modOccurrence::Reach(first->EntryInterval) : 0;
+    const QDate before = row.ImportDate.addDays(reach); // the days up to it are near the row
+    if (!first || first->EntryDate <= before || modSplit::Group(*first) != 0) {
+        return std::nullopt;
+    }
+    do {
+        first->EntryDate = Previous(first->EntryDate, first->EntryInterval);
+    } while (first->EntryDate > before && HasPayment(*first, row));
+    std::optional<cSeriesMatch> match = first->EntryDate.isValid() ? Match(*first, row) : std::nullopt;
+    if (match) {
+        match->IsExtended = true;
+    }
+    return match;
+}
+
+// True when a row of the row's counterparty pays about the first occurrence of the series.
+bool cSeriesFinder::HasPayment(const cEntryItem& series, const cImportEntry& row)
+{
+    const int reach = modOccurrence::Reach(series.EntryInterval);
+    const cDays known = DaysOf(row);
+    const cPayments& payments = row.ImportValue < 0 ? known.Out : known.In;
+    const auto end = payments.upperBound(series.EntryDate.addDays(reach));
+    return std::any_of(payments.lowerBound(series.EntryDate.addDays(-reach)), end,
+                       [&](qint64 cents) { return IsAbout(cents, series); });
 }
 
 cSeriesFinder::cDays cSeriesFinder::DaysOf(const cImportEntry& row)

@@ -20,15 +20,16 @@ class cImportHiveCache;
 struct cSeriesMatch
 {
     cEntryItem Series;
-    cEntryItem Occurrence; // as corrected so far
-    bool Reopens = false;  // the series had ended shortly before, and goes on with this row
+    cEntryItem Occurrence;   // as corrected so far
+    bool IsExtended = false; // the series as stored ends before this row, or begins after it
 };
 
 // Finds the series that a transaction belongs to, so that the rent of the second month becomes an occurrence of the
 // first month's entry instead of a second series beside it. A series is taken when a row of the same counterparty was
 // booked to it, account, kind, category and interval are the same, and its nearest occurrence has no row yet. One that
 // ended up to three occurrences ago goes on when about the same amount comes again: statements may be read in pieces,
-// with the series of the first piece ended behind it.
+// with the series of the first piece ended behind it. One that begins one interval later begins with the row instead,
+// or more intervals later where each of them has its row: the newer statement may have been booked first.
 class cSeriesFinder
 {
 public:
@@ -60,6 +61,8 @@ private:
     [[nodiscard]] cEntryItemList Alike(const cImportEntry& row, const cEntryItem& entry);
     [[nodiscard]] std::optional<cSeriesMatch> Match(const cEntryItem& series, const cImportEntry& row);
     [[nodiscard]] std::optional<cSeriesMatch> Reopen(const cEntryItemList& alike, const cImportEntry& row);
+    [[nodiscard]] std::optional<cSeriesMatch> Precede(const cEntryItemList& alike, const cImportEntry& row);
+    [[nodiscard]] bool HasPayment(const cEntryItem& series, const cImportEntry& row);
     [[nodiscard]] bool IsTaken(const cEntryItem& series, const cEntryItem& occurrence,
                                const cEntryItemFixModList& fixMods, const cImportEntry& wanted);
 

@@ -7,6 +7,7 @@
 #include "core/cBookTools.h"
 #include "import/match/cMatcher.h"
 #include "import/match/cMatchIndex.h"
+#include "import/match/modMatchScore.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modBalance.h"
@@ -30,6 +31,10 @@ using eKind = cReconcileItem::eKind;
 
 // Of a transfer between two own accounts one side may be booked some days after the other; its entry has one day.
 constexpr int transferDays = 7;
+
+// How far a row may lie from its entry, and from its occurrence, see modOccurrence.
+constexpr int entryDays = modMatchScore::FarthestDays;
+constexpr int seriesDays = 15;
 
 QString TextOf(const cImportEntry& row)
 {
@@ -221,6 +226,34 @@ QString cReconciliation::Finding() const
         return count + u' ' + cText::Tr("Die Bank hat keinen Kontostand genannt; im Buch sind es {2}.", values);
     }
     return count + u' ' + cText::Tr("Bank: {3}, Buch: {2}.", values) + named;
+}
+
+QString cReconciliation::WayOut(const QString& command) const
+{
+    const qsizetype count = CountPairs();
+    return count == 0 ? QString()
+        : count == 1
+        ? cText::Tr("Ein Umsatz davon ist offen und steht wohl schon im Buch: \"{0}\" ordnet ihn zu.", {command})
+        : cText::Tr("{1} Umsätze davon sind offen und stehen wohl schon im Buch: \"{0}\" ordnet sie zu.",
+                    {command, QString::number(count)});
+}
+
+// Rows and entries that are differences each by itself, and have the same amount on days not far from each other.
+qsizetype cReconciliation::CountPairs() const
+{
+    QList<cReconcileItem> entries = m_items;
+    entries.removeIf([](const cReconcileItem& item) { return item.Kind != eKind::BookOnly; });
+    const qsizetype all = entries.size();
+    for (const cReconcileItem& row : m_items) {
+        const auto pair = std::find_if(entries.begin(), entries.end(), [&](const cReconcileItem& entry) {
+            return row.Kind == eKind::BankOnly && row.BankCents == entry.BookCents
+                && std::abs(row.BankDay.daysTo(entry.BookDay)) <= (entry.IsSeries ? seriesDays : entryDays);
+        });
+        if (pair != entries.end()) {
+            entries.erase(pair);
+        }
+    }
+    return all - entries.size();
 }
 
 // Nothing can be set right row by row: rows of the bank are missing, or were read by a version that did not know which

@@ -48,6 +48,8 @@ public:
     [[nodiscard]] bool Agrees() const { return m_bank == m_book && m_items.isEmpty(); }
     // All of it in a sentence or two.
     [[nodiscard]] QString Finding() const;
+    // That open rows seem to have their entries, and which command assigns them; empty without such rows.
+    [[nodiscard]] QString WayOut(const QString& command) const;
 
     // "nur bei der Bank", and what cures it: "Umsatz buchen".
     [[nodiscard]] static QString KindText(const cReconcileItem& item);
@@ -64,6 +66,7 @@ public:
 private:
     void AddItems();
     void AddStart();
+    [[nodiscard]] qsizetype CountPairs() const;
     [[nodiscard]] QString Unexplained(const QStringList& values) const;
     [[nodiscard]] bool TakeForEntry(const cReconcileItem& item);
     [[nodiscard]] bool TakeForSeries(const cReconcileItem& item);

@@ -121,6 +121,7 @@ cRowPlan cRowProposals::WithChoice(cRowPlan plan) const
             plan.Proposal.MakeSpent(choice.Row, m_parts.Accounts.AccountOf(choice.Row.ImportAccount));
         }
         entry.EntryCategory = choice.Category;
+        plan.Proposal.HasOwnCategory = true;
         plan.Proposal.IsDefault = false;
         plan.Group = isLook ? eRowGroup::Sure : plan.Group;
     }
@@ -131,6 +132,7 @@ cRowPlan cRowProposals::WithChoice(cRowPlan plan) const
     }
     if (!choice.Description.isEmpty()) {
         plan.Proposal.Entry.EntryDescription = choice.Description;
+        plan.Proposal.HasOwnText = true;
     }
     if (!plan.Match && (!choice.Category.isEmpty() || !choice.Interval.isEmpty())) {
         plan.Reason = cText::Tr("von Hand gewählt");

@@ -91,7 +91,8 @@ void cReconcilePanel::Build()
 void cReconcilePanel::Fill()
 {
     const bool hasItems = m_model.rowCount() > 0;
-    m_title->setText(m_model.Finding());
+    const QString finding = m_model.Finding() + u' ' + m_model.Found().WayOut(cText::Tr("Abgleichen"));
+    m_title->setText(finding.trimmed());
     m_title->setVisible(!m_title->text().isEmpty());
     m_list->setVisible(hasItems);
     m_cure->setVisible(hasItems);
