@@ -206,6 +206,15 @@ private Q_SLOTS:
         QCOMPARE(read(u"10020030/7777777"_s, u"USD"_s, {}).Staged, 2);
         QVERIFY(!read(u"DE92100200300007777777"_s, u"USD"_s, euros).IsRefused);
         QVERIFY(read(u"DE92100200300007777777"_s, u"CHF"_s, euros).IsRefused);
+        euros.DefaultAccount = u"5"_s;
+        const auto readTable = [&](const QString& amount) {
+            const QString text = u"Datum;Zweck;%1;Originalbetrag;Währung\n02.10.2026;Ei;-2,50;-2,50;EUR\n"
+                                 "03.10.2026;Hotel;-9,00;-10,00;USD\n"_s.arg(amount);
+            return cStatementImport(book.Data, book.Hive).ImportText(u"a.csv"_s, text, euros, progress).Message;
+        };
+        const QString some = readTable(u"Betrag"_s);
+        QVERIFY2(some.contains(u"bei 1 von 2 Umsätzen in USD, das Buch in EUR"), qPrintable(some));
+        QCOMPARE(readTable(u"Betrag (EUR)"_s), QString());
     }
 
     // Of several files in one step, the one that was stopped goes and the others stay.

@@ -354,7 +354,8 @@ private:
         entry.ImportBeneficiaryAccount = CounterAccount(entry.ImportAccount);
         entry.ImportBeneficiaryBLZ = Cell(m_map.BankCode).toString();
         entry.ImportValue = modAmount::ToEvenCents(value);
-        entry.ImportCurrency = m_map.Currency >= 0 ? m_currency.Of(Cell(m_map.Currency)) : m_layout.Currency;
+        // Beside "Betrag (EUR)" a column of currencies tells what was paid in elsewhere.
+        entry.ImportCurrency = m_layout.Currency.isEmpty() ? m_currency.Of(Cell(m_map.Currency)) : m_layout.Currency;
         modTableDetails::Apply(m_layout.Details, Cell(m_map.Purpose[0]), entry);
         return entry;
     }
