@@ -15,8 +15,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// A bank that names what a statement began with also names what it ended with. Where that is missing, the text was cut
-// off; only some other banks write it so, and then no line is left without its end.
+// A bank that names what a statement began with mostly names what it ended with. Behind others that do, or within a
+// tag, a text without it was cut off; else only some banks write it so.
 enum class eTextEnd { Whole, Doubtful, CutOff };
 
 bool IsOneOf(QStringView line, const auto& tags)
@@ -57,7 +57,8 @@ eTextEnd EndOf(const QString& text)
     if (last.IsClosed || !(last.IsOpened || (last.IsHead && isBehindOthers))) {
         return eTextEnd::Whole;
     }
-    if (isBehindOthers || !text.endsWith(u'\n')) {
+    const QStringView line = QStringView(text).sliced(text.lastIndexOf(u'\n') + 1);
+    if (isBehindOthers || (line.startsWith(u':') && line.indexOf(u':', 1) < 0)) {
         return eTextEnd::CutOff;
     }
     // An empty line was written by somebody and not left by a cut.
@@ -73,28 +74,46 @@ bool IsBalanceCutOff(QStringView text)
     return line.startsWith(u":62") && (comma < 0 || comma + 3 > line.size());
 }
 
+cStatementRead Refused()
+{
+    cStatementRead read;
+    read.Refusal = cText::Tr("Die Datei ist abgeschnitten: Dem letzten Auszug fehlt das Ende. Es wurde nichts "
+                             "übernommen. Bitte laden Sie die Datei noch einmal herunter.");
+    return read;
+}
+
+// As `before` is without its last transaction. False when that gave no row.
+bool LeaveOutLast(cStatementRead& read, const cStatementRead& before)
+{
+    if (read.Entries.size() <= before.Entries.size()) {
+        return false;
+    }
+    const cImportEntry row = read.Entries.takeLast();
+    const QString start = u"%1 %2"_s.arg(modDate::ToText(row.ImportDate), row.ImportPurpose.left(40));
+    read.Skipped.append({{0, modStatementFile::CutOff(start, false)}, eSkipped::CutOff, row});
+    read.Balances = before.Balances;
+    return true;
+}
+
 } // namespace
 
 cStatementRead modMT940File::Read(const QString& text, const QString& account, eStrayDetails stray)
 {
-    cStatementRead read;
     const eTextEnd end = EndOf(text);
     if (end == eTextEnd::CutOff) {
-        read.Refusal = cText::Tr("Die Datei ist abgeschnitten: Dem letzten Auszug fehlt das Ende. Es wurde nichts "
-                                 "übernommen. Bitte laden Sie die Datei noch einmal herunter.");
-        return read;
+        return Refused();
     }
     const bool isBalanceCutOff = IsBalanceCutOff(text);
-    read = modMT940::Read(isBalanceCutOff ? text.left(text.lastIndexOf(u'\n')) : text, account, stray);
+    cStatementRead read = modMT940::Read(isBalanceCutOff ? text.left(text.lastIndexOf(u'\n')) : text, account, stray);
     if (isBalanceCutOff) {
         read.Problems.append({0, cText::Tr("Der Schlusssaldo ist abgeschnitten und wurde nicht übernommen.")});
     }
-    if (end == eTextEnd::Doubtful && !read.Entries.isEmpty()) {
-        const cImportEntry row = read.Entries.takeLast();
-        read.Skipped.append(
-            {{0, modStatementFile::CutOff(u"%1 %2"_s.arg(modDate::ToText(row.ImportDate), row.ImportPurpose.left(40)))},
-             eSkipped::CutOff,
-             row});
+    if (end == eTextEnd::Doubtful && read.Refusal.isEmpty()) {
+        const qsizetype last = qMax(text.lastIndexOf(u"\n:61:"), text.lastIndexOf(u"@@:61:"));
+        const cStatementRead before = modMT940::Read(text.first(last + 1), account, stray);
+        if (!LeaveOutLast(read, before) && !text.endsWith(u'\n')) {
+            return Refused();
+        }
     }
     return read;
 }

@@ -323,7 +323,7 @@ private:
     {
         if (record.IsCutOff) {
             const QString start = QString(record.Date + u' ' + record.Payee).left(60);
-            m_read.Skipped.append({{record.Line, modStatementFile::CutOff(start)}, eSkipped::CutOff, {}});
+            m_read.Skipped.append({{record.Line, modStatementFile::CutOff(start, true)}, eSkipped::CutOff, {}});
             return;
         }
         const bool isSplit = !record.SplitCategories.isEmpty();

@@ -28,7 +28,7 @@ struct cTableLayout
     eDateOrder Date = eDateOrder::DayMonthYear;
     eSignRule Sign = eSignRule::AsWritten;
     eDetails Details = eDetails::None;
-    QString Currency;         // of all rows where no column holds it
+    QString Currency;         // of all rows; empty where only a column tells it
     QString OnlyCurrency;     // rows in another one are no bookings of the account; empty: all are
     QString OwnNumber;        // own account that is on one of the two sides of every row; empty: the file does not say
     bool IsDateGuess = false; // day and month could be the other way round in every row

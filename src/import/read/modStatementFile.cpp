@@ -99,11 +99,16 @@ QString modStatementFile::OpenSign()
     return cText::Tr("Die Datei sagt nicht sicher, welche Beträge Ausgaben und welche Einnahmen sind.");
 }
 
-QString modStatementFile::CutOff(const QString& row)
+QString modStatementFile::CutOff(const QString& row, bool isCertain)
 {
-    return cText::Tr("Der letzte Umsatz ist unvollständig und wurde nicht übernommen. Vielleicht wurde die Datei beim "
-                     "Herunterladen abgeschnitten; bitte laden Sie sie noch einmal herunter: {0}",
-                     {row});
+    return isCertain
+        ? cText::Tr("Der letzte Umsatz ist unvollständig und wurde nicht übernommen. Vielleicht wurde die Datei beim "
+                    "Herunterladen abgeschnitten; bitte laden Sie sie noch einmal herunter: {0}",
+                    {row})
+        : cText::Tr("Der letzte Umsatz ist vielleicht unvollständig und wurde nicht übernommen. Bitte laden Sie die "
+                    "Datei noch einmal herunter. Endet sie wieder so, ist er vollständig und lässt sich trotzdem "
+                    "übernehmen: {0}",
+                    {row});
 }
 
 QString modStatementFile::GuessedColumns()

@@ -22,8 +22,8 @@ struct cContent
 [[nodiscard]] QString NoAccount();
 // What the user is told where nothing but the contents told the columns of a table, and nobody was asked.
 [[nodiscard]] QString GuessedColumns();
-// What the user is told of a last booking that is not taken because the end of the file is missing.
-[[nodiscard]] QString CutOff(const QString& row);
+// What the user is told of a last booking that is not taken because the end of the file is missing, or may be.
+[[nodiscard]] QString CutOff(const QString& row, bool isCertain);
 // What the user is told where a table does not tell which way its amounts count.
 [[nodiscard]] QString OpenSign();
 

@@ -49,12 +49,18 @@ cImportResult RefuseFormat(cImportResult result, eStatementFormat format)
     return Refuse(std::move(result), modStatementFormat::Refusal(format));
 }
 
-cImportResult RefuseCurrency(cImportResult result, const cImportOptions& options)
+cImportResult RefuseCurrency(cImportResult result, const modStatementCurrency::cOthers& others, qsizetype rows,
+                             const QString& book)
 {
-    const QString currencies = result.OtherCurrencies.join(u", "_s);
-    return Refuse(std::move(result),
-                  cText::Tr("Der Auszug ist in {0}, das Buch in {1}. Beträge werden nicht umgerechnet.",
-                            {currencies, options.BookCurrency}));
+    result.OtherCurrencies = others.Codes;
+    const QString codes = others.Codes.join(u", "_s);
+    return Refuse(
+        std::move(result),
+        others.Rows == rows
+            ? cText::Tr("Der Auszug ist in {0}, das Buch in {1}. Beträge werden nicht umgerechnet.", {codes, book})
+            : cText::Tr("Der Auszug ist bei {0} von {1} Umsätzen in {2}, das Buch in {3}. Beträge werden "
+                        "nicht umgerechnet.",
+                        {QString::number(others.Rows), QString::number(rows), codes, book}));
 }
 
 // `form` gives the account's new name for the one that it has.
@@ -303,10 +309,10 @@ cImportResult cStatementImport::ReadAndStage(cStatementSource source, const cImp
         }
         return Refuse(std::move(result), read.Refusal.isEmpty() ? modStatementFile::NoAccount() : read.Refusal);
     }
-    result.OtherCurrencies =
+    const modStatementCurrency::cOthers others =
         modStatementCurrency::Others(read, options.BookCurrency, StagingFor(options.Run), m_balances);
-    if (!result.OtherCurrencies.isEmpty()) {
-        return RefuseCurrency(std::move(result), options);
+    if (others.Rows > 0) {
+        return RefuseCurrency(std::move(result), others, read.Entries.size(), options.BookCurrency);
     }
     if (read.IsGuessed) {
         read.Problems.prepend({0, modStatementFile::GuessedColumns()});
@@ -409,10 +415,10 @@ cImportResult cStatementImport::ImportFetched(const cFetchedStatement& fetched, 
         result.HasStrayDetails = read.HasStrayDetails;
         return Refuse(std::move(result), read.Refusal);
     }
-    result.OtherCurrencies =
+    const modStatementCurrency::cOthers others =
         modStatementCurrency::Others(read, options.BookCurrency, StagingFor(options.Run), m_balances);
-    if (!result.OtherCurrencies.isEmpty()) {
-        return RefuseCurrency(std::move(result), options);
+    if (others.Rows > 0) {
+        return RefuseCurrency(std::move(result), others, read.Entries.size(), options.BookCurrency);
     }
     AddBalance(fetched, read);
     StageAsOne(std::move(read), options, progress, result, &fetched);

@@ -4,8 +4,9 @@
 #include "import/stage/cKnownAccounts.h"
 #include "import/stage/cStaging.h"
 
+#include <QList>
+
 #include <algorithm>
-#include <utility>
 
 namespace {
 
@@ -17,27 +18,35 @@ QString CodeOf(const QString& text)
     return code.size() == 3 && std::all_of(code.begin(), code.end(), isLetter) ? code : QString();
 }
 
-bool Has(const cImportEntryList& rows, const QString& account, const QString& code)
+qsizetype IndexOf(const cImportEntryList& rows, const QString& account, const QString& code)
 {
-    return std::any_of(rows.begin(), rows.end(), [&](const cImportEntry& row) {
+    const auto found = std::find_if(rows.begin(), rows.end(), [&](const cImportEntry& row) {
         return row.ImportAccount == account && CodeOf(row.ImportCurrency) == code;
     });
+    return found == rows.end() ? -1 : found - rows.begin();
 }
 
 } // namespace
 
-QStringList modStatementCurrency::Others(const cStatementRead& read, const QString& book, cStaging& staging,
-                                         const cBankBalances* balances)
+modStatementCurrency::cOthers modStatementCurrency::Others(const cStatementRead& read, const QString& book,
+                                                           cStaging& staging, const cBankBalances* balances)
 {
     cStatementRead other; // a row of each account and currency
     other.BankCodes = read.BankCodes;
+    QList<qsizetype> counts; // of the rows for which each of them stands
     for (const cImportEntry& entry : read.Entries) {
         if (book.isEmpty() || entry.ImportCurrency == book) {
             continue;
         }
         const QString code = CodeOf(entry.ImportCurrency);
-        if (!code.isEmpty() && code != book && !Has(other.Entries, entry.ImportAccount, code)) {
+        if (code.isEmpty() || code == book) {
+            continue;
+        }
+        if (const qsizetype known = IndexOf(other.Entries, entry.ImportAccount, code); known >= 0) {
+            ++counts[known];
+        } else {
             other.Entries.append(entry);
+            counts.append(1);
         }
     }
     if (other.Entries.isEmpty()) {
@@ -45,12 +54,14 @@ QStringList modStatementCurrency::Others(const cStatementRead& read, const QStri
     }
     cKnownAccounts(staging.Accounts(), balances).UseIn(other);
     const cImportEntryList rows = staging.Rows();
-    QStringList codes;
-    for (const cImportEntry& entry : std::as_const(other.Entries)) {
-        if (const QString code = CodeOf(entry.ImportCurrency); !Has(rows, entry.ImportAccount, code)) {
-            codes.append(code);
+    cOthers others;
+    for (qsizetype i = 0; i < counts.size(); ++i) {
+        const cImportEntry& entry = other.Entries.at(i);
+        if (const QString code = CodeOf(entry.ImportCurrency); IndexOf(rows, entry.ImportAccount, code) < 0) {
+            others.Codes.append(code);
+            others.Rows += counts.at(i);
         }
     }
-    codes.removeDuplicates();
-    return codes;
+    others.Codes.removeDuplicates();
+    return others;
 }

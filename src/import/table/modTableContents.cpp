@@ -89,7 +89,7 @@ void modTableContents::CompleteCurrency(cTableLayout& layout)
 {
     const cColumnMap& map = layout.Map;
     for (const int column : {map.Amount, map.Debit, map.Credit}) {
-        if (layout.Currency.isEmpty() && map.Currency < 0 && column >= 0 && column < map.Names.size()) {
+        if (layout.Currency.isEmpty() && column >= 0 && column < map.Names.size()) {
             layout.Currency = CurrencyIn(map.Names.at(column));
         }
     }

@@ -82,7 +82,7 @@ public:
         if (m_number == eNumberFormat::Detect) {
             DetectNumber();
         }
-        m_cutOff = modTableEnd::CutOffRow(table, layout, m_number);
+        m_cut = modTableEnd::Find(table, layout, m_number);
         for (int column = 0; column < m_map.Names.size(); ++column) {
             if (column != m_map.Date && modCell::MatchesList(m_map.Names.at(column), bookingDayWords)) {
                 m_bookingDay = column;
@@ -112,7 +112,7 @@ public:
         TellUnknownStates();
         TellFees();
         // What stands above a table that was cut off belongs to rows that are missing.
-        m_balances.KeepIn(m_read, m_account, m_cutOff < 0 ? above : std::nullopt);
+        m_balances.KeepIn(m_read, m_account, m_cut.IsCertain ? std::nullopt : above);
         return std::move(m_read);
     }
 
@@ -185,8 +185,9 @@ private:
             TakeBalanceRow();
             return;
         }
-        if (m_row == m_cutOff) {
-            Skip(eSkipped::CutOff, modStatementFile::CutOff(Start()));
+        if (m_row == m_cut.Row) {
+            Skip(eSkipped::CutOff, modStatementFile::CutOff(Start(), m_cut.IsCertain),
+                 ToEntry(ValueOf(Cell(m_map.Amount)).value_or(0.0)));
             m_end = m_row; // what follows are lines of its text
             return;
         }
@@ -354,7 +355,8 @@ private:
         entry.ImportBeneficiaryAccount = CounterAccount(entry.ImportAccount);
         entry.ImportBeneficiaryBLZ = Cell(m_map.BankCode).toString();
         entry.ImportValue = modAmount::ToEvenCents(value);
-        entry.ImportCurrency = m_map.Currency >= 0 ? m_currency.Of(Cell(m_map.Currency)) : m_layout.Currency;
+        // Beside "Betrag (EUR)" a column of currencies tells what was paid in elsewhere.
+        entry.ImportCurrency = m_layout.Currency.isEmpty() ? m_currency.Of(Cell(m_map.Currency)) : m_layout.Currency;
         modTableDetails::Apply(m_layout.Details, Cell(m_map.Purpose[0]), entry);
         return entry;
     }
@@ -489,8 +491,8 @@ private:
     eNumberFormat m_number;
     static constexpr qsizetype mostUnknownStates = 3;
 
-    int m_end;                           // behind the last row that is read
-    int m_cutOff = -1;                   // the row within which the text breaks off
+    int m_end; // behind the last row that is read
+    modTableEnd::cCut m_cut;
     int m_columns = cTable::mostColumns; // a row has no more of them
     int m_bookingDay = -1;
     QList<int> m_others; // columns that may say in what state a row is, beside the one for it
