@@ -3,6 +3,7 @@
 #include "base/modDate.h"
 #include "core/modDemoSeries.h"
 #include "core/modDemoShopping.h"
+#include "model/cBankBalance.h"
 #include "model/modBalance.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
@@ -130,7 +131,7 @@ bool WriteBankAccount(cDataAccess& data, const modDemo::cDemoPlan& plan, const Q
     }
     return data.ChangeSettingItem(modSettingKey::BankNumber.Of(number).Name(), account)
         && data.ChangeSettingItem(modSettingKey::BankBalances.Of(number).Name(),
-                                  modDate::ToIso(plan.Today) % u'=' % QString::number(cents));
+                                  cBankBalance{plan.Today, cents}.ToText());
 }
 
 } // namespace

@@ -54,12 +54,14 @@ private:
         return std::find(first, last + 1, balance.Valued() - m_result.Opening + m_error) != last + 1;
     }
 
-    // An older balance fits again within a few days.
+    // An older balance fits again within a few days, or the next one beyond, when the newer one is as near.
     [[nodiscard]] bool IsPassing(qsizetype index) const
     {
-        const QDate oldest = m_balances.at(index).Day.addDays(-passingDays);
-        for (qsizetype i = index - 1; i >= 0 && m_balances.at(i).Day >= oldest; --i) {
-            if (Fits(m_balances.at(i))) {
+        const QDate day = m_balances.at(index).Day;
+        bool isNear = true;
+        for (qsizetype i = index - 1; i >= 0 && isNear; --i) {
+            isNear = m_balances.at(i).Day.daysTo(day) <= passingDays;
+            if ((isNear || day.daysTo(m_newer) <= passingDays) && Fits(m_balances.at(i))) {
                 return true;
             }
         }
@@ -70,7 +72,7 @@ private:
     {
         const cBankBalance& balance = m_balances.at(index);
         const qint64 evening = m_result.Opening + m_sums[Behind(balance.Day)];
-        cPoint point{balance.Day, balance.Cents, evening + balance.Late, eVerdict::Differs, balance.Late};
+        cPoint point{balance.Day, balance.Cents, evening + balance.Moved(), eVerdict::Differs, balance.Moved()};
         const bool fits = Fits(balance);
         if (!fits && IsPassing(index)) {
             point.Verdict = eVerdict::Passing;

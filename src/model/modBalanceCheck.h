@@ -30,7 +30,7 @@ struct cPoint
     qint64 Bank = 0;
     qint64 Own = 0;
     eVerdict Verdict = eVerdict::Agrees;
-    qint64 Late = 0; // as in cBankBalance
+    qint64 Moved = 0; // as in cBankBalance
 
     [[nodiscard]] qint64 Difference() const { return Own - Bank; }
 };

@@ -72,10 +72,17 @@ QString FaultsOf(const cStatementListModel& statement)
 // the interest of November 2nd on October 31st.
 const QHash<QString, QString> texts{
     {u"10.sta"_s,
-     u":20:A\n:25:10020030/1234567\n:60F:C260930EUR100,00\n:61:2610051005D40,00NMSC\n:86:106?20Korn\n"
-     ":61:2611011030D10,00NMSC\n:86:106?20Petrol\n:62F:C261031EUR50,00\n-\n"_s},
+     u":20:A\n:25:10020030/1234567\n:60F:C260930EUR100,00\n:61:2610051005D35,00NMSC\n:86:106?20Korn\n"
+     ":61:2611021028D5,00NMSC\n:86:106?20Hotel\n:61:2611011030D10,00NMSC\n:86:106?20Petrol\n:62F:C261031EUR50,00\n-\n"_s},
+    {u"end.sta"_s, // of October
+     u":20:A\n:25:10020030/1234567\n:60F:C261029EUR60,00\n:61:2611011030D10,00NMSC\n:86:106?20Petrol\n"
+     ":62F:C261031EUR50,00\n-\n"_s},
+    {u"begin.sta"_s, // of November
+     u":20:A\n:25:10020030/1234567\n:60F:C261031EUR50,00\n:61:2610311102C1,50NMSC\n:86:166?20Interest\n"
+     ":62F:C261102EUR51,50\n-\n"_s},
     {u"11.sta"_s,
-     u":20:A\n:25:10020030/1234567\n:60F:C261031EUR50,00\n:61:2610311102C2,00NMSC\n:86:166?20Interest\n"
+     u":20:A\n:25:10020030/1234567\n:60F:C261031EUR50,00\n:61:2610311102C1,50NMSC\n:86:166?20Interest\n"
+     ":61:2610311103C0,50NMSC\n:86:166?20Bonus\n"
      ":61:2611101110D20,00NMSC\n:86:106?20Korn\n:62F:C261130EUR32,00\n-\n"_s},
     {u"12.sta"_s,
      u":20:A\n:25:10020030/1234567\n:60F:C261130EUR32,00\n:61:2612101210D20,00NMSC\n:86:106?20Korn\n"
@@ -183,6 +190,9 @@ private Q_SLOTS:
         QTest::newRow("two months as CSV") << u"10.csv 11.csv"_s << QString();
         QTest::newRow("as MT940, read twice") << u"10.sta 11.sta 10.sta"_s << QString();
         QTest::newRow("the newer one first") << u"12.sta 11.sta 10.sta"_s << QString();
+        QTest::newRow("a month and its last day") << u"10.sta end.sta"_s << QString();
+        QTest::newRow("the last day first") << u"end.sta 10.sta"_s << QString();
+        QTest::newRow("a month halfway and at its end") << u"10.sta begin.sta 11.sta"_s << QString();
         QTest::newRow("balances beside the rows") << u"all.csv"_s << QString();
         QTest::newRow("a month is missing") << u"10.sta 12.sta"_s << u"1101-1130 -1800"_s;
     }
@@ -277,6 +287,13 @@ private Q_SLOTS:
         QVERIFY(balances.Add({{number, 500, QDate(2026, 5, 3)}, {number, -700, QDate()}, {QString(), 1, {}}}, entries));
         QVERIFY(balances.Add({{number, 500, QDate(2026, 5, 3)}}, {}));
         QCOMPARE(balances.Of(number), cBankBalanceList({{QDate(2026, 5, 2), -700}, {QDate(2026, 5, 3), 500}}));
+        // As an earlier version kept it: what is early is below zero beside what is late.
+        scene.Settings->Set(modSettingKey::BankBalances.Of(number), u"2026-05-03=500=-7;2026-05-03=500=2"_s);
+        QCOMPARE(balances.Of(number).value(0).Valued(), 505);
+        QVERIFY(balances.Add({{number, 500, QDate(2026, 5, 3), {}, {3, 1}}}, {}));
+        QCOMPARE(balances.Of(number).value(0).Valued(), 508);
+        QVERIFY(balances.Add({{number, 500, QDate(2026, 5, 3), {-9, 2}}}, {}));
+        QCOMPARE(balances.Of(number), cBankBalanceList({{QDate(2026, 5, 3), 500, {-9, 2}, {3, 1}}}));
     }
 };
 

@@ -2,8 +2,29 @@
 
 #include <QMap>
 
-#include <iterator>
 #include <numeric>
+#include <utility>
+
+namespace {
+
+using cMoved = cBankBalance::cMoved;
+using cDays = QMap<QDate, cMoved>;
+
+cMoved Sum(cDays::const_iterator begin, cDays::const_iterator end)
+{
+    return std::accumulate(begin, end, cMoved(), [](const cMoved& sum, const cMoved& day) {
+        return cMoved{sum.Cents + day.Cents, sum.Count + day.Count};
+    });
+}
+
+void Add(cDays& days, QDate day, qint64 cents)
+{
+    cMoved& rows = days[day];
+    rows.Cents += cents;
+    ++rows.Count;
+}
+
+} // namespace
 
 bool cBookedOrder::IsGap(std::size_t before) const
 {
@@ -12,19 +33,19 @@ bool cBookedOrder::IsGap(std::size_t before) const
 }
 
 // For each balance: the transactions behind it with its day or an earlier one.
-std::vector<qint64> cBookedOrder::Early() const
+std::vector<cMoved> cBookedOrder::Early() const
 {
-    std::vector<qint64> early(m_steps.size(), 0);
-    QMap<QDate, qint64> behind;
+    std::vector<cMoved> early(m_steps.size());
+    cDays behind;
     for (std::size_t i = m_steps.size(); i-- > 0;) {
         const cStep& step = m_steps[i];
         if (IsGap(i)) {
             behind.clear();
         }
         if (step.IsBalance) {
-            early[i] = std::accumulate(behind.cbegin(), std::as_const(behind).upperBound(step.Day), qint64{0});
+            early[i] = Sum(behind.cbegin(), std::as_const(behind).upperBound(step.Day));
         } else {
-            behind[step.Day] += step.Cents;
+            Add(behind, step.Day, step.Cents);
         }
     }
     return early;
@@ -33,19 +54,16 @@ std::vector<qint64> cBookedOrder::Early() const
 QList<cAccountBalance> cBookedOrder::Balances(const QString& account) const
 {
     QList<cAccountBalance> balances;
-    const std::vector<qint64> early = Early();
-    QMap<QDate, qint64> before;
+    const std::vector<cMoved> early = Early();
+    cDays before;
     for (std::size_t i = 0; i < m_steps.size(); ++i) {
         const cStep& step = m_steps[i];
         if (!step.IsBalance) {
-            before[step.Day] += step.Cents;
+            Add(before, step.Day, step.Cents);
             continue;
         }
-        const auto late = std::as_const(before).upperBound(step.Day);
-        balances.append({account, step.Cents, step.Day, std::accumulate(late, before.cend(), qint64{0})});
-        if (early[i] != 0) {
-            balances.append({account, step.Cents, step.Day, -early[i]});
-        }
+        const cMoved late = Sum(std::as_const(before).upperBound(step.Day), before.cend());
+        balances.append({account, step.Cents, step.Day, late, early[i]});
         if (IsGap(i)) {
             before.clear();
         }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "import/read/cStatementRead.h"
+#include "model/cBankBalance.h"
 
 #include <QDate>
 
@@ -15,8 +16,6 @@ public:
     // Where it differs from the balance directly before it, something between the two is not there.
     void AddBalance(QDate day, qint64 cents) { m_steps.push_back({day, cents, true}); }
 
-    // What is entered before a balance and what behind it are items of their own: the one statement knows the former,
-    // the next one the latter, and each of them may be read again.
     [[nodiscard]] QList<cAccountBalance> Balances(const QString& account) const;
 
 private:
@@ -28,7 +27,7 @@ private:
     };
 
     [[nodiscard]] bool IsGap(std::size_t before) const; // between a step and the next one
-    [[nodiscard]] std::vector<qint64> Early() const;
+    [[nodiscard]] std::vector<cBankBalance::cMoved> Early() const;
 
     std::vector<cStep> m_steps;
 };

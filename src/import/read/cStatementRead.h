@@ -1,6 +1,7 @@
 #pragma once
 
 #include "import/read/cTableDoubt.h"
+#include "model/cBankBalance.h"
 #include "model/cImportEntry.h"
 
 #include <QDate>
@@ -34,9 +35,10 @@ struct cSkippedRow
 struct cAccountBalance
 {
     QString Account;
-    qint64 Cents = 0; // signed
-    QDate Date;       // invalid when the file does not say
-    qint64 Late = 0;  // as in cBankBalance, as far as the file knows: what one moment has in several items adds up
+    qint64 Cents = 0;            // signed
+    QDate Date;                  // invalid when the file does not say
+    cBankBalance::cMoved Late{}; // as far as the file knows
+    cBankBalance::cMoved Early{};
 
     bool operator==(const cAccountBalance&) const = default;
 };

@@ -1,6 +1,5 @@
 #include "import/stage/cBankBalances.h"
 
-#include "base/modDate.h"
 #include "core/cSettings.h"
 #include "import/read/cStatementRead.h"
 #include "model/modSettingKey.h"
@@ -9,30 +8,13 @@
 #include <QStringList>
 
 #include <algorithm>
+#include <iterator>
 #include <optional>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// The setting of an account: "2026-05-31=21270;2026-06-30=-500=-1999", with what is late of the second.
-std::optional<cBankBalance> FromText(const QString& text)
-{
-    const QStringList parts = text.split(u'=');
-    bool isNumber = false;
-    bool isLate = true;
-    const qint64 cents = parts.value(1).toLongLong(&isNumber);
-    const qint64 late = parts.size() > 2 ? parts.at(2).toLongLong(&isLate) : 0;
-    const QDate day = modDate::FromIso(parts.value(0));
-    return parts.size() <= 3 && isNumber && isLate && day.isValid() ? std::optional(cBankBalance{day, cents, late})
-                                                                    : std::nullopt;
-}
-
-QString ToText(const cBankBalance& balance)
-{
-    const QString text = modDate::ToIso(balance.Day) + u'=' + QString::number(balance.Cents);
-    return balance.Late == 0 ? text : text + u'=' + QString::number(balance.Late);
-}
 
 QDate NewestDay(const cImportEntryList& entries, const QString& account)
 {
@@ -52,58 +34,44 @@ QMap<QString, cBankBalanceList> ByAccount(const QList<cAccountBalance>& balances
     for (const cAccountBalance& balance : balances) {
         const QDate day = balance.Date.isValid() ? balance.Date : NewestDay(entries, balance.Account);
         if (day.isValid() && !balance.Account.isEmpty()) {
-            byAccount[balance.Account].append({day, balance.Cents, balance.Late});
+            byAccount[balance.Account].append({day, balance.Cents, balance.Late, balance.Early});
         }
     }
     return byAccount;
 }
 
-void SortByDay(cBankBalanceList& balances)
+// Statements with the same balance know the transactions before it, or behind it, from it on: the more of them one
+// knows, the further it reaches. What earlier versions kept is not counted and adds up until a statement that counts
+// is read.
+void Take(cBankBalance::cMoved& known, const cBankBalance::cMoved& more)
 {
-    std::stable_sort(balances.begin(), balances.end(),
-                     [](const cBankBalance& a, const cBankBalance& b) { return a.Day < b.Day; });
+    if (more.Count > known.Count) {
+        known = more;
+    } else if (known.Count == 0) {
+        known.Cents += more.Cents;
+    }
 }
 
-// A year of daily balances is a few hundred items, and the same file may well be read again.
+// By day, each balance of a day once: one statement ends with it and the next begins with it, each knows its own
+// transactions only, and the same file may well be read again.
 cBankBalanceList Joined(cBankBalanceList known, const cBankBalanceList& more)
 {
-    for (const cBankBalance& balance : more) {
-        if (!known.contains(balance)) {
-            known.append(balance);
-        }
-    }
-    SortByDay(known);
-    return known;
-}
-
-cBankBalanceList Stored(const cSettings& settings, const QString& account)
-{
-    cBankBalanceList balances;
-    const QStringList texts = settings.Get(modSettingKey::BankBalances.Of(account)).split(u';', Qt::SkipEmptyParts);
-    for (const QString& text : texts) {
-        if (const std::optional<cBankBalance> balance = FromText(text)) {
-            balances.append(*balance);
-        }
-    }
-    SortByDay(balances);
-    return balances;
-}
-
-// One statement ends with a balance and the next begins with it; each knows its own transactions only.
-cBankBalanceList Merged(const cBankBalanceList& parts)
-{
-    cBankBalanceList merged;
-    for (const cBankBalance& part : parts) {
-        const auto same = std::find_if(merged.rbegin(), merged.rend(), [&](const cBankBalance& known) {
-            return known.Day < part.Day || known.Cents == part.Cents;
+    known += more;
+    std::stable_sort(known.begin(), known.end(),
+                     [](const cBankBalance& a, const cBankBalance& b) { return a.Day < b.Day; });
+    cBankBalanceList joined;
+    for (const cBankBalance& balance : std::as_const(known)) {
+        const auto same = std::find_if(joined.rbegin(), joined.rend(), [&](const cBankBalance& other) {
+            return other.Day < balance.Day || other.Cents == balance.Cents;
         });
-        if (same != merged.rend() && same->Day == part.Day) {
-            same->Late += part.Late;
+        if (same == joined.rend() || same->Day < balance.Day) {
+            joined.append(balance);
         } else {
-            merged.append(part);
+            Take(same->Late, balance.Late);
+            Take(same->Early, balance.Early);
         }
     }
-    return merged;
+    return joined;
 }
 
 } // namespace
@@ -115,13 +83,20 @@ cBankBalanceList cBankBalances::Of(const QString& account) const
 
 cBankBalanceList cBankBalances::Of(const cSettings& settings, const QString& account)
 {
-    return Merged(Stored(settings, account));
+    cBankBalanceList balances;
+    const QStringList texts = settings.Get(modSettingKey::BankBalances.Of(account)).split(u';', Qt::SkipEmptyParts);
+    for (const QString& text : texts) {
+        if (const std::optional<cBankBalance> balance = cBankBalance::FromText(text)) {
+            balances.append(*balance);
+        }
+    }
+    return Joined({}, balances);
 }
 
 cBankBalanceList cBankBalances::With(const QString& account, const QList<cAccountBalance>& balances,
                                      const cImportEntryList& entries) const
 {
-    return Merged(Joined(Stored(m_settings, account), ByAccount(balances, entries).value(account)));
+    return Joined(Of(account), ByAccount(balances, entries).value(account));
 }
 
 bool cBankBalances::Add(const QList<cAccountBalance>& balances, const cImportEntryList& entries)
@@ -136,13 +111,14 @@ bool cBankBalances::Add(const QList<cAccountBalance>& balances, const cImportEnt
 
 bool cBankBalances::Add(const QString& account, const cBankBalanceList& balances)
 {
-    const cBankBalanceList before = Stored(m_settings, account);
+    const cBankBalanceList before = Of(account);
     const cBankBalanceList known = Joined(before, balances);
-    if (known.size() == before.size()) {
+    if (known == before) {
         return true;
     }
     QStringList texts;
-    std::transform(known.begin(), known.end(), std::back_inserter(texts), ToText);
+    std::transform(known.begin(), known.end(), std::back_inserter(texts),
+                   [](const auto& each) { return each.ToText(); });
     return m_settings.Set(modSettingKey::BankBalances.Of(account), texts.join(u';'));
 }
 

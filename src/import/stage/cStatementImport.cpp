@@ -186,10 +186,13 @@ void AddBalance(const cFetchedStatement& fetched, cStatementRead& read)
             : !read.Balances.isEmpty()                  ? read.Balances.first().Account
                                                         : fetched.Account;
         const QDate day = fetched.BalanceDay;
-        const qint64 late =
-            std::accumulate(read.Entries.begin(), read.Entries.end(), qint64{0}, [&](qint64 sum, const auto& entry) {
-                return sum + (day.isValid() && entry.ImportDate > day ? entry.ImportValue : 0);
-            });
+        cBankBalance::cMoved late;
+        for (const cImportEntry& entry : std::as_const(read.Entries)) {
+            if (day.isValid() && entry.ImportDate > day) {
+                late.Cents += entry.ImportValue;
+                ++late.Count;
+            }
+        }
         read.Balances.append({account, *fetched.Balance, day, late});
     }
 }

@@ -3,7 +3,6 @@
 #include "import/read/cBookedOrder.h"
 
 #include <algorithm>
-#include <numeric>
 #include <utility>
 
 void cRowBalances::AddRow(const cImportEntry& entry, QDate booked, std::optional<qint64> balance)
@@ -27,11 +26,16 @@ bool cRowBalances::IsNewestFirst() const
     return newestFirst == 0 ? m_points.front().Date >= m_points.back().Date : newestFirst > 0;
 }
 
-qint64 cRowBalances::LateOn(QDate day) const
+cBankBalance::cMoved cRowBalances::LateOn(QDate day) const
 {
-    return std::accumulate(m_late.begin(), m_late.end(), qint64{0}, [&](qint64 sum, const cLate& row) {
-        return sum + (row.Booked <= day && day < row.Day ? row.Cents : 0);
-    });
+    cBankBalance::cMoved late;
+    for (const cLate& row : m_late) {
+        if (row.Booked <= day && day < row.Day) {
+            late.Cents += row.Cents;
+            ++late.Count;
+        }
+    }
+    return late;
 }
 
 void cRowBalances::KeepIn(cStatementRead& read, const QString& account, const std::optional<cAccountBalance>& above)

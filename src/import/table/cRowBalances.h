@@ -1,6 +1,7 @@
 #pragma once
 
 #include "import/read/cStatementRead.h"
+#include "model/cBankBalance.h"
 
 #include <QDate>
 #include <QString>
@@ -36,7 +37,7 @@ private:
     };
 
     [[nodiscard]] bool IsNewestFirst() const;
-    [[nodiscard]] qint64 LateOn(QDate day) const;
+    [[nodiscard]] cBankBalance::cMoved LateOn(QDate day) const;
     void KeepDays(cStatementRead& read, const QString& account) const;
 
     std::vector<cPoint> m_points; // rows with a balance

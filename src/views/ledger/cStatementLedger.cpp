@@ -101,7 +101,7 @@ qint64 cStatementLedger::BankOn(QDate day) const
 std::optional<qint64> cStatementLedger::NamedOn(QDate day) const
 {
     const modBalanceCheck::cPoint& newest = m_check.Points.last();
-    return newest.Day == day && newest.Late != 0 ? std::optional(newest.Bank) : std::nullopt;
+    return newest.Day == day && newest.Moved != 0 ? std::optional(newest.Bank) : std::nullopt;
 }
 
 // The rows of a file get consecutive numbers, so that a number between them that is gone was deleted.

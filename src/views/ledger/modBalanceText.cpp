@@ -116,7 +116,7 @@ QString Missing(const cFault& fault, const cAmountFormat& format)
 
 QString Passing(const cPoint& point, const cAmountFormat& format)
 {
-    return cText::Tr("Am {0} nennt die Bank {1}, wenige Tage davor und danach stimmt der Saldo: wahrscheinlich hat sie "
+    return cText::Tr("Am {0} nennt die Bank {1}, davor und danach stimmt der Saldo: wahrscheinlich hat sie "
                      "Umsätze an anderen Tagen gebucht, als dort steht.",
                      {modDate::ToText(point.Day), format.Cents(point.Bank)});
 }
