@@ -4339,10 +4339,6 @@ Suggestion: {2}</translation>
         <translation>{0} imported transactions of these days have probably been deleted.</translation>
     </message>
     <message>
-        <source>Am {0} nennt die Bank {1}, wenige Tage davor und danach stimmt der Saldo: wahrscheinlich hat sie Umsätze an anderen Tagen gebucht, als dort steht.</source>
-        <translation>On {0} the bank gives {1}; a few days before and after, the balance is right: the bank has probably booked transactions on other days than those shown there.</translation>
-    </message>
-    <message>
         <source>Ab dem {0} fehlen {1} an Ausgaben (spätestens am {2}):</source>
         <translation>From {0}, expenses of {1} are missing (by {2} at the latest):</translation>
     </message>
@@ -10986,6 +10982,30 @@ Is it to be read all the same?</translation>
     <message>
         <source>auf dem Auszug von {0} fehlt die Gegenbuchung</source>
         <translation>the statement of {0} does not have the other side</translation>
+    </message>
+    <message>
+        <source>Der letzte Umsatz ist vielleicht unvollständig und wurde nicht übernommen. Bitte laden Sie die Datei noch einmal herunter. Endet sie wieder so, ist er vollständig und lässt sich trotzdem übernehmen: {0}</source>
+        <translation>The last transaction may be incomplete and was not taken. Please download the file again. If it ends the same way, the transaction is complete and can be taken all the same: {0}</translation>
+    </message>
+    <message>
+        <source>Der Auszug ist bei {0} von {1} Umsätzen in {2}, das Buch in {3}. Beträge werden nicht umgerechnet.</source>
+        <translation>The statement is in {2} for {0} of {1} transactions, the book in {3}. Amounts are not converted.</translation>
+    </message>
+    <message>
+        <source>Ein Umsatz davon ist offen und steht wohl schon im Buch: &quot;{0}&quot; ordnet ihn zu.</source>
+        <translation>One of these transactions is open and seems to be in the book already: &quot;{0}&quot; assigns it.</translation>
+    </message>
+    <message>
+        <source>{1} Umsätze davon sind offen und stehen wohl schon im Buch: &quot;{0}&quot; ordnet sie zu.</source>
+        <translation>{1} of these transactions are open and seem to be in the book already: &quot;{0}&quot; assigns them.</translation>
+    </message>
+    <message>
+        <source>Am {0} nennt die Bank {1}, davor und danach stimmt der Saldo: wahrscheinlich hat sie Umsätze an anderen Tagen gebucht, als dort steht.</source>
+        <translation>On {0} the bank gives {1}; before and after, the balance is right: the bank has probably booked transactions on other days than those shown there.</translation>
+    </message>
+    <message>
+        <source>Abgleichen</source>
+        <translation>Match</translation>
     </message>
 </context>
 </TS>

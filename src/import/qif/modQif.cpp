@@ -202,6 +202,25 @@ QDate DateOf(const QString& text, eDateOrder order)
     return date.isValid() ? date : noDate;
 }
 
+// What the days and amounts of a file tell of the order in which its days are written.
+struct cEvidence
+{
+    int DayFirst = 0;
+    int MonthFirst = 0;
+    bool HasPoint = false;
+    bool IsForeign = false;
+    bool IsOpen = false; // another order would give other days
+};
+
+void Weigh(const cParts& parts, cEvidence& evidence)
+{
+    evidence.IsForeign = evidence.IsForeign || (parts.HasStroke && parts.IsNewCentury);
+    evidence.DayFirst += parts.First > 12 ? 1 : 0;
+    evidence.MonthFirst += parts.Second > 12 ? 1 : 0;
+    evidence.HasPoint = evidence.HasPoint || parts.HasPoint;
+    evidence.IsOpen = evidence.IsOpen || parts.First != parts.Second;
+}
+
 struct cOrder
 {
     eDateOrder Order = eDateOrder::DayMonthYear;
@@ -219,26 +238,19 @@ bool IsGroupedEnglish(const QString& amount)
 // that it comes from where the month does: by the years of "6/ 1'94", by the groups of its amounts.
 cOrder OrderOf(const QList<cRecord>& records)
 {
-    int dayFirst = 0;
-    int monthFirst = 0;
-    bool hasPoint = false;
-    bool isForeign = false;
-    bool isOpen = false;
+    cEvidence evidence;
     for (const cRecord& record : records) {
         const std::optional<cParts> parts = PartsOf(record.Date);
-        isForeign = isForeign || IsGroupedEnglish(record.Amount);
+        evidence.IsForeign = evidence.IsForeign || IsGroupedEnglish(record.Amount);
         if (parts && !parts->IsYearFirst) {
-            isForeign = isForeign || (parts->HasStroke && parts->IsNewCentury);
-            dayFirst += parts->First > 12 ? 1 : 0;
-            monthFirst += parts->Second > 12 ? 1 : 0;
-            hasPoint = hasPoint || parts->HasPoint;
-            isOpen = isOpen || parts->First != parts->Second;
+            Weigh(*parts, evidence);
         }
     }
-    if (dayFirst != monthFirst) {
-        return {dayFirst > monthFirst ? eDateOrder::DayMonthYear : eDateOrder::MonthDayYear, false};
+    if (evidence.DayFirst != evidence.MonthFirst) {
+        return {evidence.DayFirst > evidence.MonthFirst ? eDateOrder::DayMonthYear : eDateOrder::MonthDayYear, false};
     }
-    return {isForeign && !hasPoint ? eDateOrder::MonthDayYear : eDateOrder::DayMonthYear, isOpen && !hasPoint};
+    const bool isMonthFirst = evidence.IsForeign && !evidence.HasPoint;
+    return {isMonthFirst ? eDateOrder::MonthDayYear : eDateOrder::DayMonthYear, evidence.IsOpen && !evidence.HasPoint};
 }
 
 // English numbers; a single comma that does not stand before three digits is a decimal comma all the same.

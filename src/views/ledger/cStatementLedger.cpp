@@ -127,14 +127,25 @@ bool cStatementLedger::IsShared()
                        [&](const QString& other) { return other != m_number && AccountOf(other) == account; });
 }
 
+std::optional<cBookComparison::eState> cStatementLedger::Hindrance(const QString& account)
+{
+    using eState = cBookComparison::eState;
+    if (account.isEmpty()) {
+        return eState::NotMapped;
+    }
+    if (!m_check.IsAnchored) {
+        return eState::NoBalance;
+    }
+    return IsShared() ? std::optional(eState::Shared) : std::nullopt;
+}
+
 cBookComparison cStatementLedger::CompareWithBook(QDate until)
 {
     using eState = cBookComparison::eState;
     cBookComparison result;
     const QString account = AccountOf(m_number);
-    if (account.isEmpty() || !m_check.IsAnchored || IsShared()) {
-        result.State =
-            account.isEmpty() ? eState::NotMapped : (m_check.IsAnchored ? eState::Shared : eState::NoBalance);
+    if (const std::optional<eState> hindrance = Hindrance(account)) {
+        result.State = *hindrance;
         return result;
     }
     const QDate day = until.isValid() ? until : m_check.Points.last().Day;
