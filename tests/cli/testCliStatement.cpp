@@ -39,6 +39,21 @@ private Q_SLOTS:
         QCOMPARE(Run(u"statement|--account|4712"_s).Code, 1);
     }
 
+    // Its rows would count on top of the start balance, which the later statement brought.
+    void OlderStatementMovesTheStart()
+    {
+        Do(u"import|--book-account|Girokonto|"_s
+           + Write(u"2.sta"_s, QByteArray(incomplete).replace("216,90", "240,00")));
+        const cCliRun older =
+            Do(u"import|"_s
+               + Write(u"1.sta"_s,
+                       ":20:A\n:25:99900010/4711000815\n:60F:C251231EUR1000,00\n:61:260115D100,00NMSC\n"
+                       ":86:106?20Korn\n:62F:C260131EUR900,00\n-\n"));
+        QVERIFY2(older.Error.contains(u"Startguthaben von 'Girokonto': 1.000,00"), qPrintable(older.Text()));
+        Do(u"book|--all"_s);
+        QVERIFY(Do(u"reconcile"_s).Out.contains(u"240,00"));
+    }
+
     // The first statement brings the start balance, and the book agrees once its row is booked.
     void ReconcilesRowByRow()
     {

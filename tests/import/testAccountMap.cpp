@@ -110,6 +110,8 @@ private Q_SLOTS:
     {
         cImportBook book;
         QVERIFY(book.Accounts.Assign(u"123"_s, u"Girokonto"_s));
+        QCOMPARE(book.Accounts.Proposal(u"DE02100200300001234567"_s), QString()); // nobody has used the other
+        QVERIFY(book.Data.SetStartGuthaben(u"Sparkonto"_s, 0, QDate(2026, 3, 31)));
         QCOMPARE(book.Accounts.Proposal(u"DE02100200300001234567"_s), u"Sparkonto"_s);
         QCOMPARE(book.Accounts.Proposal(u"4711XXXXXXXX1234"_s), QString());
         for (const QString& name : {u"A"_s, u"B"_s, u"C"_s, u"D"_s}) { // many payees: a second current account

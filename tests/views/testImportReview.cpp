@@ -135,6 +135,14 @@ private Q_SLOTS:
         page.Review.Files().ImportFiles({fixture}, page.Progress);
         QCOMPARE(page.User.Asked.size(), 4); // nothing more than the two start balances
         QCOMPARE(page.Review.Files().LeftOut().size(), 5);
+        // Older rows would count on top of the start balance.
+        QVERIFY(page.Data.SetStartGuthaben(u"Girokonto"_s, 500000, QDate(2026, 1, 1)));
+        const cTestFile folder;
+        const QString older = folder.Path(u"older.sta"_s);
+        cTestFile::Write(older, ":20:A\n:25:10020030/1234567\n:60F:C251130EUR1,00\n:61:251215C9,00NTRF\n-\n");
+        page.Review.Files().ImportFiles({older}, page.Progress);
+        QCOMPARE(page.User.Asked.size(), 5);
+        QVERIFY(page.User.Asked.constLast().contains(u"Startguthaben von 5.000,00"));
     }
 
     void ShowsRows()

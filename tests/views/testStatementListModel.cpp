@@ -235,6 +235,7 @@ private Q_SLOTS:
         row("one too many", u"0401 10000;0502 -2310;0503 -1000;0503 -1"_s, u"Seit dem 03.05.2026"_s);
         row("one too few", u"0401 10000;0503 -1000"_s, u"Seit dem 02.05.2026"_s);
         row("later ones do not count", u"0401 10000;0502 -2310;0503 -1000;0504 -1"_s, u"stimmt am"_s);
+        row("start too late", u"0502 -2310;0503 -1000;0503 7690 Start"_s, u"Startguthaben liegt hinter dem ersten"_s);
         row("no start", u"0502 -2310;0503 -1000"_s, u"schon am 01.05.2026 nicht überein"_s);
     }
 
@@ -244,7 +245,12 @@ private Q_SLOTS:
         QFETCH(QString, words);
         cScene scene(u"0502 -2310 REWE;0503 -1000 Korn"_s, u"2026-04-30=10000;2026-05-03=6690"_s);
         for (const QString& entry : entries.split(u';')) {
-            scene.Enter(RowOf(entry).ImportDate, entry.mid(5).toInt());
+            const cImportEntry wanted = RowOf(entry);
+            if (wanted.ImportBeneficiary.isEmpty()) {
+                scene.Enter(wanted.ImportDate, static_cast<int>(wanted.ImportValue));
+            } else {
+                QVERIFY(scene.Data.SetStartGuthaben(u"Girokonto"_s, wanted.ImportValue, wanted.ImportDate));
+            }
         }
         const cStatementListModel statement(scene.Tools);
         QVERIFY2(statement.Findings().last().contains(words), qPrintable(statement.Findings().last()));

@@ -106,9 +106,9 @@ int cAccountGuess::Weight(const cTemplateItem& account, const QString& number, c
         return wanted != eKind::Unknown && known != eKind::Unknown && known != wanted;
     };
     // The only account that still has no number may be called like the bank. Who entered it with what it holds has it
-    // in the book once; a new account beside it would hold the same again. A statement that shows itself to be of
-    // another kind, and one of a card, may well be of an account that is not entered: taken for this one it would mix
-    // up two.
+    // in the book once; a new account beside it would hold the same again. One that came with the book and was never
+    // used says nothing once another has a number. A statement that shows itself to be of another kind, and one of a
+    // card, may well be of an account that is not entered: taken for this one it would mix up two.
     const bool isSole = wanted != eKind::Card && kind != eKind::Cash && kind != eKind::Card
         && std::none_of(m_accounts.begin(), m_accounts.end(), [&](const cTemplateItem& other) {
                             return other.ID != account.ID && modTemplate::IsVisible(other)
@@ -116,12 +116,18 @@ int cAccountGuess::Weight(const cTemplateItem& account, const QString& number, c
                                 && !isOfOtherKind(KindOfName(other));
                         });
     const bool isOther = isOfOtherKind(kind);
+    const bool isMeant = m_taken.isEmpty() || kind == eKind::Unknown || kind == wanted || IsUsed(account.TemplateName);
     int weight = isNamed ? 8 : 0;
     weight += HoldsSame(account.TemplateName, number) ? 6 : 0;
     weight += HasSameEntries(account.TemplateName, rows) ? 4 : 0;
     weight += kind == wanted && wanted != eKind::Unknown ? 2 : 0;
-    weight += isSole ? 1 : 0;
+    weight += isSole && isMeant ? 1 : 0;
     return kind == eKind::Cash || (isOther && weight < 6) ? 0 : weight;
+}
+
+bool cAccountGuess::IsUsed(const QString& account) const
+{
+    return !m_data.GetEntries({{}, {}, {}, account, {}, eBookingKind::All}).isEmpty();
 }
 
 // What the book's account holds on the day of one of the bank's balances. Who begins a book says what an account holds

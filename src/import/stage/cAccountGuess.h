@@ -24,6 +24,7 @@ public:
 
 private:
     [[nodiscard]] int Weight(const cTemplateItem& account, const QString& number, const cImportEntryList& rows) const;
+    [[nodiscard]] bool IsUsed(const QString& account) const;
     [[nodiscard]] bool HoldsSame(const QString& account, const QString& number) const;
     [[nodiscard]] bool HasSameEntries(const QString& account, const cImportEntryList& rows) const;
 

@@ -91,6 +91,21 @@ qint64 ErrorOn(const modBalanceCheck::cResult& check, QDate day)
 
 } // namespace
 
+bool cOpeningBalance::IsDue(const QString& number, int newestBefore) const
+{
+    cStatementLedger ledger(m_tools.Data, m_tools.Settings);
+    ledger.Load(number);
+    const cImportEntryList& rows = ledger.Rows();
+    const auto known =
+        std::find_if(rows.begin(), rows.end(), [&](const cImportEntry& row) { return row.ID <= newestBefore; });
+    if (known == rows.end()) {
+        return true;
+    }
+    const QDate first = rows.constFirst().ImportDate;
+    const std::optional<cEntryItem> start = m_tools.Data.GetStartGuthaben(ledger.AccountOf(number));
+    return first < known->ImportDate && start && start->EntryDate >= first;
+}
+
 std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& number) const
 {
     cStatementLedger ledger(m_tools.Data, m_tools.Settings);

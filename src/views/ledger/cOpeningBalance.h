@@ -30,6 +30,9 @@ public:
 
     explicit cOpeningBalance(const cBookTools& tools) : m_tools(tools) {}
 
+    // Whether the rows with higher IDs are the first of the number, or begin before the others and no later than the
+    // start balance, which counts on top of them then.
+    [[nodiscard]] bool IsDue(const QString& number, int newestBefore) const;
     // Nothing where the book agrees already, where the bank's balance before the first row is not certain, or where the
     // number has no account or shares it with another.
     [[nodiscard]] std::optional<cOffer> For(const QString& number) const;

@@ -182,6 +182,8 @@ cBookComparison cStatementLedger::CompareWithBook(QDate until)
     result.Book = book;
     result.Bank = BankOn(day);
     result.Named = NamedOn(day);
+    const std::optional<cEntryItem> stored = m_data.GetStartGuthaben(account);
+    result.IsStartLate = stored && !m_amounts.empty() && stored->EntryDate > m_amounts.front().Day;
     result.AreRowsMissing = !m_check.Faults.isEmpty() || !cLeftOutRows(m_settings).Of(m_number).isEmpty();
     return result;
 }

@@ -32,6 +32,7 @@ struct cBookComparison
     std::optional<qint64> Named; // as in cStatementLedger
     QDate From;                  // since this day they have not been equal any more
     bool HasAgreed = false;      // before that day they were, on some day of the statement
+    bool IsStartLate = false;    // the start balance lies behind the first row, which counts beside it
     bool AreRowsMissing = false; // of the bank: left out on import, or a balance of the bank says so
 };
 

@@ -129,6 +129,9 @@ QString Since(const cBookComparison& book, const QStringList& values)
     }
     return book.AreRowsMissing
         ? cText::Tr("Sie stimmten schon am {4} nicht überein: vom Auszug der Bank fehlen Umsätze.", values)
+        : book.IsStartLate
+        ? cText::Tr("Sie stimmten schon am {4} nicht überein: das Startguthaben liegt hinter dem ersten Umsatz.",
+                    values)
         : cText::Tr("Sie stimmten schon am {4} nicht überein; vielleicht fehlt das Startguthaben.", values);
 }
 

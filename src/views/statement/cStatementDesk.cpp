@@ -361,7 +361,6 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     options.StrayDetails = wish.SkipsStrayDetails ? eStrayDetails::PassOver : eStrayDetails::Refuse;
     options.BookCurrency = wish.TakesCurrency ? QString() : m_tools.Format.CurrencyCode();
     cNoProgress progress;
-    const QStringList known = cImportHive::AccountsOf(Rows());
     const int next = m_works->Hive.GetImportHive().NextId();
     const cImportResult result = m_works->Import.ImportFile(path, options, progress);
     cFileReport report = Report(result, m_tools.Format);
@@ -377,8 +376,9 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
         QStringList unsaid; // a table without names for its columns is asked about again
         (void)RememberLayout(path, wish, unsaid);
     }
+    const cOpeningBalance opening(m_tools);
     for (const QString& number : result.Accounts) {
-        if (!known.contains(number) && !wish.KeepsStart) {
+        if (!wish.KeepsStart && opening.IsDue(number, next - 1)) {
             report.IsDone = TakeStart(number, report.Notes) && report.IsDone;
         }
     }

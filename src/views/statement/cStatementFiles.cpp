@@ -18,6 +18,7 @@
 #include "import/table/cTableMemory.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/ledger/cOpeningBalance.h"
 #include "views/list/modImportText.h"
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/modImportPreview.h"
@@ -178,9 +179,9 @@ void cStatementFiles::End(cRun& run)
     if (!run.Refusals.isEmpty()) {
         m_tools.User.Show(eTone::Exclamation, run.Refusals.join(u"\n\n"_s));
     }
-    const QStringList firstSeen = FirstSeen(run);
+    const QStringList due = DueStarts(run);
     AskAccounts(run.Numbers);
-    OfferStart(firstSeen);
+    OfferStart(due);
     Q_EMIT RowsStaged(run.Rows);
 }
 
@@ -499,19 +500,16 @@ void cStatementFiles::KeepLeftOut(const cImportResult& result)
     }
 }
 
-// The numbers whose account was known before their first rows came; of the others AskAccounts speaks.
-QStringList cStatementFiles::FirstSeen(const cRun& run)
+// The numbers whose account was known before these rows came; of the others AskAccounts speaks.
+QStringList cStatementFiles::DueStarts(const cRun& run)
 {
-    QStringList first = run.Numbers;
-    first.removeDuplicates();
-    const cImportEntryList rows = m_hive.GetImportHive().getImportEntryList();
-    first.removeIf([&](const QString& number) {
-        return m_accounts.AccountOf(number).isEmpty()
-            || std::any_of(rows.begin(), rows.end(), [&](const cImportEntry& row) {
-                   return row.ID <= run.Before && row.ImportAccount == number;
-               });
+    const cOpeningBalance opening(m_tools);
+    QStringList due = run.Numbers;
+    due.removeDuplicates();
+    due.removeIf([&](const QString& number) {
+        return m_accounts.AccountOf(number).isEmpty() || !opening.IsDue(number, run.Before);
     });
-    return first;
+    return due;
 }
 
 QStringList cStatementFiles::LeftOut() const

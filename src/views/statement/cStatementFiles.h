@@ -136,7 +136,7 @@ private:
     [[nodiscard]] bool IsAnswered(cImportAssistant& assistant, cRun& run);
     [[nodiscard]] QList<int> RemoveOpen(const QList<int>& rows);
     void OfferStart(const QStringList& numbers);
-    [[nodiscard]] QStringList FirstSeen(const cRun& run);
+    [[nodiscard]] QStringList DueStarts(const cRun& run);
     void KeepLeftOut(const cImportResult& result);
     void SettleRepeats(cRun& run);
     [[nodiscard]] bool AreWanted(const QList<cRepeat>& repeats);
