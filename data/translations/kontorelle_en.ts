@@ -11007,5 +11007,9 @@ Is it to be read all the same?</translation>
         <source>Abgleichen</source>
         <translation>Match</translation>
     </message>
+    <message>
+        <source>Sie stimmten schon am {4} nicht überein: das Startguthaben liegt hinter dem ersten Umsatz.</source>
+        <translation>They did not agree even on {4}: the start balance lies after the first transaction.</translation>
+    </message>
 </context>
 </TS>
