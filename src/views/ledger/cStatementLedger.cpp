@@ -139,6 +139,12 @@ std::optional<cBookComparison::eState> cStatementLedger::Hindrance(const QString
     return IsShared() ? std::optional(eState::Shared) : std::nullopt;
 }
 
+bool cStatementLedger::IsStartLate(const QString& account) const
+{
+    const std::optional<cEntryItem> start = m_data.GetStartGuthaben(account);
+    return start && !m_amounts.empty() && start->EntryDate > m_amounts.front().Day;
+}
+
 cBookComparison cStatementLedger::CompareWithBook(QDate until)
 {
     using eState = cBookComparison::eState;
@@ -182,8 +188,7 @@ cBookComparison cStatementLedger::CompareWithBook(QDate until)
     result.Book = book;
     result.Bank = BankOn(day);
     result.Named = NamedOn(day);
-    const std::optional<cEntryItem> stored = m_data.GetStartGuthaben(account);
-    result.IsStartLate = stored && !m_amounts.empty() && stored->EntryDate > m_amounts.front().Day;
+    result.IsStartLate = IsStartLate(account);
     result.AreRowsMissing = !m_check.Faults.isEmpty() || !cLeftOutRows(m_settings).Of(m_number).isEmpty();
     return result;
 }

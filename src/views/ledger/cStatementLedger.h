@@ -69,6 +69,7 @@ public:
     [[nodiscard]] bool IsShared();
 
 private:
+    [[nodiscard]] bool IsStartLate(const QString& account) const;
     void Take(cImportEntryList rows, const QString& number);
 
     cDataAccess& m_data;
