@@ -64,11 +64,11 @@ public:
     // By default up to the bank's newest balance.
     [[nodiscard]] cBookComparison CompareWithBook(QDate until = {});
     // Rows of other numbers belong to the same account of the book.
-    // Why the account cannot be compared with the book; none when it can.
-    [[nodiscard]] std::optional<cBookComparison::eState> Hindrance(const QString& account);
     [[nodiscard]] bool IsShared();
 
 private:
+    // Why the account cannot be compared with the book; none when it can.
+    [[nodiscard]] std::optional<cBookComparison::eState> Hindrance(const QString& account);
     [[nodiscard]] bool IsStartLate(const QString& account) const;
     void Take(cImportEntryList rows, const QString& number);
 
