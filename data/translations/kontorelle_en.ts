@@ -11011,5 +11011,9 @@ Is it to be read all the same?</translation>
         <source>Sie stimmten schon am {4} nicht überein: das Startguthaben liegt hinter dem ersten Umsatz.</source>
         <translation>They did not agree even on {4}: the start balance lies after the first transaction.</translation>
     </message>
+    <message>
+        <source>&apos;{0}&apos; kann eine weitere Person sein oder der neue Name von &apos;{1}&apos;. Bitte wählen Sie „Hinzufügen“ oder „Umbenennen“.</source>
+        <translation>&apos;{0}&apos; may be one more person or the new name of &apos;{1}&apos;. Please choose “Add” or “Rename”.</translation>
+    </message>
 </context>
 </TS>

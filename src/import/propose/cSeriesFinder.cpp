@@ -73,7 +73,8 @@ void cSeriesFinder::BuildDays()
     for (const cImportEntry& row : rows) {
         if (const QString key = keys.Of(row); !key.isEmpty() && row.ImportDate.isValid()) {
             cDays& days = m_days[key][row.ImportAccount];
-            (row.ImportValue < 0 ? days.Out : days.In).insert(row.ImportDate, row.ImportValue);
+            (row.ImportValue < 0 ? days.Out : days.In)
+                .insert(row.ImportDate, {row.ImportValue, row.ImportAssigned ? row.ImportAssignedEntry : 0});
         }
         QDate& last = m_lastDays[row.ImportAccount];
         last = last.isValid() ? std::max(last, row.ImportDate) : row.ImportDate;
@@ -165,15 +166,17 @@ std::optional<cSeriesMatch> cSeriesFinder::Precede(const cEntryItemList& alike, 
     return match;
 }
 
-// True when a row of the row's counterparty pays about the first occurrence of the series.
+// True when a row of the row's counterparty pays about the first occurrence of the series, or is going to: what was
+// booked to another entry stands in the book already.
 bool cSeriesFinder::HasPayment(const cEntryItem& series, const cImportEntry& row)
 {
     const int reach = modOccurrence::Reach(series.EntryInterval);
     const cDays known = DaysOf(row);
     const cPayments& payments = row.ImportValue < 0 ? known.Out : known.In;
     const auto end = payments.upperBound(series.EntryDate.addDays(reach));
-    return std::any_of(payments.lowerBound(series.EntryDate.addDays(-reach)), end,
-                       [&](qint64 cents) { return IsAbout(cents, series); });
+    return std::any_of(payments.lowerBound(series.EntryDate.addDays(-reach)), end, [&](const cPayment& payment) {
+        return (payment.EntryId == 0 || payment.EntryId == series.ID) && IsAbout(payment.Cents, series);
+    });
 }
 
 cSeriesFinder::cDays cSeriesFinder::DaysOf(const cImportEntry& row)
@@ -192,7 +195,7 @@ bool cSeriesFinder::IsTakenBack(const cImportEntry& row)
     const QDate last = row.ImportDate.addDays(farthestDays);
     for (auto day = back.lowerBound(row.ImportDate.addDays(-farthestDays)); day != back.end() && day.key() <= last;
          ++day) {
-        if (*day == -row.ImportValue) {
+        if (day->Cents == -row.ImportValue) {
             return true;
         }
     }

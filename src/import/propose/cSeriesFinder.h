@@ -48,7 +48,12 @@ public:
     [[nodiscard]] bool IsTakenBack(const cImportEntry& row);
 
 private:
-    using cPayments = QMultiMap<QDate, qint64>; // with their cents
+    struct cPayment
+    {
+        qint64 Cents = 0;
+        int EntryId = 0; // that it was booked to; 0 while it is open
+    };
+    using cPayments = QMultiMap<QDate, cPayment>;
     struct cDays
     {
         cPayments In;

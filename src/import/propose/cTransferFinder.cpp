@@ -15,7 +15,6 @@
 namespace {
 
 constexpr qint64 farthestDays = 5; // between the booking days of the two banks
-constexpr qint64 slowestDays = 10; // over holidays, or from abroad
 
 } // namespace
 
@@ -90,7 +89,7 @@ void cTransferFinder::FindPartner(const cImportEntry& row, cTransfer& transfer)
         const int otherId = m_rows.at(i).ID;
         const bool isTaken =
             m_partners.value(otherId, row.ID) != row.ID || m_partners.value(row.ID, otherId) != otherId;
-        return isTaken || distance(i) > slowestDays || !IsPartner(row, m_rows.at(i), transfer)
+        return isTaken || distance(i) > SlowestDays || !IsPartner(row, m_rows.at(i), transfer)
             || (distance(i) > farthestDays && !IsSlowPartner(row, m_rows.at(i), transfer));
     });
     const auto rank = [&](qsizetype i) {
@@ -126,7 +125,7 @@ bool cTransferFinder::IsPartner(const cImportEntry& row, const cImportEntry& oth
 bool cTransferFinder::IsSlowPartner(const cImportEntry& row, const cImportEntry& other, const cTransfer& transfer)
 {
     const qint64 days = row.ImportDate.daysTo(other.ImportDate) * (row.ImportValue < 0 ? 1 : -1);
-    if (days <= farthestDays || days > slowestDays || other.ImportBeneficiaryAccount.isEmpty()) {
+    if (days <= farthestDays || days > SlowestDays || other.ImportBeneficiaryAccount.isEmpty()) {
         return false;
     }
     if (other.ImportAssigned) {
@@ -148,8 +147,8 @@ bool cTransferFinder::IsSlowPartner(const cImportEntry& row, const cImportEntry&
 bool cTransferFinder::IsCovered(const cImportEntry& row, const cTransfer& transfer)
 {
     const bool isOutgoing = row.ImportValue < 0;
-    const QDate first = isOutgoing ? row.ImportDate : row.ImportDate.addDays(-slowestDays);
-    const QDate last = isOutgoing ? row.ImportDate.addDays(slowestDays) : row.ImportDate;
+    const QDate first = isOutgoing ? row.ImportDate : row.ImportDate.addDays(-SlowestDays);
+    const QDate last = isOutgoing ? row.ImportDate.addDays(SlowestDays) : row.ImportDate;
     return std::any_of(m_days.constKeyValueBegin(), m_days.constKeyValueEnd(), [&](const auto& days) {
         return days.second.first <= first && days.second.second >= last && AccountOf(days.first) == transfer.Other;
     });

@@ -18,6 +18,8 @@ class cImportHiveCache;
 class cTransferFinder
 {
 public:
+    static constexpr int SlowestDays = 10; // between the two rows, over holidays or from abroad
+
     struct cTransfer
     {
         QString Own;              // account of the row

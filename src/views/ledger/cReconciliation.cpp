@@ -8,6 +8,7 @@
 #include "import/match/cMatcher.h"
 #include "import/match/cMatchIndex.h"
 #include "import/match/modMatchScore.h"
+#include "import/propose/cTransferFinder.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modBalance.h"
@@ -28,9 +29,6 @@
 namespace {
 
 using eKind = cReconcileItem::eKind;
-
-// Of a transfer between two own accounts one side may be booked some days after the other; its entry has one day.
-constexpr int transferDays = 7;
 
 // How far a row may lie from its entry, and from its occurrence, see modOccurrence.
 constexpr int entryDays = modMatchScore::FarthestDays;
@@ -116,10 +114,11 @@ public:
     }
 
 private:
+    // Of a transfer between two own accounts one side may be booked some days after the other; its entry has one day.
     [[nodiscard]] static bool IsSame(QDate bank, const cEntryItem& entry)
     {
         const qint64 late = entry.EntryDate.daysTo(bank);
-        return late == 0 || (entry.EntryType == modWord::Umbuchung && late > 0 && late <= transferDays);
+        return late == 0 || (entry.EntryType == modWord::Umbuchung && late > 0 && late <= cTransferFinder::SlowestDays);
     }
 
     void AddIf(bool isWanted, const cReconcileItem& item)

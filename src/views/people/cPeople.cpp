@@ -209,6 +209,14 @@ eAnswer cPeople::AskToSave() const
     return modUnsaved::Ask(m_tools.User);
 }
 
+bool cPeople::IsClear(const QString& typed, const QString& chosen) const
+{
+    return chosen.isEmpty()
+        || Refuse(cText::Tr("'{0}' kann eine weitere Person sein oder der neue Name von '{1}'. Bitte wählen Sie "
+                            "„Hinzufügen“ oder „Umbenennen“.",
+                            {typed.simplified(), chosen}));
+}
+
 bool cPeople::AreStored(const QStringList& wrong) const
 {
     return wrong.isEmpty()

@@ -39,7 +39,10 @@ public:
     QString TakeShares(const QString& account, const QStringList& percents);
     // Of two people the other one has the rest; the percentages with it.
     [[nodiscard]] static QStringList WithRest(QStringList percents, qsizetype typed);
-    [[nodiscard]] eAnswer AskToSave() const;                      // see modUnsaved
+    [[nodiscard]] eAnswer AskToSave() const; // see modUnsaved
+    // A name typed while somebody is chosen may be a new one or that person's: false, and the user is told to say
+    // which.
+    [[nodiscard]] bool IsClear(const QString& typed, const QString& chosen) const;
     [[nodiscard]] bool AreStored(const QStringList& wrong) const; // shows the rows that are not, with what is wrong
 
     // How many entries name the person as payer; a series counts once.

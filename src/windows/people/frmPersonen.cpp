@@ -138,9 +138,9 @@ void frmPersonen::reject()
     const QStringList wrong = m_shares->Wrong();
     const bool isTyped = m_add->isEnabled();
     const eAnswer answer = isTyped || !wrong.isEmpty() ? m_people.AskToSave() : eAnswer::No;
-    if (answer == eAnswer::Yes && m_people.AreStored(wrong)) {
-        // What was typed over a name renames it; a name that is refused stays in its field.
-        (m_rename->isEnabled() ? m_rename : m_add)->click();
+    const bool isMeant = answer == eAnswer::Yes && m_people.AreStored(wrong);
+    if (isMeant && isTyped && m_people.IsClear(m_name->text(), Chosen())) {
+        m_add->click(); // as Enter does; a name that is refused stays in its field
     }
     const bool isSaved = answer == eAnswer::Yes && m_shares->Wrong().isEmpty() && !m_add->isEnabled();
     if (answer == eAnswer::No || isSaved) {
