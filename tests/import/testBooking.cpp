@@ -343,26 +343,6 @@ private Q_SLOTS:
         QCOMPARE(booked, paid);
     }
 
-    // Booked to an entry made by hand it stands in the book already.
-    void ForeignPaymentBoundsASeries()
-    {
-        cBank bank;
-        const auto stage = [&](int months) {
-            return bank.Stage(day.addMonths(months), -650, u"Miete Tann"_s, u"DE05"_s);
-        };
-        QCOMPARE(bank.BookAll({stage(2)}).Rows, 1);
-        const int hand = bank.Add([](cEntryItem& entry) {
-                                 entry.EntryDate = day.addMonths(1);
-                                 entry.EntryValue = 65000;
-                             })
-                             .ID;
-        QVERIFY(bank.Booking.Assign(stage(1), hand));
-        QCOMPARE(bank.BookAll({stage(0)}).Rows, 1);
-        cEntryQuery query;
-        query.End = day.addMonths(2);
-        QCOMPARE(bank.Data.GetEntries(query).size(), 3);
-    }
-
     void KeywordsAloneMakeNoSeries_data()
     {
         // same: days after the row on which the payee is paid again; back: on which the amount goes the other way
