@@ -18,6 +18,21 @@ class testSeriesCheck final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // The statement ends with January; that one of its rows is valued later says nothing about the rent of February.
+    void LateValueDateCoversNoDay() const
+    {
+        cTestBook book;
+        book.Settings->Set(modSettingKey::BankNumber.Of(u"111"_s), u"Girokonto"_s);
+        const int rent = book.Spend(QDate(2026, 1, 1), 65000, u"Miete"_s, u"Monatlich"_s).ID;
+        book.Stage(u"111"_s, QDate(2026, 1, 2), -65000, {}, rent);
+        book.Stage(u"111"_s, QDate(2026, 2, 1), -1000, {}, -1);
+        cImportHiveCache hive(book.Data);
+        const cAccountMap accounts(book.Data, *book.Settings);
+        QCOMPARE(cSeriesCheck(book.Tools, hive, accounts).Find().size(), 1);
+        book.Settings->Set(modSettingKey::BankBalances.Of(u"111"_s), u"2026-01-31=5000=-1000=1"_s);
+        QVERIFY(cSeriesCheck(book.Tools, hive, accounts).Find().isEmpty());
+    }
+
     void FindsWhatTheBankDoesNotPay_data() const
     {
         // paid: days of rows that belong to the series; occurrences: that count afterwards, up to May 2026

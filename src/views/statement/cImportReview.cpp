@@ -65,6 +65,7 @@ cImportReview::cImportReview(const cBookTools& tools, QObject* parent)
     setParent(parent);
     connect(&Files(), &cStatementFiles::Imported, this, &cImportReview::Report);
     connect(&Files(), &cStatementFiles::AccountsAsked, this, &cImportReview::ReportAccounts);
+    connect(&Files(), &cStatementFiles::StartTaken, this, &cImportReview::EntriesChanged);
     connect(&Files(), &cStatementFiles::FileStaged, this,
             [this](const QList<int>& ids, eStatementFormat format) { m_works->Runs.NoteFile(ids, format); });
     connect(&Files(), &cStatementFiles::RowsStaged, this, &cImportReview::NoteStaged);

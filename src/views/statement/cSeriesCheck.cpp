@@ -84,6 +84,7 @@ QHash<QString, cSeriesCheck::cAccountRows> cSeriesCheck::RowsByAccount()
 {
     m_names.clear();
     QHash<QString, cAccountRows> accounts;
+    QHash<QString, QDate> ends; // of the rows of each number
     const cImportEntryList rows = m_hive.GetImportHive().getImportEntryList();
     for (const cImportEntry& row : rows) {
         const QString name = AccountOf(row.ImportAccount);
@@ -93,18 +94,29 @@ QHash<QString, cSeriesCheck::cAccountRows> cSeriesCheck::RowsByAccount()
         cAccountRows& account = accounts[name];
         modPeriod::cRange& covered = account.Covered;
         covered.Start = covered.Start.isValid() ? std::min(covered.Start, row.ImportDate) : row.ImportDate;
-        covered.End = covered.End.isValid() ? std::max(covered.End, row.ImportDate) : row.ImportDate;
+        QDate& end = ends[row.ImportAccount];
+        end = end.isValid() ? std::max(end, row.ImportDate) : row.ImportDate;
         if (!row.ImportAssigned) {
             account.Open.append(row);
         }
     }
     const cBankBalances balances(m_tools.Settings);
     for (auto name = m_names.cbegin(); name != m_names.cend(); ++name) {
-        const cBankBalanceList known = balances.Of(name.key());
-        if (!known.isEmpty() && accounts.contains(*name)) {
-            modPeriod::cRange& covered = accounts[*name].Covered;
-            covered.End = std::max(covered.End, known.last().Day);
+        const auto account = accounts.find(*name);
+        if (account == accounts.end()) {
+            continue;
         }
+        QDate end = ends.value(name.key());
+        if (const cBankBalanceList known = balances.Of(name.key()); !known.isEmpty()) {
+            const cBankBalance& newest = known.last();
+            const auto behind = std::count_if(rows.begin(), rows.end(), [&](const cImportEntry& row) {
+                return row.ImportAccount == name.key() && row.ImportDate > newest.Day;
+            });
+            // Rows with a later value date only do not say that the statements reach up to that day.
+            end = behind <= newest.Late.Count ? newest.Day : std::max(end, newest.Day);
+        }
+        QDate& covered = account->Covered.End;
+        covered = covered.isValid() ? std::max(covered, end) : end;
     }
     return accounts;
 }

@@ -93,6 +93,7 @@ Q_SIGNALS:
     void Imported(const QStringList& lines);
     // The accounts of numbers may be known now; the lines name those that are not.
     void AccountsAsked(const QStringList& lines);
+    void StartTaken(); // a start balance is in the book, or another one
     // By one file of the import that is under way.
     void FileStaged(const QList<int>& ids, eStatementFormat format);
     void RowsStaged(const QList<int>& ids); // by the import that has just ended, after its questions

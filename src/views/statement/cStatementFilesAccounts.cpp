@@ -45,15 +45,17 @@ void cStatementFiles::OfferStart(const QStringList& numbers)
         return;
     }
     const cOpeningBalance opening(m_tools);
+    bool isTaken = false;
     for (const QString& number : numbers) {
         const std::optional<cOpeningBalance::cOffer> offer = opening.For(number);
         const bool isWanted = offer
             && (m_start == eStart::Take
                 || m_tools.User.Ask({.Text = opening.Question(*offer), .Title = cText::Tr("Startguthaben")})
                     == eAnswer::Yes);
-        if (isWanted) {
-            (void)opening.Take(*offer); // of a refusal the user has been told
-        }
+        isTaken = (isWanted && opening.Take(*offer)) || isTaken; // of a refusal the user has been told
+    }
+    if (isTaken) {
+        Q_EMIT StartTaken();
     }
 }
 

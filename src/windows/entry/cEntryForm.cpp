@@ -237,6 +237,7 @@ void cEntryForm::Show(const cEntryFields& fields)
     txtBetrag->setText(fields.Amount);
     cboKategorie->SetPath(fields.Category, fields.CategoryText);
     txtBeschreibung->setText(fields.Description);
+    txtBeschreibung->setCursorPosition(0); // a long one is seen from its beginning
     ShowDay(*EntryDate, fields.Date, fields.DateText);
     EntryDate->setPlaceholderText(fields.IsDayKept ? cText::Tr("nicht lesbar") : QString());
     modChoice::Choose(*cboKonto, fields.Account);
