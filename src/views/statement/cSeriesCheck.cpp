@@ -64,6 +64,20 @@ QDate DayToMoveTo(const QString& interval, QDate planned, QDate lastCovered, QDa
                                                                          : std::max(lastCovered, today).addDays(1);
 }
 
+// The last day that the statements of a number reach, whose rows end with `end`. Rows with a later value date only do
+// not say that the statements reach up to that day.
+QDate EndCovered(const cImportEntryList& rows, const QString& number, QDate end, const cBankBalanceList& balances)
+{
+    if (balances.isEmpty()) {
+        return end;
+    }
+    const cBankBalance& newest = balances.last();
+    const auto behind = std::count_if(rows.begin(), rows.end(), [&](const cImportEntry& row) {
+        return row.ImportAccount == number && row.ImportDate > newest.Day;
+    });
+    return behind <= newest.Late.Count ? newest.Day : std::max(end, newest.Day);
+}
+
 } // namespace
 
 cSeriesCheck::cSeriesCheck(const cBookTools& tools, cImportHiveCache& hive, const cAccountMap& accounts)
@@ -106,15 +120,7 @@ QHash<QString, cSeriesCheck::cAccountRows> cSeriesCheck::RowsByAccount()
         if (account == accounts.end()) {
             continue;
         }
-        QDate end = ends.value(name.key());
-        if (const cBankBalanceList known = balances.Of(name.key()); !known.isEmpty()) {
-            const cBankBalance& newest = known.last();
-            const auto behind = std::count_if(rows.begin(), rows.end(), [&](const cImportEntry& row) {
-                return row.ImportAccount == name.key() && row.ImportDate > newest.Day;
-            });
-            // Rows with a later value date only do not say that the statements reach up to that day.
-            end = behind <= newest.Late.Count ? newest.Day : std::max(end, newest.Day);
-        }
+        const QDate end = EndCovered(rows, name.key(), ends.value(name.key()), balances.Of(name.key()));
         QDate& covered = account->Covered.End;
         covered = covered.isValid() ? std::max(covered, end) : end;
     }
