@@ -53,6 +53,7 @@ private Q_SLOTS:
     {
         const cTestRows<QString, QStringList> row("text", "read");
         Sides(row);
+        SidesWithoutNames(row);
         Cards(row);
         Accounts(row);
         Texts(row);
@@ -108,6 +109,10 @@ private:
         row("the account's own currency",
             u"Valuta;Text;Betrag in EUR;Betrag in USD\n01.02.2026;a;-10,00;-11,00\n02.02.2026;b;-20,00;-22,00"_s,
             {u"1 -10.00 a"_s, u"1 -20.00 b"_s});
+    }
+
+    static void SidesWithoutNames(auto row)
+    {
         row("a word in the column of kinds",
             u"Datum;Name;Betrag;Art\n01.02.2026;Bäcker;3,50;Ausgabe\n02.02.2026;Chef;900,00;Einnahme"_s,
             {u"1 -3.50 Bäcker"_s, u"1 900.00 Chef"_s});

@@ -23,12 +23,12 @@
 #include <numeric>
 #include <random>
 
-namespace reportAgreement {
+namespace modReportAgreement {
 
 using namespace Qt::Literals::StringLiterals;
 
 // One booking as plainly as it can be said: what the test knows of the book without asking the program.
-struct cBooking
+struct cPlainBooking
 {
     QDate Day;
     QString Type;
@@ -66,7 +66,7 @@ inline QString PathOf(const cReportGroup& group, const cReportCategory& category
     return category.Name.isEmpty() ? group.Name : QString(group.Name + u"; "_s + category.Name);
 }
 
-} // namespace reportAgreement
+} // namespace modReportAgreement
 
 // Whatever shows the money of a period shows the same money: a hundred random books, compared to the cent with sums
 // that the test adds up by itself from what it has put in.
@@ -86,15 +86,15 @@ private:
     [[nodiscard]] QDate RandomDay() { return QDate(2025, 1, 1).addDays(Random(730)); }
     [[nodiscard]] cEntryItem RandomEntry();
     void ChooseWish();
-    [[nodiscard]] bool IsInside(const reportAgreement::cBooking& booking) const;
+    [[nodiscard]] bool IsInside(const modReportAgreement::cPlainBooking& booking) const;
     [[nodiscard]] cEntryQuery Query() const;
-    [[nodiscard]] std::map<QString, reportAgreement::cPlain> PlainSums(bool withStart) const;
+    [[nodiscard]] std::map<QString, modReportAgreement::cPlain> PlainSums(bool withStart) const;
     void AddBudget(const QString& path);
     [[nodiscard]] qint64 Own(const QString& path, QDate month) const;
     [[nodiscard]] qint64 Carried(const QString& path) const;
     [[nodiscard]] qint64 Limit(const QString& path) const;
     void CompareSums(eReport type);
-    void CompareSection(const cReportSection& section, const std::map<QString, reportAgreement::cPlain>& plain);
+    void CompareSection(const cReportSection& section, const std::map<QString, modReportAgreement::cPlain>& plain);
     void CompareLimits();
     void CompareNodes(const cReportFigures& figures);
     void CompareBudget();
@@ -110,7 +110,7 @@ private:
     std::mt19937 m_random;
     cTestBook m_book;
     cTestFormat m_format;
-    std::vector<reportAgreement::cBooking> m_bookings;
+    std::vector<modReportAgreement::cPlainBooking> m_bookings;
     std::map<QString, qint64> m_limits; // a month, by path
     std::map<QString, cBudget> m_budgets;
     cReportWish m_wish;

@@ -1,7 +1,7 @@
 #include "reportAgreement.h"
 
 using namespace Qt::Literals::StringLiterals;
-using namespace reportAgreement;
+using namespace modReportAgreement;
 
 // What the charts show of the random books.
 
@@ -76,7 +76,7 @@ void testReportAgreement::CompareCalendar()
     const cChartData chart = Chart(eChartKind::Calendar);
     for (int day = 0; day < chart.Days.size(); ++day) {
         qint64 plain = 0;
-        for (const cBooking& booking : m_bookings) {
+        for (const cPlainBooking& booking : m_bookings) {
             const bool isMeant = m_wish.Account.isEmpty() || booking.Account == m_wish.Account;
             const bool counts = booking.Type == modWord::Ausgabe && booking.Category != modWord::Startguthaben;
             plain += counts && isMeant && booking.Day == chart.Days.at(day) && IsInside(booking) ? booking.Cents : 0;
@@ -122,7 +122,7 @@ void testReportAgreement::CompareCourse()
     for (int label = 0; label < chart.Labels.size(); ++label) {
         const QDate last = modDate::FromGerman(chart.Labels.at(label));
         qint64 plain = 0;
-        for (const cBooking& booking : m_bookings) {
+        for (const cPlainBooking& booking : m_bookings) {
             const auto counts = [&](const QString& account) {
                 const bool isMeant = m_wish.Account.isEmpty() || account == m_wish.Account;
                 return booking.Day <= last && !account.isEmpty() && isMeant;
@@ -156,7 +156,7 @@ void testReportAgreement::CompareBalances()
         for (const cAccountSum& sum : sums) {
             balance += modBalance::Effect(sum.EntryType, sum.EntryAccount, sum.EntryAccountMove, sum.Cents, account);
         }
-        for (const cBooking& booking : m_bookings) {
+        for (const cPlainBooking& booking : m_bookings) {
             if (!IsInside(booking)) {
                 continue;
             }

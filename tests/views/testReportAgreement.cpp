@@ -2,7 +2,7 @@
 #include "support/cTestClass.h"
 
 using namespace Qt::Literals::StringLiterals;
-using namespace reportAgreement;
+using namespace modReportAgreement;
 
 void testReportAgreement::Books_data()
 {
@@ -141,7 +141,7 @@ void testReportAgreement::ChooseWish()
     m_wish.Range = {start, start.addDays(Random(400))};
 }
 
-bool testReportAgreement::IsInside(const cBooking& booking) const
+bool testReportAgreement::IsInside(const cPlainBooking& booking) const
 {
     const QDate end = m_wish.ShowsFuture ? m_wish.Range.End : qMin(m_wish.Range.End, m_wish.Today);
     return booking.Day >= m_wish.Range.Start && booking.Day <= end;
@@ -159,7 +159,7 @@ cEntryQuery testReportAgreement::Query() const
 std::map<QString, cPlain> testReportAgreement::PlainSums(bool withStart) const
 {
     std::map<QString, cPlain> sums;
-    for (const cBooking& booking : m_bookings) {
+    for (const cPlainBooking& booking : m_bookings) {
         const bool isOther = !m_wish.Account.isEmpty() && booking.Account != m_wish.Account;
         const bool isHidden = !withStart && booking.Category == modWord::Startguthaben;
         if (!IsInside(booking) || isOther || isHidden || booking.Type == modWord::Umbuchung) {
@@ -234,7 +234,7 @@ qint64 testReportAgreement::Carried(const QString& path) const
     for (QDate month = from; from.isValid() && month < first; month = month.addMonths(1)) {
         left += Own(path, month);
     }
-    for (const cBooking& booking : m_bookings) {
+    for (const cPlainBooking& booking : m_bookings) {
         if (from.isValid() && booking.Day >= from && booking.Day < first && KeyOf(booking.Category) == path
             && booking.Type != modWord::Umbuchung) {
             left += booking.Effect();
@@ -362,7 +362,7 @@ void testReportAgreement::CompareList()
     qint64 in = 0;
     qint64 out = 0;
     qint64 start = 0; // what start balances that were entered as transfers change
-    for (const cBooking& booking : m_bookings) {
+    for (const cPlainBooking& booking : m_bookings) {
         const bool isStart = booking.Category == modWord::Startguthaben;
         if (!IsInside(booking) || booking.Type != modWord::Umbuchung || m_wish.Account.isEmpty()
             || (isStart && !m_wish.ShowsStart)) {

@@ -83,8 +83,8 @@ cColour Times(const cMatrix& matrix, const cColour& colour)
 // CIELAB, where distances are as large as they look.
 cColour Seen(const QColor& colour, const cMatrix& eye)
 {
-    const cColour linear{Linear(double{colour.redF()}), Linear(double{colour.greenF()}),
-                         Linear(double{colour.blueF()})};
+    const cColour linear{Linear(static_cast<double>(colour.redF())), Linear(static_cast<double>(colour.greenF())),
+                         Linear(static_cast<double>(colour.blueF()))};
     const cMatrix toXyz{{{0.4124 / 0.9505, 0.3576 / 0.9505, 0.1805 / 0.9505},
                          {0.2126, 0.7152, 0.0722},
                          {0.0193 / 1.089, 0.1192 / 1.089, 0.9505 / 1.089}}};
