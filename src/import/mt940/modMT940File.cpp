@@ -49,8 +49,18 @@ cLast LastOf(const QString& text)
     return last;
 }
 
+// Most texts show behind their last transaction that they are whole.
+bool IsClosedAtEnd(const QString& text)
+{
+    const QStringView rest = QStringView(text).sliced(qMax<qsizetype>(text.lastIndexOf(u"\n:61:"), 0));
+    return (rest.contains(u"\n:62F:") || rest.contains(u"\n:62M:")) && !rest.contains(u"\n:2");
+}
+
 eTextEnd EndOf(const QString& text)
 {
+    if (IsClosedAtEnd(text)) {
+        return eTextEnd::Whole;
+    }
     const qsizetype start = qMax(text.lastIndexOf(u"\n:20:"), 0);
     const bool isBehindOthers = QStringView(text).first(start).contains(u"\n:62");
     const cLast last = LastOf(modMT940Repair::Repair(text.sliced(start)).Text);
