@@ -150,7 +150,7 @@ void Plan(benchmark::State& state)
     cStaged& staged = Staged();
     for (auto _ : state) {
         cNoProgress progress;
-        cImportPlan plan({staged.Data, staged.Hive, staged.Accounts, [](int) { return 1; }});
+        cImportPlan plan({staged.Data, staged.Hive, staged.Accounts, [](int) { return modStagedTwins::cFile{1}; }});
         const QHash<int, cRowPlan> plans = plan.Make(plan.From(0, state.range(0)), progress);
         state.counters["match"] = static_cast<double>(
             std::count_if(plans.begin(), plans.end(), [](const cRowPlan& each) { return each.Match.has_value(); }));

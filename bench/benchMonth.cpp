@@ -206,7 +206,7 @@ void PlanMonth(benchmark::State& state)
         (void)cStatementImport(household.Data, hive).ImportFile(household.Path(), {}, progress);
     }
     for (auto _ : state) {
-        cImportPlan plan({household.Data, hive, household.Accounts, [](int) { return 1; }});
+        cImportPlan plan({household.Data, hive, household.Accounts, [](int) { return modStagedTwins::cFile{1}; }});
         const QHash<int, cRowPlan> plans = plan.Make(plan.From(0, New), progress);
         state.counters["rows"] = static_cast<double>(plans.size());
         state.counters["match"] = static_cast<double>(
