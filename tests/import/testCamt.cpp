@@ -302,9 +302,13 @@ private Q_SLOTS:
     void ForeignMarksAreRefused()
     {
         QVERIFY(!ReadBytes(With("<x piece=\"7\"/>")).Refusal.isEmpty());
-        const modXmlPieces::cPieces pieces = modXmlPieces::Cut("<a><b c='>'>1<b/><b>2</b></b><!--<b>--></a>", "b");
-        QCOMPARE(pieces.Skeleton, QByteArray("<a><x piece=\"0\"/><!--<b>--></a>"));
-        QCOMPARE(pieces.Pieces.size(), std::size_t{1});
+        QVERIFY(
+            !ReadBytes(With(Entry("5.00", "DBIT", {}) + "<x piece=\"0\" count=\"4294967295\"/>")).Refusal.isEmpty());
+        const modXmlPieces::cPieces pieces =
+            modXmlPieces::Cut("<a><b c='>'>1<b/><b>2</b></b> <b>3</b><!--<b>--><b>4</b>\n</a>", "b");
+        QCOMPARE(pieces.Skeleton,
+                 QByteArray("<a><x piece=\"0\" count=\"2\"/><!--<b>--><x piece=\"2\" count=\"1\"/>\n</a>"));
+        QCOMPARE(pieces.Pieces.size(), std::size_t{3});
     }
 };
 

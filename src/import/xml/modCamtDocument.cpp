@@ -123,8 +123,9 @@ private:
             }
         }
         const qsizetype firstEntry = m_read.Entries.size();
-        for (const pugi::xml_node& piece : statement.children("x")) {
-            TakeEntry(m_pieces.Take(piece.attribute("piece").as_uint()));
+        for (const pugi::xml_node& row : statement.children("x")) {
+            m_pieces.TakeAll(row.attribute("piece").as_uint(), row.attribute("count").as_uint(1),
+                             [this](QByteArrayView piece) { TakeEntry(piece); });
         }
         DateOpening(firstBalance, firstEntry);
     }

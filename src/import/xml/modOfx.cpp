@@ -147,10 +147,12 @@ private:
     void TakeTransactions(const pugi::xml_node& node)
     {
         if (qstrcmp(node.name(), "x") == 0) {
-            std::optional<cSkippedRow> row = TransactionOf(m_pieces.Take(node.attribute("piece").as_uint()));
-            if (row) {
-                Take(std::move(*row));
-            }
+            m_pieces.TakeAll(node.attribute("piece").as_uint(), node.attribute("count").as_uint(1),
+                             [this](QByteArrayView piece) {
+                                 if (std::optional<cSkippedRow> row = TransactionOf(piece)) {
+                                     Take(std::move(*row));
+                                 }
+                             });
             return;
         }
         for (const pugi::xml_node& piece : node.children("x")) {

@@ -68,6 +68,7 @@ public:
         } else {
             WalkNames();
         }
+        EndRow();
         Copy(m_xml.size());
         return std::move(m_result);
     }
@@ -164,12 +165,23 @@ private:
 
     void AddPiece(qsizetype end)
     {
-        Copy(m_start);
-        m_result.Skeleton.append("<x piece=\"");
-        m_result.Skeleton.append(QByteArray::number(qsizetype(m_result.Pieces.size())));
-        m_result.Skeleton.append("\"/>");
+        if (!std::all_of(m_xml.begin() + m_copied, m_xml.begin() + m_start, IsBlank)) {
+            EndRow();
+            Copy(m_start);
+        }
         m_result.Pieces.push_back(m_xml.sliced(m_start, end - m_start));
         m_copied = end;
+    }
+
+    // One element for the whole row: the tree of a large skeleton would be a tenth of what reading takes.
+    void EndRow()
+    {
+        const qsizetype count = qsizetype(m_result.Pieces.size()) - m_row;
+        if (count > 0) {
+            m_result.Skeleton.append("<x piece=\"" + QByteArray::number(m_row) + "\" count=\""
+                                     + QByteArray::number(count) + "\"/>");
+        }
+        m_row += count;
     }
 
     void Copy(qsizetype end)
@@ -183,6 +195,7 @@ private:
     modXmlPieces::cPieces m_result;
     qsizetype m_copied = 0; // what lies before is in the skeleton or in a piece
     qsizetype m_start = 0;  // of the open piece
+    qsizetype m_row = 0;    // the first piece that has no element in the skeleton yet
     int m_depth = 0;        // of elements of the name
 };
 

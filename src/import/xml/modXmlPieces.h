@@ -11,13 +11,27 @@ namespace modXmlPieces {
 
 struct cPieces
 {
-    QByteArray Skeleton;                // the document with an empty element, <x piece="n"/>, for each piece
+    QByteArray Skeleton;                // the document with an empty element, <x piece="n" count="m"/>, for each
+                                        // row of pieces with nothing but blanks between them
     std::vector<QByteArrayView> Pieces; // the elements with their tags, views into the document
 
     // The piece of this number, once: a file may hold elements that look like ours. Empty when there is none.
     [[nodiscard]] QByteArrayView Take(unsigned int number)
     {
         return number < Pieces.size() ? std::exchange(Pieces[number], QByteArrayView()) : QByteArrayView();
+    }
+
+    // Hands over the pieces that an element of the skeleton stands for. An empty one, and nothing behind it, tells of
+    // an element that is not ours.
+    template <typename tTake>
+    void TakeAll(unsigned int first, unsigned int count, tTake take)
+    {
+        bool isOurs = true;
+        for (unsigned int i = 0; i < count && isOurs; ++i) {
+            const QByteArrayView piece = Take(first + i);
+            isOurs = !piece.isEmpty();
+            take(piece);
+        }
     }
 };
 
