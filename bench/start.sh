@@ -7,7 +7,7 @@ bin=build/release/bin
 rounds=${1:-7}
 if [ -z "${DISPLAY:-}" ]; then
   command -v xvfb-run >/dev/null || { echo 'start: no display and no xvfb-run'; exit 1; }
-  exec xvfb-run -a -s '-screen 0 1400x900x24' "$0" "$@"
+  exec xvfb-run -a -s '-noreset -screen 0 1400x900x24' "$0" "$@"
 fi
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT

@@ -24,7 +24,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int loadDelay = 15;    // milliseconds; the window has been painted by then
 constexpr int seriesDelay = 400; // milliseconds after the cards stand there
 constexpr qsizetype mostDue = 12;
 constexpr qsizetype mostLimits = 6;
@@ -49,7 +48,7 @@ cOverviewModel::cOverviewModel(const cBookTools& tools, const cParts& parts, QOb
       m_parts(parts)
 {
     tmrLoad.setSingleShot(true);
-    tmrLoad.setInterval(loadDelay);
+    tmrLoad.setInterval(0); // what changes several times in one go is read once, and painted once
     tmrSeries.setSingleShot(true);
     tmrSeries.setInterval(seriesDelay);
     connect(&tmrLoad, &QTimer::timeout, this, &cOverviewModel::Read);

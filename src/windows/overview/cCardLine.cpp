@@ -3,6 +3,7 @@
 #include "windows/look/modLook.h"
 #include "windows/look/modTone.h"
 
+#include <QCursor>
 #include <QEvent>
 #include <QPainter>
 #include <QStyleOptionFocusRect>
@@ -148,7 +149,9 @@ void cCardLine::paintEvent(QPaintEvent* /*event*/)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
-    if (m_line.Follow && (underMouse() || isDown())) {
+    // A line that was laid out under the pointer and moved on is told nothing of it.
+    const bool isTouched = underMouse() && rect().contains(mapFromGlobal(QCursor::pos()));
+    if (m_line.Follow && (isTouched || isDown())) {
         QColor shade = palette().color(QPalette::Highlight);
         shade.setAlphaF(isDown() ? 0.25F : 0.12F);
         painter.setPen(Qt::NoPen);
