@@ -6,6 +6,7 @@
 #include "base/modMD5.h"
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
+#include "store/modFailure.h"
 #include "store/modSchema.h"
 
 #include <QDir>
@@ -61,7 +62,7 @@ QString cBackup::MakeChecked(cDatabase& source, const QString& copy)
 {
     if (const std::optional<cDatabaseError> error = modBookFile::Copy(source, copy)) {
         qCInfo(modLog::Backup) << "not copied, fault" << static_cast<int>(error->Fault());
-        return error->Fault() == eDatabaseFault::NoAccess ? CannotWrite(copy) : error->Text();
+        return error->Fault() == eDatabaseFault::NoAccess ? CannotWrite(copy) : modFailure::Reason(*error);
     }
     const modBookFile::cContent content = modBookFile::Look(copy);
     if (content.Fault != eDatabaseFault::None) {
@@ -82,6 +83,9 @@ cBackup::cRestored cBackup::Restore(const QString& path, const QString& backup, 
 
 cBackup::cRestored cBackup::TryRestore(const QString& path, const QString& backup, QDate today)
 {
+    if (!QFileInfo::exists(backup)) {
+        return {{}, cText::Tr("Die Datensicherung '{0}' wurde nicht gefunden. Bitte prüfen Sie den Pfad.", {backup})};
+    }
     cDatabase source;
     if (modSchema::OpenValid(source, backup, eOpenMode::ReadOnly) != eDatabaseFault::None) {
         return {{}, cText::Tr("Die Datensicherung '{0}' ist beschädigt oder keine gültige Datenbank.", {backup})};

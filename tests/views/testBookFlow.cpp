@@ -1,6 +1,8 @@
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
+#include "model/modReceiptName.h"
 #include "model/modSettingKey.h"
+#include "store/cDataAccess.h"
 #include "store/modBookFile.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
@@ -259,6 +261,24 @@ private Q_SLOTS:
         machine.Flow.MakeBackup();
         QCOMPARE(machine.User.LastProposal, target); // the folder used last
         QVERIFY(machine.User.Shown.constLast().startsWith(u"Die Datensicherung konnte nicht erstellt werden:"_s));
+        cEntryItem entry = machine.Book.Data().LoadEntry(1).value();
+        modReceiptName::Set(entry, {u"rechnung.pdf"_s});
+        QVERIFY(machine.Book.Data().ChangeEntry(entry));
+        machine.User.SavePath = target;
+        machine.Flow.MakeBackup();
+        QVERIFY(machine.User.Shown.constLast().contains(u"Belege sind nicht dabei (Zahl der Dateien: 1)"_s));
+    }
+
+    // What was left of it would be opened as the whole household the next time.
+    void HalfWrittenDemoIsRemoved() const
+    {
+        cMachine machine;
+        cTestFile::Run(machine.Shell.InstalledFile(u"template.dat"_s),
+                       "CREATE TRIGGER full BEFORE INSERT ON import BEGIN SELECT RAISE(ABORT, 'full'); END;");
+        machine.Flow.OpenDemo(u"1.0"_s);
+        QVERIFY(machine.Host.Switched.isEmpty());
+        QCOMPARE(QDir(machine.Shell.DataFolder()).entryList({u"Beispiel*"_s}, QDir::Files | QDir::Hidden),
+                 QStringList());
     }
 
     void LoadBackup_data() const

@@ -10,6 +10,7 @@
 #include "core/cBackupPlan.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
+#include "core/cSettings.h"
 #include "core/modReceiptFolder.h"
 #include "core/modReceiptUse.h"
 #include "model/modSettingKey.h"
@@ -21,6 +22,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 
 #include <algorithm>
 
@@ -210,8 +212,23 @@ void cBookFlow::MakeBackup()
     }
     m_parts.User.Show(eTone::Information,
                       cText::Tr("Die Datensicherung '{0}' wurde erstellt und geprüft. Sie enthält:\n{1}.",
-                                {Shown(target), modBookFile::Describe(modBookFile::Look(target))}));
+                                {Shown(target), modBookFile::Describe(modBookFile::Look(target))})
+                          + LeftOutReceipts());
     TellReceipts(modReceiptFolder::SaveIfWished(m_parts.Configuration, m_parts.Book.Path(), target));
+}
+
+// What a backup does not hold, with the way to change that; empty when it holds all.
+QString cBookFlow::LeftOutReceipts() const
+{
+    const QStringList names = modReceiptUse::Names(m_parts.Book.Data());
+    if (names.isEmpty() || cSettings::ToBool(m_parts.Configuration.GetSetting(modSettingKey::ReceiptsInBackup))) {
+        return {};
+    }
+    return u"\n\n"_s
+        + cText::Tr(
+               "Die Belege sind nicht dabei (Zahl der Dateien: {0}). Unter \"Automatische Datensicherung…\" im Menü "
+               "Extras lässt sich einschalten, dass sie mitgesichert werden.",
+               {QString::number(QSet<QString>(names.begin(), names.end()).size())});
 }
 
 void cBookFlow::TellReceipts(const QString& problem) const

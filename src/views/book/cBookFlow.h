@@ -57,6 +57,7 @@ private:
     [[nodiscard]] QString AskForBook() const;
     [[nodiscard]] bool IsWanted(const QString& backup) const;
     void Replace(const QString& backup) const;
+    [[nodiscard]] QString LeftOutReceipts() const;
     void TellReceipts(const QString& problem) const; // nothing for an empty one
     void Open(const QString& path) const;
     void Remember(const QString& former, const QString& current) const;

@@ -20,8 +20,13 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// An empty book at this path; what keeps it from being written.
-QString CopyTemplate(const QString& path, cShell& shell)
+QString NotWritten(const QString& path)
+{
+    return cText::Tr("Die Datei '{0}' kann nicht geschrieben werden.", {path});
+}
+
+// An empty book under its working name; what keeps the book from being written at this path.
+QString CopyTemplate(const QString& path, const QString& working, cShell& shell)
 {
     if (shell.FileExists(path)) {
         return cText::Tr("Die Datei '{0}' gibt es schon. Bitte nennen Sie eine neue.", {path});
@@ -31,8 +36,19 @@ QString CopyTemplate(const QString& path, cShell& shell)
         return cText::Tr("Die Installation ist beschädigt. Eine Neuinstallation könnte das Problem beheben.\nDie "
                          "Datei 'template.dat' konnte nicht gefunden werden!");
     }
-    return shell.CopyFile(source, path) ? QString()
-                                        : cText::Tr("Die Datei '{0}' kann nicht geschrieben werden.", {path});
+    return shell.CopyFile(source, working) ? QString() : NotWritten(path);
+}
+
+// The number of its entries; negative where they could not all be written.
+int FillDemo(const QString& path, const modDemo::cDemoPlan& plan, cUser& user, const QString& version)
+{
+    cBook book(user);
+    if (!book.Open(path) || !modDemo::Write(book.Data(), plan)) {
+        return -1;
+    }
+    // Nothing in it is older than this version, so nobody needs a copy of it before an upgrade.
+    book.Settings().Set(modSettingKey::LastCommandLineVersion, version);
+    return book.Data().CountEntries();
 }
 
 } // namespace
@@ -78,15 +94,19 @@ modBookCopy::cRestored modBookCopy::Restore(const QString& path, const QString& 
 int modBookCopy::WriteDemo(const QString& path, int entries, QDate today, cShell& shell, cUser& user,
                            const QString& version)
 {
-    if (const QString problem = CopyTemplate(path, shell); !problem.isEmpty()) {
+    // A part of it, left where the disk was full, would be taken for the household the next time.
+    const QString working = modBookFile::WorkingName(path);
+    QString problem = CopyTemplate(path, working, shell);
+    const int written = problem.isEmpty() ? FillDemo(working, modDemo::OfSize(entries, today), user, version) : -1;
+    if (written >= 0 && !modBookFile::MoveOver(working, path)) {
+        problem = NotWritten(path);
+    }
+    if (!problem.isEmpty()) {
         user.Show(eTone::Critical, problem);
-        return -1;
     }
-    cBook book(user);
-    if (!book.Open(path) || !modDemo::Write(book.Data(), modDemo::OfSize(entries, today))) {
-        return -1;
+    if (written >= 0 && problem.isEmpty()) {
+        return written;
     }
-    // Nothing in it is older than this version, so nobody needs a copy of it before an upgrade.
-    book.Settings().Set(modSettingKey::LastCommandLineVersion, version);
-    return book.Data().CountEntries();
+    modBookFile::Remove(working);
+    return -1;
 }
