@@ -49,15 +49,16 @@ void frmSicherungen::BuildFields(QFormLayout& form)
 {
     constexpr int columns = 60;
     form.addRow(modWrapped::Make(cText::Tr("Kontorelle sichert die Datenbank beim ersten Start an einem Tag, vor jedem "
-                                           "Import und beim Beenden, wenn sich etwas geändert hat. Neben den "
-                                           "letzten Tagen bleibt die letzte Sicherung jedes Monats erhalten."),
+                                           "Import, alle vier Stunden und beim Beenden, wenn sich etwas geändert hat. "
+                                           "Neben den letzten Tagen bleibt die letzte Sicherung jedes Monats "
+                                           "erhalten."),
                                  columns, this));
 
     const cBackupSettings::cFields fields = m_settings.Current();
     m_count->setRange(0, cBackupSettings::MostCount);
     m_count->setSpecialValueText(cText::Tr("keine"));
     m_count->setValue(fields.Count);
-    form.addRow(cText::Tr("&Letzte Sicherungen:"), m_count);
+    form.addRow(cText::Tr("&Letzte Tage:"), m_count);
 
     m_folder->setText(fields.Folder);
     auto* choose = new QPushButton(cText::Tr("&Wählen…"), this);
