@@ -32,6 +32,11 @@ QString cConfiguration::GetSetting(const cSettingKey& key) const
     return value;
 }
 
+bool cConfiguration::IsRead() const
+{
+    return m_settings == nullptr || m_settings->IsRead();
+}
+
 bool cConfiguration::SaveSetting(const cSettingKey& key, const QString& value, eSettingPlace place)
 {
     if (place == eSettingPlace::Registry) {

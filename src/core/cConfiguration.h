@@ -23,6 +23,9 @@ public:
     // The value from the first place that has one; empty when none has.
     [[nodiscard]] QString GetSetting(const cSettingKey& key) const;
 
+    // False when the open database has not told its own: a value of the registry may stand for one of them.
+    [[nodiscard]] bool IsRead() const;
+
     // Writes to the one place named. Without an open database a value for it is not stored, and false is returned.
     bool SaveSetting(const cSettingKey& key, const QString& value, eSettingPlace place);
 

@@ -47,6 +47,12 @@ QString cSettings::Get(const cSettingKey& key) const
     return m_values.value(key.Name().toLower()).Value;
 }
 
+bool cSettings::IsRead() const
+{
+    CatchUp();
+    return !m_failedAt;
+}
+
 bool cSettings::Set(const cSettingKey& key, const QString& value)
 {
     CatchUp();

@@ -21,6 +21,8 @@ public:
     void Reload();
 
     [[nodiscard]] QString Get(const cSettingKey& key) const; // empty when nothing is stored
+    // False when the table could not be read: what looks like nothing stored may be anything.
+    [[nodiscard]] bool IsRead() const;
     // False, and unchanged in memory, when the database refuses.
     bool Set(const cSettingKey& key, const QString& value);
     bool Delete(const cSettingKey& key);

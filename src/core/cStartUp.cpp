@@ -138,6 +138,9 @@ void cStartUp::Connect(cBook& book)
 {
     m_configuration.SetDatabase(&book.Settings());
     cSettings& settings = book.Settings();
+    if (!settings.IsRead()) {
+        return; // what is missing now may be there
+    }
     if (settings.Get(modSettingKey::FirstInstall).isEmpty()) {
         settings.Set(modSettingKey::FirstInstall, modDate::ToIso(m_ports.Clock.Today()));
     }

@@ -65,6 +65,9 @@ bool modPassword::Remove(cConfiguration& configuration)
 
 bool modPassword::Admit(const cConfiguration& configuration, cRescue& rescue)
 {
+    if (!configuration.IsRead()) {
+        return false;
+    }
     if (!IsActive(configuration)) {
         return true;
     }

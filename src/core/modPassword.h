@@ -24,7 +24,8 @@ namespace modPassword {
 // The book asks no longer, not even for a password that older versions left in the registry.
 [[nodiscard]] bool Remove(cConfiguration& configuration);
 
-// Lets the user in: asks when the switch is on. False when the user gives up.
+// Lets the user in: asks when the switch is on. False when the user gives up, and when nobody knows whether it is on:
+// of settings that cannot be read the user has been told.
 [[nodiscard]] bool Admit(const cConfiguration& configuration, cRescue& rescue);
 
 } // namespace modPassword

@@ -1,5 +1,6 @@
 #include "model/cTemplateItem.h"
 
+#include "base/cText.h"
 #include "base/modAmount.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
@@ -14,6 +15,13 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QString separator = u"; "_s;
+
+// Such an account could not be looked at alone.
+bool MeansAll(const QString& account)
+{
+    return modTemplate::IsSameName(account, modWord::AlleKonten)
+        || modTemplate::IsSameName(account, cText::Tr("Alle Konten"));
+}
 
 // The smallest position in each group: where the group stands as a whole.
 QHash<QString, int> GroupPositions(const cTemplateItemList& items)
@@ -95,6 +103,35 @@ QString modTemplate::CleanName(const QString& name)
         }
     }
     return kept;
+}
+
+bool modTemplate::IsSameName(const QString& a, const QString& b)
+{
+    return a.simplified().compare(b.simplified(), Qt::CaseInsensitive) == 0;
+}
+
+QString modTemplate::NameOf(const cTemplateItem& item)
+{
+    return IsAccount(item) ? item.TemplateName : Path(item);
+}
+
+bool modTemplate::IsTaken(const cTemplateItemList& items, const cTemplateItem& named)
+{
+    const QString name = NameOf(named);
+    return (IsAccount(named) && MeansAll(name))
+        || std::any_of(items.begin(), items.end(), [&](const cTemplateItem& other) {
+               return other.ID != named.ID && IsAccount(other) == IsAccount(named) && IsSameName(NameOf(other), name);
+           });
+}
+
+QString modTemplate::AccountLike(const cTemplateItemList& accounts, const QString& name)
+{
+    const auto find = [&](const auto& is) { return std::find_if(accounts.begin(), accounts.end(), is); };
+    const auto exact = find([&](const cTemplateItem& account) { return account.TemplateName == name; });
+    const auto like = exact != accounts.end()
+        ? exact
+        : find([&](const cTemplateItem& account) { return IsSameName(account.TemplateName, name); });
+    return like == accounts.end() ? QString() : like->TemplateName;
 }
 
 QString modTemplate::Path(const cTemplateItem& item)
@@ -239,7 +276,7 @@ cTemplateItem modTemplate::NewAccount(const cTemplateItemList& accounts, const Q
     });
     cTemplateItem item;
     item.TemplateType = modWord::Konto;
-    item.TemplateName = CleanName(name.trimmed()).trimmed();
+    item.TemplateName = MeansAll(CleanName(name)) ? QString() : CleanName(name.trimmed()).trimmed();
     item.TemplateCategory = most == accounts.end() ? QString() : GroupOf(*most);
     item.TemplatePriority = QString::number(LastPriority(accounts, modWord::Konto, item.TemplateCategory) + 1);
     return item;

@@ -62,6 +62,18 @@ inline const QString NoPath = QStringLiteral("Keine Angabe");
 // The name without the characters that would break paths, reports or queries.
 [[nodiscard]] QString CleanName(const QString& name);
 
+// Names that look the same in a list: letter case and further blanks tell nobody anything.
+[[nodiscard]] bool IsSameName(const QString& a, const QString& b);
+
+// What entries know the item by: the name of an account, the path of a category.
+[[nodiscard]] QString NameOf(const cTemplateItem& item);
+
+// True when another one of the items is called so, or when the name stands for all accounts.
+[[nodiscard]] bool IsTaken(const cTemplateItemList& items, const cTemplateItem& named);
+
+// The account of this name, or one whose name looks the same; empty when there is none.
+[[nodiscard]] QString AccountLike(const cTemplateItemList& accounts, const QString& name);
+
 // The category path as it is stored in an entry: main category and sub-category joined by "; ".
 [[nodiscard]] QString Path(const cTemplateItem& item);
 
@@ -98,7 +110,7 @@ inline const QString NoPath = QStringLiteral("Keine Angabe");
 [[nodiscard]] cTemplateItem NewCategory(const cTemplateItemList& items, const QString& main, const QString& sub);
 
 // An account of this name, cleaned, at the end of the group in which most accounts stand: those of banks, in the usual
-// book. Without name when nothing is left of it.
+// book. Without name when nothing is left of it, or when it stands for all accounts.
 [[nodiscard]] cTemplateItem NewAccount(const cTemplateItemList& accounts, const QString& name);
 
 } // namespace modTemplate

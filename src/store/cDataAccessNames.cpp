@@ -20,12 +20,6 @@ bool IsClean(const cTemplateItem& item)
     return IsClean(item.TemplateCategory) && IsClean(item.TemplateName);
 }
 
-// What entries know the definition by.
-QString NameOf(const cTemplateItem& item)
-{
-    return modTemplate::IsAccount(item) ? item.TemplateName : modTemplate::Path(item);
-}
-
 // A name that consists of nothing else would vanish, and with it what tells the definition from others.
 QString Cleaned(const QString& name)
 {
@@ -65,7 +59,7 @@ bool cDataAccess::ChangeTemplate(const cTemplateItem& item)
     if (!stored) {
         return WriteTemplate(item) && JoinGroups(item);
     }
-    cUndoStep step(*this, cText::Tr("'{0}' geändert", {NameOf(item)}));
+    cUndoStep step(*this, cText::Tr("'{0}' geändert", {modTemplate::NameOf(item)}));
     cTemplateItem asked = item;
     asked.TemplateCategory = Current(item.TemplateCategory, stored->TemplateCategory);
     asked.TemplateName = Current(item.TemplateName, stored->TemplateName);
@@ -79,21 +73,19 @@ bool cDataAccess::ChangeTemplate(const cTemplateItem& item)
     return step.DoneIf(isWritten);
 }
 
-// Two definitions of one name could not be told apart by their entries.
+// Two definitions of one name could not be told apart by their entries. A name that loses nothing stays: only the group
+// of the account has to be cleaned, and nobody moves the entries.
 cTemplateItem cDataAccess::WithFreeName(const cTemplateItem& item)
 {
     cTemplateItem cleaned = item;
     cleaned.TemplateCategory = Cleaned(item.TemplateCategory);
     cleaned.TemplateName = Cleaned(item.TemplateName);
     const cTemplateItemList items = GetTemplates();
-    const auto isTaken = [&](const cTemplateItem& other) {
-        return other.ID != item.ID && modTemplate::IsAccount(other) == modTemplate::IsAccount(item)
-            && NameOf(other).compare(NameOf(cleaned), Qt::CaseInsensitive) == 0;
-    };
     const bool isMain = cleaned.TemplateName.isEmpty();
     QString& name = isMain ? cleaned.TemplateCategory : cleaned.TemplateName;
     const QString wanted = name;
-    for (int number = 2; std::any_of(items.begin(), items.end(), isTaken); ++number) {
+    const QString before = modTemplate::NameOf(item);
+    for (int number = 2; modTemplate::NameOf(cleaned) != before && modTemplate::IsTaken(items, cleaned); ++number) {
         name = wanted + u' ' + QString::number(number);
     }
     return cleaned;
@@ -101,7 +93,7 @@ cTemplateItem cDataAccess::WithFreeName(const cTemplateItem& item)
 
 bool cDataAccess::Follow(const cTemplateItem& before, const cTemplateItem& now)
 {
-    return FollowName({modTemplate::IsAccount(now), NameOf(before), NameOf(now), 0});
+    return FollowName({modTemplate::IsAccount(now), modTemplate::NameOf(before), modTemplate::NameOf(now), 0});
 }
 
 bool cDataAccess::FollowName(cCleanedName name)
@@ -140,7 +132,7 @@ bool cDataAccess::MovePathsBelow(const QString& oldMain, const QString& newMain)
     QStringList paths = CountEntriesByCategory().keys();
     const cTemplateItemList items = GetTemplates();
     for (const cTemplateItem& item : items) {
-        paths.removeAll(NameOf(item));
+        paths.removeAll(modTemplate::NameOf(item));
     }
     return std::all_of(paths.begin(), paths.end(), [&](const QString& path) {
         const bool isBelow = path == oldMain || path.startsWith(oldMain + u"; ");

@@ -333,12 +333,29 @@ void CheckShutOut(const QStringList& names)
     }
 }
 
+// The switch for the password is among them: a book whose settings are lost would be open to everybody. A table that is
+// missing comes with the upgrade.
+void CheckSettings(cDatabase& database)
+{
+    try {
+        cRows rows(database, "SELECT SettingName, SettingValue FROM setting");
+        while (rows.Next()) {
+            (void)rows.Text(1);
+        }
+    } catch (const cDatabaseError& error) {
+        if (error.Fault() != eDatabaseFault::Other) {
+            throw;
+        }
+    }
+}
+
 eDatabaseFault TryOpen(cDatabase& database, const QString& path, eOpenMode mode)
 {
     try {
         database.Open(path, mode);
         CheckShutOut(database.ShutOut());
         database.Execute("SELECT COUNT(*) FROM data LIMIT 1");
+        CheckSettings(database);
         return eDatabaseFault::None;
     } catch (const cDatabaseError& error) {
         database.Close();

@@ -78,15 +78,23 @@ void testCliBackup::NothingIsReplacedUnasked()
     QCOMPARE(Entries(), u"1"_s);
 }
 
-// A book that no command can open any more is what backups are for.
+// A book that no command can open any more is what backups are for. Without its settings nobody knows whether it has a
+// password.
 void testCliBackup::DamagedBook()
 {
     const QString backup = Path(u"one.backup"_s);
     Do(u"backup|"_s + backup);
-    cTestFile::Write(Book(), QByteArray("damaged").repeated(300));
-    const cCliRun restored = Do(u"restore|%1|--yes"_s.arg(backup));
-    QVERIFY2(restored.Out.contains(u"beschädigt"_s), qPrintable(restored.Error));
-    QCOMPARE(Entries(), u"1"_s);
+    for (const bool isWhole : {true, false}) {
+        if (isWhole) {
+            cTestFile::Write(Book(), QByteArray("damaged").repeated(300));
+        } else {
+            cTestFile::Damage(Book(), "setting");
+        }
+        QCOMPARE(Run(u"balances"_s).Out, QString());
+        const cCliRun restored = Do(u"restore|%1|--yes"_s.arg(backup));
+        QVERIFY2(restored.Out.contains(u"beschädigt"_s), qPrintable(restored.Error));
+        QCOMPARE(Entries(), u"1"_s);
+    }
 }
 
 void testCliBackup::DamageIsSaid()

@@ -404,6 +404,12 @@ private Q_SLOTS:
         cFakeRescue rescue;
         rescue.Password = typed;
         QVERIFY(modPassword::Admit(configuration, rescue)); // the switch is off
+        cOpened unreadable;
+        unreadable.Database.Execute("DROP TABLE setting");
+        cSettings settings(unreadable.Data);
+        configuration.SetDatabase(&settings);
+        QVERIFY(!modPassword::Admit(configuration, rescue)); // nobody knows
+        configuration.SetDatabase(nullptr);
         QCOMPARE(rescue.PasswordsAsked, 0);
         registry.Values.insert(Current(u"PasswortAktiv"_s), u"wahr"_s);
         QCOMPARE(modPassword::Admit(configuration, rescue), isRight);

@@ -144,6 +144,10 @@ private Q_SLOTS:
         QCOMPARE(modTemplate::AccountNames(book.Data.GetTemplates()).value(2), u"Konto 123"_s); // behind its group
         QCOMPARE(book.Accounts.Proposal(u"12"_s), u"Konto 123"_s);                              // named like the number
         QVERIFY(!book.Accounts.Assign(u"9"_s, u" <> "_s));
+        QVERIFY(!book.Accounts.Assign(u"9"_s, u"alle <Konten>"_s)); // could not be looked at alone
+        QVERIFY(book.Accounts.Assign(u"9"_s, u"Omas & Opas Konto"_s));
+        QVERIFY(book.Accounts.Assign(u"10"_s, u"omas Opas Konto"_s));
+        QCOMPARE(book.Accounts.AccountOf(u"10"_s), u"Omas  Opas Konto"_s);
     }
 
     void ForgetsAccountsThatAreGone()

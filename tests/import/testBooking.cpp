@@ -76,7 +76,8 @@ private Q_SLOTS:
         QCOMPARE(bank.Propose(id).Entry.EntryType, modWord::Einnahme);
         QCOMPARE(bank.Propose(id).Entry.EntryDescription, u"zu Nr. 1"_s);
         QVERIFY(bank.Propose(id).Reason.isEmpty());
-        const cImportEntry row = *bank.Hive.GetImportHive().GetImportEntryByID(id);
+        const int known = bank.Stage(day, -5, u"Netflix"_s); // to the list of payees, but to no keyword
+        const cImportEntry row = *bank.Hive.GetImportHive().GetImportEntryByID(known);
         cProposer proposer(bank.Data, bank.Hive, bank.Accounts);
         QVERIFY(proposer.Propose(row, eRestriction::Restricted).Entry.EntryCategory.isEmpty());
     }
@@ -301,34 +302,35 @@ private Q_SLOTS:
 
     void NewestRowsFirstMakeOneSeries_data()
     {
-        // together: booked at once; days: of the rows, with an amount in cents
-        const cTestRows<bool, QList<QDate>, int, int> row("together", "days", "oldest", "entries");
+        // runs: how many of the rows each one stages and books; days: of the rows, with an amount in cents
+        const cTestRows<QList<int>, QList<QDate>, int, int> row("runs", "days", "oldest", "entries");
         const QDate second(2026, 2, 11);
-        row("one file", true, {QDate(2026, 3, 10), second, day}, 65000, 1);
-        row("one run each", false, {QDate(2026, 3, 10), second, day}, 65000, 1);
-        row("the middle last", false, {QDate(2026, 3, 10), day, second}, 65000, 3);
-        row("another amount", false, {second, day}, 30000, 2);
-        row("before that", false, {QDate(2026, 5, 10), day}, 65000, 2);
-        row("no day fits", false, {QDate(2026, 5, 31), QDate(2026, 4, 30)}, 65000, 2);
+        const QDate third(2026, 3, 10);
+        row("one file", {3}, {third, second, day}, 65000, 1);
+        row("one run each", {1, 1, 1}, {third, second, day}, 65000, 1);
+        row("the middle last", {1, 1, 1}, {third, day, second}, 65000, 3);
+        row("the middle waits beside the oldest", {1, 2}, {third, day, second}, 65000, 1);
+        row("another amount", {1, 1}, {second, day}, 30000, 2);
+        row("before that", {1, 1}, {QDate(2026, 5, 10), day}, 65000, 2);
+        row("no day fits", {1, 1}, {QDate(2026, 5, 31), QDate(2026, 4, 30)}, 65000, 2);
     }
 
     // What the bank booked before the series began makes no second series beside it.
     void NewestRowsFirstMakeOneSeries()
     {
-        QFETCH(const bool, together);
+        QFETCH(const QList<int>, runs);
         QFETCH(const QList<QDate>, days);
         QFETCH(const int, oldest);
         cBank bank;
-        QList<int> rows;
-        for (const QDate date : days) {
-            const double cents = date == days.last() ? oldest : 65000;
-            rows.append(bank.Stage(date, -cents / 100.0, u"Miete Tann"_s, u"DE05"_s));
-            if (!together) {
-                QCOMPARE(bank.BookAll({rows.last()}).Rows, 1);
+        qsizetype at = 0;
+        for (const int size : runs) {
+            QList<int> rows;
+            for (const QDate date : days.sliced(at, size)) {
+                const double cents = date == days.last() ? oldest : 65000;
+                rows.append(bank.Stage(date, -cents / 100.0, u"Miete Tann"_s, u"DE05"_s));
             }
-        }
-        if (together) {
-            QCOMPARE(bank.BookAll(rows).Rows, rows.size());
+            QCOMPARE(bank.BookAll(rows).Rows, size);
+            at += size;
         }
         QTEST(bank.Data.CountEntries(), "entries");
         cEntryQuery query;

@@ -1,7 +1,7 @@
 #include "base/modAmount.h"
-#include "import/propose/cWildcard.h"
 #include "import/propose/modKeywordRules.h"
 #include "import/propose/modKeywordTable.h"
+#include "import/read/modWildcard.h"
 #include "model/cImportEntry.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
@@ -40,7 +40,7 @@ private Q_SLOTS:
     {
         QFETCH(QString, pattern);
         QFETCH(QString, text);
-        QTEST(cWildcard(pattern).Matches(text), "isMatch");
+        QTEST(modWildcard::Matches(text, pattern), "isMatch");
     }
 
     void MatchesByKeyword_data()

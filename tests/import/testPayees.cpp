@@ -176,6 +176,11 @@ private Q_SLOTS:
         const cTestRows<QString, QString, double, QString, bool> row("name", "purpose", "value", "category", "isSure");
         row("a word", u"REWE Markt"_s, {}, -20, u"Haushalt; Lebensmittel"_s, true);
         row("end of a compound", u"Stadtapotheke"_s, {}, -20, u"Haushalt; Medikamente"_s, true);
+        row("electricity", u"Talheim eG"_s, u"Ökostrom 2026"_s, -50, u"Wohnung; Strom"_s, true);
+        row("paid for electricity", u"Talheim eG"_s, u"Stromabschlag"_s, -50, u"Wohnung; Strom"_s, true);
+        row("a name that ends like it", u"Klangstrom"_s, u"Karten"_s, -50, u"Wohnung; Strom"_s, false);
+        row("a name that begins like it", u"Anna Stromberg"_s, u"danke"_s, -50, u"Wohnung; Strom"_s, false);
+        row("a later rule fits the money", u"Google Adsense"_s, {}, -20, u"Beruf; Werbungskosten"_s, false);
         row("inside a name", u"Tobias Kern"_s, u"danke"_s, -20, u"Haushalt"_s, false);
         row("inside a name that is known", u"BARMER"_s, u"Beitrag"_s, -60, u"Versicherung; Krankenversicherung"_s,
             true);

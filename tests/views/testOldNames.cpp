@@ -130,6 +130,12 @@ private Q_SLOTS:
         QCOMPARE(scene.Book.Data.LoadEntry(other)->EntryAccount, u"Omas Konto"_s);
         QVERIFY(scene.Save(scene.Account(u"Omas Konto 2"_s), [](cTemplateFields& fields) { fields.Limit = u"6"_s; }));
         QVERIFY(scene.Book.Data.FindAccount(u"Omas Konto 2"_s));
+        // A name that was fine stays, and with it the entries, though an older book may have two that are alike.
+        scene.Book.Database.ExecuteScript("UPDATE template SET TemplateName = 'omas konto 2', TemplateCategory = 'A & "
+                                          "B' WHERE TemplateName = 'Bargeld'");
+        scene.Manager.Refresh();
+        QVERIFY(scene.Save(scene.Account(u"omas konto 2"_s), [](cTemplateFields& fields) { fields.Limit = u"7"_s; }));
+        QCOMPARE(scene.Book.Data.FindAccount(u"omas konto 2"_s).value_or(cTemplateItem()).TemplateCategory, u"A  B"_s);
     }
 };
 

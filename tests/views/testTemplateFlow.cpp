@@ -25,6 +25,7 @@ private Q_SLOTS:
         row("empty once cleaned", u"<>"_s, int(eAnswer::Yes), old, old, u"Der Kontoname darf nicht leer sein!"_s);
         row("taken in another letter case", u"sparkonto"_s, int(eAnswer::Yes), old, old,
             u"Dieser Kontoname existiert bereits!"_s);
+        row("stands for all", u"alle  konten"_s, int(eAnswer::Yes), old, old, u"Dieser Kontoname existiert bereits!"_s);
         row("its own name in another letter case", u"BARGELD"_s, int(eAnswer::Yes), u"BARGELD"_s, u"BARGELD"_s, {});
         row("taken", u"Sparkonto"_s, int(eAnswer::Yes), old, old, u"Dieser Kontoname existiert bereits!"_s);
     }

@@ -1,14 +1,13 @@
 #include "import/propose/cRuleMatcher.h"
 
-#include "import/propose/cWildcard.h"
 #include "import/propose/modKeywordRules.h"
 #include "import/read/modAccountNumber.h"
 #include "import/read/modCounterparty.h"
+#include "import/read/modWildcard.h"
 #include "model/cImportEntry.h"
 #include "model/modCutText.h"
 
 #include <algorithm>
-#include <optional>
 #include <vector>
 
 namespace {
@@ -37,7 +36,7 @@ cPairs NeededPairs(QStringView pattern)
     const qsizetype end = pattern.indexOf(u'[');
     const QStringView part = end < 0 ? pattern : pattern.first(end);
     for (qsizetype i = 0; i + 1 < part.size(); ++i) {
-        if (!cWildcard::IsPattern(part.mid(i, 2))) {
+        if (!modWildcard::IsPattern(part.mid(i, 2))) {
             pairs.set(PairOf(part[i], part[i + 1]));
         }
     }
@@ -47,13 +46,13 @@ cPairs NeededPairs(QStringView pattern)
 struct cAlternative
 {
     QString Plain; // empty for a pattern
-    std::optional<cWildcard> Pattern;
+    QString Pattern;
     std::vector<std::size_t> Pairs;
 
     explicit cAlternative(const QString& text)
     {
-        if (cWildcard::IsPattern(text)) {
-            Pattern.emplace(QString(u'*' + text + u'*'));
+        if (modWildcard::IsPattern(text)) {
+            Pattern = u'*' + text + u'*';
         } else {
             Plain = text;
         }
@@ -69,7 +68,7 @@ struct cAlternative
     {
         return std::all_of(Pairs.begin(), Pairs.end(), [&](std::size_t pair) { return row.Pairs.test(pair); })
             && std::any_of(row.Texts.begin(), row.Texts.end(), [this](const QString& text) {
-                   return Pattern ? Pattern->Matches(text) : text.contains(Plain);
+                   return Pattern.isEmpty() ? text.contains(Plain) : modWildcard::Matches(text, Pattern);
                });
     }
 };

@@ -196,17 +196,8 @@ cHint FromRule(const cMatch& match, qint64 cents)
 cHint modHint::ByRule(const cImportEntry& row, eRestriction restriction)
 {
     const cMatch match = modKeywordRules::Match(modKeywordRules::MatchText(row), row.ImportValue, restriction);
-    if (!match.Category.isEmpty()) {
-        return {match.Category, match.Interval, cText::Tr("Regel: {0}", {match.Keyword}), false};
-    }
-    const cView view(row);
-    const cFound* const best = BestOf(view.All);
-    cHint hint = best == nullptr ? cHint{{}, match.Interval, {}, false} : FromList(view.All, *best);
-    if (restriction == eRestriction::Restricted && !hint.IsSure) {
-        return {{}, match.Interval, {}, false};
-    }
-    hint.IsSure = false;
-    return hint;
+    const QString reason = match.Category.isEmpty() ? QString() : cText::Tr("Regel: {0}", {match.Keyword});
+    return {match.Category, match.Interval, reason, false};
 }
 
 cHint modHint::Best(const cImportEntry& row)
@@ -224,8 +215,14 @@ cHint modHint::Best(const cImportEntry& row)
         keywords = literal;
     }
     if (!keywords.Last.Category.isEmpty() && modKeywordTrust::IsSound(keywords.Last.Keyword, keywords.Text)) {
+        const bool isFit = modKeywordTrust::FitsSign(keywords.Last.Category, view.Cents);
+        const cMatch any = modKeywordRules::Last(keywords.All, eRestriction::None);
+        if (!isFit && modKeywordTrust::FitsSign(any.Category, view.Cents)
+            && modKeywordTrust::IsSound(any.Keyword, keywords.Text)) {
+            return FromRule(any, view.Cents); // a later rule, which decides by the direction of the money
+        }
         cHint hint = FromRule(keywords.Last, view.Cents);
-        hint.IsSure = modKeywordTrust::FitsSign(hint.Category, view.Cents)
+        hint.IsSure = isFit
             && !modKeywordTrust::IsDoubtful(keywords.Last.Keyword, keywords.Text, NameIn(keywords, view))
             && !HasRival(keywords, view);
         return hint;

@@ -18,7 +18,7 @@ struct cHint
 
 namespace modHint {
 
-// The keyword rules as they stand, and the list where they say nothing. Nothing of it is called sure.
+// The keyword rules as they stand. Nothing of it is called sure.
 [[nodiscard]] cHint ByRule(const cImportEntry& row, eRestriction restriction);
 
 // For rows that are to be booked. A keyword that stands inside a longer name of the list, or in the middle of another

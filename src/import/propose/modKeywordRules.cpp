@@ -1,7 +1,7 @@
 #include "import/propose/modKeywordRules.h"
 
-#include "import/propose/cWildcard.h"
 #include "import/propose/modKeywordTable.h"
+#include "import/read/modWildcard.h"
 #include "model/cImportEntry.h"
 
 #include <QHash>
@@ -23,7 +23,7 @@ struct cPlain
 
 struct cPattern
 {
-    cWildcard Wildcard;
+    QString Wildcard;
     size_t Rule = 0;
     int Order = 0;
 };
@@ -63,7 +63,7 @@ public:
             }
         }
         for (const cPattern& pattern : m_patterns) {
-            if (pattern.Wildcard.Matches(text)) {
+            if (modWildcard::Matches(text, pattern.Wildcard)) {
                 note(pattern.Rule, pattern.Order);
             }
         }
@@ -75,8 +75,8 @@ public:
 private:
     void Add(const QString& alternative, size_t rule, int order)
     {
-        if (cWildcard::IsPattern(alternative)) {
-            m_patterns.push_back({cWildcard(QString(u'*' + alternative + u'*')), rule, order});
+        if (modWildcard::IsPattern(alternative)) {
+            m_patterns.push_back({QString(u'*' + alternative + u'*'), rule, order});
         } else {
             m_plain[alternative.front()].append({alternative, rule, order});
         }

@@ -1,6 +1,6 @@
 #include "import/propose/modKeywordTrust.h"
 
-#include "import/propose/cWildcard.h"
+#include "import/read/modWildcard.h"
 #include "model/cTemplateItem.h"
 
 #include <QSet>
@@ -30,7 +30,7 @@ bool CanOpen(const QString& keyword)
               u"fitness|mcfit|bußgeld|bussgeld|verkehrsueberwach|kfz-steuer|haftpflicht|rossmann|hundesteuer|fahrrad|"
               u"stellplatz|"
               u"deichmann|mcdonalds|cinemaxx|cineplex|cinestar|steuererstatt|steuererst|rückerstattung|rueckerstattung|"
-              u"taschengeld|strom|familienkasse|kaufland|marktkauf|ikea|bausparkasse|lotto|docmorris|baumarkt|"
+              u"taschengeld|familienkasse|kaufland|marktkauf|ikea|bausparkasse|lotto|docmorris|baumarkt|"
               u"drogeriemarkt|gehalt|"
               u"rechtsschutzversicherung|risikoversicherung|haushaltversicherung|tankstelle|auktion|strato|alltours"_s);
     return openings.contains(keyword);
@@ -48,17 +48,41 @@ bool IsWordAt(QStringView text, qsizetype at)
     return at >= 0 && at < text.size() && text[at].isLetterOrNumber();
 }
 
+// Whether the word around the place speaks of electricity. Names end and begin like that too ("Klangstrom",
+// "Stromberg"), so both ends must be known.
+bool IsPowerAt(QStringView text, qsizetype at)
+{
+    static const QString keyword = u"strom"_s;
+    static const QSet<QString> openings = SetOf(
+        u"|öko|oeko|natur|grün|gruen|solar|wind|auto|lade|heiz|wärme|waerme|wärmepumpen|waermepumpen|nacht|"
+        u"nachtspeicher|tag|allgemein|haus|hausanschluss|haushalt|haushalts|mieter|bau|betriebs|treppenhaus|yellow"_s);
+    static const QStringList endings =
+        u"abschlag|abrechnung|rechnung|liefer|kosten|vertrag|versorg|nachzahlung|guthaben|tarif|zähler|zaehler|"
+        u"verbrauch|bezug|netz|geld|zahlung|handel|vertrieb|anbieter|anschluss|preis|pauschale|anteil|io"_s.split(u'|');
+    qsizetype begin = at;
+    while (IsWordAt(text, begin - 1)) {
+        --begin;
+    }
+    const QStringView rest = text.sliced(at + keyword.size());
+    return openings.contains(text.sliced(begin, at - begin).toString())
+        && (!IsWordAt(rest, 0) || rest[0].isDigit()
+            || std::any_of(endings.begin(), endings.end(),
+                           [&](const QString& ending) { return rest.startsWith(ending); }));
+}
+
 } // namespace
 
 bool modKeywordTrust::IsSound(const QString& keyword, QStringView text)
 {
-    if (cWildcard::IsPattern(keyword)) {
-        return cWildcard(QString(u'*' + keyword + u'*')).Matches(text.toString());
+    if (modWildcard::IsPattern(keyword)) {
+        return modWildcard::Matches(text, QString(u'*' + keyword + u'*'));
     }
     for (qsizetype at = text.indexOf(keyword); at >= 0; at = text.indexOf(keyword, at + 1)) {
         const bool isOpen = !IsWordAt(text, at - 1);
         const bool isClosed = !IsWordAt(text, at + keyword.size());
-        if ((isOpen && isClosed) || (isClosed && CanClose(keyword)) || (isOpen && CanOpen(keyword))) {
+        if (keyword == u"strom"
+                ? IsPowerAt(text, at)
+                : (isOpen && isClosed) || (isClosed && CanClose(keyword)) || (isOpen && CanOpen(keyword))) {
             return true;
         }
     }

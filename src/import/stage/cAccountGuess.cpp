@@ -179,13 +179,8 @@ QString cAccountGuess::NewName(const QString& number) const
     const QString digits = modAccountNumber::Compact(number).right(lastDigits);
     const QString kind = IsCard(number) ? cText::Tr("Kreditkarte") : cText::Tr("Bankkonto");
     const QString name = digits.isEmpty() ? kind : kind + u' ' + modTemplate::CleanName(digits);
-    const auto isThere = [&](const QString& wanted) {
-        return std::any_of(m_accounts.begin(), m_accounts.end(), [&](const cTemplateItem& account) {
-            return account.TemplateName.compare(wanted, Qt::CaseInsensitive) == 0;
-        });
-    };
     QString free = name;
-    for (int i = 2; isThere(free); ++i) {
+    for (int i = 2; !modTemplate::AccountLike(m_accounts, free).isEmpty(); ++i) {
         free = name + u" ("_s + QString::number(i) + u')';
     }
     return free;

@@ -177,12 +177,10 @@ QString cAccountMap::Known(const QString& typed) const
     if (Exists(typed)) {
         return typed;
     }
-    const QString name = modTemplate::CleanName(typed).trimmed();
     const cTemplateItemList accounts = m_data.GetAccounts();
-    const auto same = std::find_if(accounts.begin(), accounts.end(), [&](const cTemplateItem& item) {
-        return item.TemplateName.compare(name, Qt::CaseInsensitive) == 0;
-    });
-    return same == accounts.end() ? name : same->TemplateName;
+    const QString name = modTemplate::NewAccount(accounts, typed).TemplateName;
+    const QString like = modTemplate::AccountLike(accounts, name);
+    return like.isEmpty() ? name : like;
 }
 
 bool cAccountMap::Assign(const QString& number, const QString& account)

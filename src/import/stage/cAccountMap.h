@@ -58,7 +58,7 @@ public:
     QStringList AssignNames(const QStringList& numbers);
 
     // Remembers the account for the number; an account that does not exist yet is added to the book, at the end
-    // of the group with most accounts. False when the database refuses or the name is empty.
+    // of the group with most accounts. False when the database refuses or no account can be called so.
     [[nodiscard]] bool Assign(const QString& number, const QString& account);
 
     // The account of the number, asked from the user when it is new. Empty when the user gives up.

@@ -12,8 +12,8 @@ namespace modCell {
 // False when Clean would return the trimmed text as it is.
 [[nodiscard]] bool NeedsCleaning(QStringView trimmed);
 
-// True when the upper-cased name matches one of the upper-cased alternatives, which "|" separates. "*" stands for any
-// run of characters, "?" for one, "#" for one digit, "[...]" for one of a class ("!" in front turns it round).
+// True when the upper-cased name matches one of the upper-cased alternatives, which "|" separates; these may be
+// wildcard patterns.
 [[nodiscard]] bool MatchesList(QStringView name, QStringView alternatives);
 
 } // namespace modCell

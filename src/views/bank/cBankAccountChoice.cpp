@@ -85,7 +85,7 @@ QString cBankAccountChoice::NewName(const cLine& line) const
 {
     constexpr qsizetype digits = 4;
     const QString name = modTemplate::CleanName(line.Product).trimmed();
-    const auto is = [&](const QString& other) { return other.compare(name, Qt::CaseInsensitive) == 0; };
+    const auto is = [&](const QString& other) { return modTemplate::IsSameName(other, name); };
     const bool isThere = std::any_of(m_names.begin(), m_names.end(), is)
         || std::any_of(m_lines.begin(), m_lines.end(), [&](const cLine& other) { return is(other.BookAccount); });
     const QString& number = line.Account.Number.isEmpty() ? line.Account.Iban : line.Account.Number;
@@ -105,7 +105,9 @@ void cBankAccountChoice::SetBookAccount(qsizetype line, const QString& name)
 QString cBankAccountChoice::Note(qsizetype line) const
 {
     const QString& name = m_lines.at(line).BookAccount;
-    return name.isEmpty() || m_names.contains(name, Qt::CaseInsensitive) ? QString() : cText::Tr("wird neu angelegt");
+    const bool isThere = std::any_of(m_names.begin(), m_names.end(),
+                                     [&](const QString& other) { return modTemplate::IsSameName(other, name); });
+    return name.isEmpty() || isThere ? QString() : cText::Tr("wird neu angelegt");
 }
 
 QString cBankAccountChoice::Problem() const

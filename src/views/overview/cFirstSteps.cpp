@@ -135,7 +135,7 @@ QString cFirstSteps::Rename(const QList<cRow>& rows) const
         moves.append({account->TemplateName, retyped});
     }
     for (const auto& [aside, account] : std::as_const(moves)) {
-        if (flow.IsAccountTaken(account.TemplateName, account.ID)) {
+        if (flow.IsTaken(account)) {
             return cText::Tr("Ein Konto '{0}' gibt es schon. Bitte wählen Sie einen anderen Namen.",
                              {account.TemplateName});
         }
@@ -151,16 +151,14 @@ QString cFirstSteps::Store(const cRow& row) const
     if (row.Name.trimmed().isEmpty()) {
         return {};
     }
-    cTemplateItem item = modTemplate::NewAccount(m_tools.Data.GetAccounts(), row.Name);
+    const cTemplateItemList accounts = m_tools.Data.GetAccounts();
+    cTemplateItem item = modTemplate::NewAccount(accounts, row.Name);
     if (item.TemplateName.isEmpty()) {
         return cText::Tr("'{0}' kann kein Konto heißen. Bitte wählen Sie einen anderen Namen.", {row.Name});
     }
-    const cTemplateItemList accounts = m_tools.Data.GetAccounts();
-    const auto known = std::find_if(accounts.begin(), accounts.end(), [&](const cTemplateItem& account) {
-        return account.TemplateName.compare(item.TemplateName, Qt::CaseInsensitive) == 0;
-    });
-    const QString name = known == accounts.end() ? item.TemplateName : known->TemplateName;
-    if (known == accounts.end() && !m_tools.Data.AddNewTemplate(item)) {
+    const QString known = modTemplate::AccountLike(accounts, item.TemplateName);
+    const QString name = known.isEmpty() ? item.TemplateName : known;
+    if (known.isEmpty() && !m_tools.Data.AddNewTemplate(item)) {
         return Failure();
     }
     const std::optional<qint64> cents = modSum::Evaluate(row.Amount, Decimal());

@@ -20,12 +20,6 @@ QString Cleaned(const QString& name)
     return modTemplate::CleanName(name.trimmed()).trimmed();
 }
 
-// Names that look the same in a list: letter case and further blanks tell nobody anything.
-bool IsSame(const QString& a, const QString& b)
-{
-    return a.simplified().compare(b.simplified(), Qt::CaseInsensitive) == 0;
-}
-
 } // namespace
 
 bool cTemplateFlow::Refuse(const QString& text)
@@ -58,7 +52,8 @@ bool cTemplateFlow::RenameAccount(const QString& oldName, const QString& newName
     if (!account || name == oldName) {
         return false;
     }
-    if (IsAccountTaken(name, account->ID)) {
+    account->TemplateName = name;
+    if (IsTaken(*account)) {
         return Refuse(cText::Tr("Dieser Kontoname existiert bereits!"));
     }
     eAnswer answer = eAnswer::No;
@@ -74,13 +69,12 @@ bool cTemplateFlow::RenameAccount(const QString& oldName, const QString& newName
     if (answer == eAnswer::Cancel) {
         return false;
     }
-    account->TemplateName = name;
     return WriteAccount(*account, oldName, answer == eAnswer::Yes);
 }
 
 bool cTemplateFlow::RenameWithEntries(const QString& oldName, const cTemplateItem& renamed)
 {
-    return !IsAccountTaken(renamed.TemplateName, renamed.ID) && WriteAccount(renamed, oldName, true);
+    return !IsTaken(renamed) && WriteAccount(renamed, oldName, true);
 }
 
 bool cTemplateFlow::WriteAccount(const cTemplateItem& account, const QString& oldName, bool withEntries)
@@ -101,23 +95,11 @@ bool cTemplateFlow::MoveEntries(const QString& oldName, const QString& newName)
         && m_tools.Data.MoveEntriesToAccount(newName, oldName);
 }
 
-bool cTemplateFlow::IsAccountTaken(const QString& name, int exceptId) const
+// Regardless of case: two accounts that only differ in that are one too many for every list, and the lists of entries,
+// filtered like that, would show the entries of both categories together.
+bool cTemplateFlow::IsTaken(const cTemplateItem& named) const
 {
-    // Regardless of case: two accounts that only differ in that are one too many for every list.
-    const cTemplateItemList accounts = m_tools.Data.GetAccounts();
-    return std::any_of(accounts.begin(), accounts.end(), [&](const cTemplateItem& account) {
-        return account.ID != exceptId && IsSame(account.TemplateName, name);
-    });
-}
-
-bool cTemplateFlow::IsTaken(const cTemplateItem& renamed) const
-{
-    // Regardless of case, because the lists of entries are filtered like that: they would show both together.
-    const QString path = modTemplate::Path(renamed);
-    const cTemplateItemList items = m_tools.Data.GetTemplates();
-    return std::any_of(items.begin(), items.end(), [&](const cTemplateItem& item) {
-        return !modTemplate::IsAccount(item) && item.ID != renamed.ID && IsSame(modTemplate::Path(item), path);
-    });
+    return modTemplate::IsTaken(m_tools.Data.GetTemplates(), named);
 }
 
 bool cTemplateFlow::RenameCategory(const cTemplateItem& category, const QString& newMain, const QString& newSub)
@@ -175,7 +157,7 @@ QString cTemplateFlow::CleanMain(const QString& main)
 bool cTemplateFlow::HoldsProtected(const QString& main) const
 {
     const cTemplateItemList items = m_tools.Data.GetTemplates();
-    return IsSame(main, modTemplate::MainOf(modWord::Startguthaben))
+    return modTemplate::IsSameName(main, modTemplate::MainOf(modWord::Startguthaben))
         && (m_tools.Data.CountEntriesOfCategory(modWord::Startguthaben) > 0
             || std::any_of(items.begin(), items.end(), [](const cTemplateItem& item) {
                    return !modTemplate::IsAccount(item) && modTemplateText::IsProtected(modTemplate::Path(item));
@@ -187,7 +169,7 @@ bool cTemplateFlow::IsMainTaken(const QString& newMain, const QString& oldMain) 
     const cTemplateItemList items = m_tools.Data.GetTemplates();
     return std::any_of(items.begin(), items.end(), [&](const cTemplateItem& item) {
         const QString main = modTemplate::GroupOf(item);
-        return !modTemplate::IsAccount(item) && main != oldMain && IsSame(main, newMain);
+        return !modTemplate::IsAccount(item) && main != oldMain && modTemplate::IsSameName(main, newMain);
     });
 }
 

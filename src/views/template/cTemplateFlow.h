@@ -40,14 +40,13 @@ public:
     // failure.
     [[nodiscard]] QString CleanMain(const QString& main);
 
-    // True when another account than the one with this ID is called so, be it in another letter case.
-    [[nodiscard]] bool IsAccountTaken(const QString& name, int exceptId) const;
+    // True when another account or category than this one is called so, be it in another letter case.
+    [[nodiscard]] bool IsTaken(const cTemplateItem& named) const;
 
 private:
     [[nodiscard]] bool MoveEntries(const QString& oldName, const QString& newName);
     [[nodiscard]] bool WriteAccount(const cTemplateItem& account, const QString& oldName, bool withEntries);
     [[nodiscard]] bool WriteMain(const QString& oldMain, const QString& newMain);
-    [[nodiscard]] bool IsTaken(const cTemplateItem& renamed) const;
     [[nodiscard]] bool HoldsProtected(const QString& main) const;
     [[nodiscard]] bool IsMainTaken(const QString& newMain, const QString& oldMain) const;
     bool Refuse(const QString& text);

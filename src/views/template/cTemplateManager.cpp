@@ -25,6 +25,7 @@
 #include "views/template/modTemplateText.h"
 
 #include <algorithm>
+#include <functional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -168,13 +169,13 @@ eAnswer cTemplateManager::AskToSave() const
 std::optional<cTemplateItem> cTemplateManager::FindCategory(const QString& path) const
 {
     const cTemplateItemList items = m_tools.Data.GetTemplates();
-    const auto find = [&](Qt::CaseSensitivity sensitivity) {
+    const auto find = [&](const auto& is) {
         return std::find_if(items.begin(), items.end(), [&](const cTemplateItem& item) {
-            return !modTemplate::IsAccount(item) && modTemplate::Path(item).compare(path, sensitivity) == 0;
+            return !modTemplate::IsAccount(item) && is(modTemplate::Path(item), path);
         });
     };
-    const auto exact = find(Qt::CaseSensitive);
-    const auto found = exact != items.end() ? exact : find(Qt::CaseInsensitive);
+    const auto exact = find(std::equal_to());
+    const auto found = exact != items.end() ? exact : find(modTemplate::IsSameName);
     return found == items.end() ? std::nullopt : std::optional(*found);
 }
 
@@ -236,7 +237,7 @@ QString cTemplateManager::AddAccount(const QString& name, const QString& group)
         (void)Refuse(cText::Tr("Der Kontoname darf nicht leer sein!"));
         return {};
     }
-    if (cTemplateFlow(m_tools).IsAccountTaken(item.TemplateName, 0)) {
+    if (cTemplateFlow(m_tools).IsTaken(item)) {
         (void)Refuse(cText::Tr("Dieser Kontoname existiert bereits!"));
         return {};
     }
