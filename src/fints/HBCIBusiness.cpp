@@ -42,6 +42,7 @@ bool HBCIBusiness::cSession::Begin()
     Run.Found.clear();
     Run.HasFunctions = false;
     Run.Collected.clear();
+    Run.BankWords.clear();
     Run.Error = {};
     Fetched.clear();
     if (Run.Parts.ProductId.trimmed().isEmpty()) {
@@ -59,7 +60,7 @@ bool HBCIBusiness::cSession::IsLoginRefused() const
 // Before a strong authentication many banks name the TAN procedures and no accounts: enough to go on.
 bool HBCIBusiness::cSession::JudgeDiscovery(const cBankError& error)
 {
-    const QString words = error.Failure.BankWords;
+    const QString words = Run.BankWords.join(u'\n');
     const bool isSilent = Run.Found.isEmpty() && !Run.HasFunctions;
     if (Run.Refused.IsSet()) {
         return Run.Fail(Run.Refused);
@@ -207,8 +208,9 @@ bool HBCIBusiness::Refresh()
         return m_session->FailSetUp();
     }
     if (run.State.Accounts.isEmpty()) {
-        return run.Fail(
-            modBankFault::Of(eBankFault::NoAccounts, cText::Tr("Die Kontodaten konnten nicht abgerufen werden.")));
+        return run.Fail(modBankFault::Of(eBankFault::NoAccounts,
+                                         cText::Tr("Die Kontodaten konnten nicht abgerufen werden."),
+                                         run.BankWords.join(u'\n')));
     }
     return true;
 }

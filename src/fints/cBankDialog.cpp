@@ -171,6 +171,8 @@ void cBankDialog::Heed(const cBankAnswer& answer)
     if (!collected.isEmpty()) {
         m_run.Collected += (m_run.Collected.isEmpty() ? QString() : u"\r\n"_s) + collected;
     }
+    m_run.BankWords += answer.BankWords().split(u'\n', Qt::SkipEmptyParts);
+    m_run.BankWords.removeDuplicates();
     m_isSystemIdUnknown = m_isSystemIdUnknown || answer.Has(u"9391");
     if (answer.IsAborted()) {
         m_line = eLine::Closed;

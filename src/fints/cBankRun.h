@@ -5,6 +5,7 @@
 #include "model/cBankState.h"
 
 #include <QString>
+#include <QStringList>
 
 // What all dialogs of one HBCIBusiness share.
 struct cBankRun
@@ -14,6 +15,7 @@ struct cBankRun
     const cSecret& Pin;
     QList<cBankAccount> Found = {}; // accounts that the bank told in this operation
     QString Collected = {};         // what it said in this operation, code and text, one a line
+    QStringList BankWords = {};     // the same for the user, without codes; warnings may say what to do, too
     bool HasFunctions = false;      // it named the TAN procedures of the customer
     cBankError Refused = {};        // set once the bank refused the PIN: no message is sent any more
     cBankError Error = {};          // of this operation
