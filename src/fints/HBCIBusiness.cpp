@@ -105,7 +105,7 @@ bool HBCIBusiness::Discover()
     if (!m_session->Begin()) {
         return false;
     }
-    run.IsNew = true;
+    run.IsNew = run.State.Accounts.isEmpty();
     cBankDialog dialog(run, Unknown());
     const bool isOpen = dialog.Open({.IsSync = true, .IsFromScratch = true, .TanSegment = {}});
     dialog.End();
@@ -185,10 +185,13 @@ bool HBCIBusiness::cSession::FailSetUp()
     if (!IsOfBank(Run.Error.Failure.Fault)) {
         return false;
     }
-    const QStringList values{Run.Collected};
-    Run.Error.ErrorText = Run.IsNew
-        ? cText::Tr("Die Kontodaten konnten nicht ermittelt werden.\n{0}", values)
-        : cText::Tr("Legen Sie dieses Bankkonto neu an, sollte der Fehler weiterhin bestehen.\n{0}", values);
+    const auto sentence = [&](const QString& why) {
+        return Run.IsNew
+            ? cText::Tr("Die Kontodaten konnten nicht ermittelt werden.\n{0}", {why})
+            : cText::Tr("Legen Sie dieses Bankkonto neu an, sollte der Fehler weiterhin bestehen.\n{0}", {why});
+    };
+    Run.Error.ErrorText = sentence(Run.Collected);
+    Run.Error.Failure.Text = sentence(Run.Error.Failure.Text);
     return false;
 }
 

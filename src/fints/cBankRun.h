@@ -20,7 +20,7 @@ struct cBankRun
     cBankError Refused = {};        // set once the bank refused the PIN: no message is sent any more
     cBankError Error = {};          // of this operation
     QString AddressHint = {};
-    bool IsNew = false; // the login is being set up: the accounts were looked for before
+    bool IsNew = false; // no account of the login was known when its accounts were looked for
 
     // The operation ends with this error; false, for the caller to return.
     bool Fail(const cBankError& error)

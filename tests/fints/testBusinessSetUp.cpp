@@ -202,9 +202,16 @@ void testBusinessSetUp::RemembersWhatCameBeforeAFailure()
     QVERIFY(scene.Business.Discover());
     QVERIFY(!scene.Business.Refresh());
     QCOMPARE(scene.Business.Failure().BankWords, u"Fehler.\nHeute nicht."_s);
+    QVERIFY(scene.Business.Failure().Text.startsWith(u"Die Kontodaten konnten nicht ermittelt werden.\nDie Bank"));
     QCOMPARE(scene.State.SystemId, QByteArray("SYS?+2"));
     QCOMPARE(scene.State.BpdVersion, u"78"_s);
     QVERIFY(!scene.State.Parameters.isEmpty());
+
+    QVERIFY(scene.Business.Refresh()); // and then fails when its accounts are known
+    scene.Bank.Profile.Refusals["HKIDN"].Nth = 5;
+    QVERIFY(scene.Business.Discover());
+    QVERIFY(!scene.Business.Refresh());
+    QVERIFY(scene.Business.Failure().Text.startsWith(u"Legen Sie dieses Bankkonto neu an"));
 }
 
 void testBusinessSetUp::OffersApprovalFirst()

@@ -72,9 +72,7 @@ QString LastText(QDate day)
 // For how many days the bank has the bookings of an account; 0: it does not say.
 int KeptDays(const cBankState& state, const cBankAccount& account)
 {
-    constexpr int mostKaz = 7;
-    const bool isAllowed = account.Orders.isEmpty() || account.Orders.contains(u"HKKAZ"_s);
-    const bool isKaz = isAllowed && modBankParameters::Version(state.Parameters, "HIKAZS", mostKaz) > 0;
+    const bool isKaz = modBankParameters::StatementOrder(state.Parameters, account).MT940 > 0;
     return modBankParameters::StatementDays(state.Parameters, isKaz ? "HIKAZS" : "HICAZS");
 }
 

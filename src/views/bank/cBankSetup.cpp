@@ -74,6 +74,7 @@ void cBankSetup::ChooseBank(const cBankInfo& bank)
     m_state.BankName = bank.Name;
     m_state.Bic = bank.Bic;
     m_state.Url = bank.Url;
+    m_state.HbciVersion = m_access.HbciVersion(bank.Code);
 }
 
 void cBankSetup::ChooseCode(const QString& code)
