@@ -178,7 +178,7 @@ void cBankFetch::Load()
 QString cBankFetch::EmptyHint() const
 {
     return m_accounts.isEmpty()
-        ? cText::Tr("Es ist noch kein Bankkonto eingerichtet. Richten Sie unter „Bankzugänge…“ eines ein.")
+        ? cText::Tr("Es ist noch kein Bankkonto eingerichtet. Mit „Bankzugang einrichten…“ richten Sie eines ein.")
         : QString();
 }
 
@@ -382,6 +382,7 @@ void cBankFetch::Take(const cJob& job, QList<cFetchedAccount>& fetched, const cB
         run.Statements.append({.Name = m_accounts.at(place).Name,
                                .Account = NumberIn(state, found->Account),
                                .IsNumberShared = cBankAccess::IsNumberShared(state, order.Account),
+                               .Iban = found->Account.Iban,
                                .BookAccount = m_access.BookAccountOf(state, found->Account),
                                .Mt940 = std::move(found->MT940),
                                .Camt = std::move(found->Camt),
