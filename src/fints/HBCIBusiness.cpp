@@ -42,6 +42,7 @@ bool HBCIBusiness::cSession::Begin()
     Run.Found.clear();
     Run.HasFunctions = false;
     Run.Collected.clear();
+    Run.BankWords.clear();
     Run.Error = {};
     Fetched.clear();
     if (Run.Parts.ProductId.trimmed().isEmpty()) {
@@ -59,7 +60,7 @@ bool HBCIBusiness::cSession::IsLoginRefused() const
 // Before a strong authentication many banks name the TAN procedures and no accounts: enough to go on.
 bool HBCIBusiness::cSession::JudgeDiscovery(const cBankError& error)
 {
-    const QString words = error.Failure.BankWords;
+    const QString words = Run.BankWords.join(u'\n');
     const bool isSilent = Run.Found.isEmpty() && !Run.HasFunctions;
     if (Run.Refused.IsSet()) {
         return Run.Fail(Run.Refused);
@@ -104,7 +105,7 @@ bool HBCIBusiness::Discover()
     if (!m_session->Begin()) {
         return false;
     }
-    run.IsNew = true;
+    run.IsNew = run.State.Accounts.isEmpty();
     cBankDialog dialog(run, Unknown());
     const bool isOpen = dialog.Open({.IsSync = true, .IsFromScratch = true, .TanSegment = {}});
     dialog.End();
@@ -184,10 +185,13 @@ bool HBCIBusiness::cSession::FailSetUp()
     if (!IsOfBank(Run.Error.Failure.Fault)) {
         return false;
     }
-    const QStringList values{Run.Collected};
-    Run.Error.ErrorText = Run.IsNew
-        ? cText::Tr("Die Kontodaten konnten nicht ermittelt werden.\n{0}", values)
-        : cText::Tr("Legen Sie dieses Bankkonto neu an, sollte der Fehler weiterhin bestehen.\n{0}", values);
+    const auto sentence = [&](const QString& why) {
+        return Run.IsNew
+            ? cText::Tr("Die Kontodaten konnten nicht ermittelt werden.\n{0}", {why})
+            : cText::Tr("Legen Sie dieses Bankkonto neu an, sollte der Fehler weiterhin bestehen.\n{0}", {why});
+    };
+    Run.Error.ErrorText = sentence(Run.Collected);
+    Run.Error.Failure.Text = sentence(Run.Error.Failure.Text);
     return false;
 }
 
@@ -207,8 +211,9 @@ bool HBCIBusiness::Refresh()
         return m_session->FailSetUp();
     }
     if (run.State.Accounts.isEmpty()) {
-        return run.Fail(
-            modBankFault::Of(eBankFault::NoAccounts, cText::Tr("Die Kontodaten konnten nicht abgerufen werden.")));
+        return run.Fail(modBankFault::Of(eBankFault::NoAccounts,
+                                         cText::Tr("Die Kontodaten konnten nicht abgerufen werden."),
+                                         run.BankWords.join(u'\n')));
     }
     return true;
 }

@@ -18,7 +18,7 @@ using modFintsValue::Unescaped;
 
 namespace {
 
-constexpr std::array wrongPin = {u"9942", u"9931", u"9340", u"9910", u"9930", u"9933"};
+constexpr std::array wrongPin = {u"9942", u"9931", u"9910", u"9930", u"9933"};
 constexpr std::array locked = {u"3931", u"3938"};
 
 // Accounts that have no statements: securities and cards.

@@ -62,7 +62,7 @@ HBCISegment cBankDialog::TanFor(const QByteArray& segment) const
     cTanRequest request{.Process = "4", .Segment = segment};
     if (m_method.TanProcess == u"1") {
         request.Process = "1";
-        request.OrderHash = QByteArray(20, '\0'); // no bank compares it; what counts is that there is one
+        request.OrderHash = QByteArray(20, '\0'); // the order itself stands beside it
     }
     if (m_method.MediaNameRequired == u"1" || m_method.MediaNameRequired == u"2") {
         request.Medium = m_run.State.Medium;
@@ -116,7 +116,7 @@ void cBankDialog::End()
     if (!answer) {
         return; // what was fetched has come; the bank ends the dialog by itself after a while
     }
-    const cBankError error = modBankFault::OfAnswer(*answer);
+    const cBankError error = modBankFault::OfAnswer(*answer, eAnswerTo::Order);
     if (modBankFault::IsPinRefused(error.Failure.Fault)) {
         m_run.Refused = error;
     }
@@ -141,7 +141,7 @@ std::optional<cBankAnswer> cBankDialog::Exchange(const QList<HBCISegment>& busin
         return Stop(exchange.Error());
     }
     Heed(*answer);
-    const cBankError error = modBankFault::OfAnswer(*answer);
+    const cBankError error = modBankFault::OfAnswer(*answer, tan == nullptr ? eAnswerTo::Order : eAnswerTo::Tan);
     if (!modBankFault::IsPinRefused(error.Failure.Fault)) {
         return answer;
     }
@@ -171,6 +171,8 @@ void cBankDialog::Heed(const cBankAnswer& answer)
     if (!collected.isEmpty()) {
         m_run.Collected += (m_run.Collected.isEmpty() ? QString() : u"\r\n"_s) + collected;
     }
+    m_run.BankWords += answer.BankWords().split(u'\n', Qt::SkipEmptyParts);
+    m_run.BankWords.removeDuplicates();
     m_isSystemIdUnknown = m_isSystemIdUnknown || answer.Has(u"9391");
     if (answer.IsAborted()) {
         m_line = eLine::Closed;

@@ -49,14 +49,16 @@ static cApproval ApprovalFor(const cTanChallenge& challenge, const TanVerfahrenI
     return approval;
 }
 
-// The final answer behind a question, or the answer itself when it is none.
+// The final answer behind a question, or the answer itself when it is none. A bank that asks although it found a fault
+// in one segment has taken the order.
 std::optional<cBankAnswer> cBankDialog::Answered(const cBankAnswer& question)
 {
-    const cBankError error = modBankFault::OfAnswer(question);
-    if (error.IsSet()) {
+    const bool isQuestion = !modBankMemory::IsOneStep(m_method) && IsQuestion(question);
+    const cBankError error = modBankFault::OfAnswer(question, eAnswerTo::Order);
+    if (error.IsSet() && !(isQuestion && error.Failure.Fault == eBankFault::Other)) {
         return Fail(error);
     }
-    if (modBankMemory::IsOneStep(m_method) || !IsQuestion(question)) {
+    if (!isQuestion) {
         return question;
     }
     const cTanChallenge challenge = *question.Tan();
@@ -65,7 +67,7 @@ std::optional<cBankAnswer> cBankDialog::Answered(const cBankAnswer& question)
     if (!answer) {
         return std::nullopt;
     }
-    const cBankError refusal = modBankFault::OfTanAnswer(*answer, isApproval);
+    const cBankError refusal = modBankFault::OfAnswer(*answer, isApproval ? eAnswerTo::Approval : eAnswerTo::Tan);
     if (refusal.IsSet()) {
         return Fail(refusal);
     }
@@ -82,7 +84,8 @@ std::optional<cBankAnswer> cBankDialog::WithTan(const cTanChallenge& challenge)
     const cTanRequest request{.Process = "2", .Reference = challenge.Reference};
     auto answer = Exchange({HBCIFactory::Tan(m_method.SegmentVersion, request)}, &*tan);
     if (!answer && m_error.Failure.Fault == eBankFault::BrokenAnswer) {
-        m_error.ErrorText = cText::Tr("Fehler: Ungültige Antwort nach TAN-Eingabe!");
+        m_error = modBankFault::Specific(eBankFault::BrokenAnswer,
+                                         cText::Tr("Fehler: Ungültige Antwort nach TAN-Eingabe!"));
     }
     return answer;
 }

@@ -59,7 +59,8 @@ QByteArray Shortened(const QByteArray& text)
 QByteArray Masked(const QByteArray& message, const QList<QByteArray>& secrets, const QList<QByteArray>& product)
 {
     const auto mask = [&](const QByteArray& text) {
-        return modLogMask::Covered(modLogMask::Covered(text, secrets, secretCover), product, productCover);
+        return modLogMask::Covered(text, product, productCover,
+                                   modLogMask::Covered(text, secrets, secretCover, text));
     };
     if (message.size() <= longest) {
         return mask(message);

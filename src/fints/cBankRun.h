@@ -5,6 +5,7 @@
 #include "model/cBankState.h"
 
 #include <QString>
+#include <QStringList>
 
 // What all dialogs of one HBCIBusiness share.
 struct cBankRun
@@ -14,11 +15,12 @@ struct cBankRun
     const cSecret& Pin;
     QList<cBankAccount> Found = {}; // accounts that the bank told in this operation
     QString Collected = {};         // what it said in this operation, code and text, one a line
+    QStringList BankWords = {};     // the same for the user, without codes; warnings may say what to do, too
     bool HasFunctions = false;      // it named the TAN procedures of the customer
     cBankError Refused = {};        // set once the bank refused the PIN: no message is sent any more
     cBankError Error = {};          // of this operation
     QString AddressHint = {};
-    bool IsNew = false; // the login is being set up: the accounts were looked for before
+    bool IsNew = false; // no account of the login was known when its accounts were looked for
 
     // The operation ends with this error; false, for the caller to return.
     bool Fail(const cBankError& error)

@@ -3,14 +3,6 @@
 #include "base/cBankUser.h"
 #include "base/cText.h"
 #include "fints/modBankMemory.h"
-#include "fints/modBankParameters.h"
-
-// The bank and the customer's account have to know an order; each of the two lists has things that the other lacks. An
-// account without a list is restricted by nothing.
-static bool IsAllowed(const cBankAccount& account, const QString& order)
-{
-    return account.Orders.isEmpty() || account.Orders.contains(order);
-}
 
 static QString NameOf(const cBankAccount& account)
 {
@@ -47,8 +39,8 @@ cFetchedAccount cStatementFetch::Fetch(const cFetchOrder& order)
     cFetchedAccount fetched;
     cFetchOrder complete = order;
     m_run.Parts.User.ShowStep(cText::Tr("Umsätze werden abgerufen: {0}", {NameOf(order.Account)}));
-    const cKind kind = KindOf(order.Account);
-    if (kind.MT940 == 0 && kind.Camt.isEmpty()) {
+    const cKind kind = modBankParameters::StatementOrder(m_run.State.Parameters, order.Account);
+    if (kind.IsNone()) {
         fetched.Account = order.Account;
         fetched.Failure = modBankFault::Of(eBankFault::NoStatements).Failure;
         return fetched;
@@ -63,22 +55,6 @@ cFetchedAccount cStatementFetch::Fetch(const cFetchOrder& order)
         fetched.Failure = m_dialog.Error().Failure;
     }
     return fetched;
-}
-
-cStatementFetch::cKind cStatementFetch::KindOf(const cBankAccount& account) const
-{
-    const QList<QByteArray>& parameters = m_run.State.Parameters;
-    cKind kind;
-    if (IsAllowed(account, QStringLiteral("HKKAZ"))) {
-        const bool hasFive = modBankParameters::Offers(parameters, "HIKAZS", 5);
-        const int highest = modBankParameters::Version(parameters, "HIKAZS", 7);
-        kind.MT940 = hasFive ? 5 : highest > 5 ? highest : 0;
-    }
-    const bool hasCamt = modBankParameters::Offers(parameters, "HICAZS", 1);
-    if (kind.MT940 == 0 && hasCamt && IsAllowed(account, QStringLiteral("HKCAZ"))) {
-        kind.Camt = modBankParameters::CamtFormat(parameters);
-    }
-    return kind;
 }
 
 HBCISegment cStatementFetch::Request(const cKind& kind, const cFetchOrder& order, const QByteArray& point) const
@@ -122,7 +98,7 @@ void cStatementFetch::Balance(cFetchedAccount& fetched)
 {
     const QList<QByteArray>& parameters = m_run.State.Parameters;
     const int version = modBankParameters::Version(parameters, "HISALS", fetched.Account.Iban.isEmpty() ? 6 : 7);
-    if (version < 5 || !IsAllowed(fetched.Account, QStringLiteral("HKSAL"))) {
+    if (version < 5 || !modBankParameters::IsAllowed(fetched.Account, QStringLiteral("HKSAL"))) {
         return;
     }
     const auto national = modBankParameters::IsNationalAccountAllowed(parameters) ? HBCIFactory::eNational::With

@@ -2,6 +2,7 @@
 
 #include "fints/cBankDialog.h"
 #include "fints/HBCIBusiness.h"
+#include "fints/modBankParameters.h"
 
 // Fetches bookings and balances of accounts, one after the other, in a dialog that is open.
 class cStatementFetch
@@ -13,14 +14,8 @@ public:
     [[nodiscard]] cFetchedAccount Fetch(const cFetchOrder& order);
 
 private:
-    // How the bookings of an account are asked for.
-    struct cKind
-    {
-        int MT940 = 0;   // version of the request
-        QByteArray Camt; // format, as on the wire
-    };
+    using cKind = modBankParameters::cStatementOrder;
 
-    [[nodiscard]] cKind KindOf(const cBankAccount& account) const;
     [[nodiscard]] HBCISegment Request(const cKind& kind, const cFetchOrder& order, const QByteArray& point) const;
     [[nodiscard]] bool Pages(const cKind& kind, const cFetchOrder& order, cFetchedAccount& fetched);
     void Balance(cFetchedAccount& fetched);

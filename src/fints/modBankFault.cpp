@@ -15,7 +15,7 @@ QString TextOfConnection(eBankFault fault)
     case eBankFault::NotReachable:
         return cText::Tr("Die Bank ist nicht erreichbar. Prüfen Sie die Verbindung zum Internet und die Adresse der "
                          "Bank.");
-    case eBankFault::Silent: return cText::Tr("Die Bank antwortet nicht. Versuchen Sie es später noch einmal.");
+    case eBankFault::Silent: return cText::Tr("Versuchen Sie es später noch einmal.");
     case eBankFault::Certificate:
         return cText::Tr("Die Gegenstelle konnte sich nicht als Ihre Bank ausweisen. Es wurde nichts gesendet. Prüfen "
                          "Sie die Adresse der Bank und ob Sie in einem fremden Netz sind.");
@@ -106,10 +106,17 @@ cBankError modBankFault::Of(eBankFault fault, const QString& errorText, const QS
             .ErrorText = errorText.isEmpty() ? text : errorText};
 }
 
+cBankError modBankFault::Specific(eBankFault fault, const QString& errorText)
+{
+    cBankError error = Of(fault, errorText);
+    error.Failure.Text.prepend(errorText + u' ');
+    return error;
+}
+
 cBankError modBankFault::Silence(const QString& url)
 {
-    return Of(eBankFault::Silent,
-              cText::Tr("Fehler: Der Server '{0}' antwortet nicht oder nicht schnell genug!", {url}));
+    return Specific(eBankFault::Silent,
+                    cText::Tr("Fehler: Der Server '{0}' antwortet nicht oder nicht schnell genug!", {url}));
 }
 
 cBankError modBankFault::OfTransport(const cHttpsAnswer& answer, const QString& url)
@@ -139,13 +146,17 @@ static bool HasError(const cBankAnswer& answer)
                        [](const cReturnMessage& message) { return message.Code.startsWith(u'9'); });
 }
 
-static eBankFault FaultOf(const cBankAnswer& answer)
+static eBankFault FaultOf(const cBankAnswer& answer, eAnswerTo to)
 {
     if (answer.IsLocked()) {
         return eBankFault::Locked; // a locked access answers "PIN wrong" too, to a right one
     }
-    if (answer.IsWrongPin()) {
+    const bool isUnsigned = answer.Has(u"9340"); // by the TAN, where one was sent: its PIN was good before
+    if (answer.IsWrongPin() || (isUnsigned && to != eAnswerTo::Tan)) {
         return eBankFault::WrongPin;
+    }
+    if (to != eAnswerTo::Order && (isUnsigned || HasAny(answer, {u"9941", u"9943"}))) {
+        return to == eAnswerTo::Tan ? eBankFault::TanWrong : eBankFault::ApprovalRejected;
     }
     if (!HasError(answer)) {
         return eBankFault::None;
@@ -156,25 +167,14 @@ static eBankFault FaultOf(const cBankAnswer& answer)
     return answer.IsAborted() ? eBankFault::EndedByBank : eBankFault::Other;
 }
 
-cBankError modBankFault::OfAnswer(const cBankAnswer& answer)
+cBankError modBankFault::OfAnswer(const cBankAnswer& answer, eAnswerTo to)
 {
-    const eBankFault fault = FaultOf(answer);
+    const eBankFault fault = FaultOf(answer, to);
     if (fault == eBankFault::None) {
         return {};
     }
     // The wrong PIN has a sentence of its own; everything else is told in the words of the bank.
     return Of(fault, fault == eBankFault::WrongPin ? QString() : answer.CollectedText(), answer.BankWords());
-}
-
-cBankError modBankFault::OfTanAnswer(const cBankAnswer& answer, bool isApproval)
-{
-    cBankError error = OfAnswer(answer);
-    const bool isDenied = HasAny(answer, {u"9941", u"9943"});
-    if (isDenied && !IsPinRefused(error.Failure.Fault)) {
-        return Of(isApproval ? eBankFault::ApprovalRejected : eBankFault::TanWrong, answer.CollectedText(),
-                  answer.BankWords());
-    }
-    return error;
 }
 
 bool modBankFault::IsPinRefused(eBankFault fault)

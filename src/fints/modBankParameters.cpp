@@ -204,6 +204,26 @@ bool modBankParameters::IsOneStepAllowed(const QList<QByteArray>& parameters)
     return OwnFields(SegmentsOf(parameters, "HITANS", newestMethods)).value(0) == "J";
 }
 
+// An account without a list is restricted by nothing.
+bool modBankParameters::IsAllowed(const cBankAccount& account, const QString& order)
+{
+    return account.Orders.isEmpty() || account.Orders.contains(order);
+}
+
+// A bank of the old protocol names version 4 and takes 5.
+modBankParameters::cStatementOrder modBankParameters::StatementOrder(const QList<QByteArray>& parameters,
+                                                                     const cBankAccount& account)
+{
+    constexpr int usual = 5;
+    constexpr int newest = 7;
+    const int highest = Version(parameters, "HIKAZS", newest);
+    if (highest > 0 && IsAllowed(account, u"HKKAZ"_s)) {
+        return {.MT940 = Offers(parameters, "HIKAZS", usual) ? usual : std::max(highest, usual)};
+    }
+    const bool hasCamt = Offers(parameters, "HICAZS", 1) && IsAllowed(account, u"HKCAZ"_s);
+    return {.Camt = hasCamt ? CamtFormat(parameters) : QByteArray()};
+}
+
 int modBankParameters::StatementDays(const QList<QByteArray>& parameters, QByteArrayView code)
 {
     return std::max(0, OwnFields(SegmentsOf(parameters, code, anyVersion)).value(0).toInt());

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/cBankAccount.h"
 #include "model/TanVerfahrenItem.h"
 
 #include <QByteArray>
@@ -17,6 +18,18 @@ namespace modBankParameters {
 // Every procedure with one row of the highest version in which its function is offered.
 [[nodiscard]] QList<TanVerfahrenItem> Methods(const QList<QByteArray>& parameters);
 [[nodiscard]] bool IsOneStepAllowed(const QList<QByteArray>& parameters);
+
+// How the bookings of an account are asked for: the version of HKKAZ, else the format for HKCAZ (wire).
+struct cStatementOrder
+{
+    int MT940 = 0;
+    QByteArray Camt{};
+
+    [[nodiscard]] bool IsNone() const { return MT940 == 0 && Camt.isEmpty(); }
+};
+// Bank and account have to know an order; each of the two lists has things that the other lacks.
+[[nodiscard]] cStatementOrder StatementOrder(const QList<QByteArray>& parameters, const cBankAccount& account);
+[[nodiscard]] bool IsAllowed(const cBankAccount& account, const QString& order);
 
 [[nodiscard]] int StatementDays(const QList<QByteArray>& parameters,
                                 QByteArrayView code);                             // HIKAZS, HICAZS; 0: not named

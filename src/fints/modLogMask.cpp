@@ -100,16 +100,16 @@ private:
 
 } // namespace
 
-QByteArray modLogMask::Covered(QByteArray text, const QList<QByteArray>& needles, char cover)
+QByteArray modLogMask::Covered(QByteArrayView text, const QList<QByteArray>& needles, char cover, QByteArray shown)
 {
     QBitArray marks(text.size());
     for (const QByteArray& needle : needles) {
         Mark(marks, text, needle);
     }
     for (qsizetype i = 0; i < marks.size(); ++i) {
-        text[i] = marks.testBit(i) ? cover : text[i];
+        shown[i] = marks.testBit(i) ? cover : shown[i];
     }
-    return text;
+    return shown;
 }
 
 QByteArray modLogMask::Words(QByteArrayView text, const QList<QByteArray>& needles)

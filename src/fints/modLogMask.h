@@ -13,8 +13,9 @@ namespace modLogMask {
 // What stands for something hidden. Always the same, so that not even a length is told.
 constexpr const char* hidden = "***";
 
-// All occurrences of the needles replaced by as many characters; where two overlap, both are.
-[[nodiscard]] QByteArray Covered(QByteArray text, const QList<QByteArray>& needles, char cover);
+// `shown`, of the same length as the text, with every occurrence of the needles in the text replaced by as many
+// characters; where two overlap, both are.
+[[nodiscard]] QByteArray Covered(QByteArrayView text, const QList<QByteArray>& needles, char cover, QByteArray shown);
 
 // Words of a bank: long numbers, IBANs and the needles hidden.
 [[nodiscard]] QByteArray Words(QByteArrayView text, const QList<QByteArray>& needles);

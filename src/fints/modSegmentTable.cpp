@@ -100,6 +100,9 @@ constexpr std::array rows = {
     cRow{"HITAN", 0, 0, 1, "TanProcessResponse: ", {{
         {"Process", "Process=", Open}, {"OrderHash"}, {"Reference", " Reference="}, {"Challenge", " Challenge=", Words},
         {"HhdUc"}, {"ValidUntil", " ValidUntil=", Open}, {"Medium", " Medium=", Person}}}},
+    cRow{"HITANS", 0, 0, 1, "TanParameters: ", {{
+        {"MostOrders", "MostOrders=", Open}, {"LeastSignatures", nullptr, Open}, {"SecurityClass", nullptr, Open},
+        {"Parameters", " Parameters=", Open}}}},
     cRow{"HITAB", 0, 0, 1, "TanMediaResponse: ", {{{"Usage", "Usage=", Open}, {"Media"}}}},
     cRow{"HIKOM", 0, 0, 1, "Communication: ", {{
         {"InstituteID", "InstituteID=", Person}, {"Language", nullptr, Open}, {"Access", " Access=", Open}}}},

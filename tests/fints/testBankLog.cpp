@@ -37,6 +37,10 @@ private Q_SLOTS:
                  "--------------------\r\nAntwort von Bank\r\n"
                  "HIRMG:2:2+9942::PPPPPPP ist falsch'\r\n\r\n"_s);
         QVERIFY(!log.TextForOthers({}).contains(u"77"));
+
+        const cSecret inside(u"1ä");
+        log.AddRequest("HKVVB:4:3+0+0+0+PROD1\xe4+1.00'", {&inside}, u"PROD1ä"_s);
+        QVERIFY2(log.Text().contains(u"+XXXXXX+1.00'"), qPrintable(log.Text()));
     }
 
     void PutsEachSegmentOnALine()

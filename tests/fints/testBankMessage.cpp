@@ -167,6 +167,8 @@ private Q_SLOTS:
                  u"ResponseSegment: 0020::a; 3040::b:4711"_s);
         QCOMPARE(HBCISegment::Read("HIKAZ:3:5:4+@3@abc").DebugDescription(),
                  u"AccountTransactionsResponse: Booked=abc NotBooked="_s);
+        QCOMPARE(HBCISegment::Read("HITANS:9:1:4+1+1+0+J:N").DebugDescription(),
+                 u"TanParameters: MostOrders=1 Parameters=J:N"_s);
         QCOMPARE(HBCISegment::Read("HNSHA:3:2+1++12345").DebugDescription(), u"SignatureEnd: Control=1"_s);
     }
 };

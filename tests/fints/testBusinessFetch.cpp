@@ -47,6 +47,8 @@ void testBusinessFetch::Fetches_data()
     }) << init + u"HKKAZ7 111 | HKSAL7 111 | end";
     QTest::newRow("version 6") << Profile([](cBankProfile& bank) { bank.Parameters = {"HIKAZS:6+1+1+0+90:N:N"}; })
                                << init + u"HKKAZ6 111 | end";
+    QTest::newRow("older version") << Profile([](cBankProfile& bank) { bank.Parameters = {"HIKAZS:4+1+1+90:N:N"}; })
+                                   << init + u"HKKAZ5 111 | end";
     QTest::newRow("IBAN has to be asked for") << Profile([](cBankProfile& bank) {
         bank.Parameters = {"HIKAZS:7+1+1+0+90:N:N", "HISPAS:1+1+1+0+J:N:N"};
         bank.Accounts.first().Iban.clear();
@@ -118,6 +120,9 @@ void testBusinessFetch::OneAccountLeavesTheOthers_data()
     row("no statements", with([](cBankProfile& bank) { bank.Accounts.first().Orders = "HKWPD:1"; }),
         init + u"HKKAZ5 222 | end", eBankFault::NoStatements, eBankFault::None);
     row("wrong TAN", with([](cBankProfile& bank) { bank.AskedTans["HKKAZ"] = {.Refusal = "9941::TAN ung."}; }),
+        init + u"HKKAZ5 | TAN? | TAN | HKKAZ5 222 | end", eBankFault::TanWrong, eBankFault::None);
+    row("wrong signature by the TAN",
+        with([](cBankProfile& bank) { bank.AskedTans["HKKAZ"] = {.Refusal = "9340::Signatur der TAN."}; }),
         init + u"HKKAZ5 | TAN? | TAN | HKKAZ5 222 | end", eBankFault::TanWrong, eBankFault::None);
     row("ended by the bank", with([](cBankProfile& bank) { bank.Refusals["HKKAZ"] = {.Global = "9800::Ende."}; }),
         init + u"HKKAZ5", eBankFault::EndedByBank, eBankFault::EndedByBank);

@@ -159,8 +159,9 @@ void testBusinessLine::NamesTheServer()
     cBankScene scene;
     scene.Https.Accident = {.Step = "HKIDN", .How = eSpoil::Silent};
     QVERIFY(!scene.Business.Discover());
-    QCOMPARE(scene.Business.ErrorText(),
-             u"Fehler: Der Server 'https://bank.example/fints' antwortet nicht oder nicht schnell genug!"_s);
+    QCOMPARE(scene.Business.Failure().Text,
+             u"Fehler: Der Server 'https://bank.example/fints' antwortet nicht oder nicht schnell genug! "
+             "Versuchen Sie es später noch einmal."_s);
 }
 
 // The bank of these tests would be worth nothing if it took everything.

@@ -148,8 +148,21 @@ void testBusinessSetUp::SaysWhatIsWrong_data()
     }
     row("login", Refusing("HKIDN", 1, "9010::Benutzerkennung unbekannt."), eBankFault::LoginRefused,
         u"9050 Fehler.\r\n9010 Benutzerkennung"_s, u"sync 999 0/0 | end"_s);
-    row("neither accounts nor procedures", Profile([](cBankProfile& bank) { bank.IsListed = false; }),
+    row("neither accounts nor procedures", Profile([](cBankProfile& bank) {
+            bank.IsListed = false;
+            bank.InitWords = "3918::Bitte zuerst die neuen Bedingungen annehmen.";
+        }),
         eBankFault::NoAccounts, u"Die Kontodaten konnten nicht abgerufen werden."_s, u"sync 999 0/0 | end"_s);
+    row("login, beside warnings only", Profile([](cBankProfile& bank) {
+            bank.IsListed = false;
+            bank.InitWords = "3910::Anmeldung fehlgeschlagen.";
+        }),
+        eBankFault::LoginRefused, u"3060"_s, u"sync 999 0/0 | end"_s);
+    row("accounts without statements only", Profile([](cBankProfile& bank) {
+            bank.Accounts = {{.Number = "111", .Product = "Depot"}};
+        }),
+        eBankFault::NoAccounts, u"Die Kontodaten konnten nicht abgerufen werden."_s,
+        syncEnd + u"init 912 78/0 HKIDN | HKTAB4 | end");
     row("old procedures only", Profile([](cBankProfile& bank) { bank.Methods.first().Version = 5; }),
         eBankFault::NoMethod, u"Kein unterstütztes TAN-Verfahren gefunden.\r\n3060"_s, u"sync 999 0/0 | end"_s);
     row("procedures of others", Profile([](cBankProfile& bank) { bank.Functions = "944"; }), eBankFault::NoMethod,
@@ -174,6 +187,7 @@ void testBusinessSetUp::SaysWhatIsWrong()
     QCOMPARE(scene.Business.ErrorText().left(text.size()), text);
     QVERIFY(!scene.Business.Failure().Text.isEmpty());
     QVERIFY(!scene.Business.Failure().Text.contains(u"9"));
+    QVERIFY(!scene.Business.Failure().BankWords.isEmpty());
     QCOMPARE(scene.Bank.Story(), story);
     QVERIFY(scene.Bank.IsQuiet());
     if (fault == eBankFault::WrongPin || fault == eBankFault::Locked) {
@@ -188,9 +202,16 @@ void testBusinessSetUp::RemembersWhatCameBeforeAFailure()
     QVERIFY(scene.Business.Discover());
     QVERIFY(!scene.Business.Refresh());
     QCOMPARE(scene.Business.Failure().BankWords, u"Fehler.\nHeute nicht."_s);
+    QVERIFY(scene.Business.Failure().Text.startsWith(u"Die Kontodaten konnten nicht ermittelt werden.\nDie Bank"));
     QCOMPARE(scene.State.SystemId, QByteArray("SYS?+2"));
     QCOMPARE(scene.State.BpdVersion, u"78"_s);
     QVERIFY(!scene.State.Parameters.isEmpty());
+
+    QVERIFY(scene.Business.Refresh()); // and then fails when its accounts are known
+    scene.Bank.Profile.Refusals["HKIDN"].Nth = 5;
+    QVERIFY(scene.Business.Discover());
+    QVERIFY(!scene.Business.Refresh());
+    QVERIFY(scene.Business.Failure().Text.startsWith(u"Legen Sie dieses Bankkonto neu an"));
 }
 
 void testBusinessSetUp::OffersApprovalFirst()

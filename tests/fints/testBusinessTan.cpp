@@ -103,6 +103,8 @@ void testBusinessTan::AsksForATan_data()
             .HhdUc = "0248A0120452019980812345678",
         },
         true, eTanDisplay::Flicker);
+    row("beside a fault in one segment", sms, cAskedTan{.Code = "9010::Teilweise fehlerhaft."}, true,
+        eTanDisplay::Text);
     row("no challenge", sms, cAskedTan{.Challenge = "nochallenge"}, false, eTanDisplay::Text);
     row("not required", sms, cAskedTan{.Code = "3076::Nicht erforderlich."}, false, eTanDisplay::Text);
 }
@@ -136,7 +138,7 @@ void testBusinessTan::NamesAnAnswerThatIsNone()
     QVERIFY(scene.SetUp());
     scene.Https.Accident = {.Step = "HKTAN2", .How = eSpoil::Html};
     QVERIFY(!scene.Business.FetchAll(scene.Orders()));
-    QCOMPARE(scene.Business.ErrorText(), u"Fehler: Ungültige Antwort nach TAN-Eingabe!"_s);
+    QVERIFY(scene.Business.Failure().Text.startsWith(u"Fehler: Ungültige Antwort nach TAN-Eingabe! Die Antwort"));
     QCOMPARE(scene.Bank.Story(), u"init 912 78/3 HKIDN | HKKAZ5 | TAN? | TAN 111 | end"_s);
 }
 

@@ -23,6 +23,7 @@ struct cFetchBook : cReadingBook
         cNoProgress progress;
         return Import.ImportFetched({.Name = u"Giro"_s,
                                      .Account = u"1234567"_s,
+                                     .Iban = cBankMonth().Iban,
                                      .Mt940 = mt940,
                                      .Camt = camt,
                                      .IsComplete = isComplete,
@@ -55,6 +56,8 @@ private Q_SLOTS:
         row("fetched twice", {u"M"_s, u"M"_s, u"C"_s, u"C"_s});
         row("camt first", {u"C"_s, u"M"_s, u"m"_s, u"c"_s});
         row("files first", {u"m"_s, u"c"_s, u"C"_s, u"M"_s});
+        row("login of another bank code", {u"O"_s, u"c"_s, u"C"_s, u"O"_s});
+        row("login of another bank code, camt file first", {u"c"_s, u"O"_s, u"O"_s, u"C"_s});
         row("camt file first", {u"c"_s, u"M"_s, u"C"_s, u"m"_s});
     }
 
@@ -67,6 +70,7 @@ private Q_SLOTS:
         qsizetype alike = 0;
         for (const QString& way : ways) {
             const cImportResult result = way == u"M" ? book.Fetch(month.Mt940())
+                : way == u"O" ? book.Fetch(month.Mt940().replace(u":25:"_s + month.Iban, u":25:12345678/1234567"_s))
                 : way == u"C"                        ? book.Fetch({}, {month.Camt()})
                 : way == u"m"                        ? book.ReadFile(u"a.sta"_s, month.Mt940().toLatin1())
                                                      : book.ReadFile(u"a.xml"_s, month.Camt());

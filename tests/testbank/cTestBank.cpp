@@ -196,12 +196,12 @@ QByteArray cTestBank::Respond(const cBankRequest& request)
     return Message("3060::Bitte beachten Sie die Hinweise.", request);
 }
 
-static bool IsRefusalOfPin(const QByteArray& words)
+static bool IsRefusalOfPin(const QByteArray& words, bool isToTan)
 {
-    static const QList<QByteArray> codes{"9942", "9931", "9340", "9910", "9930", "9933", "3931", "3938"};
+    static const QList<QByteArray> codes{"9942", "9931", "9910", "9930", "9933", "3931", "3938"};
     return std::any_of(codes.begin(), codes.end(),
                        [&](const QByteArray& code) { return words.contains(QByteArray(code + "::")); })
-        || words.toUpper().contains("PIN FALSCH") || words.contains("PIN ist ung");
+        || (words.contains("9340::") && !isToTan) || words.toUpper().contains("PIN FALSCH") || words.contains("PIN ist ung");
 }
 
 std::optional<QByteArray> cTestBank::Refuse(const cBankRequest& request, const QByteArray& step)
@@ -216,7 +216,7 @@ std::optional<QByteArray> cTestBank::Refuse(const cBankRequest& request, const Q
 
 QByteArray cTestBank::Refused(const cBankRequest& request, const cRefusal& refusal)
 {
-    m_isPinRefused = IsRefusalOfPin(refusal.Global + refusal.Local);
+    m_isPinRefused = IsRefusalOfPin(refusal.Global + refusal.Local, request.Step() == "HKTAN2");
     if (!refusal.Local.isEmpty()) {
         Say(request.Business.constFirst().Number, refusal.Local);
     }

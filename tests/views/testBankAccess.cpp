@@ -124,6 +124,14 @@ private Q_SLOTS:
             QVERIFY(access.SetLastFetch(state, state.Accounts[0], QDate(2026, 3, 1)));
         }
         QCOMPARE(access.Banks(), states);
+        cBankState old = states[1]; // the protocol is that of the bank code, what came with the other one is not
+        old.HbciVersion = u"220"_s;
+        QVERIFY(access.Save(old));
+        QCOMPARE(access.Find(old.BankCode, old.UserId), old);
+        old = *access.Find(old.BankCode, states[0].UserId);
+        QCOMPARE(old.HbciVersion + old.BpdVersion + old.UpdVersion, u"22000"_s);
+        QVERIFY(access.Save(states[1]));
+        QCOMPARE(access.Banks(), states);
         QVERIFY(access.Remove(states[1].BankCode, states[1].UserId));
         QCOMPARE(access.Banks(), QList({states[0], states[2]}));
         QVERIFY(access.Remove(states[0].BankCode, states[0].UserId));

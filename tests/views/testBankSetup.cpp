@@ -133,6 +133,14 @@ private Q_SLOTS:
         QCOMPARE(list.rowCount(), 0);
     }
 
+    void ASecondLoginSpeaksTheProtocolOfTheFirst()
+    {
+        cScene scene;
+        QVERIFY(scene.Book.Settings->Set(modSettingKey::OnlineBank.Of(u"12345678"_s), u"220"_s));
+        scene.Type();
+        QCOMPARE(scene.Setup.State().HbciVersion, u"220"_s);
+    }
+
     void AsksForWhatIsMissing_data()
     {
         const cTestRows<QString, QString, QString, QString, QString> row("Code", "Url", "UserId", "Product", "Problem");
@@ -236,6 +244,14 @@ private Q_SLOTS:
         QCOMPARE(scene.Setup.Accounts().Chosen().size(), 1);
         QCOMPARE(scene.Setup.Accounts().Lines().at(1).Reason,
                  u"Für dieses Konto gibt die Bank keine Umsätze heraus."_s);
+
+        cScene without;
+        without.Bank.Profile.Parameters.clear();
+        without.Type();
+        QVERIFY2(without.Setup.Next(), qPrintable(without.Setup.Problem()));
+        QVERIFY(!without.Setup.Next());
+        QVERIFY2(without.Setup.Problem().contains(u"DE22: Diese Bank gibt auf diesem Weg keine Umsätze heraus."),
+                 qPrintable(without.Setup.Problem()));
     }
 
     void Cancels()

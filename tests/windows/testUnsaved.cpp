@@ -1,9 +1,16 @@
+#include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "support/windowHands.h"
+#include "testbank/cTestBank.h"
+#include "testbank/cTestBankUser.h"
+#include "testbank/cTestHttps.h"
+#include "views/bank/cBankDirectory.h"
+#include "views/bank/cBankSetup.h"
 #include "views/entry/cEntrySuggestions.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/sheet/cManyChange.h"
+#include "windows/bank/frmBankAssistent.h"
 #include "windows/entry/cCorrectionsPage.h"
 #include "windows/entry/frmKorrektur.h"
 #include "windows/main/frmMehrere.h"
@@ -45,6 +52,31 @@ private Q_SLOTS:
         QCOMPARE(book.User.Asked.size(), 4);
         QCOMPARE(book.Data.LoadEntry(entry.ID)->EntryDescription, u"Markt"_s);
         QCOMPARE(series.Correction(entry.ID, entry.EntryDate)->EntryComment, u"Markt"_s);
+    }
+
+    // The protocol of its code comes with the bank, before anything is asked.
+    void ABankLoginIsNotLost()
+    {
+        cTestBook book;
+        QVERIFY(book.Settings->Set(modSettingKey::OnlineBank.Of(u"12345678"_s), u"220"_s));
+        cTestBank bank({});
+        cTestHttps https(bank);
+        cTestBankUser customer(bank);
+        const cBankDirectory directory(book.Shell);
+        cBankSetup setup({book.Tools, directory, https, customer, {}});
+        frmBankAssistent form(setup, book.Clock.Today());
+        form.show();
+        form.reject();
+        QVERIFY(!form.isVisible());
+        form.show();
+        qobject_cast<QLineEdit*>(form.focusWidget())->setText(u"12345678"_s);
+        book.User.Answers = {eAnswer::No, eAnswer::Yes};
+        form.reject();
+        QVERIFY(form.isVisible());
+        QCOMPARE(setup.State().HbciVersion, u"220"_s);
+        form.reject();
+        QVERIFY(!form.isVisible());
+        QCOMPARE(book.User.Asked.size(), 2);
     }
 
     // Leaving a field tidies up what stands there, which is nobody's typing.

@@ -175,7 +175,8 @@ int FetchAccounts(const cCliContext& context, const cBankFetch::cWish& wish)
     cBankFetch::cWish chosen = wish;
     chosen.Accounts = Places(fetch, context.Call);
     if (chosen.Accounts.isEmpty()) {
-        modConsole::Error(fetch.Accounts().isEmpty() ? fetch.EmptyHint()
+        modConsole::Error(fetch.Accounts().isEmpty() ? cText::Tr("Es ist noch kein Bankkonto eingerichtet. Der Befehl "
+                                                                 "banks add richtet eines ein.")
                                                      : cText::Tr("Kein eingerichtetes Bankkonto passt dazu."));
         return modExit::Failed;
     }

@@ -16,6 +16,7 @@ struct cFetchedStatement
     QString Account; // number that was asked for
     // Its number is that of other accounts too: the bookings are those of Account, whichever their statement names.
     bool IsNumberShared = false;
+    QString Iban{};                  // which the bank tells for it; its bank code counts; empty when not known
     QString BookAccount{};           // of the book, to which it belongs; empty when that is not known
     QString Mt940{};                 // all booked statements of the answer
     QList<QByteArray> Camt{};        // all booked documents

@@ -7,6 +7,7 @@
 #include "core/cSettings.h"
 #include "import/mt940/modMT940.h"
 #include "import/read/cStatementSource.h"
+#include "import/read/modAccountNumber.h"
 #include "import/read/modStatementFile.h"
 #include "import/stage/cBankBalances.h"
 #include "import/stage/cFetchedStatement.h"
@@ -171,6 +172,9 @@ cStatementRead ReadFetched(const cFetchedStatement& fetched, const cImportOption
             return read;
         }
         all.Append(std::move(read));
+    }
+    if (modAccountNumber::IsGermanIban(fetched.Iban)) { // banks that were merged have logins under another code
+        all.BankCodes[fetched.Account] = fetched.Iban.mid(4, 8);
     }
     if (fetched.IsNumberShared) {
         RenameAccounts(all, [&](const QString&) { return fetched.Account; });

@@ -32,13 +32,6 @@ QString PartOf(const cBankState& state, const cBankAccount& account)
     return PartOf(state.BankCode, state.UserId) + u':' + modBankRow::NumberOf(account) + sub;
 }
 
-// The version as the dialog knows it, however it was written down.
-QString HbciVersion(const QString& stored)
-{
-    const QString digits = QString(stored).remove(u'.');
-    return digits.startsWith(u"22") ? u"220"_s : u"300"_s;
-}
-
 void TakeRows(cBankState& state, const QList<cOnlineAccount>& rows)
 {
     const QString bpd = state.BpdVersion;
@@ -112,8 +105,20 @@ std::optional<cBankState> cBankAccess::Find(const QString& bankCode, const QStri
     }
     state.BankCode = bankCode;
     state.UserId = userId;
-    state.HbciVersion = HbciVersion(m_tools.Settings.Get(modSettingKey::OnlineBank.Of(bankCode)));
+    const QString version = HbciVersion(bankCode);
+    if (state.HbciVersion != version) { // changed with another login; what the bank told was for the other protocol
+        state.HbciVersion = version;
+        state.BpdVersion = u"0"_s;
+        state.UpdVersion = u"0"_s;
+    }
     return state;
+}
+
+// As the dialog knows it, however it was written down.
+QString cBankAccess::HbciVersion(const QString& bankCode) const
+{
+    const QString digits = m_tools.Settings.Get(modSettingKey::OnlineBank.Of(bankCode)).remove(u'.');
+    return digits.startsWith(u"22") ? u"220"_s : u"300"_s;
 }
 
 // The record comes first: killed in between, the versions of the rows fit no contents and the bank sends all again.

@@ -26,6 +26,8 @@ public:
     // A version is other than "0" only when the contents that came with it are there too: a bank that hears its present
     // version does not send them again.
     [[nodiscard]] std::optional<cBankState> Find(const QString& bankCode, const QString& userId) const;
+    // Of the protocol, "300" or "220": one for all logins of a bank code.
+    [[nodiscard]] QString HbciVersion(const QString& bankCode) const;
 
     // What the bank told, kept at once. Called outside of every undo step and no part of one: going back by a step must
     // not bring back a system ID that the bank has replaced. The steps before stay. False when the database refuses.

@@ -113,6 +113,17 @@ QString cBankAccountChoice::Note(qsizetype line) const
 QString cBankAccountChoice::Problem() const
 {
     const QList<cBankAccount> chosen = Chosen();
+    QStringList reasons;
+    for (const cLine& line : m_lines) {
+        if (!line.Reason.isEmpty()) {
+            reasons.append(line.Number + u": "_s + line.Reason);
+        }
+    }
+    if (reasons.size() == m_lines.size()) {
+        return cText::Tr("Keines der Konten kann abgerufen werden. Laden Sie bei Ihrer Bank Kontoauszüge herunter und "
+                         "importieren Sie diese.\n{0}",
+                         {reasons.join(u'\n')});
+    }
     if (chosen.isEmpty()) {
         return cText::Tr("Wählen Sie mindestens ein Konto aus, dessen Umsätze abgerufen werden sollen.");
     }

@@ -72,9 +72,7 @@ QString LastText(QDate day)
 // For how many days the bank has the bookings of an account; 0: it does not say.
 int KeptDays(const cBankState& state, const cBankAccount& account)
 {
-    constexpr int mostKaz = 7;
-    const bool isAllowed = account.Orders.isEmpty() || account.Orders.contains(u"HKKAZ"_s);
-    const bool isKaz = isAllowed && modBankParameters::Version(state.Parameters, "HIKAZS", mostKaz) > 0;
+    const bool isKaz = modBankParameters::StatementOrder(state.Parameters, account).MT940 > 0;
     return modBankParameters::StatementDays(state.Parameters, isKaz ? "HIKAZS" : "HICAZS");
 }
 
@@ -180,7 +178,7 @@ void cBankFetch::Load()
 QString cBankFetch::EmptyHint() const
 {
     return m_accounts.isEmpty()
-        ? cText::Tr("Es ist noch kein Bankkonto eingerichtet. Richten Sie unter „Bankzugänge…“ eines ein.")
+        ? cText::Tr("Es ist noch kein Bankkonto eingerichtet. Mit „Bankzugang einrichten…“ richten Sie eines ein.")
         : QString();
 }
 
@@ -384,6 +382,7 @@ void cBankFetch::Take(const cJob& job, QList<cFetchedAccount>& fetched, const cB
         run.Statements.append({.Name = m_accounts.at(place).Name,
                                .Account = NumberIn(state, found->Account),
                                .IsNumberShared = cBankAccess::IsNumberShared(state, order.Account),
+                               .Iban = found->Account.Iban,
                                .BookAccount = m_access.BookAccountOf(state, found->Account),
                                .Mt940 = std::move(found->MT940),
                                .Camt = std::move(found->Camt),

@@ -45,6 +45,7 @@ void cBankSetup::Load(const cBankState& state)
 {
     Disconnect();
     m_state = state;
+    m_before = state;
     m_isNew = false;
     m_page = ePage::Login;
 }
@@ -74,6 +75,7 @@ void cBankSetup::ChooseBank(const cBankInfo& bank)
     m_state.BankName = bank.Name;
     m_state.Bic = bank.Bic;
     m_state.Url = bank.Url;
+    m_state.HbciVersion = m_access.HbciVersion(bank.Code);
 }
 
 void cBankSetup::ChooseCode(const QString& code)
@@ -347,6 +349,17 @@ bool cBankSetup::LeaveMethod()
     }
     m_page = ePage::Accounts;
     return true;
+}
+
+bool cBankSetup::MayClose()
+{
+    const bool isTouched = m_state != m_before || m_productId != m_access.ProductId();
+    return !isTouched
+        || m_parts.Tools.User.Ask({.Text = cText::Tr("Der Bankzugang ist noch nicht gespeichert.\nMöchten Sie Ihre "
+                                                     "Eingaben verwerfen?"),
+                                   .Title = cText::Tr("Nicht gespeichert"),
+                                   .Default = eAnswer::No})
+        == eAnswer::Yes;
 }
 
 bool cBankSetup::CanGoBack() const

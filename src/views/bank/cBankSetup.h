@@ -103,6 +103,8 @@ public:
     [[nodiscard]] bool Next();
     [[nodiscard]] bool CanGoBack() const;
     void Back();
+    // False when something would be lost that the user wants to keep.
+    [[nodiscard]] bool MayClose();
     [[nodiscard]] const QString& Problem() const { return m_problem; }
     [[nodiscard]] QString BankWords() const { return m_failure.BankWords; } // beneath the problem; may be empty
 
@@ -129,6 +131,7 @@ private:
     std::unique_ptr<cBankCustomer> m_customer;
     std::unique_ptr<cBankLog> m_log;
     cBankState m_state;
+    cBankState m_before; // at the beginning
     QString m_productId;
     cSecret m_pin;
     std::unique_ptr<HBCIBusiness> m_business; // from the PIN on

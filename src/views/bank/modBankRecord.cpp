@@ -176,6 +176,7 @@ void Fields(tArchive& archive, cBankState& state)
     archive.Field("UserId", state.UserId);
     archive.Field("Url", state.Url);
     archive.Field("Bic", state.Bic);
+    archive.Field("Hbci", state.HbciVersion);
     archive.Field("SystemId", state.SystemId);
     archive.Field("BpdVersion", state.BpdVersion);
     archive.Field("UpdVersion", state.UpdVersion);

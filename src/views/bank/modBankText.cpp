@@ -37,18 +37,12 @@ QString modBankText::Product(const cBankAccount& account)
 
 QString modBankText::NotFetched(const cBankState& state, const cBankAccount& account)
 {
-    constexpr int mostStatement = 7; // version of the request that this program speaks
-    const bool offersText = modBankParameters::Version(state.Parameters, "HIKAZS", mostStatement) > 0;
-    const bool offersCamt = modBankParameters::Offers(state.Parameters, "HICAZS", 1);
-    const auto allows = [&](const QString& order) {
-        return account.Orders.isEmpty() || account.Orders.contains(order);
-    };
-    if (!offersText && !offersCamt) {
-        return cText::Tr("Diese Bank gibt auf diesem Weg keine Umsätze heraus.");
+    if (!modBankParameters::StatementOrder(state.Parameters, account).IsNone()) {
+        return {};
     }
-    return (offersText && allows(u"HKKAZ"_s)) || (offersCamt && allows(u"HKCAZ"_s))
-        ? QString()
-        : cText::Tr("Für dieses Konto gibt die Bank keine Umsätze heraus.");
+    const bool isOfBank = modBankParameters::StatementOrder(state.Parameters, {}).IsNone();
+    return isOfBank ? cText::Tr("Diese Bank gibt auf diesem Weg keine Umsätze heraus.")
+                    : cText::Tr("Für dieses Konto gibt die Bank keine Umsätze heraus.");
 }
 
 QString modBankText::ProductHint()

@@ -105,7 +105,7 @@ void cBankSearchPage::Search()
     ShowHint(found.Problem);
     if (m_banks.isEmpty()) {
         m_setup.ChooseCode(cBankSetup::IsCode(m_text->text()) ? m_text->text() : QString());
-        m_url->setText(m_setup.State().Url);
+        Enter();
     } else {
         m_list->setCurrentRow(0);
     }
@@ -115,7 +115,7 @@ void cBankSearchPage::Choose()
 {
     if (const int row = m_list->currentRow(); row >= 0) {
         m_setup.ChooseBank(m_banks.at(row));
-        m_url->setText(m_setup.State().Url);
+        Enter();
         ShowHint(m_setup.BankProblem());
     }
 }

@@ -98,7 +98,10 @@ void frmBankAssistent::reject()
     if (m_setup.IsRunning()) {
         m_setup.Cancel();
         m_step->setText(cText::Tr("Der Vorgang wird abgebrochen …"));
-    } else {
+        return;
+    }
+    Page().Leave();
+    if (m_setup.MayClose()) {
         QDialog::reject();
     }
 }

@@ -21,7 +21,8 @@ public:
     // `setup` outlives the window.
     frmBankAssistent(cBankSetup& setup, QDate today, QWidget* parent = nullptr);
 
-    // While a bank is being asked this ends the dialog with it; else it closes the window.
+    // While a bank is being asked this ends the dialog with it; else it closes the window, after a question where
+    // something was typed.
     void reject() override;
 
 Q_SIGNALS:
