@@ -349,7 +349,6 @@ private Q_SLOTS:
         });
         row("an expense", false, [](cEntryFields& fields) { fields.Type = modWord::Ausgabe; });
         row("to the purse", false, [](cEntryFields& fields) { fields.Target = u"Bargeld"_s; });
-        row("from the purse", false, [](cEntryFields& fields) { fields.Account = u"Bargeld"_s; });
         row("backwards", false, [](cEntryFields& fields) { std::swap(fields.Account, fields.Target); });
         row("a part of it", false, [](cEntryFields& fields) { fields.Amount = u"150"_s; });
     }
