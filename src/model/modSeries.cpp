@@ -48,16 +48,9 @@ std::optional<cEntryItem> modSeries::OccurrenceAt(const cEntryItem& series, QDat
 QList<QDate> modSeries::Next(const cEntryItem& series, QDate from, int count)
 {
     QList<QDate> days;
-    if (!modRecurrence::IsRecurring(series.EntryInterval)) {
-        return days;
-    }
-    const QDate end = modRecurrence::EffectiveEnd(series.EntryDateEnd);
-    QDate day = series.EntryDate;
-    while (day.isValid() && day <= end && days.size() < count) {
-        if (day >= from) {
-            days.append(day);
-        }
-        day = modRecurrence::Next(day, series.EntryInterval);
+    const cEntryItemList occurrences = Occurrences(series, {from, {}});
+    for (const cEntryItem& occurrence : occurrences.first(qMin<qsizetype>(count, occurrences.size()))) {
+        days.append(occurrence.EntryDate);
     }
     return days;
 }
@@ -68,12 +61,16 @@ QDate modSeries::Last(const cEntryItem& series)
     return occurrences.isEmpty() ? QDate() : occurrences.last().EntryDate;
 }
 
+bool modSeries::IsEndless(const cEntryItem& series)
+{
+    const QDate last = Last(series);
+    return modRecurrence::EffectiveEnd(series.EntryDateEnd) == modRecurrence::OpenEnd
+        && (!last.isValid() || modRecurrence::Next(last, series.EntryInterval) > modRecurrence::OpenEnd);
+}
+
 int modSeries::Count(const cEntryItem& series)
 {
-    if (modRecurrence::EffectiveEnd(series.EntryDateEnd) == modRecurrence::OpenEnd) {
-        return 0;
-    }
-    return static_cast<int>(Occurrences(series, {}).size());
+    return IsEndless(series) ? 0 : static_cast<int>(Occurrences(series, {}).size());
 }
 
 bool modSeries::HasPeriod(const cEntryItem& series, const cEntryItemFixMod& fixMod)
@@ -103,8 +100,24 @@ QString modSeries::BankComment()
     return cText::Tr("Laut Kontoauszug");
 }
 
+QString modSeries::LateComment()
+{
+    return cText::Tr("{0} noch nicht gebucht", {BankComment()});
+}
+
+QString modSeries::MissedComment()
+{
+    return cText::Tr("{0} nicht gebucht", {BankComment()});
+}
+
 bool modSeries::IsFromBank(const QString& comment)
 {
     // The stored one is in the language in which the program ran then.
-    return comment.startsWith(u"Laut Kontoauszug"_s) || comment.startsWith(BankComment());
+    const QStringList written{BankComment(),
+                              LateComment(),
+                              MissedComment(),
+                              u"Laut Kontoauszug"_s,
+                              u"Laut Kontoauszug noch nicht gebucht"_s,
+                              u"Laut Kontoauszug nicht gebucht"_s};
+    return written.contains(comment);
 }

@@ -23,6 +23,10 @@ namespace modSeries {
 // The last day of the series; invalid when it has none at all.
 [[nodiscard]] QDate Last(const cEntryItem& series);
 
+// True for a series without end. A daily one that began long ago has one all the same: its last occurrence that the
+// expansion counts.
+[[nodiscard]] bool IsEndless(const cEntryItem& series);
+
 // Number of occurrences up to the end of the series; 0 when it has no end.
 [[nodiscard]] int Count(const cEntryItem& series);
 
@@ -32,9 +36,11 @@ namespace modSeries {
 // An empty correction for the period of an occurrence.
 [[nodiscard]] cEntryItemFixMod CorrectionFor(const cEntryItem& occurrence);
 
-// The comment of a correction that follows the bank, and whether it is one. Such a correction may be replaced by what
-// the bank says next; one with another comment was made by the user, who is asked before.
+// The comments of a correction that follows the bank, and whether one is among them. Such a correction may be replaced
+// by what the bank says next; one with another comment, also a longer one, was made by the user, who is asked before.
 [[nodiscard]] QString BankComment();
+[[nodiscard]] QString LateComment();   // the bank has not booked the occurrence yet
+[[nodiscard]] QString MissedComment(); // and never will
 [[nodiscard]] bool IsFromBank(const QString& comment);
 
 } // namespace modSeries

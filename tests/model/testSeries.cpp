@@ -63,12 +63,15 @@ void testSeries::NextDays()
              QList<QDate>({QDate(2026, 2, 28), QDate(2026, 3, 28), QDate(2026, 4, 28)}));
     QCOMPARE(modSeries::Next(series, QDate(2026, 5, 1), 3), QList<QDate>({QDate(2026, 5, 28)}));
     QVERIFY(modSeries::Next(Series(modWord::Einmalig, QDate(2026, 1, 31)), QDate(2026, 1, 1), 3).isEmpty());
+    QCOMPARE(modSeries::Next(Series(u"Täglich"_s, QDate(1990, 1, 1)), QDate(2017, 5, 18), 3),
+             QList<QDate>({QDate(2017, 5, 18), QDate(2017, 5, 19)})); // no list shows more of it
 }
 
 void testSeries::CountsToTheEnd()
 {
     QCOMPARE(modSeries::Count(Series(u"Monatlich"_s, QDate(2026, 1, 31), QDate(2026, 5, 30))), 5);
     QCOMPARE(modSeries::Count(Series(u"Monatlich"_s, QDate(2026, 1, 31), QDate(1899, 12, 30))), 0);
+    QCOMPARE(modSeries::Count(Series(u"Täglich"_s, QDate(1990, 1, 1))), 10001);
 }
 
 void testSeries::KeepsCorrectionsOnlyOfSamePeriods_data()

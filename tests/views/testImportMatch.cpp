@@ -4,6 +4,7 @@
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"
+#include "views/entry/cEntryEditor.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cImportReview.h"
 
@@ -11,10 +12,14 @@
 #include <QTest>
 
 #include <deque>
+#include <functional>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+using fnChange = std::function<void(cEntryFields&)>;
 
 const QDate day(2026, 3, 3);
 const QString space = u"\u00A0"_s; // before the currency sign
@@ -34,6 +39,21 @@ struct cPage : cTestBook
         const int id = cTestBook::Stage(number, day, modAmount::ToCents(value), name).ID;
         Review.Refresh();
         return id;
+    }
+
+    // A row of 200 euros to or from the other account, whose bank names the counterparty.
+    void StageTransfer(const QString& own, const QString& other, qint64 cents)
+    {
+        cImportEntry row;
+        row.ImportAccount = own;
+        row.ImportBeneficiary = u"Jana"_s;
+        row.ImportBeneficiaryAccount = other;
+        row.ImportValue = cents;
+        row.ImportDate = day;
+        if (!Data.AddNewImportEntry(row)) {
+            qFatal("row not added");
+        }
+        Review.Refresh();
     }
 
     int Spend(qint64 cents, const QString& text, const QString& interval = modWord::Einmalig)
@@ -302,22 +322,12 @@ private Q_SLOTS:
     {
         QFETCH(const bool, isOneInBook);
         cPage page;
-        const auto stage = [&](const QString& own, const QString& other, qint64 cents) {
-            cImportEntry row;
-            row.ImportAccount = own;
-            row.ImportBeneficiary = u"Jana"_s;
-            row.ImportBeneficiaryAccount = other;
-            row.ImportValue = cents;
-            row.ImportDate = day;
-            QVERIFY(page.Data.AddNewImportEntry(row));
-            page.Review.Refresh();
-        };
-        stage(u"1234567"_s, u"222"_s, -20000);
+        page.StageTransfer(u"1234567"_s, u"222"_s, -20000);
         if (isOneInBook) {
             QVERIFY(page.Review.Book({1}, page.Progress));
         }
         page.Settings->Set(modSettingKey::BankNumber.Of(u"222"_s), u"Sparkonto"_s);
-        stage(u"222"_s, u"1234567"_s, 20000);
+        page.StageTransfer(u"222"_s, u"1234567"_s, 20000);
         QVERIFY(page.Review.Choose({2}, u"Freizeit; Geschenke"_s, {}, u"Für Jana"_s));
         QVERIFY(page.Review.Book({1, 2}, page.Progress));
         const cEntryItemList entries = page.Data.GetEntries({});
@@ -325,6 +335,62 @@ private Q_SLOTS:
         const cEntryItem& entry = entries.constFirst();
         QCOMPARE(QStringList({entry.EntryType, entry.EntryCategory, entry.EntryDescription}),
                  QStringList({modWord::Umbuchung, u"Freizeit; Geschenke"_s, u"Für Jana"_s}));
+    }
+
+    void AnEditedTransferTakesTheOtherRow_data() const
+    {
+        // change: what the user makes of the proposed transfer
+        // isTaken: it still moves the money between both accounts
+        const cTestRows<bool, fnChange> row("isTaken", "change");
+        row("as proposed", true, [](cEntryFields&) {});
+        row("another day, every month", true, [](cEntryFields& fields) {
+            fields.Date = day.addDays(-3);
+            fields.Interval = u"Monatlich"_s;
+        });
+        row("an expense", false, [](cEntryFields& fields) { fields.Type = modWord::Ausgabe; });
+        row("to the purse", false, [](cEntryFields& fields) { fields.Target = u"Bargeld"_s; });
+        row("backwards", false, [](cEntryFields& fields) { std::swap(fields.Account, fields.Target); });
+        row("a part of it", false, [](cEntryFields& fields) { fields.Amount = u"150"_s; });
+    }
+
+    void AnEditedTransferTakesTheOtherRow() const
+    {
+        QFETCH(const bool, isTaken);
+        QFETCH(const fnChange, change);
+        for (const int id : {1, 2}) {
+            cPage page;
+            page.Settings->Set(modSettingKey::BankNumber.Of(u"222"_s), u"Sparkonto"_s);
+            page.StageTransfer(u"1234567"_s, u"222"_s, -20000);
+            page.StageTransfer(u"222"_s, u"1234567"_s, 20000);
+            connect(&page.Review, &cImportReview::EditorWanted, &page.Review,
+                    [&](cEntryEditor& editor, cEntryFields fields) {
+                        change(fields);
+                        QCOMPARE(editor.Save(fields), eEntrySaved::Saved);
+                    });
+            page.Review.EditAndBook({id});
+            QList<int> assigned = page.Assigned();
+            QCOMPARE(assigned.takeAt(id - 1), 1);
+            QCOMPARE(assigned, QList<int>({isTaken ? 1 : -1}));
+        }
+    }
+
+    // Wanted new beside the expense that it fits, while the other row comes first and is an income by itself.
+    void ATransferMovesItsMoneyOnce() const
+    {
+        cPage page;
+        page.Settings->Set(modSettingKey::BankNumber.Of(u"222"_s), u"Sparkonto"_s);
+        (void)page.Spend(20000, u"Jana"_s);
+        page.StageTransfer(u"222"_s, u"1234567"_s, 20000);
+        page.StageTransfer(u"1234567"_s, u"222"_s, -20000);
+        page.User.Decisions = {1, 1}; // all of them; new ones
+        QVERIFY(page.Review.Book({1, 2}, page.Progress));
+        QStringList kinds;
+        const cEntryItemList entries = page.Data.GetEntries({});
+        for (const cEntryItem& entry : entries) {
+            kinds.append(entry.EntryType + u' ' + entry.EntryAccount);
+        }
+        kinds.sort();
+        QCOMPARE(kinds, QStringList({u"Ausgabe Girokonto"_s, u"Ausgabe Girokonto"_s, u"Einnahme Sparkonto"_s}));
     }
 
     // What the user has chosen is none of it, nor what was not booked any more.

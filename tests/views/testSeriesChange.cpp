@@ -149,6 +149,24 @@ private Q_SLOTS:
         QTEST(stored.EntryComment, "comment");
     }
 
+    // It only begins like what the program writes.
+    void ACommentLikeTheBanksIsTheUsers()
+    {
+        const QString typed = u"Laut Kontoauszug 4/2026 nachgezahlt"_s;
+        cRentBook book;
+        QVERIFY(book.Data.AddNewEntryMod({0, book.Rent, modWord::Betrag, QDate(2026, 4, 1), QDate(2026, 4, 30), 1000,
+                                          u"Laut Kontoauszug"_s, QDate(2026, 4, 14)}));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 4, 10), 1100, typed));
+        QCOMPARE(Corrections(book, book.Rent), QStringList({u"2026-04-01 1100 "_s + typed}));
+        cEntryFields fields = book.Editor.Load(book.Rent).value();
+        QCOMPARE(modCorrections::Change(0, u"12"_s, typed, fields), modCorrections::eSet::Done);
+        QCOMPARE(fields.Corrections.constFirst().EntryComment, typed);
+        fields.End = QDate(2027, 12, 31);
+        fields.HasEnd = true;
+        (void)book.Editor.Save(fields);
+        QCOMPARE(book.User.Asked, QStringList({lossQuestion}));
+    }
+
     void PageOfCorrections()
     {
         using enum modCorrections::eSet;

@@ -134,6 +134,40 @@ private Q_SLOTS:
         QCOMPARE(Rows(book), storedPurchase);
     }
 
+    // The bank's row pays the whole purchase, whichever of its parts it hangs at.
+    void KeepsTheBankRowOfPartsThatGo_data()
+    {
+        // paid: the part that it hangs at; isJoined: the parts become one entry
+        const cTestRows<int, bool, QString, int> row("paid", "isJoined", "interval", "entry");
+        row("first part", 1, false, modWord::Einmalig, 2);
+        row("parts become one", 3, true, modWord::Einmalig, 1);
+        row("from a day on", 1, false, u"Monatlich"_s, 4);
+    }
+
+    void KeepsTheBankRowOfPartsThatGo()
+    {
+        QFETCH(const bool, isJoined);
+        QFETCH(const QString, interval);
+        cEditorBook book;
+        cEntryFields fields = Purchase();
+        fields.Interval = interval;
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QFETCH(const int, paid);
+        const int row = book.Stage(u"1"_s, QDate(2026, 6, 11), -5000, {}, paid).ID;
+        fields = book.Editor.LoadFrom(2, QDate(2026, 6, 10)).value();
+        if (isJoined) {
+            book.User.Answers = {eAnswer::Yes};
+            QVERIFY(book.Editor.UseNormal(fields));
+        } else {
+            fields.Parts.removeFirst();
+            fields.Amount = u"10"_s;
+        }
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        const cImportEntry stored = book.Data.GetImportEntries().constFirst();
+        QVERIFY(stored.ID == row && stored.ImportAssigned);
+        QTEST(stored.ImportAssignedEntry, "entry");
+    }
+
     void LastPartIsAnOrdinaryEntryAgain()
     {
         cEditorBook book;

@@ -115,6 +115,17 @@ private Q_SLOTS:
         QCOMPARE(scene.Tree.SelectedIds().size(), 1); // the next row takes its place
     }
 
+    void EnterFindsARowAfterUndo()
+    {
+        cScene scene;
+        QVERIFY(scene.Book.Data.Journal().Undo());
+        scene.Review.Refresh();
+        QCOMPARE(scene.Tree.SelectedIds(), QList<int>());
+        QVERIFY(scene.Book.Data.Journal().Redo());
+        scene.Review.Refresh();
+        QCOMPARE(scene.Tree.SelectedIds(), QList<int>{scene.Review.Rows().OpenIds().constFirst()});
+    }
+
     // Also in the window of one import, which the menu of the main window does not reach.
     void KeptViewHasAKey()
     {

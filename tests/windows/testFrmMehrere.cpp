@@ -3,9 +3,11 @@
 #include "support/windowFaults.h"
 #include "views/sheet/cManyChange.h"
 #include "windows/main/frmMehrere.h"
+#include "windows/widget/cCategoryBox.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QTest>
 
 #include <algorithm>
@@ -38,6 +40,11 @@ void testFrmMehrere::TransferAsksForItsTarget()
     type.setCurrentText(u"Umbuchung"_s);
     QVERIFY(target.isVisible());
     QCOMPARE(modWindowFaults::All(window), QStringList());
+    auto& category = *window.findChild<cCategoryBox*>();
+    category.SetPath(u"Freizeit; Geschenke"_s);
+    target.setFocus();
+    QCOMPARE(category.lineEdit()->cursorPosition(), 0); // a long one is read from its beginning
+    category.SetPath({});
     window.accept(); // nothing is chosen there
     QVERIFY(window.isVisible());
     QCOMPARE(book.User.Shown.size(), 1);

@@ -146,6 +146,10 @@ cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinde
         }
         return eOutcome::NoAccount;
     }
+    if (proposal.PartnerRow != 0 && !OpenRow(m_hive, proposal.PartnerRow)) {
+        // Its other row got an entry of its own before, so a transfer would move that money a second time.
+        proposal.MakeSpent(*row, m_accounts.AccountOf(row->ImportAccount));
+    }
     if (proposal.IsAlone) {
         return BookNew(*row, proposal, series, result);
     }

@@ -50,8 +50,7 @@ public:
     [[nodiscard]] QHash<int, cProposal> Propose(const QList<int>& rowIds);
 
     // Books the rows as proposed, by day; a proposal may have been edited by the user before. Both rows of a transfer
-    // go to one entry. A failed assignment takes its new entry back. After two failures in a row the rest is given up
-    // and counted as failed.
+    // go to one entry. After a failure all of it is taken back and counted as failed.
     [[nodiscard]] cBookingResult Book(const QList<int>& rowIds, const QHash<int, cProposal>& proposals,
                                       cProgress& progress);
 

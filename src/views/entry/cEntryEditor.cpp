@@ -346,8 +346,7 @@ cEntryEditor::cPreview cEntryEditor::Preview(const cFields& fields) const
     for (const QDate day : std::as_const(preview.Next)) {
         days.append(modDate::ToText(day));
     }
-    const bool isOpen = modRecurrence::EffectiveEnd(series.EntryDateEnd) == modRecurrence::OpenEnd;
-    const QString count = isOpen ? cText::Tr("ohne Ende") : modCount::Times(preview.Count);
+    const QString count = modSeries::IsEndless(series) ? cText::Tr("ohne Ende") : modCount::Times(preview.Count);
     preview.Text =
         days.isEmpty() ? EndedText(series, count) : cText::Tr("{0}, nächste Termine: {1}", {count, days.join(u", "_s)});
     return preview;

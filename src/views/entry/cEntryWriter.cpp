@@ -73,9 +73,7 @@ bool cEntryWriter::AskLosses(QList<cEntryWrite>& rows, QDate from)
 
 bool cEntryWriter::Write(QList<cEntryWrite>& rows, const QList<int>& removed, QDate from)
 {
-    const auto remove = [&](int id) {
-        return from.isValid() ? EndBefore(id, from, eContract::GoesOn) : m_data.DeleteEntry(id);
-    };
+    const auto remove = [&](int id) { return Remove(id, from, rows.constFirst().Entry.ID); };
     const auto write = [&](cEntryWrite& row) {
         return from.isValid() && row.Entry.ID > 0 ? WriteFrom(row, from) : WriteRow(row);
     };
@@ -130,7 +128,7 @@ bool cEntryWriter::EndBefore(int id, QDate from, eContract contract)
     return m_data.ChangeEntry(*series);
 }
 
-// What the bank booked some days before an occurrence still belongs to it.
+// What the bank booked some days before an occurrence still belongs to it. Without a day: all rows.
 QList<int> cEntryWriter::RowsFrom(const cEntryItem& series, QDate from) const
 {
     const cEntryItemFixModList fixMods = m_data.GetEntryMods(series.ID);
@@ -142,7 +140,7 @@ QList<int> cEntryWriter::RowsFrom(const cEntryItem& series, QDate from) const
             continue;
         }
         const std::optional<cEntryItem> paid = modOccurrence::Nearest(series, row.ImportDate, fixMods);
-        if (paid ? paid->Planned() >= from : row.ImportDate >= start) {
+        if (!from.isValid() || (paid ? paid->Planned() >= from : row.ImportDate >= start)) {
             ids.append(row.ID);
         }
     }
@@ -160,6 +158,15 @@ bool cEntryWriter::MoveImports(const QList<int>& rowIds, int newId)
         row.ImportAssignedEntry = newId;
         return m_data.ChangeImportEntry(row);
     });
+}
+
+// What the bank booked paid the whole purchase, so it hangs at the first part that stays.
+bool cEntryWriter::Remove(int id, QDate from, int heir)
+{
+    const std::optional<cEntryItem> part = m_data.LoadEntry(id);
+    return !part
+        || (MoveImports(RowsFrom(*part, from), heir)
+            && (from.isValid() ? EndBefore(id, from, eContract::GoesOn) : m_data.DeleteEntry(id)));
 }
 
 bool cEntryWriter::End(int id, QDate from)

@@ -43,6 +43,7 @@ private:
     [[nodiscard]] bool WriteRow(cEntryWrite& row);
     [[nodiscard]] bool Change(const cEntryItem& entry);
     [[nodiscard]] bool WriteFrom(cEntryWrite& row, QDate from);
+    [[nodiscard]] bool Remove(int id, QDate from, int heir);
     [[nodiscard]] bool EndBefore(int id, QDate from, eContract contract);
     [[nodiscard]] QList<int> RowsFrom(const cEntryItem& series, QDate from) const;
     [[nodiscard]] bool MoveImports(const QList<int>& rowIds, int newId);

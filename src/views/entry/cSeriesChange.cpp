@@ -154,8 +154,9 @@ bool cSeriesChange::CorrectPeriod(int entryId, QDate day, qint64 cents, const QS
     }
     // What the user types is no longer what the bank said, and with an amount it is no longer left out.
     const bool isOwn = fixMod.EntryValue != before.EntryValue || fixMod.EntryDay != before.EntryDay;
+    const bool isStale = isOwn && comment == before.EntryComment && modSeries::IsFromBank(comment);
     const bool isBack = fixMod.EntryValue != 0 && comment == LeftOut();
-    fixMod.EntryComment = isBack || (isOwn && modSeries::IsFromBank(comment)) ? QString() : comment;
+    fixMod.EntryComment = isBack || isStale ? QString() : comment;
     return Store(fixMod,
                  fixMod.EntryDay == before.EntryDay ? cText::Tr("Betrag von '{0}' korrigiert", {occurrence->Name()})
                                                     : cText::Tr("'{0}' verschoben", {occurrence->Name()}));

@@ -67,8 +67,9 @@ modCorrections::eSet modCorrections::Change(qsizetype line, const QString& amoun
     cEntryItemFixMod& fixMod = fields.Corrections[line];
     // What the user types is no longer what the bank said.
     const bool isOwn = fixMod.EntryValue != std::abs(*cents);
+    const bool isStale = isOwn && comment == fixMod.EntryComment && modSeries::IsFromBank(comment);
     fixMod.EntryValue = std::abs(*cents);
-    fixMod.EntryComment = isOwn && modSeries::IsFromBank(comment) ? QString() : comment;
+    fixMod.EntryComment = isStale ? QString() : comment;
     return eSet::Done;
 }
 

@@ -389,9 +389,7 @@ void cImportReview::EditAndBook(const QList<int>& rowIds)
     }
     cEntryEditor editor(m_tools);
     const auto assign = [this, &plan](int entryId) {
-        const bool hasPartner = plan.Proposal.PartnerRow != 0 && !OpenRows({plan.Proposal.PartnerRow}).isEmpty();
-        return m_works->Booking.Assign(plan.RowId, entryId)
-            && (!hasPartner || m_works->Booking.Assign(plan.Proposal.PartnerRow, entryId));
+        return m_works->Matching.AssignSaved(plan.RowId, plan.Proposal.PartnerRow, entryId);
     };
     Q_EMIT EditorWanted(editor, editor.StartFrom(proposal.Entry, assign));
     if (editor.SavedId() == 0) {

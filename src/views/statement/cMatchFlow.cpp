@@ -8,8 +8,10 @@
 #include "core/cBookTools.h"
 #include "import/match/modMatchScore.h"
 #include "import/propose/cBooking.h"
+#include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modRecurrence.h"
+#include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/list/modImportText.h"
@@ -18,6 +20,7 @@
 #include <QHash>
 
 #include <algorithm>
+#include <cstdlib>
 #include <set>
 #include <utility>
 
@@ -89,6 +92,22 @@ std::optional<cMatchResult> cMatchFlow::Find(const QList<int>& rowIds, cProgress
         });
     }
     return result;
+}
+
+bool cMatchFlow::AssignSaved(int rowId, int partnerId, int entryId)
+{
+    const std::optional<cEntryItem> entry = m_tools.Data.LoadEntry(entryId);
+    const cImportHive& hive = m_parts.Hive.GetImportHive();
+    const std::optional<cImportEntry> row = hive.GetImportEntryByID(rowId);
+    const std::optional<cImportEntry> partner = hive.GetImportEntryByID(partnerId);
+    const auto isSide = [&](const cImportEntry& each) {
+        const QString& account = each.ImportValue < 0 ? entry->EntryAccount : entry->EntryAccountMove;
+        return account == m_parts.Accounts.AccountOf(each.ImportAccount)
+            && entry->EntryValue == std::abs(each.ImportValue);
+    };
+    const bool isForBoth = entry && row && partner && !partner->ImportAssigned && entry->EntryType == modWord::Umbuchung
+        && isSide(*row) && isSide(*partner);
+    return m_parts.Booking.Assign(rowId, entryId) && (!isForBoth || m_parts.Booking.Assign(partnerId, entryId));
 }
 
 bool cMatchFlow::AssignRows(const QList<cMatch>& matches)

@@ -56,6 +56,11 @@ public:
     // Sets assigned rows back to open; their entries stay. Open ones are passed over.
     [[nodiscard]] cOutcome Release(const QList<int>& rowIds);
 
+    // Assigns a row to the entry that the user has made of its proposal, within a step of the caller, and with it the
+    // other row of a transfer (0: none) while the entry still is that transfer: else that row's money is in no entry
+    // yet. False when the database refuses.
+    [[nodiscard]] bool AssignSaved(int rowId, int partnerId, int entryId);
+
     // Assigns rows to the entries that they belong to, within a step of the caller. False when the database refuses.
     [[nodiscard]] bool AssignRows(const QList<cMatch>& matches);
     // Brings the entries of rows that were assigned in line with these, see cCorrectionFlow.

@@ -296,8 +296,7 @@ bool cSeriesCheck::Correct(const cEntryItem& occurrence, QDate day)
     fixMod.EntryValue = day.isValid() ? occurrence.EntryValue : 0;
     fixMod.EntryDay = day.isValid() ? day : occurrence.EntryDate;
     const bool isOwn = occurrence.HasCorrection() && !modSeries::IsFromBank(occurrence.CorrectionComment);
-    const QString why = day.isValid() ? cText::Tr("{0} noch nicht gebucht", {modSeries::BankComment()})
-                                      : cText::Tr("{0} nicht gebucht", {modSeries::BankComment()});
+    const QString why = day.isValid() ? modSeries::LateComment() : modSeries::MissedComment();
     fixMod.EntryComment = isOwn && day.isValid() ? occurrence.CorrectionComment : why;
     return m_tools.Data.AddNewEntryMod(fixMod);
 }

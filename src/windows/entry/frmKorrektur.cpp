@@ -4,6 +4,7 @@
 #include "windows/widget/cAmountEdit.h"
 #include "windows/widget/cDayEdit.h"
 #include "windows/widget/modBadField.h"
+#include "windows/widget/modPlace.h"
 
 #include <QBoxLayout>
 #include <QDialogButtonBox>
@@ -92,7 +93,7 @@ void frmKorrektur::Build()
     m_message->setWordWrap(true);
     m_message->hide();
     layout->addWidget(m_message);
-    txtKommentar->setMinimumWidth(fontMetrics().averageCharWidth() * 44); // the title fits above it
+    layout->addStrut(modPlace::WidthOfTitle(*this));
     BuildButtons(*layout);
 }
 

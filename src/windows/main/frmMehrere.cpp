@@ -5,6 +5,7 @@
 #include "windows/look/modWrapped.h"
 #include "windows/widget/cCategoryBox.h"
 #include "windows/widget/modBadField.h"
+#include "windows/widget/modPlace.h"
 #include "windows/widget/modProposal.h"
 
 #include <QBoxLayout>
@@ -78,6 +79,7 @@ void frmMehrere::Build()
     layout->addWidget(modWrapped::Make(m_change.Summary(), letters, this));
     layout->addLayout(m_form);
     layout->addStretch();
+    layout->addStrut(modPlace::WidthOfTitle(*this));
     layout->addWidget(buttons);
 }
 

@@ -78,6 +78,7 @@ void cReconcilePanel::Build()
     m_confirm->setToolTip(cText::Tr("Merkt sich, dass Bank und Buch bis zu diesem Tag übereinstimmen"));
     auto* top = new QHBoxLayout;
     top->addWidget(m_title, 1);
+    top->addStretch();
     for (QPushButton* button : {m_cure, m_open, m_confirm}) {
         button->setAutoDefault(false); // Enter belongs to the list
         top->addWidget(button);        // the row below the list is the window's
@@ -91,8 +92,10 @@ void cReconcilePanel::Build()
 void cReconcilePanel::Fill()
 {
     const bool hasItems = m_model.rowCount() > 0;
-    const QString finding = m_model.Finding() + u' ' + m_model.Found().WayOut(cText::Tr("Abgleichen"));
-    m_title->setText(finding.trimmed());
+    const cReconciliation& found = m_model.Found();
+    const bool isSaid = found.Agrees() || found.Account().isEmpty(); // above the list of the statement
+    const QString finding = m_model.Finding() + u' ' + found.WayOut(cText::Tr("Abgleichen"));
+    m_title->setText(isSaid ? QString() : finding.trimmed());
     m_title->setVisible(!m_title->text().isEmpty());
     m_list->setVisible(hasItems);
     m_cure->setVisible(hasItems);

@@ -10,6 +10,7 @@
 #include "windows/widget/modClipboard.h"
 #include "windows/widget/modEmptyText.h"
 
+#include <QApplication>
 #include <QContextMenuEvent>
 #include <QHeaderView>
 #include <QKeyEvent>
@@ -203,6 +204,8 @@ void cStagedTree::RestoreSelection()
     }
     const QModelIndex current = IndexOf(m_kept.Current);
     const QModelIndex next = wasOne && selection.isEmpty() ? IndexOf(m_kept.Next) : QModelIndex();
+    const bool wasAny = !m_kept.Ids.isEmpty() || !m_kept.Heads.isEmpty();
+    m_isLost = selection.isEmpty() && !next.isValid() && (m_isLost || wasAny);
     if (next.isValid()) {
         // A single line that was booked or deleted hands the selection on, so that Enter works down the list.
         selectionModel()->setCurrentIndex(next.siblingAtColumn(m_kept.Column),
@@ -213,6 +216,10 @@ void cStagedTree::RestoreSelection()
         selectionModel()->setCurrentIndex(current.siblingAtColumn(m_kept.Column), QItemSelectionModel::NoUpdate);
     }
     selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+    if (m_isLost && isAncestorOf(QApplication::focusWidget()) && !m_model.OpenIds().isEmpty()) {
+        SelectIds({m_model.OpenIds().constFirst()});
+        m_isLost = false;
+    }
 }
 
 void cStagedTree::SelectIds(const QList<int>& ids)

@@ -46,6 +46,15 @@ void cCategoryBox::SetPath(const QString& path, const QString& typed)
 {
     m_path = m_told = path;
     setEditText(path.isEmpty() ? typed : path);
+    ShowBeginning();
+}
+
+// A long path is seen from its beginning while nobody types in it. A text that names no category yet will be typed on.
+void cCategoryBox::ShowBeginning()
+{
+    if (!hasFocus() && !m_path.isEmpty()) {
+        lineEdit()->setCursorPosition(0);
+    }
 }
 
 QString cCategoryBox::Path() const
@@ -107,6 +116,7 @@ void cCategoryBox::focusOutEvent(QFocusEvent* event)
     QComboBox::focusOutEvent(event);
     if (!m_isAsking && event->reason() != Qt::PopupFocusReason) { // behind a menu the input goes on
         Settle();
+        ShowBeginning();
     }
 }
 

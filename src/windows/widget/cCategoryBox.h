@@ -55,6 +55,7 @@ protected:
 
 private:
     void Take(const QString& path);
+    void ShowBeginning();
 
     cEntrySuggestions& m_suggestions;
     eNew m_whoAsks;

@@ -1,6 +1,9 @@
 #include "windows/widget/modPlace.h"
 
+#include <QFontMetrics>
+#include <QGuiApplication>
 #include <QScreen>
+#include <QWidget>
 
 #include <algorithm>
 
@@ -12,6 +15,8 @@ constexpr int gripHeight = 20;
 // What the frame of a window takes at the most; it is known only after the window was shown.
 constexpr int frameWidth = 16;
 constexpr int frameHeight = 48;
+
+constexpr int frameButtons = 7; // and their gaps, in lines of text
 
 } // namespace
 
@@ -28,6 +33,14 @@ QList<QRect> modPlace::FreeAreas(const QScreen& first)
 QSize modPlace::Fitting(const QSize& wanted, const QRect& screen)
 {
     return wanted.boundedTo({screen.width() - frameWidth, screen.height() - frameHeight});
+}
+
+int modPlace::WidthOfTitle(const QWidget& window)
+{
+    const QString title = window.windowTitle() + QStringLiteral(" — ") + QGuiApplication::applicationDisplayName();
+    QFont font = window.font();
+    font.setBold(true); // as most frames write it
+    return QFontMetrics(font).horizontalAdvance(title) + frameButtons * window.fontMetrics().height();
 }
 
 QRect modPlace::Visible(const QRect& place, const QList<QRect>& screens)

@@ -4,6 +4,7 @@
 #include <QRect>
 
 class QScreen;
+class QWidget;
 
 // Where a window may stand.
 namespace modPlace {
@@ -18,6 +19,9 @@ namespace modPlace {
 // The size of a new window: as wanted, but with its frame no larger than the screen. `screen` is the area that is free
 // for windows.
 [[nodiscard]] QSize Fitting(const QSize& wanted, const QRect& screen);
+
+// The least width at which a narrow window's title can be read between the buttons of its frame.
+[[nodiscard]] int WidthOfTitle(const QWidget& window);
 
 // Where a window of this size leaves as much as it can of `other` to be seen: at the edge of the screen that is farther
 // from it, as high as it stands now. `place` and `other` are frames of windows.
