@@ -36,6 +36,7 @@ void cColumnFacts::Look(QStringView cell)
     Negative += isNegative ? 1 : 0;
     Signed += isNegative || (!number.isEmpty() && cell.contains(u'+')) ? 1 : 0;
     Ibans += modTableValue::IsIban(cell) ? 1 : 0;
+    Creditors += modTableValue::IsCreditor(cell) ? 1 : 0;
     Numbers += cell.size() >= 5 && IsAllOf(cell, isDigit) ? 1 : 0;
     Codes += cell.size() == 3 && IsAllOf(cell, isCapital) ? 1 : 0;
     Indicators += modTableValue::IndicatorSign(cell) != 0 ? 1 : 0;
