@@ -56,6 +56,7 @@ private Q_SLOTS:
         SidesWithoutNames(row);
         Cards(row);
         Accounts(row);
+        OthersAndOwn(row);
         Texts(row);
         Amounts(row);
     }
@@ -209,6 +210,10 @@ private:
             "9876543210;02.02.2026;DE02100500000054540402;Otto;y;-2,00"_s,
             {u"1234567890 -1.00 Haus (DE02120300000000202051) x"_s,
              u"9876543210 -2.00 Otto (DE02100500000054540402) y"_s});
+    }
+
+    static void OthersAndOwn(auto row)
+    {
         row("two own accounts behind those of the others",
             u"Datum;Name;IBAN;Zweck;Betrag;Konto\n01.02.2026;Haus;DE02120300000000202051;x;-1,00;12345\n"
             "02.02.2026;Otto;DE02100500000054540402;y;-2,00;67890\n"
