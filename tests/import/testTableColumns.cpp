@@ -141,6 +141,19 @@ private Q_SLOTS:
         QCOMPARE(table.Line(4), 6);
     }
 
+    // Beyond the three that a map has place for, parts of a text need not be mapped.
+    void PartsOfAPurpose()
+    {
+        cColumnMap map;
+        map.Names = {u"VWZ1"_s, u"VWZ2"_s, u"VWZ3"_s, u"VWZ4"_s};
+        map.Purpose = {2, 0, -1};
+        QCOMPARE(modTablePurpose::Columns(map), QList<int>({2, 0}));
+        map.Purpose = {0, 1, 2};
+        QCOMPARE(modTablePurpose::Columns(map), QList<int>({0, 1, 2, 3}));
+        map.Name = 3;
+        QCOMPARE(modTablePurpose::Columns(map), QList<int>({0, 1, 2}));
+    }
+
     void Purposes_data()
     {
         const cTestRows<QString, QString> row("joined", "purpose");

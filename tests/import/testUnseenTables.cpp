@@ -12,11 +12,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Own account, amount, counterparty with its account, purpose: "1 -12.00 REWE (DE..) Einkauf".
+// Own account, amount, counterparty with its account and bank, purpose: "1 -12.00 REWE (DE..) Einkauf".
 QString Shown(const cImportEntry& entry)
 {
-    const QString account =
-        entry.ImportBeneficiaryAccount.isEmpty() ? QString() : u'(' + entry.ImportBeneficiaryAccount + u')';
+    const QString number = QStringList{entry.ImportBeneficiaryAccount, entry.ImportBeneficiaryBLZ}.join(u' ').trimmed();
+    const QString account = number.isEmpty() ? QString() : u'(' + number + u')';
     return QStringList{entry.ImportAccount, modAmount::CentsToText(entry.ImportValue), entry.ImportBeneficiary, account,
                        entry.ImportPurpose}
         .join(u' ')
@@ -56,6 +56,7 @@ private Q_SLOTS:
         SidesWithoutNames(row);
         Cards(row);
         Accounts(row);
+        OthersAndOwn(row);
         Texts(row);
         Amounts(row);
     }
@@ -209,6 +210,37 @@ private:
             "9876543210;02.02.2026;DE02100500000054540402;Otto;y;-2,00"_s,
             {u"1234567890 -1.00 Haus (DE02120300000000202051) x"_s,
              u"9876543210 -2.00 Otto (DE02100500000054540402) y"_s});
+    }
+
+    static void OthersAndOwn(auto row)
+    {
+        row("two own accounts behind those of the others",
+            u"Datum;Name;IBAN;Zweck;Betrag;Konto\n01.02.2026;Haus;DE02120300000000202051;x;-1,00;12345\n"
+            "02.02.2026;Otto;DE02100500000054540402;y;-2,00;67890\n"
+            "03.02.2026;Anna;DE02300209000106531065;z;-3,00;12345\n04.02.2026;Kiosk;;Eis;-4,00;67890"_s,
+            {u"12345 -1.00 Haus (DE02120300000000202051) x"_s, u"67890 -2.00 Otto (DE02100500000054540402) y"_s,
+             u"12345 -3.00 Anna (DE02300209000106531065) z"_s, u"67890 -4.00 Kiosk Eis"_s});
+        row("one own account behind, with its bank",
+            u"Datum;Kontonummer Empfänger;BLZ;Name;Zweck;Betrag;Kontonummer;Bankleitzahl\n"
+            "01.02.2026;123456;12030000;Haus;x;-1,00;1802057;37050198\n"
+            "02.02.2026;998877;50010517;Otto;y;-2,00;1802057;37050198"_s,
+            {u"1802057 -1.00 Haus (123456 12030000) x"_s, u"1802057 -2.00 Otto (998877 50010517) y"_s});
+        row("what identifies a creditor is no account",
+            u"Datum;Name;Gläubigernummer;IBAN;Creditor ID;Zweck;Betrag\n"
+            "01.02.2026;Strom;DE98ZZZ09999999999;DE02120300000000202051;FR12123456789012;x;-1,00\n"
+            "02.02.2026;Otto;;DE02100500000054540402;;y;-2,00"_s,
+            {u"1 -1.00 Strom (DE02120300000000202051) x"_s, u"1 -2.00 Otto (DE02100500000054540402) y"_s});
+        row("numbers of the others beside their accounts",
+            u"Datum;Empfänger;Kontonummer;Empfänger BLZ;Partnernummer;Zweck;Betrag\n"
+            "01.02.2026;Haus;123456;12030000;47110;x;-1,00\n02.02.2026;Otto;998877;50010517;47117;y;-2,00"_s,
+            {u"1 -1.00 Haus (123456 12030000) x"_s, u"1 -2.00 Otto (998877 50010517) y"_s});
+        row("a bank is no name",
+            u"Datum;Name Zahlungsbeteiligter;BLZ/BIC;Verwendungszweck;Betrag\n01.02.2026;Haus;INGDDEFF;x;-1,00\n"
+            "02.02.2026;Otto;BYLADEM1001;y;-2,00"_s,
+            {u"1 -1.00 Haus (INGDDEFF) x"_s, u"1 -2.00 Otto (BYLADEM1001) y"_s});
+        row("a number is no name",
+            u"Datum;Empfänger-Nr.;Empfänger;Zweck;Betrag\n01.02.2026;47110;Haus;x;-1,00\n02.02.2026;47117;Otto;y;-2,00"_s,
+            {u"1 -1.00 Haus x"_s, u"1 -2.00 Otto y"_s});
         row("the holder is not the counterparty",
             u"Buchungsdatum;Betrag;Beschreibung;Name des Karteninhabers\n01.02.2026;-3,00;Bäcker;Mein Name\n"
             "02.02.2026;-4,00;Metzger;Mein Name"_s,
@@ -229,6 +261,11 @@ private:
         row("a purpose in many parts",
             u"Datum;Empfänger;Vwz.0;Vwz.1;Vwz.2;Vwz.3;Betrag\n01.02.2026;Laden;eins;zwei;;vier;-1,00"_s,
             {u"1 -1.00 Laden eins zwei vier"_s});
+        row("a purpose in parts with other names", u"Datum;Zeile 1;Zeile 2;Betrag\n01.02.2026;eins;zwei;-1,00"_s,
+            {u"1 -1.00 eins zwei"_s});
+        row("numbers for all columns",
+            u"Spalte1;Spalte2;Spalte3;Spalte4\n01.02.2026;Miete März;Haus;-1,00\n02.02.2026;Brot;Blum;-2,00"_s,
+            {u"1 -1.00 Miete März"_s, u"1 -2.00 Brot"_s});
         row("a kind that comes again and again",
             u"Datum;Buchungstext;Mitteilung;Betrag\n01.02.2026;Kartenzahlung;Brot;-1,00\n"
             "02.02.2026;Kartenzahlung;Käse;-2,00\n03.02.2026;Kartenzahlung;Wein;-3,00\n"

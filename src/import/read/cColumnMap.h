@@ -34,5 +34,8 @@ struct cColumnMap
     int Fee = -1;       // what the bank took beside the amount of the row
     int OtherName = -1; // counterparty where the columns for it are empty
 
+    // True when the column holds one of these.
+    [[nodiscard]] bool Uses(int column) const;
+
     bool operator==(const cColumnMap&) const = default;
 };

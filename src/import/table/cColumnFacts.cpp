@@ -29,13 +29,14 @@ void cColumnFacts::Look(QStringView cell)
     const bool isDate = modTableValue::IsDate(cell);
     const bool isAmount = !isDate && modTableValue::IsAmount(cell);
     const QString number = isDate ? QString() : modTableNumber::German(cell, eNumberFormat::Detect);
-    Dates += isDate ? 1 : 0;
-    Amounts += isAmount ? 1 : 0;
+    Dates += static_cast<int>(isDate);
+    Amounts += static_cast<int>(isAmount);
     Wholes += !isAmount && !number.isEmpty() ? 1 : 0;
     const bool isNegative = number.startsWith(u'-');
-    Negative += isNegative ? 1 : 0;
+    Negative += static_cast<int>(isNegative);
     Signed += isNegative || (!number.isEmpty() && cell.contains(u'+')) ? 1 : 0;
-    Ibans += modTableValue::IsIban(cell) ? 1 : 0;
+    Ibans += static_cast<int>(modTableValue::IsIban(cell));
+    Creditors += static_cast<int>(modTableValue::IsCreditor(cell));
     Numbers += cell.size() >= 5 && IsAllOf(cell, isDigit) ? 1 : 0;
     Codes += cell.size() == 3 && IsAllOf(cell, isCapital) ? 1 : 0;
     Indicators += modTableValue::IndicatorSign(cell) != 0 ? 1 : 0;

@@ -14,8 +14,9 @@ struct cColumnFacts
     int Signed = 0;
     int Negative = 0;
     int Ibans = 0;
-    int Numbers = 0; // account numbers: five or more digits and nothing else
-    int Codes = 0;   // three capitals
+    int Creditors = 0; // their identifiers
+    int Numbers = 0;   // account numbers: five or more digits and nothing else
+    int Codes = 0;     // three capitals
     int Indicators = 0;
     int Dashes = 0; // which stand for nothing among numbers
     qsizetype Letters = 0;

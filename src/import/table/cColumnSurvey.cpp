@@ -68,16 +68,6 @@ bool cColumnSurvey::IsNamed(int column, QStringView words) const
         && modCell::MatchesList(m_layout.Map.Names.at(column), words);
 }
 
-bool cColumnSurvey::IsTaken(int column) const
-{
-    const cColumnMap& map = m_layout.Map;
-    const QList<int> taken{
-        map.Date,     map.Text,      map.Purpose[0], map.Purpose[1], map.Purpose[2],  map.Name,   map.Account,
-        map.BankCode, map.Name2,     map.Account2,   map.BankCode2,  map.Amount,      map.Credit, map.Debit,
-        map.Currency, map.Indicator, map.Payer,      map.OwnAccount, map.OwnBankCode, map.Status, map.Balance};
-    return taken.contains(column);
-}
-
 bool cColumnSurvey::IsBalance(int column) const
 {
     return IsNamed(column, balanceWords) && !IsEarlier(column);

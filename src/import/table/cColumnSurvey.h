@@ -30,7 +30,7 @@ public:
 
     [[nodiscard]] bool IsNamed(int column, QStringView words) const;
     [[nodiscard]] bool HasNames() const { return !m_layout.Map.Names.isEmpty(); }
-    [[nodiscard]] bool IsTaken(int column) const;
+    [[nodiscard]] bool IsTaken(int column) const { return m_layout.Map.Uses(column); }
     [[nodiscard]] bool IsFull(int column) const { return Facts(column).Filled == Rows() && Rows() > 0; }
     [[nodiscard]] bool IsBalance(int column) const;
     [[nodiscard]] bool IsEarlier(int column) const; // a balance before the booking

@@ -2,6 +2,7 @@
 
 #include "import/read/modAccountNumber.h"
 #include "import/table/cColumnSurvey.h"
+#include "import/table/modTablePurpose.h"
 
 #include <algorithm>
 #include <utility>
@@ -12,17 +13,17 @@ constexpr QStringView ownWords =
     u"*Auftragskonto*|*Auftraggeberkonto*|*Kontoinhaber*|Account No|Account No.|Eigenes Konto|Eigen*|*Own account*|"
     u"Eigene IBAN|Konto|Mein*|My *|IBAN Konto*|Konto-IBAN|IBAN/BBAN|Rekening|Rekeningnummer|*Wallet-IBAN|*Account IBAN|"
     u"Kontonummer|IBAN|Account|Konto-Nr*|Kontonr*|Compte|Conto";
+constexpr QStringView ordererWords = u"*Auftragskonto*|*Auftraggeberkonto*|*Kontoinhaber*|*Eigen*|*Own *|*Wallet*";
 constexpr QStringView otherWords =
     u"*Empf*|*Partner*|*Gegen*|*Counterpart*|*Tegen*|*Begünstigt*|*Beguenstigt*|*Zahlungsbeteiligte*|"
     u"*Zahlungspflichtige*|*Payee*|*Payer*|*Recipient*|*Beneficiary*|*Sender*|*Absender*|*Creditor*|*Debtor*|"
     u"*Destinat*|*Remote*|*Dritt*|*Merchant*|*Bénéficiaire*|*Contrepartie*|Auftraggeber/*|Auftraggeber IBAN|"
     u"IBAN Auftraggeber|*Gläubiger*|*Glaeubiger*|*Zahler*|*Bank Account";
 constexpr QStringView accountWords =
-    u"*IBAN*|Account number|*Gegenkonto*|*Kontonummer*|*Konto-Nr*|*Account*|*rekening*|"
-    u"*Konto";
-// A creditor's identifier is built like an IBAN.
-constexpr QStringView referenceWords = u"*Gläubiger*ID*|*Glaeubiger*ID*|*Creditor*ID*|*Mandat*|*Referenz*|*Reference*";
-constexpr QStringView bankCodeWords = u"*BIC*|*SWIFT*|BLZ*|*Bankleitzahl*";
+    u"*IBAN*|*Gegenkonto*|*Kontonummer*|*Konto-Nr*|*Kontonr*|*Kto*|*Account*|*rekening*|*Compte*|*Conto*|*Konto";
+constexpr QStringView referenceWords = u"*Gläubiger*ID*|*Glaeubiger*ID*|*Creditor*ID*|*Gläubigerkennung*|*Mandat*|"
+                                       u"*Referenz*|*Reference*|CI *|*Identif*|ID|*-ID|* ID|*_ID";
+constexpr QStringView bankCodeWords = u"*BIC*|*SWIFT*|*BLZ*|*Bankleitzahl*";
 constexpr QStringView nameWords =
     u"Payee|Beneficiary|*Merchant*|*Beguenstigte*|*Zahlungsbeteiligte*|*Counterparty*|*Gegenpartei*|Name*|*Empfänger*|"
     u"*Auftraggeber*|*Händler*|*Haendler*|Partner*|Naam*|*Recipient*|*sender_or_recipient*|*Begünstigte*|"
@@ -69,17 +70,23 @@ private:
     [[nodiscard]] bool IsOwnNamed(int column) const { return m_survey.IsNamed(column, ownWords); }
     [[nodiscard]] bool IsOtherNamed(int column) const { return m_survey.IsNamed(column, otherWords); }
 
+    // What looks like an account number and tells something else, unless its name speaks of accounts too.
+    [[nodiscard]] bool IsCode(int column) const
+    {
+        const bool isNamed = m_survey.IsNamed(column, bankCodeWords) || m_survey.IsNamed(column, referenceWords);
+        return (isNamed && !(Facts(column).Ibans > 0 && m_survey.IsNamed(column, accountWords)))
+            || Facts(column).IsAll(Facts(column).Creditors);
+    }
+
     // Columns that hold account numbers and nothing else. Plain numbers are some only where the header says so.
     void CollectAccounts()
     {
         for (int column = 0; column < m_survey.Columns(); ++column) {
             const cColumnFacts& facts = Facts(column);
-            const bool isNamed = !m_survey.HasNames() || m_survey.IsNamed(column, accountWords)
-                || m_survey.IsNamed(column, otherWords) || IsOwnNamed(column);
+            const bool isNamed = !m_survey.HasNames() || m_survey.IsNamed(column, accountWords) || IsOwnNamed(column);
             const bool isMoney = column == m_map.Amount || column == m_map.Debit || column == m_map.Credit
                 || column == m_map.Balance || column == m_map.Date;
-            const bool isCode = m_survey.IsNamed(column, bankCodeWords) || m_survey.IsNamed(column, referenceWords);
-            if (!isMoney && !isCode && facts.IsAccount() && (facts.Ibans > 0 || isNamed)) {
+            if (!isMoney && !IsCode(column) && facts.IsAccount() && (facts.Ibans > 0 || isNamed)) {
                 m_accounts.append(column);
             }
         }
@@ -108,9 +115,7 @@ private:
             return false;
         }
         if (!Facts(column).IsConstant()) {
-            // A file of several own accounts: the other side has a column of its own.
-            return IsOwnNamed(column) && !IsOtherNamed(column)
-                && std::any_of(m_accounts.begin(), m_accounts.end(), [&](int other) { return IsOtherNamed(other); });
+            return IsOneOfOwn(column);
         }
         const bool hasChanging = std::any_of(m_accounts.begin(), m_accounts.end(),
                                              [&](int other) { return other != column && !IsSteady(other); });
@@ -121,6 +126,21 @@ private:
             return false;
         }
         return IsOwnByPlace(column);
+    }
+
+    // In a file of several own accounts the other side has a column of its own. The few of the owner come again while
+    // those of the many that are paid change.
+    [[nodiscard]] bool IsOneOfOwn(int column) const
+    {
+        if (!IsOwnNamed(column) || IsOtherNamed(column)) {
+            return false;
+        }
+        const qsizetype kinds = Facts(column).Variety();
+        return m_survey.IsNamed(column, ordererWords)
+            || std::any_of(m_accounts.begin(), m_accounts.end(), [&](int other) {
+                   const bool isBeside = IsFirstColumn(column) && IsOtherNamed(other);
+                   return isBeside || (kinds * 2 <= m_survey.Rows() && kinds < Facts(other).Variety());
+               });
     }
 
     // Alone, or beside other numbers that do not change either.
@@ -191,19 +211,22 @@ private:
         return column == m_map.OwnAccount || (m_map.OwnAccount >= 0 && isCopy) || IsSurelyOwn(column);
     }
 
+    [[nodiscard]] bool IsOthers(int column) const { return Facts(column).Filled > 0 && !IsOwnNumber(column); }
+
     void SettleOther()
     {
-        if (m_accounts.contains(m_map.Name2)) {
+        if (m_accounts.contains(m_map.Name2) || IsCode(m_map.Name2)) {
             m_map.Name2 = -1;
         }
-        if (m_accounts.contains(m_map.Name)) {
+        if (m_accounts.contains(m_map.Name) || IsCode(m_map.Name)) {
             m_map.Name = std::exchange(m_map.Name2, -1);
         }
         if (!m_survey.Layout().OwnNumber.isEmpty()) {
             return;
         }
-        const bool isOwn = m_map.Account >= 0 && IsOwnNumber(m_map.Account);
-        m_map.Account = isOwn || Facts(m_map.Account).Filled == 0 ? -1 : m_map.Account;
+        if (!IsOthers(m_map.Account)) {
+            m_map.Account = IsOthers(m_map.Account2) ? std::exchange(m_map.Account2, -1) : -1;
+        }
         m_map.BankCode = Facts(m_map.BankCode).Filled == 0 ? -1 : m_map.BankCode;
         TakeAccount([&](int column) { return IsOtherNamed(column) && Facts(column).Ibans > 0; });
         TakeAccount([&](int column) { return IsOtherNamed(column) && m_accounts.contains(column); });
@@ -217,7 +240,8 @@ private:
         });
         const bool isOwnBank = IsSteady(m_map.BankCode) && m_survey.Rows() > 1 && Facts(m_map.Account).Variety() > 1;
         if (isOwnBank && m_map.OwnAccount >= 0) {
-            m_map.OwnBankCode = std::exchange(m_map.BankCode, -1);
+            const bool hasOther = m_survey.IsNamed(m_map.BankCode2, bankCodeWords);
+            m_map.OwnBankCode = std::exchange(m_map.BankCode, hasOther ? std::exchange(m_map.BankCode2, -1) : -1);
         }
         m_survey.SetFirst(m_map.BankCode, [&](int column) {
             return m_survey.IsNamed(column, bankCodeWords)
@@ -227,9 +251,8 @@ private:
 
     void TakeAccount(auto isFit)
     {
-        m_survey.SetFirst(m_map.Account, [&](int column) {
-            return !IsOwnNumber(column) && column != m_map.Account2 && isFit(column);
-        });
+        m_survey.SetFirst(m_map.Account,
+                          [&](int column) { return IsOthers(column) && !IsCode(column) && isFit(column); });
     }
 
     void TakeStatus()
@@ -254,8 +277,8 @@ private:
 
     void SettleName()
     {
-        if (m_map.Name >= 0 && (IsHolder(m_map.Name) || IsOwnerInEveryRow(m_map.Name) || !HasText(m_map.Name))) {
-            m_map.Name = -1;
+        while (m_map.Name >= 0 && (IsHolder(m_map.Name) || IsOwnerInEveryRow(m_map.Name) || !HasText(m_map.Name))) {
+            m_map.Name = std::exchange(m_map.Name2, -1);
         }
         TakeDirections();
         m_survey.SetFirst(m_map.Name, [&](int column) { return IsNameColumn(column) && Facts(column).Variety() > 1; });
@@ -351,6 +374,10 @@ private:
 
     void TakeFurther()
     {
+        const QList<int> parts = modTablePurpose::Parts(m_map);
+        for (std::size_t i = 0; i < m_map.Purpose.size() && parts.size() > 1; ++i) {
+            m_map.Purpose.at(i) = parts.value(static_cast<qsizetype>(i), -1);
+        }
         for (std::size_t i = 1; i < m_map.Purpose.size(); ++i) {
             m_survey.SetFirst(m_map.Purpose.at(i), [&](int column) {
                 return m_survey.IsNamed(column, furtherWords) && HasText(column) && !m_survey.IsCategory(column);

@@ -4,6 +4,7 @@
 #include "import/read/modSepaPurpose.h"
 
 #include <algorithm>
+#include <iterator>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,6 +20,11 @@ QString Stem(const QString& name)
         --size;
     }
     return name.left(size).trimmed();
+}
+
+bool IsPurpose(const cColumnMap& map, int column)
+{
+    return std::find(map.Purpose.begin(), map.Purpose.end(), column) != map.Purpose.end();
 }
 
 // Whether there is anything to clean: as good as never.
@@ -43,26 +49,32 @@ void Collapse(QString& text, QChar c)
 
 } // namespace
 
+QList<int> modTablePurpose::Parts(const cColumnMap& map)
+{
+    QList<int> parts;
+    const QString stem = Stem(map.Names.value(map.Purpose[0]));
+    for (int column = 0; stem.size() >= leastStem && column < map.Names.size(); ++column) {
+        const QString& name = map.Names.at(column);
+        const bool isPart = Stem(name) == stem && (name.size() > stem.size() || IsPurpose(map, column));
+        if (isPart && map.Uses(column) && !IsPurpose(map, column)) {
+            return {};
+        }
+        if (isPart) {
+            parts.append(column);
+        }
+    }
+    return parts;
+}
+
 QList<int> modTablePurpose::Columns(const cColumnMap& map)
 {
     QList<int> columns;
-    for (const int column : map.Purpose) {
-        if (column >= 0) {
-            columns.append(column);
-        }
-    }
-    const QString stem = Stem(map.Names.value(map.Purpose[0]));
-    if (map.Purpose[0] < 0 || stem.size() < leastStem) {
-        return columns;
-    }
-    for (int column = 0; column < map.Names.size(); ++column) {
-        const QString& name = map.Names.at(column);
-        if (name.size() > stem.size() && !columns.contains(column) && Stem(name) == stem) {
-            columns.append(column);
-            std::sort(columns.begin(), columns.end());
-        }
-    }
-    return columns;
+    std::copy_if(map.Purpose.begin(), map.Purpose.end(), std::back_inserter(columns),
+                 [](int column) { return column >= 0; });
+    const QList<int> parts = Parts(map);
+    const bool isAll =
+        std::all_of(map.Purpose.begin(), map.Purpose.end(), [&](int column) { return parts.contains(column); });
+    return isAll && parts.size() > columns.size() ? parts : columns;
 }
 
 QString modTablePurpose::Clean(QString joined)

@@ -88,6 +88,24 @@ bool IsOneOf(QStringView cell, QStringView words)
                        [&](QStringView word) { return cell.compare(word, Qt::CaseInsensitive) == 0; });
 }
 
+bool HasFormOfIban(const QString& compact)
+{
+    if (compact.size() < 15 || compact.size() > 34) {
+        return false;
+    }
+    const auto isLetter = [&](qsizetype at) { return compact[at] >= u'A' && compact[at] <= u'Z'; };
+    return isLetter(0) && isLetter(1) && IsDigit(compact[2]) && IsDigit(compact[3])
+        && std::count_if(compact.begin(), compact.end(), IsDigit) >= 10
+        && std::all_of(compact.begin(), compact.end(), [](QChar c) { return IsDigit(c) || (c >= u'A' && c <= u'Z'); });
+}
+
+// No bank is called "ZZZ", which nearly all of them have; German ones are shorter than an IBAN as well.
+bool HasFormOfCreditor(const QString& compact)
+{
+    constexpr qsizetype german = 18;
+    return QStringView(compact).mid(4, 3) == u"ZZZ" || (compact.size() == german && compact.startsWith(u"DE"));
+}
+
 } // namespace
 
 QDate modTableValue::ReadDate(QStringView cell, eDateOrder order)
@@ -159,13 +177,13 @@ int modTableValue::IndicatorSign(QStringView cell)
 bool modTableValue::IsIban(QStringView cell)
 {
     const QString compact = modAccountNumber::Compact(cell.toString());
-    if (compact.size() < 15 || compact.size() > 34) {
-        return false;
-    }
-    const auto isLetter = [&](qsizetype at) { return compact[at] >= u'A' && compact[at] <= u'Z'; };
-    return isLetter(0) && isLetter(1) && IsDigit(compact[2]) && IsDigit(compact[3])
-        && std::count_if(compact.begin(), compact.end(), IsDigit) >= 10
-        && std::all_of(compact.begin(), compact.end(), [](QChar c) { return IsDigit(c) || (c >= u'A' && c <= u'Z'); });
+    return HasFormOfIban(compact) && !HasFormOfCreditor(compact);
+}
+
+bool modTableValue::IsCreditor(QStringView cell)
+{
+    const QString compact = modAccountNumber::Compact(cell.toString());
+    return HasFormOfIban(compact) && HasFormOfCreditor(compact);
 }
 
 void modTableValue::cNumberVote::Add(QStringView cell)

@@ -35,6 +35,9 @@ namespace modTableValue {
 // Two letters, two digits, letters and digits; blanks are allowed.
 [[nodiscard]] bool IsIban(QStringView cell);
 
+// The identifier by which a creditor collects direct debits: built like an IBAN, and no account.
+[[nodiscard]] bool IsCreditor(QStringView cell);
+
 // Collects the cells of a column and says how they are written.
 class cNumberVote
 {
