@@ -84,8 +84,8 @@ std::optional<cBankAnswer> cBankDialog::WithTan(const cTanChallenge& challenge)
     const cTanRequest request{.Process = "2", .Reference = challenge.Reference};
     auto answer = Exchange({HBCIFactory::Tan(m_method.SegmentVersion, request)}, &*tan);
     if (!answer && m_error.Failure.Fault == eBankFault::BrokenAnswer) {
-        m_error = modBankFault::Specific(eBankFault::BrokenAnswer,
-                                         cText::Tr("Fehler: Ungültige Antwort nach TAN-Eingabe!"));
+        m_error =
+            modBankFault::Specific(eBankFault::BrokenAnswer, cText::Tr("Fehler: Ungültige Antwort nach TAN-Eingabe!"));
     }
     return answer;
 }

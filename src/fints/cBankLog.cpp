@@ -59,8 +59,7 @@ QByteArray Shortened(const QByteArray& text)
 QByteArray Masked(const QByteArray& message, const QList<QByteArray>& secrets, const QList<QByteArray>& product)
 {
     const auto mask = [&](const QByteArray& text) {
-        return modLogMask::Covered(text, product, productCover,
-                                   modLogMask::Covered(text, secrets, secretCover, text));
+        return modLogMask::Covered(text, product, productCover, modLogMask::Covered(text, secrets, secretCover, text));
     };
     if (message.size() <= longest) {
         return mask(message);

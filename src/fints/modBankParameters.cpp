@@ -210,18 +210,19 @@ bool modBankParameters::IsAllowed(const cBankAccount& account, const QString& or
     return account.Orders.isEmpty() || account.Orders.contains(order);
 }
 
-// A bank of the old protocol names version 4 and takes 5.
+// A bank that names an older version only is asked in the usual one, when it has no camt.
 modBankParameters::cStatementOrder modBankParameters::StatementOrder(const QList<QByteArray>& parameters,
                                                                      const cBankAccount& account)
 {
     constexpr int usual = 5;
     constexpr int newest = 7;
-    const int highest = Version(parameters, "HIKAZS", newest);
-    if (highest > 0 && IsAllowed(account, u"HKKAZ"_s)) {
-        return {.MT940 = Offers(parameters, "HIKAZS", usual) ? usual : std::max(highest, usual)};
+    const int highest = IsAllowed(account, u"HKKAZ"_s) ? Version(parameters, "HIKAZS", newest) : 0;
+    if (highest >= usual) {
+        return {.MT940 = Offers(parameters, "HIKAZS", usual) ? usual : highest};
     }
     const bool hasCamt = Offers(parameters, "HICAZS", 1) && IsAllowed(account, u"HKCAZ"_s);
-    return {.Camt = hasCamt ? CamtFormat(parameters) : QByteArray()};
+    const QByteArray camt = hasCamt ? CamtFormat(parameters) : QByteArray();
+    return {.MT940 = camt.isEmpty() && highest > 0 ? usual : 0, .Camt = camt};
 }
 
 int modBankParameters::StatementDays(const QList<QByteArray>& parameters, QByteArrayView code)

@@ -49,6 +49,10 @@ void testBusinessFetch::Fetches_data()
                                << init + u"HKKAZ6 111 | end";
     QTest::newRow("older version") << Profile([](cBankProfile& bank) { bank.Parameters = {"HIKAZS:4+1+1+90:N:N"}; })
                                    << init + u"HKKAZ5 111 | end";
+    QTest::newRow("camt beside an older version") << Profile([](cBankProfile& bank) {
+        bank.Parameters = {"HIKAZS:4+1+1+90:N:N", "HICAZS:1+1+1+0+90:N:N:urn?:iso?:camt.052.001.08"};
+        bank.Accounts = {{.Number = "111", .Iban = "DE11", .Orders = "HKKAZ:1+HKCAZ:1"}};
+    }) << init + u"HKCAZ1 111 | end";
     QTest::newRow("IBAN has to be asked for") << Profile([](cBankProfile& bank) {
         bank.Parameters = {"HIKAZS:7+1+1+0+90:N:N", "HISPAS:1+1+1+0+J:N:N"};
         bank.Accounts.first().Iban.clear();

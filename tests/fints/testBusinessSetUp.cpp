@@ -158,9 +158,8 @@ void testBusinessSetUp::SaysWhatIsWrong_data()
             bank.InitWords = "3910::Anmeldung fehlgeschlagen.";
         }),
         eBankFault::LoginRefused, u"3060"_s, u"sync 999 0/0 | end"_s);
-    row("accounts without statements only", Profile([](cBankProfile& bank) {
-            bank.Accounts = {{.Number = "111", .Product = "Depot"}};
-        }),
+    row("accounts without statements only",
+        Profile([](cBankProfile& bank) { bank.Accounts = {{.Number = "111", .Product = "Depot"}}; }),
         eBankFault::NoAccounts, u"Die Kontodaten konnten nicht abgerufen werden."_s,
         syncEnd + u"init 912 78/0 HKIDN | HKTAB4 | end");
     row("old procedures only", Profile([](cBankProfile& bank) { bank.Methods.first().Version = 5; }),

@@ -71,9 +71,9 @@ private Q_SLOTS:
         for (const QString& way : ways) {
             const cImportResult result = way == u"M" ? book.Fetch(month.Mt940())
                 : way == u"O" ? book.Fetch(month.Mt940().replace(u":25:"_s + month.Iban, u":25:12345678/1234567"_s))
-                : way == u"C"                        ? book.Fetch({}, {month.Camt()})
-                : way == u"m"                        ? book.ReadFile(u"a.sta"_s, month.Mt940().toLatin1())
-                                                     : book.ReadFile(u"a.xml"_s, month.Camt());
+                : way == u"C" ? book.Fetch({}, {month.Camt()})
+                : way == u"m" ? book.ReadFile(u"a.sta"_s, month.Mt940().toLatin1())
+                              : book.ReadFile(u"a.xml"_s, month.Camt());
             QCOMPARE(result.Read, 7);
             QCOMPARE(result.Staged, isFirst ? 7 : 0);
             QCOMPARE(result.Duplicates.size() + result.Alike.size(), isFirst ? 0 : 7);

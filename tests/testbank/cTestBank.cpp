@@ -201,7 +201,8 @@ static bool IsRefusalOfPin(const QByteArray& words, bool isToTan)
     static const QList<QByteArray> codes{"9942", "9931", "9910", "9930", "9933", "3931", "3938"};
     return std::any_of(codes.begin(), codes.end(),
                        [&](const QByteArray& code) { return words.contains(QByteArray(code + "::")); })
-        || (words.contains("9340::") && !isToTan) || words.toUpper().contains("PIN FALSCH") || words.contains("PIN ist ung");
+        || (words.contains("9340::") && !isToTan) || words.toUpper().contains("PIN FALSCH")
+        || words.contains("PIN ist ung");
 }
 
 std::optional<QByteArray> cTestBank::Refuse(const cBankRequest& request, const QByteArray& step)

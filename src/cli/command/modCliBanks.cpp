@@ -362,7 +362,8 @@ QList<cCliOption> TalkOptions()
         + QList<cCliOption>{{u"url"_s, u"ADRESSE"_s, cText::Tr("Adresse der Bank; sonst die aus dem Verzeichnis")},
                             {u"product"_s, u"NUMMER"_s,
                              cText::Tr("Produktregistrierung der Deutschen Kreditwirtschaft; das Buch merkt sie sich")},
-                            {u"hbci"_s, u"2.2|3.0"_s, cText::Tr("Protokoll aller Zugänge dieser Bank; ohne Angabe das bisherige, zuerst 3.0")},
+                            {u"hbci"_s, u"2.2|3.0"_s,
+                             cText::Tr("Protokoll aller Zugänge dieser Bank; ohne Angabe das bisherige, zuerst 3.0")},
                             {u"tan-image"_s, u"DATEI"_s, cText::Tr("hierhin kommt das Bild einer photoTAN")}}
     + modCliCommands::BankSecrets();
 }
