@@ -74,7 +74,7 @@ private Q_SLOTS:
         QFETCH(QString, other);
         cBank bank;
         QVERIFY(bank.Data.SetStartGuthaben(u"Girokonto"_s, 100, day.addDays(-30)));
-        cImportEntry row = BankRow(u"111"_s, day, -2310, u"Zaubertheater"_s);
+        cImportEntry row = BankRow(u"111"_s, day, -2310, u"Frau Holle"_s, u"Frau Holle"_s);
         row.ImportType = modBookRow::CategoryText(category);
         if (!other.isEmpty()) {
             modBookRow::MakeTransfer(row, other, category);
@@ -83,6 +83,7 @@ private Q_SLOTS:
         QTEST(proposal.Entry.EntryCategory, "proposed");
         QTEST(proposal.Reason, "reason");
         QCOMPARE(proposal.IsSure, proposal.Reason == "Kategorie aus der Datei"_L1);
+        QCOMPARE(proposal.Entry.EntryDescription, u"Frau Holle"_s);
     }
 
     void ProposesByRule()

@@ -121,6 +121,9 @@ QString DescriptionOf(const cImportEntry& row)
 {
     QStringList parts{row.ImportBeneficiary.simplified(), row.ImportPurpose.simplified()};
     parts.removeAll(QString());
+    if (modBookRow::IsBook(row)) {
+        parts.removeDuplicates(); // readers put the name where a purpose is missing
+    }
     return parts.join(u" - "_s);
 }
 
@@ -164,8 +167,8 @@ void TakeCategoryOfFile(cProposal& proposal, const QString& category, bool isSec
     proposal.Entry.EntryCategory = category;
     proposal.Entry.EntryInterval = modWord::Einmalig;
     proposal.IsSure = !isSecondStart;
-    proposal.Reason = proposal.IsSure ? cText::Tr("Kategorie aus der Datei")
-                                      : cText::Tr("das Konto hat schon ein Startguthaben");
+    proposal.Reason =
+        proposal.IsSure ? cText::Tr("Kategorie aus der Datei") : cText::Tr("das Konto hat schon ein Startguthaben");
 }
 
 // What the file says and the book cannot have is told.
@@ -313,12 +316,14 @@ cProposer::~cProposer() = default;
 
 cProposal cProposer::Propose(const cImportEntry& row, eRestriction restriction)
 {
-    return Make(row, restriction, [&] { return modHint::ByRule(modCutText::WholeWords(row), restriction); });
+    return Make(row, restriction,
+                [&] { return modHint::ByRule(modBookRow::Bare(modCutText::WholeWords(row)), restriction); });
 }
 
 cProposal cProposer::ProposeBest(const cImportEntry& row)
 {
-    return Make(row, eRestriction::None, [&] { return m_knowledge->BestHint(modCutText::WholeWords(row)); });
+    return Make(row, eRestriction::None,
+                [&] { return m_knowledge->BestHint(modBookRow::Bare(modCutText::WholeWords(row))); });
 }
 
 cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, const std::function<cHint()>& knownHint)
@@ -329,14 +334,13 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
     proposal.Entry.EntryAccount = m_knowledge->Transfers.AccountOf(row.ImportAccount);
     const std::optional<cTransferFinder::cTransfer> transfer = m_knowledge->Transfers.Find(row);
     const QString category = m_knowledge->CategoryOfFile(row);
-    const std::optional<cLearned::cChoice> choice =
-        category.isEmpty() ? m_knowledge->Learned.Find(row) : std::nullopt;
+    const std::optional<cLearned::cChoice> choice = category.isEmpty() ? m_knowledge->Learned.Find(row) : std::nullopt;
     if (!category.isEmpty()) {
         TakeCategoryOfFile(proposal, category, m_knowledge->IsSecondStart(category, proposal.Entry.EntryAccount));
     } else if (choice) {
         TakeLesson(proposal, *choice, whole, m_knowledge->Numbered);
         TakeAgreement(proposal, *choice, knownHint);
-    } else if (!transfer && !m_knowledge->Cash.isEmpty() && modCash::IsCash(row)) {
+    } else if (!transfer && !m_knowledge->Cash.isEmpty() && modCash::IsCash(modBookRow::Bare(row))) {
         TakeCash(proposal, m_knowledge->Cash, m_knowledge->CashStart);
     } else if (!transfer) {
         // What is written on a transfer between own accounts says nothing about a payee.

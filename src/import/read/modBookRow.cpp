@@ -33,10 +33,23 @@ void modBookRow::MakeTransfer(cImportEntry& row, const QString& other, const QSt
     row.ImportType = transferMark + other + (path.isEmpty() ? QString() : u"; "_s + CategoryText(path));
 }
 
+bool modBookRow::IsBook(const cImportEntry& row)
+{
+    return IsTransfer(row) || !CategoryOf(row).isEmpty();
+}
+
 bool modBookRow::IsTransfer(const cImportEntry& row)
 {
-    return !row.ImportBeneficiaryAccount.isEmpty()
-        && row.ImportType.startsWith(transferMark + row.ImportBeneficiaryAccount);
+    return !row.ImportBeneficiaryAccount.isEmpty() && row.ImportType.startsWith(transferMark)
+        && QStringView(row.ImportType).mid(transferMark.size()).startsWith(row.ImportBeneficiaryAccount);
+}
+
+cImportEntry modBookRow::Bare(cImportEntry row)
+{
+    if (IsBook(row)) {
+        row.ImportType.clear();
+    }
+    return row;
 }
 
 QString modBookRow::CategoryOf(const cImportEntry& row)

@@ -8,8 +8,8 @@
 // "Kategorie: Auto; Benzin", "Umbuchung: Sparkonto; Kategorie: Geldanlage; Sparen".
 namespace modBookRow {
 
-// The path of an entry for "Auto:Benzin", as other programs write it. The book knows two levels, so further ones go into
-// the second.
+// The path of an entry for "Auto:Benzin", as other programs write it. The book knows two levels, so further ones go
+// into the second.
 [[nodiscard]] QString PathOf(const QString& category);
 
 [[nodiscard]] QString CategoryText(const QString& path);
@@ -17,7 +17,11 @@ namespace modBookRow {
 // A transfer: the name of the other account goes where banks have its number. The path may be empty.
 void MakeTransfer(cImportEntry& row, const QString& other, const QString& path);
 
+[[nodiscard]] bool IsBook(const cImportEntry& row);
 [[nodiscard]] bool IsTransfer(const cImportEntry& row);
+
+// As a bank would have it, for what looks for words.
+[[nodiscard]] cImportEntry Bare(cImportEntry row);
 
 // Empty where the row says nothing of a category.
 [[nodiscard]] QString CategoryOf(const cImportEntry& row);

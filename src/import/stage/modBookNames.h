@@ -11,7 +11,7 @@ struct cStatementRead;
 // What a file of another household book names.
 struct cBookNames
 {
-    QStringList Accounts;            // also those that its transfers lead to
+    QStringList Accounts;             // also those that its transfers lead to
     QMap<QString, qint64> Categories; // path, with the sum in cents
 
     void Add(const cBookNames& more);

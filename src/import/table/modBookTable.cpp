@@ -19,8 +19,8 @@ namespace {
 enum eColumn { Day, Kind, Category, Account, Description, Amount, Target, Count }; // the target only with transfers
 
 constexpr std::array<const char*, Count> titles{
-    QT_TRANSLATE_NOOP("cText", "Datum"),       QT_TRANSLATE_NOOP("cText", "Buchungsart"),
-    QT_TRANSLATE_NOOP("cText", "Kategorie"),   QT_TRANSLATE_NOOP("cText", "Konto"),
+    QT_TRANSLATE_NOOP("cText", "Datum"),        QT_TRANSLATE_NOOP("cText", "Buchungsart"),
+    QT_TRANSLATE_NOOP("cText", "Kategorie"),    QT_TRANSLATE_NOOP("cText", "Konto"),
     QT_TRANSLATE_NOOP("cText", "Beschreibung"), QT_TRANSLATE_NOOP("cText", "Betrag"),
     QT_TRANSLATE_NOOP("cText", "Zielkonto")};
 
@@ -125,8 +125,7 @@ private:
 bool modBookTable::IsBook(const cTable& table, const cTableLayout& layout)
 {
     const cColumns columns = ColumnsOf(table, layout);
-    return layout.Origin != eMapOrigin::User && layout.Origin != eMapOrigin::Memory
-        && std::find(columns.begin(), columns.begin() + Target, -1) == columns.begin() + Target;
+    return std::find(columns.begin(), columns.begin() + Target, -1) == columns.begin() + Target;
 }
 
 cStatementRead modBookTable::Read(const cTable& table, const cTableLayout& layout)

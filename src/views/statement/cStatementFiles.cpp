@@ -196,9 +196,19 @@ bool cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cP
         const QScopedValueRollback running(m_isRunning, true);
         Q_EMIT ImportStarts();
         cUndoStep step(m_tools.Data, cText::Tr("Umsätze abgerufen"), cJournal::eWrites::InPortions);
-        cRun run{
-            progress, eAssist::WhereNeeded, static_cast<int>(statements.size()), 0, 0, NewestRow(), {}, {}, {}, {}, {},
-            {}, {}};
+        cRun run{progress,
+                 eAssist::WhereNeeded,
+                 static_cast<int>(statements.size()),
+                 0,
+                 0,
+                 NewestRow(),
+                 {},
+                 {},
+                 {},
+                 {},
+                 {},
+                 {},
+                 {}};
         Begin();
         for (qsizetype place = 0; place < statements.size(); ++place) {
             m_last.append(cFile());
