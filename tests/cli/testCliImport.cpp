@@ -175,6 +175,33 @@ private Q_SLOTS:
         QVERIFY2(run.Code == code && run.Error.contains(text) && run.Out.isEmpty(), qPrintable(run.Text()));
     }
 
+    void ExportComesBack_data()
+    {
+        const cTestRows<QString, QStringList> row("ending", "accounts");
+        row("all at once", u"qif"_s, {{}});
+        row("by account", u"qif"_s, {u"Girokonto"_s, u"Sparkonto"_s, u"Bargeld"_s});
+        row("table", u"csv"_s, {{}});
+    }
+
+    // What another book holds is in the new one under the same accounts and categories, without a question.
+    void ExportComesBack()
+    {
+        QFETCH(const QString, ending);
+        QFETCH(const QStringList, accounts);
+        const QString demo = u"--database|~/demo.db|"_s;
+        Do(u"demo|~/demo.db"_s);
+        for (const QString& account : accounts) {
+            const QString one = account.isEmpty() ? QString() : u"|--account|"_s + account;
+            const QString file = u"~/"_s + account + u'.' + ending;
+            Do(demo + u"export|"_s + file + u"|--period|Buchungen bis heute"_s + one);
+            Do(u"import|--book|"_s + file + one);
+        }
+        const QString sums = u"report|summe|--from|2000-01-01|--no-future"_s;
+        QCOMPARE(Do(sums).Out, Do(demo + sums).Out);
+        const auto balances = [&](const QString& book) { return Do(book + u"balances|--json"_s).Column(u"Balance"_s); };
+        QCOMPARE(balances({}), balances(demo));
+    }
+
     void LayoutsAreShared()
     {
         QVERIFY(Do(u"layouts"_s).Out.contains("comdirect\n"_L1));

@@ -3,6 +3,7 @@
 #include "import/propose/cBooking.h"
 #include "import/propose/cProposer.h"
 #include "import/propose/modCorrected.h"
+#include "import/read/modBookRow.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
@@ -53,6 +54,38 @@ class testBooking : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void FileOfBookSpeaksFirst_data()
+    {
+        const cTestRows<QString, QString, QString, QString> row("category", "other", "proposed", "reason");
+        row("known", u"haushalt; Lebensmittel"_s, {}, u"Haushalt; Lebensmittel"_s, u"Kategorie aus der Datei"_s);
+        row("sign lost", u"Einkommen; Lohn - Gehalt"_s, {}, u"Einkommen; Lohn / Gehalt"_s,
+            u"Kategorie aus der Datei"_s);
+        row("unknown", u"Hobby; Modellbau"_s, {}, u"Allgemein"_s, u"in der Datei unter Hobby; Modellbau"_s);
+        row("second start", modWord::Startguthaben, {}, modWord::Startguthaben,
+            u"das Konto hat schon ein Startguthaben"_s);
+        row("transfer", {}, u"222"_s, u"Allgemein"_s, u"eigenes Konto: an Sparkonto"_s);
+        row("transfer to an unknown account", {}, u"Depot"_s, u"Allgemein"_s,
+            u"in der Datei eine Umbuchung mit Depot"_s);
+    }
+
+    void FileOfBookSpeaksFirst()
+    {
+        QFETCH(QString, category);
+        QFETCH(QString, other);
+        cBank bank;
+        QVERIFY(bank.Data.SetStartGuthaben(u"Girokonto"_s, 100, day.addDays(-30)));
+        cImportEntry row = BankRow(u"111"_s, day, -2310, u"Frau Holle"_s, u"Frau Holle"_s);
+        row.ImportType = modBookRow::CategoryText(category);
+        if (!other.isEmpty()) {
+            modBookRow::MakeTransfer(row, other, category);
+        }
+        const cProposal proposal = bank.Propose(bank.cBankBook::Stage(row));
+        QTEST(proposal.Entry.EntryCategory, "proposed");
+        QTEST(proposal.Reason, "reason");
+        QCOMPARE(proposal.IsSure, proposal.Reason == "Kategorie aus der Datei"_L1);
+        QCOMPARE(proposal.Entry.EntryDescription, u"Frau Holle"_s);
+    }
+
     void ProposesByRule()
     {
         cBank bank;

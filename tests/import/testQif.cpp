@@ -117,18 +117,19 @@ private Q_SLOTS:
     void ReadsFile()
     {
         const cStatementRead read = ReadText(Fixture());
-        QCOMPARE(Days(read), u"2026-01-03 2026-01-15 2026-01-17 2026-01-20"_s);
+        QCOMPARE(Days(read), u"2026-01-03 2026-01-15 2026-01-17 2026-01-17 2026-01-20"_s);
         QVERIFY(read.Problems.isEmpty());
         const cImportEntry& first = read.Entries.first();
         QCOMPARE(first.ImportAccount, u"Girokonto"_s);
-        QCOMPARE(first.ImportType, u"Haushalt:Lebensmittel"_s);
+        QCOMPARE(first.ImportType, u"Kategorie: Haushalt; Lebensmittel"_s);
         QCOMPARE(first.ImportPurpose, u"Brot"_s);
         QCOMPARE(first.ImportBeneficiary, u"Krume & Sohn"_s);
         QCOMPARE(first.ImportValue, -2310);
         QCOMPARE(read.Entries.at(1).ImportValue, 123450);
-        QCOMPARE(read.Entries.at(2).ImportType, u"Haushalt, Kleidung"_s);
-        QCOMPARE(read.Entries.at(2).ImportPurpose, u"Handtücher, Socken"_s);
-        QCOMPARE(read.Entries.at(3).ImportValue, -450); // without its "^"
+        QCOMPARE(read.Entries.at(2).ImportType, u"Kategorie: Haushalt"_s);
+        QCOMPARE(read.Entries.at(3).ImportPurpose, u"Socken"_s);
+        QCOMPARE(read.Entries.at(3).ImportValue, -1000);
+        QCOMPARE(read.Entries.at(4).ImportValue, -450); // without its "^"
     }
 
     // The number that the user gives names the only account; several accounts must stay apart.
@@ -145,17 +146,49 @@ private Q_SLOTS:
         QVERIFY(ReadText(u"!Type:Bank\nD31.1.26\nT1\n"_s).NeedsAccount);
     }
 
-    void SplitsWithoutTotalAreSummed()
+    void SplitsAreRows_data()
     {
-        const cStatementRead read = ReadText(u"!Type:Bank\nD31.1.26\nSa\n$-1.50\nSb\n$-2.25\n^\n"_s);
-        QCOMPARE(read.Entries.value(0).ImportValue, -375);
+        const cTestRows<QString, QString, int> row("fields", "amounts", "problems");
+        row("without total", u"Sa\n$-1.50\nSb\n$-2.25"_s, u"-150 -225"_s, 0);
+        row("other total", u"T-4\nSa\n$-1.50\nSb\n$-2.25"_s, u"-400"_s, 1);
+        row("no number", u"T-1.5\nSa\n$-1.50\nSb\n$x"_s, u"-150"_s, 1);
+    }
+
+    void SplitsAreRows()
+    {
+        QFETCH(QString, fields);
+        const cStatementRead read = ReadText(u"!Type:Bank\nD31.1.26\n"_s + fields + u"\n^\n"_s);
+        QStringList amounts;
+        for (const cImportEntry& entry : read.Entries) {
+            amounts.append(QString::number(entry.ImportValue));
+        }
+        QTEST(amounts.join(u' '), "amounts");
+        QTEST(static_cast<int>(read.Problems.size()), "problems");
+    }
+
+    void ReadsCategories_data()
+    {
+        const cTestRows<QString, QString, QString> row("category", "type", "other");
+        row("three levels", u"Auto:Benzin: Super"_s, u"Kategorie: Auto; Benzin - Super"_s, {});
+        row("none", {}, {}, {});
+        row("transfer", u"[Sparen]/Urlaub"_s, u"Umbuchung: Sparen"_s, u"Sparen"_s);
+        row("to itself", u"[Giro]"_s, u"Kategorie: Allgemein; Startguthaben"_s, {});
+    }
+
+    void ReadsCategories()
+    {
+        QFETCH(QString, category);
+        const cStatementRead read = ReadText(u"!Account\nNGiro\n^\n!Type:Bank\nD31.1.26\nT1\nL"_s + category);
+        QTEST(read.Entries.value(0).ImportType, "type");
+        QTEST(read.Entries.value(0).ImportBeneficiaryAccount, "other");
+        QCOMPARE(read.IsBook, !category.isEmpty());
     }
 
     void EveryPrefixIsRead()
     {
         const QString text = Fixture();
         for (qsizetype size = 0; size <= text.size(); ++size) {
-            QVERIFY(ReadText(text.left(size)).Entries.size() <= 4);
+            QVERIFY(ReadText(text.left(size)).Entries.size() <= 5);
         }
     }
 };

@@ -460,6 +460,33 @@ private Q_SLOTS:
         QCOMPARE(read.Entries.first().ImportPurpose, u"a b"_s);
     }
 
+    // Also where something else was said about its columns.
+    void ReadsTableOfThisProgram()
+    {
+        cReadOptions options;
+        options.Table.Map.emplace();
+        options.Table.Map->Date = 1;
+        options.Table.Map->Amount = 8;
+        const cStatementRead read =
+            ReadText(u"Gruppe;Datum;Buchungsart;Kategorie;Konto;Zielkonto;Beschreibung;Intervall;Betrag\n"
+                     ";02.01.2026;Umbuchung;\"Geldanlage; Sparen\";Giro;Tagesgeld;'-5 %;Einmalig;850,00\n"
+                     ";03.01.2026;Umbuchung;;Giro;;ohne Ziel;Einmalig;850,00\n"
+                     ";;;;;;;Summe;850,00\n"_s,
+                     options);
+        QCOMPARE(Brief(read), QStringList({u"2026-01-02 -850.00 Giro"_s, u"2026-01-02 850.00 Tagesgeld"_s}));
+        QCOMPARE(read.Entries.constFirst().ImportType, u"Umbuchung: Tagesgeld; Kategorie: Geldanlage; Sparen"_s);
+        QCOMPARE(read.Entries.constFirst().ImportBeneficiary, u"-5 %"_s);
+        QCOMPARE(read.Skipped.value(0).Reason.Line, 3);
+    }
+
+    void TakesCategoryOfAnotherProgram()
+    {
+        const cStatementRead read =
+            ReadText(u"Datum;Kategorie;Verwendungszweck;Betrag\n03.02.2026;Auto: Benzin;a;-5,00\n"_s);
+        QCOMPARE(read.Entries.value(0).ImportType, u"Kategorie: Auto; Benzin"_s);
+        QVERIFY(!read.IsBook);
+    }
+
     void RefusesWhatIsNoTable()
     {
         for (const QString& text : {QString(), u"Hallo"_s, u"a;b;c\nd;e;f\n"_s, u"\n\n;;;\n"_s}) {

@@ -82,6 +82,36 @@ private Q_SLOTS:
         QCOMPARE(page.Review.Files().LeftOut().size(), 1);
     }
 
+    void AsksOnceForNamesOfAnotherBook_data()
+    {
+        const cTestRows<eAnswer, QStringList> row("answer", "entries");
+        row("yes", eAnswer::Yes, {u"Ausgabe Hobby; Zug "_s, u"Umbuchung Allgemein Depot"_s});
+        row("no", eAnswer::No, {});
+    }
+
+    // Without its account a transfer is not booked as what it is not.
+    void AsksOnceForNamesOfAnotherBook()
+    {
+        QFETCH(const eAnswer, answer);
+        const cTestFile folder;
+        const QString path = folder.Path(u"a.qif"_s);
+        cTestFile::Write(path,
+                         "!Account\nNGirokonto\n^\n!Type:Bank\nD30.1.26\nT-5\nPHolle\nLHobby:Zug\n^\n"
+                         "D31.1.26\nT-7\nPHolle\nL[Depot]\n^\n");
+        cPage page;
+        page.User.Answers = {answer, eAnswer::Yes};
+        page.Review.Files().ImportFiles({path}, page.Progress);
+        QCOMPARE(page.User.Asked.value(0),
+                 u"Noch nicht im Buch sind aus der Datei: 1 Kategorie, 1 Konto\n\nDepot\nHobby; Zug\n\n"
+                 "Sollen sie angelegt werden?"_s);
+        page.Review.AcceptProposals(page.Progress);
+        QStringList entries;
+        for (const cEntryItem& entry : page.Data.GetEntries({})) {
+            entries.append(QStringList{entry.EntryType, entry.EntryCategory, entry.EntryAccountMove}.join(u' '));
+        }
+        QTEST(entries, "entries");
+    }
+
     // The user may have the rest of a statement that is refused for lines nobody needs.
     void OffersTheRestOfAStatement()
     {

@@ -8,7 +8,9 @@
 #include "import/propose/cTransferFinder.h"
 #include "import/propose/modCash.h"
 #include "import/propose/modOwnRule.h"
+#include "import/read/modBookRow.h"
 #include "import/stage/cAccountMap.h"
+#include "import/stage/cBookCategories.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modCutText.h"
 #include "model/modRecurrence.h"
@@ -26,14 +28,16 @@ using namespace Qt::Literals::StringLiterals;
 struct cProposer::cKnowledge
 {
     cKnowledge(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts)
-        : Numbered(NumberedAccounts(accounts)),
-          Cash(modCash::Accounts(data.GetAccounts(), Numbered)),
+        : Data(data),
+          Cash(modCash::Accounts(data.GetAccounts(), NumberedAccounts(accounts, {}, eLent::LeaveOut))),
+          Numbered(NumberedAccounts(accounts, Cash, eLent::Take)),
           CashStart(Cash.isEmpty() ? QDate() : StartOf(data, Cash.constFirst())),
           Learned(data, hive, CashStart),
           Transfers(data, hive, accounts),
           Series(data, hive),
           Rules(cOwnRules(accounts.Settings()).Load()),
-          Matcher(Rules)
+          Matcher(Rules),
+          BookCategories(data.GetTemplates())
     {
         const cTemplateItemList items = data.GetTemplates();
         for (const cTemplateItem& item : items) {
@@ -41,12 +45,17 @@ struct cProposer::cKnowledge
         }
     }
 
-    static QStringList NumberedAccounts(const cAccountMap& accounts)
+    // An account may have lent its name to a file that names no numbers.
+    enum class eLent { LeaveOut, Take };
+
+    static QStringList NumberedAccounts(const cAccountMap& accounts, const QStringList& cash, eLent lent)
     {
         QStringList numbered;
         const QList<std::pair<QString, QString>> mapping = accounts.Mapping();
         for (const auto& [number, account] : mapping) {
-            numbered.append(account);
+            if (!cash.contains(account) && (lent == eLent::Take || number != account)) {
+                numbered.append(account);
+            }
         }
         return numbered;
     }
@@ -74,6 +83,18 @@ struct cProposer::cKnowledge
         return hint;
     }
 
+    [[nodiscard]] bool IsSecondStart(const QString& category, const QString& account) const
+    {
+        return category == modWord::Startguthaben && Data.GetStartGuthaben(account).has_value();
+    }
+
+    // The category that the file itself names for the row; empty when it names none that the book has.
+    [[nodiscard]] QString CategoryOfFile(const cImportEntry& row) const
+    {
+        const QString named = modBookRow::CategoryOf(row);
+        return named.isEmpty() ? QString() : BookCategories.Find(named);
+    }
+
     // The user's own rule for the row; null when there is none.
     [[nodiscard]] const cOwnRule* OwnRule(const cImportEntry& row, const QString& account) const
     {
@@ -81,8 +102,9 @@ struct cProposer::cKnowledge
         return place < 0 ? nullptr : &Rules.at(place);
     }
 
-    QStringList Numbered; // accounts that stand at a bank
+    cDataAccess& Data;
     QStringList Cash;     // accounts for cash
+    QStringList Numbered; // accounts that stand at a bank
     QDate CashStart;      // of the first of them
     cLearned Learned;
     cTransferFinder Transfers;
@@ -90,6 +112,7 @@ struct cProposer::cKnowledge
     QList<cOwnRule> Rules;
     cRuleMatcher Matcher;
     QSet<QString> Categories;
+    cBookCategories BookCategories;
 };
 
 namespace {
@@ -98,6 +121,9 @@ QString DescriptionOf(const cImportEntry& row)
 {
     QStringList parts{row.ImportBeneficiary.simplified(), row.ImportPurpose.simplified()};
     parts.removeAll(QString());
+    if (modBookRow::IsBook(row)) {
+        parts.removeDuplicates(); // readers put the name where a purpose is missing
+    }
     return parts.join(u" - "_s);
 }
 
@@ -133,6 +159,28 @@ void TakeHint(cProposal& proposal, const cHint& hint)
     proposal.Entry.EntryInterval = hint.Interval;
     proposal.Reason = hint.Reason;
     proposal.IsSure = hint.IsSure;
+}
+
+// Another book has each payment, so none of them becomes a series.
+void TakeCategoryOfFile(cProposal& proposal, const QString& category, bool isSecondStart)
+{
+    proposal.Entry.EntryCategory = category;
+    proposal.Entry.EntryInterval = modWord::Einmalig;
+    proposal.IsSure = !isSecondStart;
+    proposal.Reason =
+        proposal.IsSure ? cText::Tr("Kategorie aus der Datei") : cText::Tr("das Konto hat schon ein Startguthaben");
+}
+
+// What the file says and the book cannot have is told.
+void TakeUnknown(cProposal& proposal, const cImportEntry& row, const QString& category)
+{
+    const QString named = modBookRow::CategoryOf(row);
+    if (modBookRow::IsTransfer(row) && proposal.Entry.EntryType != modWord::Umbuchung) {
+        proposal.IsSure = false;
+        proposal.Reason = cText::Tr("in der Datei eine Umbuchung mit {0}", {row.ImportBeneficiaryAccount});
+    } else if (!named.isEmpty() && category.isEmpty() && proposal.IsDefault) {
+        proposal.Reason = cText::Tr("in der Datei unter {0}", {named});
+    }
 }
 
 void TakeLesson(cProposal& proposal, const cLearned::cChoice& choice, const cImportEntry& row,
@@ -268,12 +316,14 @@ cProposer::~cProposer() = default;
 
 cProposal cProposer::Propose(const cImportEntry& row, eRestriction restriction)
 {
-    return Make(row, restriction, [&] { return modHint::ByRule(modCutText::WholeWords(row), restriction); });
+    return Make(row, restriction,
+                [&] { return modHint::ByRule(modBookRow::Bare(modCutText::WholeWords(row)), restriction); });
 }
 
 cProposal cProposer::ProposeBest(const cImportEntry& row)
 {
-    return Make(row, eRestriction::None, [&] { return m_knowledge->BestHint(modCutText::WholeWords(row)); });
+    return Make(row, eRestriction::None,
+                [&] { return m_knowledge->BestHint(modBookRow::Bare(modCutText::WholeWords(row))); });
 }
 
 cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, const std::function<cHint()>& knownHint)
@@ -283,11 +333,14 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
     proposal.Entry = EntryOf(whole);
     proposal.Entry.EntryAccount = m_knowledge->Transfers.AccountOf(row.ImportAccount);
     const std::optional<cTransferFinder::cTransfer> transfer = m_knowledge->Transfers.Find(row);
-    const std::optional<cLearned::cChoice> choice = m_knowledge->Learned.Find(row);
-    if (choice) {
+    const QString category = m_knowledge->CategoryOfFile(row);
+    const std::optional<cLearned::cChoice> choice = category.isEmpty() ? m_knowledge->Learned.Find(row) : std::nullopt;
+    if (!category.isEmpty()) {
+        TakeCategoryOfFile(proposal, category, m_knowledge->IsSecondStart(category, proposal.Entry.EntryAccount));
+    } else if (choice) {
         TakeLesson(proposal, *choice, whole, m_knowledge->Numbered);
         TakeAgreement(proposal, *choice, knownHint);
-    } else if (!transfer && !m_knowledge->Cash.isEmpty() && modCash::IsCash(row)) {
+    } else if (!transfer && !m_knowledge->Cash.isEmpty() && modCash::IsCash(modBookRow::Bare(row))) {
         TakeCash(proposal, m_knowledge->Cash, m_knowledge->CashStart);
     } else if (!transfer) {
         // What is written on a transfer between own accounts says nothing about a payee.
@@ -302,6 +355,8 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
     const cOwnRule* own = m_knowledge->OwnRule(row, proposal.Entry.EntryAccount);
     if (transfer) {
         TakeTransfer(proposal, *transfer, row);
+    } else {
+        TakeUnknown(proposal, row, category);
     }
     // What the user has said explicitly goes before all that the program has learned or knows by itself. That keeps its
     // order among itself: learned, then keywords, then the list, then the default.

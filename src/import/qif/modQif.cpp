@@ -2,7 +2,9 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "import/read/modBookRow.h"
 #include "import/read/modStatementFile.h"
+#include "model/modWord.h"
 
 #include <QStringList>
 
@@ -19,6 +21,14 @@ constexpr int headLines = 50;                           // lines among which a h
 
 enum class eSection { None, Bank, Account, Other };
 
+// A part of a transaction that went to several categories.
+struct cPart
+{
+    QString Category;
+    QString Memo;
+    QString Amount;
+};
+
 struct cRecord
 {
     QString Account;
@@ -27,9 +37,7 @@ struct cRecord
     QString Payee;
     QString Memo;
     QString Category;
-    QStringList SplitCategories;
-    QStringList SplitMemos;
-    QStringList SplitAmounts;
+    QList<cPart> Parts;
     int Line = 0;          // of its first field; 0: no field yet
     bool IsCutOff = false; // by the end of the file
 };
@@ -75,6 +83,14 @@ eSection SectionOf(QStringView header, eSection current)
     return isBank ? eSection::Bank : eSection::Other;
 }
 
+cPart& LastPart(cRecord& record)
+{
+    if (record.Parts.isEmpty()) {
+        record.Parts.append(cPart());
+    }
+    return record.Parts.last();
+}
+
 void TakeField(cRecord& record, QChar letter, const QString& value)
 {
     switch (letter.toUpper().unicode()) {
@@ -86,9 +102,9 @@ void TakeField(cRecord& record, QChar letter, const QString& value)
     case u'P': record.Payee = value; break;
     case u'M': record.Memo = value; break;
     case u'L': record.Category = value; break;
-    case u'S': record.SplitCategories.append(value); break;
-    case u'E': record.SplitMemos.append(value); break;
-    case u'$': record.SplitAmounts.append(value); break;
+    case u'S': record.Parts.append({value, {}, {}}); break;
+    case u'E': LastPart(record).Memo = value; break;
+    case u'$': LastPart(record).Amount = value; break;
     default: break;
     }
 }
@@ -267,10 +283,23 @@ QString ToGerman(const QString& amount)
     return german.remove(u',').replace(u'.', isGrouping ? QString() : u","_s);
 }
 
-QStringList Unique(QStringList texts)
+// The parts' texts, each once.
+QString Joined(const QList<cPart>& parts, QString cPart::*text)
 {
+    QStringList texts;
+    for (const cPart& part : parts) {
+        texts.append(part.*text);
+    }
+    texts.removeAll(QString());
     texts.removeDuplicates();
-    return texts;
+    return texts.join(u", "_s);
+}
+
+// The account of "[Girokonto]"; empty for the name of a category.
+QString AccountIn(const QString& category)
+{
+    const qsizetype end = category.startsWith(u'[') ? category.indexOf(u']') : -1;
+    return end < 0 ? QString() : category.mid(1, end - 1).trimmed();
 }
 
 class cReader
@@ -310,17 +339,26 @@ private:
         return modAmount::TryReadGerman(isGerman ? amount : ToGerman(amount));
     }
 
-    // A record without amount of its own is worth what its parts are.
-    [[nodiscard]] std::optional<double> ValueOf(const cRecord& record) const
+    [[nodiscard]] std::optional<qint64> CentsOf(const QString& amount) const
     {
-        if (!record.Amount.isEmpty() || record.SplitAmounts.isEmpty()) {
-            return ValueOf(record.Amount);
+        const std::optional<double> value = ValueOf(amount);
+        return value ? std::optional(modAmount::ToEvenCents(*value)) : std::nullopt;
+    }
+
+    // Empty when one of them is none, or when they are not all of the record.
+    [[nodiscard]] QList<qint64> CentsOfParts(const cRecord& record) const
+    {
+        QList<qint64> cents;
+        qint64 sum = 0;
+        bool isAll = true;
+        for (const cPart& part : record.Parts) {
+            const std::optional<qint64> value = CentsOf(part.Amount);
+            cents.append(value.value_or(0));
+            sum += cents.constLast();
+            isAll = isAll && value;
         }
-        double sum = 0.0;
-        for (const QString& amount : record.SplitAmounts) {
-            sum += ValueOf(amount).value_or(0.0);
-        }
-        return sum;
+        isAll = isAll && (record.Amount.isEmpty() || CentsOf(record.Amount) == sum);
+        return isAll ? cents : QList<qint64>();
     }
 
     // The file knows accounts by the names that their owner gave them. The number of the user comes first, unless there
@@ -338,26 +376,60 @@ private:
             m_read.Skipped.append({{record.Line, modStatementFile::CutOff(start, true)}, eSkipped::CutOff, {}});
             return;
         }
-        const bool isSplit = !record.SplitCategories.isEmpty();
-        const std::optional<double> value = ValueOf(record);
+        const QList<qint64> parts = CentsOfParts(record);
+        for (qsizetype i = 0; i < parts.size(); ++i) {
+            const cPart& part = record.Parts.at(i);
+            Add(record, part.Category, part.Memo.isEmpty() ? record.Memo : part.Memo, parts.at(i));
+        }
+        if (parts.isEmpty()) {
+            TakeWhole(record);
+        }
+        if (m_read.Entries.constLast().ImportDate == noDate) {
+            Report(record.Line, cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {record.Date.left(40)}));
+        }
+    }
+
+    void TakeWhole(const cRecord& record)
+    {
+        const std::optional<qint64> cents = CentsOf(record.Amount);
+        const QString memo = record.Memo.isEmpty() ? Joined(record.Parts, &cPart::Memo) : record.Memo;
+        Add(record, record.Parts.size() > 1 ? QString() : record.Category, memo, cents.value_or(0));
+        if (!cents) {
+            Report(record.Line, cText::Tr("Der Betrag ist keine Zahl: {0}", {record.Amount.left(40)}));
+        } else if (record.Parts.size() > 1) {
+            m_read.Entries.last().ImportType = Joined(record.Parts, &cPart::Category);
+            Report(record.Line, cText::Tr("Die Teile der Buchung ergeben nicht ihren Betrag; sie bleibt ein Umsatz."));
+        }
+    }
+
+    void Add(const cRecord& record, const QString& category, const QString& memo, qint64 cents)
+    {
         cImportEntry entry;
         entry.ImportAccount = AccountOf(record);
         entry.ImportDate = DateOf(record.Date, m_order);
-        entry.ImportType = isSplit ? Unique(record.SplitCategories).join(u", ") : record.Category;
-        entry.ImportPurpose = record.Memo.isEmpty() ? record.SplitMemos.join(u", ") : record.Memo;
+        entry.ImportPurpose = memo;
         entry.ImportBeneficiary = record.Payee;
-        entry.ImportValue = modAmount::ToEvenCents(value.value_or(0.0));
+        entry.ImportValue = cents;
         if (entry.ImportPurpose.isEmpty() && m_options.MissingPurpose == eMissingPurpose::Name) {
             entry.ImportPurpose = record.Payee;
         }
-        if (entry.ImportDate == noDate) {
-            Report(record.Line, cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {record.Date.left(40)}));
-        }
-        if (!value) {
-            Report(record.Line, cText::Tr("Der Betrag ist keine Zahl: {0}", {record.Amount.left(40)}));
-        }
+        TakeCategory(category, entry);
         m_read.NeedsAccount = m_read.NeedsAccount || entry.ImportAccount.isEmpty();
         m_read.Entries.append(entry);
+    }
+
+    // What leads from an account to itself is what it held in the beginning.
+    void TakeCategory(const QString& category, cImportEntry& entry)
+    {
+        const QString other = AccountIn(category);
+        if (other.isEmpty()) {
+            entry.ImportType = modBookRow::CategoryText(modBookRow::PathOf(category));
+        } else if (other == entry.ImportAccount) {
+            entry.ImportType = modBookRow::CategoryText(modWord::Startguthaben);
+        } else {
+            modBookRow::MakeTransfer(entry, other, {});
+        }
+        m_read.IsBook = m_read.IsBook || !entry.ImportType.isEmpty();
     }
 
     void Report(int line, const QString& text) { m_read.Problems.append({line, text}); }

@@ -19,4 +19,5 @@ void cStatementRead::Append(cStatementRead more)
     BankCodes.insert(more.BankCodes);
     ClosingBalance = more.ClosingBalance ? more.ClosingBalance : ClosingBalance;
     NeedsAccount = NeedsAccount || more.NeedsAccount;
+    IsBook = IsBook || more.IsBook;
 }

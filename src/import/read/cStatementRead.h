@@ -61,6 +61,8 @@ struct cStatementRead
     QList<qsizetype> Parts; // places of the entries with which further files of the source begin: these may overlap
     QString AccountKey;     // under which the account of such files is remembered; empty: it cannot be
 
+    bool IsBook = false; // of another household book: its rows may name categories and accounts, see modBookRow
+
     bool WasNameless = false;     // earlier versions of the program staged such rows without their counterparties
     bool HasStrayDetails = false; // refused only because of them: eStrayDetails::PassOver reads the rest
 

@@ -134,7 +134,9 @@ QSet<QString> cAccountMap::WithNumber() const
     QSet<QString> names;
     const QList<std::pair<QString, QString>> mapping = Mapping();
     for (const auto& [number, account] : mapping) {
-        names.insert(account);
+        if (number != account) {
+            names.insert(account); // the others lent their name: their bank's number may still come
+        }
     }
     return names;
 }

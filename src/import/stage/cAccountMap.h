@@ -53,6 +53,8 @@ public:
     // The number under which the rows of a file without one are staged, for what the user typed or chose: the number
     // itself, or that of the account of this name. An account without a number lends its name.
     [[nodiscard]] QString NumberMeant(const QString& typed) const;
+    // Whether the book has an account of this name, be it in another letter case.
+    [[nodiscard]] bool Has(const QString& name) const { return Exists(Known(name.trimmed())); }
     // An account whose name was given in the place of a number is the account of this "number". The numbers that got
     // theirs.
     QStringList AssignNames(const QStringList& numbers);

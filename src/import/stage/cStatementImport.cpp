@@ -479,6 +479,7 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
     result.Problems = read.Problems;
     result.Skipped = read.Skipped;
     result.Accounts = cImportHive::AccountsOf(read.Entries);
+    result.Book = modBookNames::Of(read, options.DefaultAccount);
     if (options.Run == eStagingRun::Try) {
         result.Rows.reserve(result.Read);
     }
@@ -535,7 +536,8 @@ void cStatementImport::SettleEqual(const cStatementRead& read, const cImportOpti
     for (qsizetype i = 0; i < proofs.size(); ++i) {
         cRepeat repeat = result.Repeats.at(i);
         repeat.WasLeftOut = cLeftOutRows(settings).Has(repeat);
-        const bool isTaken = proofs.at(i) == eProof::Real || options.Equal == eEqualRows::Take;
+        // Parts of statements may overlap, a book has nothing twice.
+        const bool isTaken = proofs.at(i) == eProof::Real || options.Equal == eEqualRows::Take || read.IsBook;
         if (!isTaken && proofs.at(i) == eProof::None) {
             open.append(repeat);
             continue;

@@ -5,6 +5,7 @@
 #include "import/read/cStatementSource.h"
 #include "import/table/cTable.h"
 #include "import/table/cTableMemory.h"
+#include "import/table/modBookTable.h"
 #include "import/table/modColumnWords.h"
 #include "import/table/modTableAbove.h"
 #include "import/table/modTableContents.h"
@@ -293,6 +294,9 @@ void ReadFurther(const cTable& table, modTableSections::cNext next, const cReadO
 
 cStatementRead modTable::ReadRows(const cTable& table, const cTableLayout& layout, const cReadOptions& options)
 {
+    if (modBookTable::IsBook(table, layout)) {
+        return modBookTable::Read(table, layout);
+    }
     if (layout.EndRow < 0 || !layout.IsReadable()) {
         return ReadPart(table, layout, options);
     }

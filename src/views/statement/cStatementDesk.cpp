@@ -297,6 +297,20 @@ QList<int> cStatementDesk::FirstRules(const cImportEntryList& rows, const QList<
     return places;
 }
 
+// One account for all leaves the file's own without meaning.
+bool cStatementDesk::TakeNames(const cBookNames& names, const QString& wanted, QStringList& notes)
+{
+    cBookNames missing = modBookNames::Missing(names, m_tools.Data, m_works->Accounts);
+    if (!wanted.isEmpty()) {
+        missing.Accounts.clear();
+    }
+    if (missing.IsEmpty()) {
+        return true;
+    }
+    notes.append(cText::Tr("Aus der Datei angelegt: {0}", {modBookNames::Count(missing)}));
+    return modBookNames::Create(missing, m_tools.Data, m_works->Accounts);
+}
+
 bool cStatementDesk::AssignAccounts(const QStringList& numbers, const QString& wanted, QStringList& notes)
 {
     (void)m_works->Accounts.AssignNames(numbers);
@@ -371,6 +385,7 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     RememberAccount(result, options.DefaultAccount, m_works->Memory);
     cLeftOutRows leftOut(m_tools.Settings);
     (void)(leftOut.Forget(result.Settled) && leftOut.Note(result.Repeats)); // of a refusal the user has been told
+    report.IsDone = TakeNames(result.Book, wish.BookAccount, report.Notes) && report.IsDone;
     report.IsDone = AssignAccounts(result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
     if (!wish.Sign.isEmpty() && !wish.Remembers && !result.IsRefused) {
         QStringList unsaid; // a table without names for its columns is asked about again

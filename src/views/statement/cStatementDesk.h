@@ -17,6 +17,7 @@
 class cMatchFlow;
 class cSeriesCheck;
 class cStatementFiles;
+struct cBookNames;
 struct cBookTools;
 struct cFileFinding;
 struct cFileReport;
@@ -84,6 +85,8 @@ public:
     [[nodiscard]] cLayoutTaken ImportLayout(const QString& path);
 
 private:
+    // Adds what a file of another household book names and this one lacks, and notes it.
+    [[nodiscard]] bool TakeNames(const cBookNames& names, const QString& wanted, QStringList& notes);
     struct cWorks; // the tools of the import floor
 
     [[nodiscard]] cBooked Booked(const cPlanFlow::cOutcome& outcome);

@@ -115,6 +115,7 @@ struct cStatementFiles::cRun
     QStringList Refusals;
     QList<int> Rows; // staged
     cRepeatList Repeats;
+    cBookNames Names;
     std::vector<std::unique_ptr<cImportAssistant>> Answered;
 };
 
@@ -126,6 +127,7 @@ void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssis
              0,
              0,
              NewestRow(),
+             {},
              {},
              {},
              {},
@@ -167,6 +169,7 @@ void cStatementFiles::Note(const cImportResult& result, cRun& run)
     (void)cLeftOutRows(m_tools.Settings).Forget(result.Settled); // of a refusal the user has been told
     run.Repeats += result.Repeats;
     run.Numbers.append(result.Accounts);
+    run.Names.Add(result.Book);
 }
 
 void cStatementFiles::End(cRun& run)
@@ -180,6 +183,7 @@ void cStatementFiles::End(cRun& run)
         m_tools.User.Show(eTone::Exclamation, run.Refusals.join(u"\n\n"_s));
     }
     const QStringList due = DueStarts(run);
+    OfferNames(run.Names);
     AskAccounts(run.Numbers);
     OfferStart(due);
     Q_EMIT RowsStaged(run.Rows);
@@ -192,9 +196,19 @@ bool cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cP
         const QScopedValueRollback running(m_isRunning, true);
         Q_EMIT ImportStarts();
         cUndoStep step(m_tools.Data, cText::Tr("Umsätze abgerufen"), cJournal::eWrites::InPortions);
-        cRun run{
-            progress, eAssist::WhereNeeded, static_cast<int>(statements.size()), 0, 0, NewestRow(), {}, {}, {}, {}, {},
-            {}};
+        cRun run{progress,
+                 eAssist::WhereNeeded,
+                 static_cast<int>(statements.size()),
+                 0,
+                 0,
+                 NewestRow(),
+                 {},
+                 {},
+                 {},
+                 {},
+                 {},
+                 {},
+                 {}};
         Begin();
         for (qsizetype place = 0; place < statements.size(); ++place) {
             m_last.append(cFile());

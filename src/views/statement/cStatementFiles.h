@@ -16,6 +16,7 @@ class cAccountMap;
 class cImportAssistant;
 class cImportHiveCache;
 class cProgress;
+struct cBookNames;
 struct cBookTools;
 struct cFetchedStatement;
 struct cImportOptions;
@@ -136,6 +137,7 @@ private:
     static void NoteRefusal(const cImportResult& result, cRun& run); // to be shown at the end of the run
     [[nodiscard]] bool IsAnswered(cImportAssistant& assistant, cRun& run);
     [[nodiscard]] QList<int> RemoveOpen(const QList<int>& rows);
+    void OfferNames(const cBookNames& names);
     void OfferStart(const QStringList& numbers);
     [[nodiscard]] QStringList DueStarts(const cRun& run);
     void KeepLeftOut(const cImportResult& result);

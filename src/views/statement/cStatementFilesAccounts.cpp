@@ -1,6 +1,7 @@
 // What cStatementFiles asks about a file that was refused, and about accounts once the rows are there.
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "base/modCount.h"
 #include "core/cBookTools.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportResult.h"
@@ -12,6 +13,8 @@
 #include <QFileInfo>
 
 #include <utility>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -37,6 +40,31 @@ bool cStatementFiles::IsCurrencyWanted(const cImportResult& result)
                              .Title = cText::Tr("Andere Währung"),
                              .Default = eAnswer::No})
         == eAnswer::Yes;
+}
+
+void cStatementFiles::OfferNames(const cBookNames& names)
+{
+    if (names.IsEmpty() || m_tools.Data.IsReadOnly()) {
+        return;
+    }
+    const cBookNames missing = modBookNames::Missing(names, m_tools.Data, m_accounts);
+    if (missing.IsEmpty()) {
+        return;
+    }
+    constexpr qsizetype most = 10;
+    const QStringList all = missing.Accounts + missing.Categories.keys();
+    QStringList lines = all.first(qMin(all.size(), most));
+    if (all.size() > most) {
+        lines.append(modCount::MoreLines(all.size() - most));
+    }
+    const cQuestion question{.Text = cText::Tr("Noch nicht im Buch sind aus der Datei: {0}\n\n{1}\n\nSollen sie "
+                                               "angelegt werden?",
+                                               {modBookNames::Count(missing), lines.join(u'\n')}),
+                             .Title = cText::Tr("Kategorien und Konten der Datei"),
+                             .Default = eAnswer::Yes};
+    if (m_tools.User.Ask(question) == eAnswer::Yes) {
+        (void)modBookNames::Create(missing, m_tools.Data, m_accounts); // of a refusal the user has been told
+    }
 }
 
 void cStatementFiles::OfferStart(const QStringList& numbers)

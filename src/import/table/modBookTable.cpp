@@ -1,0 +1,134 @@
+#include "import/table/modBookTable.h"
+
+#include "base/cText.h"
+#include "base/modAmount.h"
+#include "import/read/cTableLayout.h"
+#include "import/read/modBookRow.h"
+#include "import/table/cTable.h"
+#include "import/table/modTableValue.h"
+#include "model/modWord.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+enum eColumn { Day, Kind, Category, Account, Description, Amount, Target, Count }; // the target only with transfers
+
+constexpr std::array<const char*, Count> titles{
+    QT_TRANSLATE_NOOP("cText", "Datum"),        QT_TRANSLATE_NOOP("cText", "Buchungsart"),
+    QT_TRANSLATE_NOOP("cText", "Kategorie"),    QT_TRANSLATE_NOOP("cText", "Konto"),
+    QT_TRANSLATE_NOOP("cText", "Beschreibung"), QT_TRANSLATE_NOOP("cText", "Betrag"),
+    QT_TRANSLATE_NOOP("cText", "Zielkonto")};
+
+using cColumns = std::array<qsizetype, Count>;
+
+cColumns ColumnsOf(const cTable& table, const cTableLayout& layout)
+{
+    const QStringList names = layout.HeaderRow < 0 ? QStringList() : table.Row(layout.HeaderRow);
+    cColumns columns{};
+    std::transform(titles.begin(), titles.end(), columns.begin(), [&](const char* title) {
+        return std::max(names.indexOf(QString::fromUtf8(title)), names.indexOf(cText::Tr(title)));
+    });
+    return columns;
+}
+
+// Table programs are kept from calculating a text by an apostrophe before it.
+QString WithoutMark(const QString& text)
+{
+    return text.size() > 1 && text.front() == u'\'' && u"=+-@"_s.contains(text.at(1)) ? text.mid(1) : text;
+}
+
+class cReader
+{
+public:
+    cReader(const cTable& table, const cTableLayout& layout)
+        : m_table(table),
+          m_layout(layout),
+          m_columns(ColumnsOf(table, layout))
+    {
+        m_read.IsTable = true;
+        m_read.IsBook = true;
+    }
+
+    cStatementRead Run()
+    {
+        for (int row = m_layout.FirstRow; row < m_table.RowCount(); ++row) {
+            Take(row);
+        }
+        return std::move(m_read);
+    }
+
+private:
+    [[nodiscard]] QString Cell(int row, eColumn column) const
+    {
+        const qsizetype place = m_columns.at(column);
+        return place < 0 ? QString() : WithoutMark(m_table.Cell(row, static_cast<int>(place)).toString());
+    }
+
+    void Take(int row)
+    {
+        cImportEntry entry;
+        entry.ImportDate = modTableValue::ReadDate(Cell(row, Day));
+        entry.ImportAccount = Cell(row, Account);
+        if (!entry.ImportDate.isValid() && entry.ImportAccount.isEmpty()) {
+            return;
+        }
+        const std::optional<double> value = modTableValue::ReadAmount(Cell(row, Amount), eNumberFormat::German);
+        TakeDescription(Cell(row, Description), entry);
+        entry.ImportValue = modAmount::ToEvenCents(value.value_or(0.0));
+        const QString kind = modWord::EntryTypes().ToStored(Cell(row, Kind));
+        const bool isTransfer = kind == modWord::Umbuchung;
+        if (!entry.ImportDate.isValid() || !value || entry.ImportAccount.isEmpty()
+            || !modWord::EntryTypes().Contains(kind) || (isTransfer && Cell(row, Target).isEmpty())) {
+            const QString text = cText::Tr("In der Zeile fehlen Tag, Buchungsart, Konto, Zielkonto oder Betrag.");
+            m_read.Skipped.append({{m_table.Line(row), text}, eSkipped::Unreadable, {}});
+        } else if (isTransfer) {
+            TakeTransfer(row, entry);
+        } else {
+            entry.ImportType = modBookRow::CategoryText(Cell(row, Category));
+            m_read.Entries.append(entry);
+        }
+    }
+
+    // The list of one account has the transfer as that account sees it.
+    void TakeTransfer(int row, cImportEntry entry)
+    {
+        cImportEntry other = entry;
+        other.ImportAccount = Cell(row, Target);
+        other.ImportValue = std::abs(entry.ImportValue);
+        entry.ImportValue = -other.ImportValue;
+        modBookRow::MakeTransfer(entry, other.ImportAccount, Cell(row, Category));
+        modBookRow::MakeTransfer(other, entry.ImportAccount, Cell(row, Category));
+        m_read.Entries.append({entry, other});
+    }
+
+    // Entries of bank transactions are described by the payee and the purpose.
+    static void TakeDescription(const QString& text, cImportEntry& entry)
+    {
+        const qsizetype dash = text.indexOf(u" - "_s);
+        entry.ImportBeneficiary = text.left(dash);
+        entry.ImportPurpose = dash < 0 ? QString() : text.mid(dash + 3);
+    }
+
+    const cTable& m_table;
+    const cTableLayout& m_layout;
+    cColumns m_columns;
+    cStatementRead m_read;
+};
+
+} // namespace
+
+bool modBookTable::IsBook(const cTable& table, const cTableLayout& layout)
+{
+    const cColumns columns = ColumnsOf(table, layout);
+    return std::find(columns.begin(), columns.begin() + Target, -1) == columns.begin() + Target;
+}
+
+cStatementRead modBookTable::Read(const cTable& table, const cTableLayout& layout)
+{
+    return cReader(table, layout).Run();
+}
