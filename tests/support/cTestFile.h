@@ -74,6 +74,9 @@ public:
         const int root = Value(database, "SELECT rootpage FROM sqlite_master WHERE name = '" + table + "'").toInt();
         const int size = Value(database, "PRAGMA page_size").toInt();
         database.Close();
+        if (root < 1) {
+            qFatal("no table %s in %s", table.c_str(), qPrintable(path));
+        }
         QByteArray bytes = Bytes(path);
         bytes.replace(qsizetype{root - 1} * size, size, QByteArray(size, 'x'));
         Write(path, bytes);

@@ -28,7 +28,8 @@ using cColumns = std::array<qsizetype, Count>;
 
 cColumns ColumnsOf(const cTable& table, const cTableLayout& layout)
 {
-    const QStringList names = layout.HeaderRow < 0 ? QStringList() : table.Row(layout.HeaderRow);
+    const QStringList names =
+        layout.HeaderRow < 0 || layout.HeaderRow >= table.RowCount() ? QStringList() : table.Row(layout.HeaderRow);
     cColumns columns{};
     std::transform(titles.begin(), titles.end(), columns.begin(), [&](const char* title) {
         return std::max(names.indexOf(QString::fromUtf8(title)), names.indexOf(cText::Tr(title)));
