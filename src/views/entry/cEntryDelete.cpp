@@ -188,17 +188,17 @@ QString cEntryDelete::Question(const cDeleteTargetList& targets, eSeriesPart par
     if (part == eSeriesPart::OnlyThis) {
         return cText::Tr("Möchten Sie '{0}' vom {1} auslassen?\nDer Betrag wird null, die Serie läuft weiter.",
                          {name, day})
-            + LostCorrection(first.Entry.ID, first.Days.first());
+            + LostCorrection(first.Entry, first.Days.first());
     }
     return cText::Tr("Möchten Sie die Serie '{0}' ab dem {1} löschen?\nDie Vorkommen davor bleiben.", {name, day});
 }
 
-QString cEntryDelete::LostCorrection(int id, QDate day) const
+QString cEntryDelete::LostCorrection(const cEntryItem& entry, QDate day) const
 {
-    const std::optional<cEntryItemFixMod> correction = cSeriesChange(m_tools).Correction(id, day);
-    return correction && correction->EntryValue != 0 ? u'\n'
-            + cText::Tr("Die Korrektur auf {0} geht dabei verloren.", {m_tools.Format.Cents(correction->EntryValue)})
-                                                     : QString();
+    const qint64 cents = cSeriesChange(m_tools).Correction(entry.ID, day).value_or(cEntryItemFixMod{}).EntryValue;
+    return cents == 0 || cents == entry.EntryValue
+        ? QString()
+        : u'\n' + cText::Tr("Die Korrektur auf {0} geht dabei verloren.", {m_tools.Format.Cents(cents)});
 }
 
 QString cEntryDelete::WholeQuestion(const cDeleteTargetList& targets) const
