@@ -426,7 +426,7 @@ void cNavigation::OpenAbout()
 
 void cNavigation::OpenCheck()
 {
-    cBookCheck check(m_parts.Tools.Data, m_parts.Format);
+    cBookCheck check(m_parts.Tools.Data, m_parts.Format, m_parts.Tools.Clock.Today());
     frmPruefung form(check, Parent());
     QObject::connect(&form, &frmPruefung::EntryRequested, m_model, [&](int entryId) {
         OpenEntry(entryId, {});

@@ -10,6 +10,7 @@ enum class eEntryFault {
     Day,      // none, or one that cannot be read: no period holds it
     Interval, // none, or an unknown one together with a last day that hides it
     End,      // a series that ends before it begins
+    Length,   // a series of so many occurrences that not all of those up to today are made
     Amount,   // none, or one that cannot be read: it counts as 0
     Account,  // none: no balance counts it
     Target    // a transfer without one: the money leaves an account and comes to none

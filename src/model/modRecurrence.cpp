@@ -167,6 +167,17 @@ modPeriod::cRange modRecurrence::OccurrencePeriod(QDate occurrence, const QStrin
     return PeriodOf(occurrence, FindInterval(interval));
 }
 
+QDate modRecurrence::CutOffAt(const cEntryItem& entry)
+{
+    const cInterval& interval = FindInterval(entry.EntryInterval);
+    const QDate end = EffectiveEnd(entry.EntryDateEnd);
+    QDate day = entry.EntryDate;
+    for (int index = 0; day.isValid() && day <= end && index < occurrenceLimit; ++index) {
+        day = AddStep(day, interval);
+    }
+    return interval.Unit != eUnit::None && day.isValid() && AddStep(day, interval) <= end ? day : QDate();
+}
+
 void modRecurrence::Expand(const cEntryItem& entry, const modPeriod::cRange& period,
                            const cEntryItemFixModList& fixMods, cEntryItemList& occurrences)
 {

@@ -29,6 +29,10 @@ inline constexpr QDate OpenEnd = QDate::fromJulianDay(2469808); // 2050-01-01
 // The period that an occurrence covers, under which its correction is stored.
 [[nodiscard]] modPeriod::cRange OccurrencePeriod(QDate occurrence, const QString& interval);
 
+// The last day on which a series has an occurrence because it has no more of them than are made, though it would go on;
+// invalid when it ends by itself.
+[[nodiscard]] QDate CutOffAt(const cEntryItem& entry);
+
 // The occurrences of an entry within `period`, in date order; an open side of the period is unbounded. An entry without
 // recurring interval is its own single occurrence. `fixMods` are the corrections of this entry: the one whose start is
 // the start of an occurrence's period replaces its amount and, where it names one, its day; an occurrence that moves

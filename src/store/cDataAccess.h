@@ -83,8 +83,9 @@ public:
     [[nodiscard]] int CountEntries();
     [[nodiscard]] int CountEntriesOfAccount(const QString& account);
     [[nodiscard]] int CountEntriesOfCategory(const QString& path); // LIKE, as the path is given
-    // Entries that no view shows or that do not count as they stand, by ID.
-    [[nodiscard]] std::optional<QList<cFaultyEntry>> GetFaultyEntries();
+    // Entries that no view shows or that do not count as they stand, by ID. Up to `today` a series has to have all its
+    // occurrences.
+    [[nodiscard]] std::optional<QList<cFaultyEntry>> GetFaultyEntries(QDate today);
     // Numbers of entries by their exact category path, and by the accounts they have as source or target.
     [[nodiscard]] QHash<QString, int> CountEntriesByCategory();
     [[nodiscard]] QHash<QString, int> CountEntriesByAccount();

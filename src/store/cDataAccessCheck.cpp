@@ -32,8 +32,9 @@ bool EndsBeforeItBegins(const cEntryItem& entry)
 class cFaultReader
 {
 public:
-    explicit cFaultReader(cDatabase& database)
-        : m_withoutInterval(Where(database, "EntryInterval IS NULL")),
+    cFaultReader(cDatabase& database, QDate today)
+        : m_today(today),
+          m_withoutInterval(Where(database, "EntryInterval IS NULL")),
           m_withoutDay(Where(database, "date(EntryDate) IS NULL"))
     {
     }
@@ -52,6 +53,7 @@ public:
         note(!entry.EntryDate.isValid() || m_withoutDay.contains(entry.ID), eEntryFault::Day);
         note(m_withoutInterval.contains(entry.ID) || (!isKnown && EndsBeforeItBegins(entry)), eEntryFault::Interval);
         note(isSeries && EndsBeforeItBegins(entry), eEntryFault::End);
+        note(isSeries && LacksDays(entry), eEntryFault::Length);
         note(!modRow::ReadCents(row.Bytes(8)), eEntryFault::Amount);
         note(entry.EntryAccount.isEmpty(), eEntryFault::Account);
         note(entry.EntryType == modWord::Umbuchung && entry.EntryAccountMove.isEmpty(), eEntryFault::Target);
@@ -59,6 +61,13 @@ public:
     }
 
 private:
+    [[nodiscard]] bool LacksDays(const cEntryItem& entry) const
+    {
+        const QDate last = modRecurrence::CutOffAt(entry);
+        return last.isValid() && modRecurrence::Next(last, entry.EntryInterval) <= m_today;
+    }
+
+    QDate m_today;
     cEntryReader m_reader;
     QSet<int> m_withoutInterval;
     QSet<int> m_withoutDay; // that SQLite can compare with a period
@@ -66,11 +75,11 @@ private:
 
 } // namespace
 
-std::optional<QList<cFaultyEntry>> cDataAccess::GetFaultyEntries()
+std::optional<QList<cFaultyEntry>> cDataAccess::GetFaultyEntries(QDate today)
 {
     QList<cFaultyEntry> faulty;
     const bool isRead = Look("GetFaultyEntries", [&] {
-        cFaultReader reader(m_database);
+        cFaultReader reader(m_database, today);
         cRows rows(m_database, cEntryReader::Select + std::string(" ORDER BY ID"));
         while (rows.Next()) {
             const cFaultyEntry entry = reader.Read(rows);

@@ -167,6 +167,7 @@ void testCliEntries::FromHereOn()
 {
     const QString id = Add(u"--amount|650|--category|Wohnung; Miete|--date|3.1.2026"_s);
     Do(u"correct|%1|3.2.2026|655"_s.arg(id));
+    QCOMPARE(Do(u"change|%1|--from|1.1.2026|--amount|650|--json"_s.arg(id)).Column(u"ID"_s), QStringList{id});
     const QString later = Do(u"change|%1|--from|3.3.2026|--amount|690|--json"_s.arg(id)).Column(u"ID"_s).value(0);
     QVERIFY(later != id);
     const cCliRun search = Do(u"search|--json|--from|1.1.2026|--to|30.4.2026"_s);
@@ -447,7 +448,8 @@ void testCliEntries::Refused_data()
     row("change of nothing", u"change|1"_s, 2, u"--amount"_s);
     row("change of an entry that is not there", u"change|77|--amount|5"_s, 1, u"77"_s);
     row("more than the amount of one occurrence", u"change|1|--only|3.3.2026|--text|x"_s, 2, u"nur der Betrag"_s);
-    row("no occurrence on that day", u"change|1|--from|3.3.2019|--amount|5"_s, 1, u"03.01.2026"_s);
+    row("no occurrence on that day", u"change|1|--only|3.3.2019|--amount|5"_s, 1, u"03.01.2026"_s);
+    row("no occurrence from that day on", u"change|1|--from|3.3.2051|--amount|5"_s, 1, u"03.03.2051"_s);
     row("new start before the split", u"change|1|--from|3.3.2026|--date|1.2.2026"_s, 2, u"03.03.2026"_s);
     row("variable of a script that is not set", u"change|1|--amount|5|--only|"_s, 2, u"'--only'"_s);
     row("day of no occurrence", u"correct|1||5"_s, 2, u"Tag"_s);

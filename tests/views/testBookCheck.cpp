@@ -26,6 +26,11 @@ private Q_SLOTS:
         row("unknown interval and an early end", u"EntryInterval = 'Oft', EntryDateEnd = '2026-01-01'"_s,
             u"Intervall 'Oft' unbekannt"_s, 0);
         row("early end of a series", u"EntryDateEnd = '2026-03-09'"_s, u"endet am 09.03.2026, vor dem ersten Tag"_s, 0);
+        const QString daily = u"EntryInterval = 'Täglich', EntryDate = '%1'"_s;
+        row("more days than are made", daily.arg(u"1998-10-27"_s),
+            u"zählt nur bis zum 14.03.2026, es sind zu viele Vorkommen; \"Ab hier\" an einem Tag davor setzt sie fort"_s,
+            14);
+        row("as many as are made up to today", daily.arg(u"1998-10-28"_s), {}, 15);
         row("early end of an old series, which has none", u"EntryDateEnd = '1899-12-30'"_s, {}, 1);
         row("end of a one-off entry, which has none", u"EntryInterval = 'Einmalig', EntryDateEnd = '2026-03-09'"_s, {},
             1);
@@ -46,7 +51,7 @@ private Q_SLOTS:
         march.Start = QDate(2026, 3, 1);
         march.End = QDate(2026, 3, 31);
         QTEST(static_cast<int>(book.Data.GetEntries(march).size()), "seen");
-        const cBookCheck check(book.Data, book.Format);
+        const cBookCheck check(book.Data, book.Format, book.Clock.Today());
         QCOMPARE(check.IsSound(), fault.isEmpty());
         QCOMPARE(check.index(0, cBookCheck::Fault).data().toString(), fault);
         QCOMPARE(check.EntryAt(0), fault.isEmpty() ? 0 : id);
@@ -58,7 +63,7 @@ private Q_SLOTS:
         cEditorBook book;
         const int id = book.Add([](cEntryItem&) {}).ID;
         book.Database.Execute("UPDATE data SET EntryDate = '31.02.2026'");
-        cBookCheck check(book.Data, book.Format);
+        cBookCheck check(book.Data, book.Format, book.Clock.Today());
         cEntryFields fields = *book.Editor.Load(id);
         fields.Description = u"Wochenmarkt"_s;
         QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
@@ -90,7 +95,8 @@ private Q_SLOTS:
         cEntryFields fields = book.Editor.StartBalance(u"Girokonto"_s);
         fields.Amount = u"200"_s;
         QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
-        const QList<cFaultyEntry> faulty = book.Data.GetFaultyEntries().value_or(QList<cFaultyEntry>());
+        const QList<cFaultyEntry> faulty =
+            book.Data.GetFaultyEntries(book.Clock.Today()).value_or(QList<cFaultyEntry>());
         QCOMPARE(faulty.size(), 1);
         QCOMPARE(faulty.first().DayText, u"Neujahr"_s);
         QCOMPARE(faulty.first().Entry.EntryValue, 20000);
@@ -102,7 +108,7 @@ private Q_SLOTS:
         book.Database.Execute("DROP TABLE template");
         book.Database.Execute("ALTER TABLE import DROP COLUMN ImportCurrency");
         book.Database.Execute("ALTER TABLE data DROP COLUMN EntryDescription");
-        const cBookCheck check(book.Data, book.Format);
+        const cBookCheck check(book.Data, book.Format, book.Clock.Today());
         QVERIFY(!check.IsSound());
         QCOMPARE(check.FileText(),
                  u"Die Datei ist unvollständig. Bitte spielen Sie eine Datensicherung zurück. Es fehlt: Spalte "

@@ -16,8 +16,9 @@ private Q_SLOTS:
     void ShareTheRoom_data()
     {
         const cTestRows<int, int, QList<int>> row("Rest", "Room", "Widths");
-        row("what is left goes to one", 1, 500, {80, 340, 80});
-        row("or to none", -1, 500, {80, 200, 80});
+        row("what is left goes to cut texts, then to one", 1, 500, {90, 330, 80});
+        row("no more than there is", 1, 365, {85, 200, 80});
+        row("or to none", -1, 500, {90, 200, 80});
         row("the long text gives way first", 1, 250, {80, 97, 73});
         row("then the amount keeps what it needs", 1, 160, {52, 38, 70});
         row("below that the list scrolls", 1, 100, {30, 20, 70});
@@ -27,7 +28,7 @@ private Q_SLOTS:
     {
         QFETCH(int, Rest);
         QFETCH(int, Room);
-        const QList<modColumnWidth::cColumn> columns{{80, 80, 30}, {200, 60, 20}, {80, 60, 70}};
+        const QList<modColumnWidth::cColumn> columns{{80, 80, 30, 90}, {200, 60, 20}, {80, 60, 70}};
         QTEST(modColumnWidth::Share(columns, Rest, Room), "Widths");
     }
 

@@ -1,9 +1,11 @@
+#include "model/modSeries.h"
 #include "model/modSplit.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 #include "support/testFormat.h"
 #include "views/list/cEntryListModel.h"
+#include "views/list/modColumnWidth.h"
 
 #include <QAbstractItemModelTester>
 #include <QTest>
@@ -284,11 +286,16 @@ private Q_SLOTS:
         model.SetContent(Content(), {}, modWord::KeineGruppierung);
         QVERIFY(model.index(4, 0).data(cEntryListModel::FutureRole).toBool()); // 1 April
         QVERIFY(!model.index(0, 0).data(cEntryListModel::FutureRole).toBool());
-        QCOMPARE(model.index(1, cEntryListModel::Interval).data().toString(), u"Einmalig, korrigiert"_s);
         cEntryListModel::cContent parts = Content();
         modSplit::SetGroup(parts.Entries[0], 1);
+        parts.Entries[1].PlannedDate = parts.Entries[3].PlannedDate = QDate(2026, 1, 1);
+        parts.Entries[1].CorrectionComment = modSeries::BankComment(); // as nearly all that the bank paid
         model.SetContent(parts, {}, modWord::KeineGruppierung);
-        QCOMPARE(model.index(2, cEntryListModel::Interval).data().toString(), u"Einmalig, Teil"_s);
+        QCOMPARE(Rows(model, cEntryListModel::Interval),
+                 QStringList({u"Einmalig"_s, u"Einmalig, korrigiert"_s, u"Einmalig, Teil"_s, u"Einmalig"_s,
+                              u"Monatlich, verschoben"_s}));
+        QCOMPARE(model.headerData(cEntryListModel::Category, Qt::Horizontal, modColumnWidth::WidestRole).toString(),
+                 u"Einkommen; Lohn / Gehalt"_s);
         QCOMPARE(model.index(3, 0).data(cEntryListModel::ToneRole).toInt(), cEntryListModel::Income);
     }
 

@@ -307,6 +307,15 @@ private Q_SLOTS:
         QCOMPARE(scene.Balances(),
                  QStringList({u"Girokonto "_s + Euro(u"-1.000,00"_s), u"Sparkonto "_s + Euro(u"300,00"_s),
                               u"Bargeld "_s + Euro(u"0,00"_s), u"Gesamt "_s + Euro(u"-700,00"_s)}));
+        const auto title = [&]() -> QString {
+            const cAccountListModel& list = scene.Model->AccountList();
+            return list.headerData(cAccountListModel::Balance, Qt::Horizontal, Qt::DisplayRole).toString() + u", "_s
+                + scene.Model->BalancesTitle();
+        };
+        QCOMPARE(title(), u"Veränderung, Veränderung im Zeitraum"_s);
+        scene.Model->ChoosePeriod(u"Buchungen bis heute"_s);
+        cScene::Settle();
+        QCOMPARE(title(), u"Kontostand, Kontostände bis heute"_s);
     }
 
     void RunningBalanceBeginsBeforeThePeriod()

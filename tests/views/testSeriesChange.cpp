@@ -91,6 +91,10 @@ private Q_SLOTS:
         QCOMPARE(Corrections(book, book.Rent), QStringList({u"2026-04-01 0 Ausgelassen"_s}));
         QVERIFY(book.Change.RemoveCorrection(book.Rent, QDate(2026, 4, 10)));
         QVERIFY(Corrections(book, book.Rent).isEmpty());
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 4, 10), 1000, {}, QDate(2026, 5, 2)));
+        QVERIFY(book.Change.SkipPeriod(book.Rent, QDate(2026, 4, 10)));
+        QCOMPARE(book.Data.GetEntryMods(book.Rent).first().EntryDay, QDate(2026, 5, 2)); // leaves no other month empty
+        QCOMPARE(book.Change.DayText(book.Rent, QDate(2026, 4, 10)), u"02.05.2026 (geplant am 10.04.2026)"_s);
     }
 
     void PeriodForm()
@@ -237,6 +241,34 @@ private Q_SLOTS:
         QCOMPARE(book.Data.CountEntries(), 1);
         QCOMPARE(Corrections(book, book.Rent).size(), 3);
         QCOMPARE(book.Data.LoadEntry(book.Rent)->EntryDateEnd, modRecurrence::OpenEnd);
+    }
+
+    void MovedOnesFollowTheAmount_data()
+    {
+        const cTestRows<QDate, QStringList> row("from", "stored");
+        const QString corrected = u"2026-06-01 900 kleiner"_s;
+        const QString paid = u"2026-07-01 1000 "_s;
+        row("whole series", {}, {u"2026-04-01 2000 "_s, u"2026-05-01 2000 "_s, corrected, paid});
+        row("from the moved one on", QDate(2026, 5, 10), {u"2026-05-01 2000 "_s, corrected, paid});
+    }
+
+    void MovedOnesFollowTheAmount()
+    {
+        QFETCH(const QDate, from);
+        cRentBook book;
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 4, 10), 1000, {}, QDate(2026, 4, 12)));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 5, 10), 1000, {}, QDate(2026, 6, 2)));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 6, 10), 900, u"kleiner"_s, QDate(2026, 6, 12)));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 7, 10), 1000, {}, QDate(2026, 8, 2)));
+        book.Stage({}, QDate(2026, 8, 2), 1000, {}, book.Rent);
+        const QStringList before = Corrections(book, book.Rent);
+        cEntryFields fields =
+            (from.isValid() ? book.Editor.LoadFrom(book.Rent, from) : book.Editor.Load(book.Rent)).value();
+        fields.Amount = u"20"_s;
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QTEST(Corrections(book, book.Editor.SavedId()), "stored");
+        QVERIFY(book.Data.Journal().Undo());
+        QCOMPARE(Corrections(book, book.Rent), before);
     }
 
     void FromHereAsksForLostCorrections_data()

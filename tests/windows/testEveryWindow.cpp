@@ -166,7 +166,7 @@ struct cScene
     cApprovalWait Approval{Book.Clock};
     cBankLogView Log{u"HNHBK:1:3+000000000123+300+0+1'"_s, {}, {Book.User, Book.Shell, Book.Clock}};
     cRuleEditor Rules{Book.Tools};
-    cBookCheck Check{Book.Data, Book.Format};
+    cBookCheck Check{Book.Data, Book.Format, Book.Clock.Today()};
     cNationalSettings National{Book.Tools, Book.Configuration, Book.Format};
     cTestBank Bank{BankProfile()};
     cTestHttps Https{Bank};

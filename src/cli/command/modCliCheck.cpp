@@ -1,3 +1,4 @@
+#include "base/cClock.h"
 #include "base/cText.h"
 #include "base/modCount.h"
 #include "cli/cCliBook.h"
@@ -16,6 +17,7 @@ QString Option(eEntryFault fault)
     case eEntryFault::Day: return u"--date DATUM"_s;
     case eEntryFault::Interval: return u"--interval INTERVALL"_s;
     case eEntryFault::End: return u"--end DATUM"_s;
+    case eEntryFault::Length: return u"--from DATUM --amount BETRAG"_s;
     case eEntryFault::Amount: return u"--amount BETRAG"_s;
     case eEntryFault::Account: return u"--account KONTO"_s;
     case eEntryFault::Target: return u"--to-account KONTO"_s;
@@ -48,7 +50,7 @@ QString Head(cCliBook& book, const cBookCheck& check)
 int RunCheck(const cCliContext& context)
 {
     cCliBook& book = *context.Book;
-    const cBookCheck check(book.Data, book.Format());
+    const cBookCheck check(book.Data, book.Format(), context.Clock.Today());
     modConsole::Out(Head(book, check) + u'\n');
     const QStringList added = book.File().Added();
     if (!added.isEmpty()) {

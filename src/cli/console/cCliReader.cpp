@@ -163,7 +163,7 @@ QDate cCliReader::Occurrence(int id, const QString& text, eOccurrence which)
     }
     QStringList days;
     const QList<QDate> next = modSeries::Next(*series, qMax(day, series->EntryDate), shownDays);
-    if (which == eOccurrence::From && day >= series->EntryDate && !next.isEmpty()) {
+    if (which == eOccurrence::From && !next.isEmpty()) {
         return next.constFirst();
     }
     for (const QDate other : next) {

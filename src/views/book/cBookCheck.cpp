@@ -31,6 +31,10 @@ QString TextOf(eEntryFault fault, const cFaultyEntry& entry)
     case eEntryFault::End:
         return cText::Tr("endet am {0}, vor dem ersten Tag",
                          {modDate::ToText(modRecurrence::EffectiveEnd(entry.Entry.EntryDateEnd))});
+    case eEntryFault::Length:
+        return cText::Tr(
+            "zählt nur bis zum {0}, es sind zu viele Vorkommen; \"Ab hier\" an einem Tag davor setzt sie fort",
+            {modDate::ToText(modRecurrence::CutOffAt(entry.Entry))});
     case eEntryFault::Amount:
         return entry.AmountText.isEmpty() ? cText::Tr("kein Betrag")
                                           : cText::Tr("Betrag '{0}' nicht lesbar", {entry.AmountText});
@@ -42,10 +46,11 @@ QString TextOf(eEntryFault fault, const cFaultyEntry& entry)
 
 } // namespace
 
-cBookCheck::cBookCheck(cDataAccess& data, const cAmountFormat& format, QObject* parent)
+cBookCheck::cBookCheck(cDataAccess& data, const cAmountFormat& format, QDate today, QObject* parent)
     : QAbstractTableModel(parent),
       m_data(data),
-      m_format(format)
+      m_format(format),
+      m_today(today)
 {
     Reload();
 }
@@ -55,7 +60,7 @@ void cBookCheck::Reload()
     beginResetModel();
     m_problems = m_data.GetFileProblems();
     m_missing = m_data.GetMissingParts();
-    const std::optional<QList<cFaultyEntry>> entries = m_data.GetFaultyEntries();
+    const std::optional<QList<cFaultyEntry>> entries = m_data.GetFaultyEntries(m_today);
     m_isRead = entries.has_value();
     m_entries = entries.value_or(QList<cFaultyEntry>());
     m_receipts = cReceipts::CheckText(m_data);

@@ -3,6 +3,7 @@
 #include "model/cFaultyEntry.h"
 
 #include <QAbstractTableModel>
+#include <QDate>
 #include <QList>
 #include <QString>
 #include <QStringList>
@@ -19,8 +20,8 @@ class cBookCheck final : public QAbstractTableModel
 public:
     enum eColumn { Fault, Day, Text, Account, Amount, ColumnCount };
 
-    // Looks at once; both parameters outlive the check.
-    cBookCheck(cDataAccess& data, const cAmountFormat& format, QObject* parent = nullptr);
+    // Looks at once; data and format outlive the check.
+    cBookCheck(cDataAccess& data, const cAmountFormat& format, QDate today, QObject* parent = nullptr);
 
     void Reload(); // looks again
 
@@ -51,6 +52,7 @@ private:
 
     cDataAccess& m_data;
     const cAmountFormat& m_format;
+    QDate m_today;
     QStringList m_problems;
     QStringList m_missing;
     QString m_receipts;

@@ -184,22 +184,21 @@ QString cEntryDelete::Question(const cDeleteTargetList& targets, eSeriesPart par
         return WholeQuestion(targets);
     }
     const QString name = first.Entry.Name();
-    const QDate day = first.Days.first();
+    const QString day = cSeriesChange(m_tools).DayText(first.Entry.ID, first.Days.first());
     if (part == eSeriesPart::OnlyThis) {
         return cText::Tr("Möchten Sie '{0}' vom {1} auslassen?\nDer Betrag wird null, die Serie läuft weiter.",
-                         {name, modDate::ToText(day)})
-            + LostCorrection(first.Entry.ID, day);
+                         {name, day})
+            + LostCorrection(first.Entry, first.Days.first());
     }
-    return cText::Tr("Möchten Sie die Serie '{0}' ab dem {1} löschen?\nDie Vorkommen davor bleiben.",
-                     {name, modDate::ToText(day)});
+    return cText::Tr("Möchten Sie die Serie '{0}' ab dem {1} löschen?\nDie Vorkommen davor bleiben.", {name, day});
 }
 
-QString cEntryDelete::LostCorrection(int id, QDate day) const
+QString cEntryDelete::LostCorrection(const cEntryItem& entry, QDate day) const
 {
-    const std::optional<cEntryItemFixMod> correction = cSeriesChange(m_tools).Correction(id, day);
-    return correction && correction->EntryValue != 0 ? u'\n'
-            + cText::Tr("Die Korrektur auf {0} geht dabei verloren.", {m_tools.Format.Cents(correction->EntryValue)})
-                                                     : QString();
+    const qint64 cents = cSeriesChange(m_tools).Correction(entry.ID, day).value_or(cEntryItemFixMod{}).EntryValue;
+    return cents == 0 || cents == entry.EntryValue
+        ? QString()
+        : u'\n' + cText::Tr("Die Korrektur auf {0} geht dabei verloren.", {m_tools.Format.Cents(cents)});
 }
 
 QString cEntryDelete::WholeQuestion(const cDeleteTargetList& targets) const
@@ -227,7 +226,7 @@ QString cEntryDelete::WholeQuestion(const cDeleteTargetList& targets) const
 }
 
 // What is selected, and what each of the options would leave.
-QString cEntryDelete::PartQuestion(const cDeleteTargetList& targets, const QStringList& options)
+QString cEntryDelete::PartQuestion(const cDeleteTargetList& targets, const QStringList& options) const
 {
     const cCounts counts = Count(targets);
     QStringList names;
@@ -237,7 +236,7 @@ QString cEntryDelete::PartQuestion(const cDeleteTargetList& targets, const QStri
     const cDeleteTarget& first = targets.first();
     QString text = counts.Occurrences == 1 && counts.Entries == 0
         ? cText::Tr("'{0}' vom {1} gehört zu einer Serie ({2} seit {3}).",
-                    {first.Entry.Name(), modDate::ToText(first.Days.first()),
+                    {first.Entry.Name(), cSeriesChange(m_tools).DayText(first.Entry.ID, first.Days.first()),
                      modWord::Intervals().ToShown(first.Entry.EntryInterval), modDate::ToText(first.Entry.EntryDate)})
         : cText::Tr("Ausgewählt sind {0} Vorkommen von {1}:",
                     {QString::number(counts.Occurrences), CountOfSeries(counts.Series)})

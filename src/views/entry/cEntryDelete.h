@@ -49,10 +49,10 @@ private:
     [[nodiscard]] bool Run(cDeleteTargetList targets, eSeriesPart part);
     [[nodiscard]] std::optional<eSeriesPart> AskPart(const cDeleteTargetList& targets);
     [[nodiscard]] bool AskParts(cDeleteTargetList& targets, const cDeleteTargetList& others, const QString& question);
-    [[nodiscard]] static QString PartQuestion(const cDeleteTargetList& targets, const QStringList& options);
+    [[nodiscard]] QString PartQuestion(const cDeleteTargetList& targets, const QStringList& options) const;
     [[nodiscard]] QString Question(const cDeleteTargetList& targets, eSeriesPart part) const;
     // A line about the correction that leaving the occurrence out would overwrite; empty without one.
-    [[nodiscard]] QString LostCorrection(int id, QDate day) const;
+    [[nodiscard]] QString LostCorrection(const cEntryItem& entry, QDate day) const;
     [[nodiscard]] QString WholeQuestion(const cDeleteTargetList& targets) const;
     [[nodiscard]] bool Remove(const cDeleteTargetList& targets, eSeriesPart part);
     [[nodiscard]] bool RemoveOne(const cDeleteTarget& target, eSeriesPart part);

@@ -71,8 +71,50 @@ bool cEntryWriter::AskLosses(QList<cEntryWrite>& rows, QDate from)
     return true;
 }
 
+// A correction stores an amount even where it only moves an occurrence. That one is the series' own and follows it;
+// what the bank has paid stays.
+void cEntryWriter::FollowAmount(cEntryWrite& row) const
+{
+    const std::optional<cEntryItem> stored = m_data.LoadEntry(row.Entry.ID);
+    if (!stored || stored->EntryValue == row.Entry.EntryValue) {
+        return;
+    }
+    const cEntryItemFixModList before = m_data.GetEntryMods(stored->ID);
+    QList<cEntryItemFixMod*> moved;
+    for (cEntryItemFixMod& fixMod : row.Corrections) {
+        const cEntryItemFixMod* known = Find(before, fixMod.EntryStartDate);
+        if (known != nullptr && known->EntryDay.isValid() && known->EntryValue == stored->EntryValue
+            && fixMod.EntryValue == known->EntryValue && fixMod.EntryComment != modSeries::BankComment()) {
+            moved.append(&fixMod);
+        }
+    }
+    const QSet<QDate> paid = moved.isEmpty() ? QSet<QDate>() : PaidPeriods(*stored, before);
+    for (cEntryItemFixMod* fixMod : moved) {
+        fixMod->EntryValue = paid.contains(fixMod->EntryStartDate) ? fixMod->EntryValue : row.Entry.EntryValue;
+    }
+}
+
+// The starts of the periods for which the bank has booked.
+QSet<QDate> cEntryWriter::PaidPeriods(const cEntryItem& series, const cEntryItemFixModList& fixMods) const
+{
+    QSet<QDate> starts;
+    const cImportEntryList rows = m_data.GetImportEntries();
+    for (const cImportEntry& row : rows) {
+        const std::optional<cEntryItem> paid = row.ImportAssigned && row.ImportAssignedEntry == series.ID
+            ? modOccurrence::Nearest(series, row.ImportDate, fixMods)
+            : std::nullopt;
+        if (paid) {
+            starts.insert(modSeries::CorrectionFor(*paid).EntryStartDate);
+        }
+    }
+    return starts;
+}
+
 bool cEntryWriter::Write(QList<cEntryWrite>& rows, const QList<int>& removed, QDate from)
 {
+    for (cEntryWrite& row : rows) {
+        FollowAmount(row);
+    }
     const auto remove = [&](int id) { return Remove(id, from, rows.constFirst().Entry.ID); };
     const auto write = [&](cEntryWrite& row) {
         return from.isValid() && row.Entry.ID > 0 ? WriteFrom(row, from) : WriteRow(row);

@@ -5,6 +5,7 @@
 
 #include <QDate>
 #include <QList>
+#include <QSet>
 
 class cDataAccess;
 class cUser;
@@ -28,7 +29,8 @@ public:
     [[nodiscard]] bool AskLosses(QList<cEntryWrite>& rows, QDate from);
 
     // Adds, changes and removes. With a valid `from`, the stored series end the day before and new ones begin; what was
-    // assigned or corrected from then on goes along. Sets the IDs. On failure the caller takes its undo step back.
+    // assigned or corrected from then on goes along. Occurrences that were only moved get a new amount. Sets the IDs.
+    // On failure the caller takes its undo step back.
     [[nodiscard]] bool Write(QList<cEntryWrite>& rows, const QList<int>& removed, QDate from);
 
     // Ends a stored series the day before its occurrence on `from`; later corrections go, and what the bank booked in
@@ -40,6 +42,8 @@ private:
     enum class eContract { Ends, GoesOn };
 
     [[nodiscard]] bool Loses(const cEntryWrite& row, QDate from) const;
+    void FollowAmount(cEntryWrite& row) const;
+    [[nodiscard]] QSet<QDate> PaidPeriods(const cEntryItem& series, const cEntryItemFixModList& fixMods) const;
     [[nodiscard]] bool WriteRow(cEntryWrite& row);
     [[nodiscard]] bool Change(const cEntryItem& entry);
     [[nodiscard]] bool WriteFrom(cEntryWrite& row, QDate from);

@@ -71,7 +71,7 @@ cSeriesChange::eEdit cSeriesChange::AskWhatToEdit(int entryId, QDate day)
     options.append(cText::Tr("Ganze Serie"));
     const int choice = m_tools.User.Decide(
         {.Text = cText::Tr("'{0}' vom {1} gehört zu einer Serie ({2} seit {3}).\nWas möchten Sie ändern?",
-                           {series->Name(), modDate::ToText(day), modWord::Intervals().ToShown(series->EntryInterval),
+                           {series->Name(), DayText(entryId, day), modWord::Intervals().ToShown(series->EntryInterval),
                             modDate::ToText(series->EntryDate)}),
          .Title = cText::Tr("Serie bearbeiten"),
          .Options = options});
@@ -92,6 +92,14 @@ std::optional<cEntryItemFixMod> cSeriesChange::Correction(int entryId, QDate day
         }
     }
     return std::nullopt;
+}
+
+QString cSeriesChange::DayText(int entryId, QDate day)
+{
+    const QDate moved = Correction(entryId, day).value_or(cEntryItemFixMod{}).EntryDay;
+    return moved.isValid() && moved != day
+        ? cText::Tr("{0} (geplant am {1})", {modDate::ToText(moved), modDate::ToText(day)})
+        : modDate::ToText(day);
 }
 
 std::optional<cSeriesChange::cPeriodFields> cSeriesChange::StartPeriod(int entryId, QDate day, QDate today)
@@ -169,6 +177,7 @@ bool cSeriesChange::SkipPeriod(int entryId, QDate day)
         return false;
     }
     cEntryItemFixMod fixMod = modSeries::CorrectionFor(*occurrence);
+    fixMod.EntryDay = Correction(entryId, day).value_or(fixMod).EntryDay;
     fixMod.EntryComment = LeftOut();
     return Store(fixMod, cText::Tr("'{0}' einmal ausgelassen", {occurrence->Name()}));
 }

@@ -52,6 +52,9 @@ public:
     // True when the entry is a series with an occurrence on this day.
     [[nodiscard]] bool IsOccurrence(int entryId, QDate day);
 
+    // The day on which lists show the occurrence, and behind it the planned one where that is another.
+    [[nodiscard]] QString DayText(int entryId, QDate day);
+
     [[nodiscard]] std::optional<cPeriodFields> StartPeriod(int entryId, QDate day, QDate today = {});
     [[nodiscard]] eSaved SavePeriod(const cPeriodFields& fields);
     [[nodiscard]] eAnswer AskToSave() const; // see modUnsaved
@@ -60,7 +63,7 @@ public:
     // it is.
     [[nodiscard]] bool CorrectPeriod(int entryId, QDate day, qint64 cents, const QString& comment,
                                      const std::optional<QDate>& moveTo = std::nullopt);
-    [[nodiscard]] bool SkipPeriod(int entryId, QDate day); // amount 0, comment "Ausgelassen"
+    [[nodiscard]] bool SkipPeriod(int entryId, QDate day); // amount 0, comment "Ausgelassen"; it stays where it is
     [[nodiscard]] bool RemoveCorrection(int entryId, QDate day);
     [[nodiscard]] std::optional<cEntryItemFixMod> Correction(int entryId, QDate day);
 

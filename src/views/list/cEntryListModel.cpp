@@ -6,6 +6,7 @@
 #include "model/modBalance.h"
 #include "model/modPeople.h"
 #include "model/modReceiptName.h"
+#include "model/modSeries.h"
 #include "model/modSplit.h"
 #include "model/modTag.h"
 #include "model/modWord.h"
@@ -49,6 +50,26 @@ QVariant ReceiptText(const cEntryItem& entry)
 bool IsMoneyColumn(int column)
 {
     return column == cEntryListModel::Amount || column == cEntryListModel::Balance;
+}
+
+// Whose cells hold a few words, the same ones in many rows.
+bool IsWordColumn(int column)
+{
+    return column == cEntryListModel::Category || column == cEntryListModel::Account
+        || column == cEntryListModel::Interval;
+}
+
+// How long such a text is, more or less and without making it.
+qsizetype Letters(const cEntryItem& entry, int column)
+{
+    constexpr qsizetype mark = 11; // ", korrigiert"
+    switch (column) {
+    case cEntryListModel::Category: return entry.EntryCategory.size();
+    case cEntryListModel::Account: return entry.EntryAccount.size() + entry.EntryAccountMove.size();
+    default:
+        return entry.EntryInterval.size() + (entry.IsCorrected ? mark : 0) + (entry.PlannedDate.isValid() ? mark : 0)
+            + (entry.EntryFlags.isEmpty() ? 0 : mark / 2);
+    }
 }
 
 std::size_t At(int index)
@@ -441,7 +462,9 @@ QString cEntryListModel::Text(int entry, int column) const
     case Interval: {
         const QString interval = modWord::Intervals().ToShown(item.EntryInterval);
         const QString split = modSplit::Group(item) == 0 ? interval : cText::Tr("{0}, Teil", {interval});
-        return item.IsCorrected ? cText::Tr("{0}, korrigiert", {split}) : split;
+        const QString corrected = item.IsCorrected ? cText::Tr("{0}, korrigiert", {split}) : split;
+        const bool isMoved = item.PlannedDate.isValid() && !modSeries::IsFromBank(item.CorrectionComment);
+        return isMoved ? cText::Tr("{0}, verschoben", {corrected}) : corrected;
     }
     case Receipts: {
         const int count = modReceiptName::Count(item);
@@ -502,6 +525,20 @@ QString cEntryListModel::WidestAmount(int column) const
     return negative.size() > positive.size() ? negative : positive;
 }
 
+QString cEntryListModel::LongestText(int column) const
+{
+    int longest = -1;
+    qsizetype most = 0;
+    for (const int entry : m_order) {
+        const qsizetype letters = Letters(m_content.Entries.at(entry), column);
+        if (letters > most) {
+            most = letters;
+            longest = entry;
+        }
+    }
+    return longest < 0 ? QString() : Text(longest, column);
+}
+
 QVariant cEntryListModel::headerData(int section, Qt::Orientation orientation, int role) const
 {
     if (orientation != Qt::Horizontal || section < 0 || section >= ColumnCount) {
@@ -512,7 +549,9 @@ QVariant cEntryListModel::headerData(int section, Qt::Orientation orientation, i
                                       : QVariant(Qt::AlignLeft | Qt::AlignVCenter);
     }
     if (role == modColumnWidth::WidestRole) {
-        return IsMoneyColumn(section) ? QVariant(WidestAmount(section)) : QVariant();
+        return IsMoneyColumn(section) ? QVariant(WidestAmount(section))
+            : IsWordColumn(section)   ? QVariant(LongestText(section))
+                                      : QVariant();
     }
     return role == Qt::DisplayRole ? QVariant(cText::Tr(titles[At(section)])) : QVariant();
 }

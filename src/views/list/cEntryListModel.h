@@ -127,6 +127,7 @@ private:
     [[nodiscard]] std::optional<qint64> Cents(int entry, int column) const; // empty where none is shown
     [[nodiscard]] QString Text(int entry, int column) const;
     [[nodiscard]] QString WidestAmount(int column) const; // of those that are shown
+    [[nodiscard]] QString LongestText(int column) const;  // the same of a column of words
     [[nodiscard]] QVariant EntryData(int entry, int column, int role) const;
     [[nodiscard]] eMoneyTone Tone(int entry, int column) const;
     [[nodiscard]] QVariant GroupData(const cGroup& group, int column, int role) const;

@@ -36,7 +36,12 @@ QList<int> modColumnWidth::Share(const QList<cColumn>& columns, int rest, int ro
         enough.append(std::clamp(column.Enough, column.Least, widths.constLast()));
         least.append(column.Least);
     }
-    const int left = room - std::accumulate(widths.begin(), widths.end(), 0);
+    int left = room - std::accumulate(widths.begin(), widths.end(), 0);
+    for (qsizetype i = 0; i < widths.size() && left > 0; ++i) {
+        const int more = std::clamp(columns.at(i).Most - widths.at(i), 0, left);
+        widths[i] += more;
+        left -= more;
+    }
     if (left >= 0 && rest >= 0) {
         widths[rest] += left;
     } else if (left < 0) {

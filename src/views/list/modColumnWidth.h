@@ -5,7 +5,7 @@
 // How the columns of a list share its width.
 namespace modColumnWidth {
 
-// The longest text of a column of amounts, which a model of many rows can answer for its header without a look at each.
+// The longest text of a column, which a model of many rows can answer for its header without a look at each.
 inline constexpr int WidestRole = Qt::UserRole + 100;
 
 struct cColumn
@@ -13,9 +13,11 @@ struct cColumn
     int Wanted = 0; // pixels
     int Enough = 0; // for a word; columns of long texts give way down to this before the others do
     int Least = 0;  // what the column keeps in any case; for days and amounts all that they need
+    int Most = 0;   // for its longest text, where there is room
 };
 
-// The width of each column. What `room` has left goes to the column `rest` (-1: to none). Where it has too little,
+// The width of each column. What `room` has left goes to columns up to their most, then to the column `rest`
+// (-1: to none). Where it has too little,
 // columns give way by their share of what they have above enough, then of what they have above their least; below that
 // the list has to scroll.
 [[nodiscard]] QList<int> Share(const QList<cColumn>& columns, int rest, int room);

@@ -148,7 +148,7 @@ QVariant cAccountListModel::headerData(int section, Qt::Orientation orientation,
     }
     switch (section) {
     case Name: return cText::Tr("Konto");
-    case Balance: return cText::Tr("Kontostand");
+    case Balance: return m_showsChange ? cText::Tr("Veränderung") : cText::Tr("Kontostand");
     case Open: return cText::Tr("Offen");
     default: return {};
     }

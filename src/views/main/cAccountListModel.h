@@ -36,6 +36,9 @@ public:
     // Up to which day accounts agree with their bank, by account name. It stays until the next call.
     void SetReconciled(const QHash<QString, QDate>& days) { m_reconciled = days; }
 
+    // Whether the balances are what came and went in a period. It stays until the next call.
+    void SetShowsChange(bool showsChange) { m_showsChange = showsChange; }
+
     // Account name of a row; empty for groups and the total.
     [[nodiscard]] QString AccountAt(const QModelIndex& index) const;
     // What choosing a row shows: its account, or all of them (empty) for the total; none for the head of a group.
@@ -64,6 +67,7 @@ private:
     const cAmountFormat& m_format;
     std::vector<cRow> m_rows;
     bool m_hasBalances = true;
+    bool m_showsChange = false;
     QString m_chosen;
     QHash<QString, QString> m_warnings;
     QHash<QString, QDate> m_reconciled;

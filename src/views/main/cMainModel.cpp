@@ -218,6 +218,7 @@ void cMainModel::RefreshAccounts()
     const QHash<QString, int> open = cAccountMap(m_tools.Data, m_tools.Settings).OpenByAccount();
     const bool isUnread = modUnread::IsMissing(m_tools.Data, balances.size());
     m_accounts.SetReconciled(cReconciledDays(m_tools).ByAccount());
+    m_accounts.SetShowsChange(m_view.ShowsChange(today));
     m_accounts.SetAccounts(m_accountItems, isUnread ? std::nullopt : std::optional(balances), open);
     m_accounts.SetChosen(m_view.FilterAccount());
     m_balancesOf = m_view.BalancesToToday && !isUnread ? today : QDate();
@@ -577,11 +578,9 @@ QString cMainModel::WindowTitle() const
 
 QString cMainModel::BalancesTitle() const
 {
-    if (m_view.BalancesToToday) {
-        return cText::Tr("Kontostände heute");
-    }
-    return m_view.IsOpenEnd(m_tools.Clock.Today()) ? cText::Tr("Kontostände bis heute")
-                                                   : cText::Tr("Kontostände im Zeitraum");
+    return m_view.BalancesToToday                   ? cText::Tr("Kontostände heute")
+        : m_view.ShowsChange(m_tools.Clock.Today()) ? cText::Tr("Veränderung im Zeitraum")
+                                                    : cText::Tr("Kontostände bis heute");
 }
 
 bool cMainModel::IsReadOnly() const

@@ -117,6 +117,11 @@ cEntryQuery cViewState::Query(QDate today) const
     return query;
 }
 
+bool cViewState::ShowsChange(QDate today) const
+{
+    return !BalancesToToday && Range(today).Start.year() > firstYear;
+}
+
 cEntryQuery cViewState::BalanceQuery(QDate today) const
 {
     cEntryQuery query;

@@ -51,6 +51,10 @@ struct cViewState
     // Whether the period has no last day ("Alle Buchungen").
     [[nodiscard]] bool IsOpenEnd(QDate today) const { return !Range(today).End.isValid(); }
 
+    // Whether the balances are what came in less what went out in the period, not what the accounts hold: it begins
+    // somewhere among the entries.
+    [[nodiscard]] bool ShowsChange(QDate today) const;
+
     // The query for balances over all accounts: up to and including today, or the period under the switches; one
     // without end goes up to today.
     [[nodiscard]] cEntryQuery BalanceQuery(QDate today) const;

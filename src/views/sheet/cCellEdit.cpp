@@ -147,8 +147,8 @@ cCellEdit::ePart cCellEdit::AskPart(const cEntryListModel::cKey& key, int column
     const int choice = m_tools.User.Decide(
         {.Text = cText::Tr("'{0}' vom {1} gehört zu einer Serie ({2} seit {3}).\nKategorie und Beschreibung sind "
                            "bei allen Vorkommen gleich. Was möchten Sie ändern?",
-                           {entry->Name(), modDate::ToText(key.Day), modWord::Intervals().ToShown(entry->EntryInterval),
-                            modDate::ToText(entry->EntryDate)}),
+                           {entry->Name(), series.DayText(key.ID, key.Day),
+                            modWord::Intervals().ToShown(entry->EntryInterval), modDate::ToText(entry->EntryDate)}),
          .Title = cText::Tr("Serie bearbeiten"),
          .Options = options});
     return parts.value(choice, ePart::Nothing);

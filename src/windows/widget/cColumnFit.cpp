@@ -15,6 +15,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int enoughLetters = 11; // for a word such as a kind or an interval
+constexpr int mostLetters = 40;   // that a column of texts takes of room that is left
 
 } // namespace
 
@@ -25,6 +26,7 @@ cColumnFit::cColumnFit(QTreeView& view, std::vector<cColumn> columns, int rest)
       m_rest(rest),
       m_wanted(static_cast<qsizetype>(m_columns.size()), 0),
       m_least(static_cast<qsizetype>(m_columns.size()), 0),
+      m_longest(static_cast<qsizetype>(m_columns.size()), 0),
       m_isAway(static_cast<qsizetype>(m_columns.size()), false)
 {
     QHeaderView& header = *m_view.header();
@@ -86,10 +88,28 @@ int cColumnFit::Least(int column) const
         + Letter() / 2; // italics lean over
 }
 
+// A width that the user chose stays.
+int cColumnFit::Most(int column) const
+{
+    return m_wanted.at(column) > 0 ? 0 : m_longest.at(column);
+}
+
+// With a mark before it, and some room because the longest text need not be the widest.
+int cColumnFit::Longest(int column) const
+{
+    const QVariant text = m_view.model()->headerData(column, Qt::Horizontal, modColumnWidth::WidestRole);
+    if (!text.isValid() || m_columns.at(static_cast<std::size_t>(column)).Kind != eKind::Text) {
+        return 0;
+    }
+    const int width = m_view.fontMetrics().horizontalAdvance(text.toString()) + 5 * Letter();
+    return std::min(width, mostLetters * Letter());
+}
+
 void cColumnFit::Measure()
 {
     for (int column = 0; column < m_least.size(); ++column) {
         m_least[column] = Least(column);
+        m_longest[column] = Longest(column);
     }
 }
 
@@ -127,7 +147,7 @@ void cColumnFit::Fit()
             const bool takesRest = column == m_rest && m_wanted.at(column) == 0;
             rest = takesRest ? static_cast<int>(shown.size()) : rest;
             const int least = column == m_dragged ? Wanted(column) : m_least.at(column);
-            columns.append({Wanted(column), enoughLetters * Letter(), least});
+            columns.append({Wanted(column), enoughLetters * Letter(), least, Most(column)});
             shown.append(column);
         }
     }

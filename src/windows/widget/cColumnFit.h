@@ -11,8 +11,9 @@
 class QTreeView;
 
 // Keeps the columns of a list in its width: columns of texts give way before the list has to scroll, days and amounts
-// are never cut, and what is left goes to one column. A spare column stays away where it could not be read. Widths that
-// the user drags are kept as what he wants, also while the window is too narrow for them.
+// are never cut. What is left goes to texts that would be cut, then to one column. A spare column stays away where it
+// could not be read. Widths that the user drags are kept as what he wants, also while the window is too narrow for
+// them.
 class cColumnFit final : public QObject
 {
     Q_OBJECT
@@ -47,6 +48,8 @@ private:
     [[nodiscard]] int Letter() const;
     [[nodiscard]] int Wanted(int column) const; // pixels
     [[nodiscard]] int Least(int column) const;
+    [[nodiscard]] int Most(int column) const;
+    [[nodiscard]] int Longest(int column) const;
     [[nodiscard]] QString WidestAmount(int column) const;
 
     QTreeView& m_view;
@@ -54,6 +57,7 @@ private:
     int m_rest;
     QList<int> m_wanted; // pixels as set by the user; 0: by default
     QList<int> m_least;
+    QList<int> m_longest; // pixels of the longest text; 0 where the model does not say
     QList<bool> m_isAway; // spare columns without room
     int m_dragged = -1;
     bool m_isFitting = false;
