@@ -352,11 +352,10 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
         }
     }
     TakeDefault(proposal, restriction);
+    TakeUnknown(proposal, row, category);
     const cOwnRule* own = m_knowledge->OwnRule(row, proposal.Entry.EntryAccount);
     if (transfer) {
         TakeTransfer(proposal, *transfer, row);
-    } else {
-        TakeUnknown(proposal, row, category);
     }
     // What the user has said explicitly goes before all that the program has learned or knows by itself. That keeps its
     // order among itself: learned, then keywords, then the list, then the default.

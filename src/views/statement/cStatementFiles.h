@@ -138,6 +138,7 @@ private:
     [[nodiscard]] bool IsAnswered(cImportAssistant& assistant, cRun& run);
     [[nodiscard]] QList<int> RemoveOpen(const QList<int>& rows);
     void OfferNames(const cBookNames& names);
+    [[nodiscard]] bool AreNamesWanted(const cBookNames& missing);
     void OfferStart(const QStringList& numbers);
     [[nodiscard]] QStringList DueStarts(const cRun& run);
     void KeepLeftOut(const cImportResult& result);

@@ -48,9 +48,14 @@ void cStatementFiles::OfferNames(const cBookNames& names)
         return;
     }
     const cBookNames missing = modBookNames::Missing(names, m_tools.Data, m_accounts);
-    if (missing.IsEmpty()) {
-        return;
+    if (!missing.IsEmpty() && AreNamesWanted(missing)) {
+        (void)modBookNames::Create(missing, m_tools.Data, m_accounts); // of a refusal the user has been told
     }
+    Q_EMIT AccountsAsked({}); // what the list proposes was made without them
+}
+
+bool cStatementFiles::AreNamesWanted(const cBookNames& missing)
+{
     constexpr qsizetype most = 10;
     const QStringList all = missing.Accounts + missing.Categories.keys();
     QStringList lines = all.first(qMin(all.size(), most));
@@ -62,9 +67,7 @@ void cStatementFiles::OfferNames(const cBookNames& names)
                                                {modBookNames::Count(missing), lines.join(u'\n')}),
                              .Title = cText::Tr("Kategorien und Konten der Datei"),
                              .Default = eAnswer::Yes};
-    if (m_tools.User.Ask(question) == eAnswer::Yes) {
-        (void)modBookNames::Create(missing, m_tools.Data, m_accounts); // of a refusal the user has been told
-    }
+    return m_tools.User.Ask(question) == eAnswer::Yes;
 }
 
 void cStatementFiles::OfferStart(const QStringList& numbers)
