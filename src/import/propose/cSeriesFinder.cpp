@@ -58,9 +58,7 @@ void cSeriesFinder::Build()
     const cImportEntryList rows = m_hive.GetImportHive(eKeepCache::Yes).getImportEntryList();
     for (const cImportEntry& row : rows) {
         if (row.ImportAssigned && m_series.contains(row.ImportAssignedEntry)) {
-            if (const QString key = modCounterparty::Key(row); !key.isEmpty()) {
-                m_entries[key].insert(row.ImportAssignedEntry);
-            }
+            m_entries[modCounterparty::Key(row)].insert(row.ImportAssignedEntry);
         }
     }
     m_isBuilt = true;
@@ -71,8 +69,8 @@ void cSeriesFinder::BuildDays()
     cCounterpartyKeys keys;
     const cImportEntryList rows = m_hive.GetImportHive(eKeepCache::Yes).getImportEntryList();
     for (const cImportEntry& row : rows) {
-        if (const QString key = keys.Of(row); !key.isEmpty() && row.ImportDate.isValid()) {
-            cDays& days = m_days[key][row.ImportAccount];
+        if (row.ImportDate.isValid()) {
+            cDays& days = m_days[keys.Of(row)][row.ImportAccount];
             (row.ImportValue < 0 ? days.Out : days.In)
                 .insert(row.ImportDate, {row.ImportValue, row.ImportAssigned ? row.ImportAssignedEntry : 0});
         }
@@ -84,8 +82,8 @@ void cSeriesFinder::BuildDays()
 
 void cSeriesFinder::Learn(const cImportEntry& row, const cEntryItem& series)
 {
-    if (const QString key = modCounterparty::Key(row); m_isBuilt && !key.isEmpty()) {
-        m_entries[key].insert(series.ID);
+    if (m_isBuilt) {
+        m_entries[modCounterparty::Key(row)].insert(series.ID);
         m_series.insert(series.ID, series);
     }
 }

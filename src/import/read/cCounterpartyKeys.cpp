@@ -27,6 +27,8 @@ QString cCounterpartyKeys::AccountOf(const cImportEntry& row)
 QString cCounterpartyKeys::Of(const cImportEntry& row)
 {
     const QString account = AccountOf(row);
-    return account.isEmpty() ? Known(m_names, row.ImportBeneficiary, [&] { return modCounterparty::NameKey(row); })
-                             : account;
+    const QString known = account.isEmpty()
+        ? Known(m_names, row.ImportBeneficiary, [&] { return modCounterparty::NameKey(row); })
+        : account;
+    return known.isEmpty() ? modCounterparty::PurposeKey(row) : known;
 }
