@@ -42,6 +42,11 @@ QDate Previous(QDate day, const QString& interval)
     return {};
 }
 
+QString DaysKey(const cImportEntry& row, const QString& counterparty)
+{
+    return counterparty.isEmpty() ? modCounterparty::PurposeKey(row) : counterparty;
+}
+
 } // namespace
 
 cSeriesFinder::cSeriesFinder(cDataAccess& data, cImportHiveCache& hive) : m_data(data), m_hive(hive)
@@ -70,7 +75,7 @@ void cSeriesFinder::BuildDays()
     const cImportEntryList rows = m_hive.GetImportHive(eKeepCache::Yes).getImportEntryList();
     for (const cImportEntry& row : rows) {
         if (row.ImportDate.isValid()) {
-            cDays& days = m_days[keys.Of(row)][row.ImportAccount];
+            cDays& days = m_days[DaysKey(row, keys.Of(row))][row.ImportAccount];
             (row.ImportValue < 0 ? days.Out : days.In)
                 .insert(row.ImportDate, {row.ImportValue, row.ImportAssigned ? row.ImportAssignedEntry : 0});
         }
@@ -106,9 +111,11 @@ std::optional<cSeriesMatch> cSeriesFinder::Find(const cImportEntry& row, const c
     return match ? match : Precede(alike, row);
 }
 
+// A row that names nobody may pay any of them, and any row those that such rows have paid: their words change.
 cEntryItemList cSeriesFinder::Alike(const cImportEntry& row, const cEntryItem& entry)
 {
-    QList<int> ids = m_entries.value(modCounterparty::Key(row)).values();
+    const QString key = modCounterparty::Key(row);
+    QList<int> ids = key.isEmpty() ? m_series.keys() : (m_entries.value(key) + m_entries.value(QString())).values();
     std::sort(ids.begin(), ids.end());
     cEntryItemList alike;
     for (const int id : std::as_const(ids)) {
@@ -182,7 +189,7 @@ cSeriesFinder::cDays cSeriesFinder::DaysOf(const cImportEntry& row)
     if (!m_hasDays) {
         BuildDays();
     }
-    return m_days.value(modCounterparty::Key(row)).value(row.ImportAccount);
+    return m_days.value(DaysKey(row, modCounterparty::Key(row))).value(row.ImportAccount);
 }
 
 bool cSeriesFinder::IsTakenBack(const cImportEntry& row)

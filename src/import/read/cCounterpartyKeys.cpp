@@ -27,8 +27,6 @@ QString cCounterpartyKeys::AccountOf(const cImportEntry& row)
 QString cCounterpartyKeys::Of(const cImportEntry& row)
 {
     const QString account = AccountOf(row);
-    const QString known = account.isEmpty()
-        ? Known(m_names, row.ImportBeneficiary, [&] { return modCounterparty::NameKey(row); })
-        : account;
-    return known.isEmpty() ? modCounterparty::PurposeKey(row) : known;
+    return account.isEmpty() ? Known(m_names, row.ImportBeneficiary, [&] { return modCounterparty::NameKey(row); })
+                             : account;
 }

@@ -18,8 +18,7 @@ QString modCounterparty::NameKey(const cImportEntry& row)
 QString modCounterparty::Key(const cImportEntry& row)
 {
     const QString account = AccountKey(row);
-    const QString known = account.isEmpty() ? NameKey(row) : account;
-    return known.isEmpty() ? PurposeKey(row) : known;
+    return account.isEmpty() ? NameKey(row) : account;
 }
 
 QString modCounterparty::PurposeKey(const cImportEntry& row)
