@@ -343,6 +343,34 @@ private Q_SLOTS:
         QCOMPARE(booked, paid);
     }
 
+    void PaymentsWithoutANameMakeOneSeries_data()
+    {
+        // purposes, month by month; named: the last row has a name; entries: after all are booked at once
+        const cTestRows<QStringList, bool, int> row("purposes", "named", "entries");
+        const QString flat = u"Miete Lindenhof 12"_s;
+        row("the same words", {flat, flat, flat}, false, 1);
+        row("numbers and dates",
+            {u"Strom Rechnung 4711 vom 03.01."_s, u"Strom Rechnung 99 vom 04.02."_s, u"Strom Rechnung 815"_s}, false, 1);
+        row("other words", {u"Miete Anna"_s, u"Mietzahlung"_s, flat}, false, 2); // the first may be the only one
+        row("named later", {flat, flat, flat}, true, 1);
+    }
+
+    // Two series of one payment would both go on for ever.
+    void PaymentsWithoutANameMakeOneSeries()
+    {
+        QFETCH(const QStringList, purposes);
+        QFETCH(const bool, named);
+        cBank bank;
+        QList<int> rows;
+        for (int month = 0; month < purposes.size(); ++month) {
+            const QString name = named && month == 2 ? u"Tann"_s : QString();
+            rows.append(
+                bank.Stage(day.addMonths(month), -650 - month, name, {}, u"111"_s, purposes.at(month)));
+        }
+        QCOMPARE(bank.BookAll(rows).Rows, 3);
+        QTEST(bank.Data.CountEntries(), "entries");
+    }
+
     void KeywordsAloneMakeNoSeries_data()
     {
         // same: days after the row on which the payee is paid again; back: on which the amount goes the other way
