@@ -382,7 +382,8 @@ private Q_SLOTS:
         const QString flat = u"Miete Lindenhof 12"_s;
         row("the same words", {flat, flat, flat}, false, 1);
         row("numbers and dates",
-            {u"Strom Rechnung 4711 vom 03.01."_s, u"Strom Rechnung 99 vom 04.02."_s, u"Strom Rechnung 815"_s}, false, 1);
+            {u"Strom Rechnung 4711 vom 03.01."_s, u"Strom Rechnung 99 vom 04.02."_s, u"Strom Rechnung 815"_s}, false,
+            1);
         row("other words", {u"Miete Anna"_s, u"Mietzahlung"_s, flat}, false, 2); // the first may be the only one
         row("named later", {flat, flat, flat}, true, 1);
     }
@@ -396,11 +397,33 @@ private Q_SLOTS:
         QList<int> rows;
         for (int month = 0; month < purposes.size(); ++month) {
             const QString name = named && month == 2 ? u"Tann"_s : QString();
-            rows.append(
-                bank.Stage(day.addMonths(month), -650 - month, name, {}, u"111"_s, purposes.at(month)));
+            rows.append(bank.Stage(day.addMonths(month), -650 - month, name, {}, u"111"_s, purposes.at(month)));
         }
         QCOMPARE(bank.BookAll(rows).Rows, 3);
         QTEST(bank.Data.CountEntries(), "entries");
+    }
+
+    // Two payments of one amount and day, the newer statement first.
+    void BothOfTwoSeriesBeginEarlier()
+    {
+        cBank bank;
+        for (const int month : {1, 0}) {
+            const int row = bank.Stage(day.addMonths(month), -650, u"Miete Tann"_s, u"DE05"_s);
+            const int other = bank.Stage(day.addMonths(month), -650, u"Miete Tann"_s, u"DE05"_s);
+            QCOMPARE(bank.BookAll({row, other}).Rows, 2);
+        }
+        QCOMPARE(bank.Data.CountEntries(), 2);
+    }
+
+    void AShopMakesNoSeries()
+    {
+        cBank bank;
+        const int row = bank.Stage(day, -5, u"Universität Mensa"_s);
+        for (const int days : {-9, -5, 4, 8}) {
+            (void)bank.Stage(day.addDays(days), -20 - days, u"Universität Mensa"_s);
+        }
+        (void)bank.Stage(day.addDays(31), -5, u"Universität Mensa"_s);
+        QCOMPARE(bank.Propose(row).Entry.EntryInterval, modWord::Einmalig);
     }
 
     void KeywordsAloneMakeNoSeries_data()

@@ -161,7 +161,8 @@ std::optional<cSeriesMatch> cSeriesFinder::Reopen(const cEntryItemList& alike, c
     series.EntryDateEnd = modRecurrence::OpenEnd;
     const QList<QDate> next = modSeries::Next(series, latest->EntryDateEnd.addDays(1), mostMissed);
     std::optional<cSeriesMatch> match = Match(series, row);
-    if (!match || !next.contains(match->Occurrence.Planned()) || !IsAbout(row.ImportValue, match->Occurrence.EntryValue)) {
+    if (!match || !next.contains(match->Occurrence.Planned())
+        || !IsAbout(row.ImportValue, match->Occurrence.EntryValue)) {
         return std::nullopt;
     }
     match->IsExtended = true;
@@ -238,6 +239,7 @@ bool cSeriesFinder::IsTakenBack(const cImportEntry& row)
 
 bool cSeriesFinder::IsContradicted(const cImportEntry& row, const QString& interval)
 {
+    constexpr int mostBeside = 3; // in the half interval before and behind; who is paid more often is a shop
     const int reach = modOccurrence::Reach(interval);
     const QDate next = modRecurrence::Next(row.ImportDate, interval);
     const qint64 step = row.ImportDate.daysTo(next);
@@ -245,9 +247,11 @@ bool cSeriesFinder::IsContradicted(const cImportEntry& row, const QString& inter
     const cPayments payments = PaymentsLike(row);
     bool hasNeighbour = false;
     bool hasOthers = false;
+    int beside = 0;
     for (auto payment = payments.cbegin(); payment != payments.cend(); ++payment) {
         const qint64 distance = std::abs(row.ImportDate.daysTo(payment.key()));
         const qint64 off = std::abs(distance - step);
+        beside += distance != 0 && distance <= reach ? 1 : 0;
         if (IsAbout(payment->Cents, row.ImportValue)) {
             if (distance != 0 && distance < step - nearStep) {
                 return true;
@@ -261,7 +265,8 @@ bool cSeriesFinder::IsContradicted(const cImportEntry& row, const QString& inter
                     && !HasAbout(payments, payment->Cents, row.ImportDate, reach));
         }
     }
-    return !hasNeighbour && (hasOthers || m_lastDays.value(row.ImportAccount) > next.addDays(reach));
+    return beside > mostBeside
+        || (!hasNeighbour && (hasOthers || m_lastDays.value(row.ImportAccount) > next.addDays(reach)));
 }
 
 bool cSeriesFinder::HasAbout(const cPayments& payments, qint64 cents, QDate day, int reach)
@@ -280,8 +285,7 @@ std::optional<cSeriesMatch> cSeriesFinder::Match(const cEntryItem& series, const
     }
     const bool isLike = IsAbout(row.ImportValue, occurrence->EntryValue)
         || (MayBe(row.ImportValue, occurrence->EntryValue)
-            && std::abs(modOccurrence::Days(*occurrence, row.ImportDate)) <= nearDays
-            && !HasPayment(*occurrence, row));
+            && std::abs(modOccurrence::Days(*occurrence, row.ImportDate)) <= nearDays && !HasPayment(*occurrence, row));
     return isLike ? std::optional(cSeriesMatch{series, *occurrence, false}) : std::nullopt;
 }
 
