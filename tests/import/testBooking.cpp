@@ -299,6 +299,38 @@ private Q_SLOTS:
         QCOMPARE(bank.Propose(next).ExistingEntry, bank.EntryOf(rows.first()));
     }
 
+    void WhatIsPaidBesideTheRentChangesNothing_data()
+    {
+        // extra: paid to the landlord, in whole euros; days: after the first rent
+        const cTestRows<int, int> row("extra", "days");
+        row("a key within the month", 25, 45);
+        row("an arrear on the next day", 300, 32);
+        row("nearly a rent", 640, 45);
+        row("before the first rent", 25, -10);
+    }
+
+    // Each rent is in the book once, as the series or beside it.
+    void WhatIsPaidBesideTheRentChangesNothing()
+    {
+        QFETCH(const int, extra);
+        QFETCH(const int, days);
+        cBank bank;
+        QList<int> rows{bank.Stage(day.addDays(days), -extra, u"Miete Tann"_s, u"DE05"_s)};
+        for (int month = 0; month < 4; ++month) {
+            rows.append(bank.Stage(day.addMonths(month), -650, u"Miete Tann"_s, u"DE05"_s));
+        }
+        QCOMPARE(bank.BookAll(rows).Rows, rows.size());
+        cEntryQuery query;
+        query.Start = day.addDays(-20);
+        query.End = day.addMonths(3);
+        qint64 cents = 0;
+        const cEntryItemList entries = bank.Data.GetEntries(query);
+        for (const cEntryItem& entry : entries) {
+            cents += entry.EntryValue;
+        }
+        QCOMPARE(cents, (4 * 650 + extra) * 100);
+    }
+
     void NewestRowsFirstMakeOneSeries_data()
     {
         // together: booked at once; days: of the rows, with an amount in cents
@@ -352,6 +384,7 @@ private Q_SLOTS:
         row("a month before", {-31}, {90}, {}, u"Monatlich"_s);
         row("never again", {}, {20, 60}, {}, u"Einmalig"_s);
         row("not to be known yet", {}, {20, 40}, {}, u"Monatlich"_s);
+        row("every other month", {-61}, {20}, {}, u"Einmalig"_s);
         row("every week or so", {8, 30}, {}, {}, u"Einmalig"_s);
         row("returned", {31}, {}, {10}, u"Einmalig"_s);
         row("paid once more", {31}, {}, {-2}, u"Einmalig"_s);

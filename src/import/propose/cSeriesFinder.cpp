@@ -7,6 +7,7 @@
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modSplit.h"
+#include "model/modWord.h"
 #include "store/cDataAccess.h"
 
 #include <algorithm>
@@ -15,17 +16,25 @@
 
 namespace {
 
+constexpr int nearDays = 5; // what is booked so near to its day may have another amount
+
 bool IsLike(const cEntryItem& series, const cEntryItem& entry)
 {
-    return series.EntryInterval == entry.EntryInterval && series.EntryType == entry.EntryType
-        && series.EntryAccount == entry.EntryAccount && series.EntryAccountMove == entry.EntryAccountMove
-        && series.EntryCategory == entry.EntryCategory;
+    return (series.EntryInterval == entry.EntryInterval || !modRecurrence::IsRecurring(entry.EntryInterval))
+        && series.EntryType == entry.EntryType && series.EntryAccount == entry.EntryAccount
+        && series.EntryAccountMove == entry.EntryAccountMove && series.EntryCategory == entry.EntryCategory;
 }
 
-bool IsAbout(qint64 cents, const cEntryItem& entry)
+bool IsAbout(qint64 cents, qint64 usual)
 {
     constexpr int mostPercent = 20;
-    return std::abs(std::abs(cents) - entry.EntryValue) * 100 <= entry.EntryValue * mostPercent;
+    return std::abs(std::abs(cents) - std::abs(usual)) * 100 <= std::abs(usual) * mostPercent;
+}
+
+// A raised rent or a doubled salary; what is less than half or more than twice as much is paid for something else.
+bool MayBe(qint64 cents, qint64 usual)
+{
+    return std::abs(cents) * 2 >= std::abs(usual) && std::abs(cents) <= std::abs(usual) * 2;
 }
 
 // The day from which one step leads exactly to this one, so that a series moved to it keeps all its occurrences. There
@@ -74,7 +83,7 @@ void cSeriesFinder::BuildDays()
         if (const QString key = keys.Of(row); !key.isEmpty() && row.ImportDate.isValid()) {
             cDays& days = m_days[key][row.ImportAccount];
             (row.ImportValue < 0 ? days.Out : days.In)
-                .insert(row.ImportDate, {row.ImportValue, row.ImportAssigned ? row.ImportAssignedEntry : 0});
+                .insert(row.ImportDate, {row.ID, row.ImportValue, row.ImportAssigned ? row.ImportAssignedEntry : 0});
         }
         QDate& last = m_lastDays[row.ImportAccount];
         last = last.isValid() ? std::max(last, row.ImportDate) : row.ImportDate;
@@ -92,7 +101,8 @@ void cSeriesFinder::Learn(const cImportEntry& row, const cEntryItem& series)
 
 std::optional<cSeriesMatch> cSeriesFinder::Find(const cImportEntry& row, const cEntryItem& entry)
 {
-    if (!modRecurrence::IsRecurring(entry.EntryInterval) || entry.EntryAccount.isEmpty()) {
+    const bool isRecurring = modRecurrence::IsRecurring(entry.EntryInterval);
+    if (entry.EntryAccount.isEmpty() || (!isRecurring && entry.EntryType == modWord::Umbuchung)) {
         return std::nullopt;
     }
     if (!m_isBuilt) {
@@ -104,10 +114,14 @@ std::optional<cSeriesMatch> cSeriesFinder::Find(const cImportEntry& row, const c
             return match;
         }
     }
+    if (!isRecurring) {
+        return std::nullopt;
+    }
     std::optional<cSeriesMatch> match = Reopen(alike, row);
     return match ? match : Precede(alike, row);
 }
 
+// Whoever pays for two flats has two series: the one of the nearer amount first.
 cEntryItemList cSeriesFinder::Alike(const cImportEntry& row, const cEntryItem& entry)
 {
     QList<int> ids = m_entries.value(modCounterparty::Key(row)).values();
@@ -118,6 +132,11 @@ cEntryItemList cSeriesFinder::Alike(const cImportEntry& row, const cEntryItem& e
             alike.append(series);
         }
     }
+    const auto difference = [&](const cEntryItem& series) {
+        return std::abs(std::abs(row.ImportValue) - series.EntryValue);
+    };
+    std::stable_sort(alike.begin(), alike.end(),
+                     [&](const auto& a, const auto& b) { return difference(a) < difference(b); });
     return alike;
 }
 
@@ -134,7 +153,8 @@ std::optional<cSeriesMatch> cSeriesFinder::Reopen(const cEntryItemList& alike, c
     series.EntryDateEnd = modRecurrence::OpenEnd;
     const QList<QDate> next = modSeries::Next(series, latest->EntryDateEnd.addDays(1), mostMissed);
     std::optional<cSeriesMatch> match = Match(series, row);
-    if (!match || !next.contains(match->Occurrence.Planned()) || !IsAbout(row.ImportValue, match->Occurrence)) {
+    if (!match || !next.contains(match->Occurrence.Planned())
+        || !IsAbout(row.ImportValue, match->Occurrence.EntryValue)) {
         return std::nullopt;
     }
     match->IsExtended = true;
@@ -147,7 +167,7 @@ std::optional<cSeriesMatch> cSeriesFinder::Precede(const cEntryItemList& alike, 
 {
     std::optional<cEntryItem> first;
     for (const cEntryItem& series : alike) {
-        if (IsAbout(row.ImportValue, series) && (!first || series.EntryDate < first->EntryDate)) {
+        if (IsAbout(row.ImportValue, series.EntryValue) && (!first || series.EntryDate < first->EntryDate)) {
             first = series;
         }
     }
@@ -171,12 +191,18 @@ std::optional<cSeriesMatch> cSeriesFinder::Precede(const cEntryItemList& alike, 
 bool cSeriesFinder::HasPayment(const cEntryItem& series, const cImportEntry& row)
 {
     const int reach = modOccurrence::Reach(series.EntryInterval);
-    const cDays known = DaysOf(row);
-    const cPayments& payments = row.ImportValue < 0 ? known.Out : known.In;
+    const cPayments payments = PaymentsLike(row);
     const auto end = payments.upperBound(series.EntryDate.addDays(reach));
     return std::any_of(payments.lowerBound(series.EntryDate.addDays(-reach)), end, [&](const cPayment& payment) {
-        return (payment.EntryId == 0 || payment.EntryId == series.ID) && IsAbout(payment.Cents, series);
+        return payment.RowId != row.ID && (payment.EntryId == 0 || payment.EntryId == series.ID)
+            && IsAbout(payment.Cents, series.EntryValue);
     });
+}
+
+cSeriesFinder::cPayments cSeriesFinder::PaymentsLike(const cImportEntry& row)
+{
+    const cDays known = DaysOf(row);
+    return row.ImportValue < 0 ? known.Out : known.In;
 }
 
 cSeriesFinder::cDays cSeriesFinder::DaysOf(const cImportEntry& row)
@@ -204,22 +230,39 @@ bool cSeriesFinder::IsTakenBack(const cImportEntry& row)
 
 bool cSeriesFinder::IsContradicted(const cImportEntry& row, const QString& interval)
 {
-    const cDays known = DaysOf(row);
     const int reach = modOccurrence::Reach(interval);
     const QDate next = modRecurrence::Next(row.ImportDate, interval);
     const qint64 step = row.ImportDate.daysTo(next);
-    const QList<QDate> days = (row.ImportValue < 0 ? known.Out : known.In).keys();
+    const qint64 nearStep = std::min<qint64>(reach, step / 3); // halfway between two payments is no step from either
+    const cPayments payments = PaymentsLike(row);
     bool hasNeighbour = false;
-    for (const QDate day : days) {
-        const qint64 distance = std::abs(row.ImportDate.daysTo(day));
-        if (distance != 0 && distance < step - reach) {
-            return true;
+    bool hasOthers = false;
+    for (auto payment = payments.cbegin(); payment != payments.cend(); ++payment) {
+        const qint64 distance = std::abs(row.ImportDate.daysTo(payment.key()));
+        const qint64 off = std::abs(distance - step);
+        if (IsAbout(payment->Cents, row.ImportValue)) {
+            if (distance != 0 && distance < step - nearStep) {
+                return true;
+            }
+            hasNeighbour = hasNeighbour || off <= nearStep;
+            hasOthers = hasOthers || distance != 0;
+        } else {
+            hasOthers = hasOthers || distance <= step + reach;
+            hasNeighbour = hasNeighbour
+                || (off <= nearDays && MayBe(row.ImportValue, payment->Cents)
+                    && !HasAbout(payments, payment->Cents, row.ImportDate, reach));
         }
-        hasNeighbour = hasNeighbour || std::abs(distance - step) <= reach;
     }
-    return !hasNeighbour && m_lastDays.value(row.ImportAccount) > next.addDays(reach);
+    return !hasNeighbour && (hasOthers || m_lastDays.value(row.ImportAccount) > next.addDays(reach));
 }
 
+bool cSeriesFinder::HasAbout(const cPayments& payments, qint64 cents, QDate day, int reach)
+{
+    return std::any_of(payments.lowerBound(day.addDays(-reach)), payments.upperBound(day.addDays(reach)),
+                       [&](const cPayment& payment) { return IsAbout(payment.Cents, cents); });
+}
+
+// The amount tells, or the day does where nothing else pays the occurrence.
 std::optional<cSeriesMatch> cSeriesFinder::Match(const cEntryItem& series, const cImportEntry& row)
 {
     const cEntryItemFixModList fixMods = m_data.GetEntryMods(series.ID);
@@ -227,7 +270,10 @@ std::optional<cSeriesMatch> cSeriesFinder::Match(const cEntryItem& series, const
     if (!occurrence || IsTaken(series, *occurrence, fixMods, row)) {
         return std::nullopt;
     }
-    return cSeriesMatch{series, *occurrence, false};
+    const bool isLike = IsAbout(row.ImportValue, occurrence->EntryValue)
+        || (MayBe(row.ImportValue, occurrence->EntryValue)
+            && std::abs(modOccurrence::Days(*occurrence, row.ImportDate)) <= nearDays && !HasPayment(*occurrence, row));
+    return isLike ? std::optional(cSeriesMatch{series, *occurrence, false}) : std::nullopt;
 }
 
 bool cSeriesFinder::IsTaken(const cEntryItem& series, const cEntryItem& occurrence, const cEntryItemFixModList& fixMods,
