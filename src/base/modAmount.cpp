@@ -94,8 +94,8 @@ std::optional<double> modAmount::TryReadGerman(QStringView text)
     kept.remove(u'.').replace(u',', u'.');
     bool isNumber = false;
     const double value = kept.toDouble(&isNumber);
-    if (!isNumber) {
-        return std::nullopt;
+    if (!isNumber || value * 100.0 > mostCents) {
+        return std::nullopt; // the nearest amount that can be told would be another one
     }
     return isNegative ? -value : value;
 }

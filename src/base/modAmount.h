@@ -9,7 +9,8 @@
 namespace modAmount {
 
 // Reads an amount written in German form: "," is the decimal sign, "." groups, a sign stands in front or behind, and
-// currency sign, brackets, blanks and quotes are passed over. Euros; empty when the text is no number.
+// currency sign, brackets, blanks and quotes are passed over. Euros; empty when the text is no number, or one with more
+// digits than can be told.
 [[nodiscard]] std::optional<double> TryReadGerman(QStringView text);
 
 // The same, with 0 for a text that is no number.

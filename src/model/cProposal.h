@@ -4,6 +4,7 @@
 #include "model/cImportEntry.h"
 #include "model/modWord.h"
 
+#include <QDate>
 #include <QString>
 
 // The entry that a staged row should become.
@@ -16,6 +17,7 @@ struct cProposal
     int PartnerRow = 0;     // the other staged row of a transfer between own accounts; 0 when there is none
     int ExistingEntry = 0;  // entry in the book that the row belongs to (its series, or the transfer that waits for its
                             // second row); 0 when a new one is to be made
+    QDate Occurrence;       // of its series, the planned day of the occurrence that the row pays
     QString BookedAs;       // what that entry is as long as it is not the transfer that it becomes; else empty
     bool IsMissed = false;  // a transfer that the statement of the other account does not show
     bool HasOwnCategory = false; // the user chose it, so an entry that is there gets it as well

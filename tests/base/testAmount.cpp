@@ -30,6 +30,7 @@ private Q_SLOTS:
         row("point behind the comma", u"1,234.50"_s, false, 0.0);
         row("sign in the middle", u"1-2"_s, false, 0.0);
         row("letters", u"12,50 EUR"_s, false, 0.0);
+        row("more digits than can be told", u"-99999999999999999999999,99"_s, false, 0.0);
         row("what a computer reads as a number", u"1e5"_s, false, 0.0);
     }
 

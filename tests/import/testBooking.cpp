@@ -333,6 +333,38 @@ private Q_SLOTS:
         QCOMPARE(bank.Propose(next).ExistingEntry, bank.EntryOf(rows.first()));
     }
 
+    void WhatIsPaidBesideTheRentChangesNothing_data()
+    {
+        // extra: paid to the landlord, in whole euros; days: after the first rent
+        const cTestRows<int, int> row("extra", "days");
+        row("a key within the month", 25, 45);
+        row("an arrear on the next day", 300, 32);
+        row("nearly a rent", 640, 45);
+        row("before the first rent", 25, -10);
+    }
+
+    // Each rent is in the book once, as the series or beside it.
+    void WhatIsPaidBesideTheRentChangesNothing()
+    {
+        QFETCH(const int, extra);
+        QFETCH(const int, days);
+        cBank bank;
+        QList<int> rows{bank.Stage(day.addDays(days), -extra, u"Miete Tann"_s, u"DE05"_s)};
+        for (int month = 0; month < 4; ++month) {
+            rows.append(bank.Stage(day.addMonths(month), -650, u"Miete Tann"_s, u"DE05"_s));
+        }
+        QCOMPARE(bank.BookAll(rows).Rows, rows.size());
+        cEntryQuery query;
+        query.Start = day.addDays(-20);
+        query.End = day.addMonths(3);
+        qint64 cents = 0;
+        const cEntryItemList entries = bank.Data.GetEntries(query);
+        for (const cEntryItem& entry : entries) {
+            cents += entry.EntryValue;
+        }
+        QCOMPARE(cents, (4 * 650 + extra) * 100);
+    }
+
     void NewestRowsFirstMakeOneSeries_data()
     {
         // runs: how many of the rows each one stages and books; days: of the rows, with an amount in cents
@@ -378,6 +410,57 @@ private Q_SLOTS:
         QCOMPARE(booked, paid);
     }
 
+    void PaymentsWithoutANameMakeOneSeries_data()
+    {
+        // purposes, month by month; named: the last row has a name; entries: after all are booked at once
+        const cTestRows<QStringList, bool, int> row("purposes", "named", "entries");
+        const QString flat = u"Miete Lindenhof 12"_s;
+        row("the same words", {flat, flat, flat}, false, 1);
+        row("numbers and dates",
+            {u"Strom Rechnung 4711 vom 03.01."_s, u"Strom Rechnung 99 vom 04.02."_s, u"Strom Rechnung 815"_s}, false,
+            1);
+        row("other words", {u"Miete Anna"_s, u"Mietzahlung"_s, flat}, false, 2); // the first may be the only one
+        row("named later", {flat, flat, flat}, true, 1);
+    }
+
+    // Two series of one payment would both go on for ever.
+    void PaymentsWithoutANameMakeOneSeries()
+    {
+        QFETCH(const QStringList, purposes);
+        QFETCH(const bool, named);
+        cBank bank;
+        QList<int> rows;
+        for (int month = 0; month < purposes.size(); ++month) {
+            const QString name = named && month == 2 ? u"Tann"_s : QString();
+            rows.append(bank.Stage(day.addMonths(month), -650 - month, name, {}, u"111"_s, purposes.at(month)));
+        }
+        QCOMPARE(bank.BookAll(rows).Rows, 3);
+        QTEST(bank.Data.CountEntries(), "entries");
+    }
+
+    // Two payments of one amount and day, the newer statement first.
+    void BothOfTwoSeriesBeginEarlier()
+    {
+        cBank bank;
+        for (const int month : {1, 0}) {
+            const int row = bank.Stage(day.addMonths(month), -650, u"Miete Tann"_s, u"DE05"_s);
+            const int other = bank.Stage(day.addMonths(month), -650, u"Miete Tann"_s, u"DE05"_s);
+            QCOMPARE(bank.BookAll({row, other}).Rows, 2);
+        }
+        QCOMPARE(bank.Data.CountEntries(), 2);
+    }
+
+    void AShopMakesNoSeries()
+    {
+        cBank bank;
+        const int row = bank.Stage(day, -5, u"Universität Mensa"_s);
+        for (const int days : {-9, -5, 4, 8}) {
+            (void)bank.Stage(day.addDays(days), -20 - days, u"Universität Mensa"_s);
+        }
+        (void)bank.Stage(day.addDays(31), -5, u"Universität Mensa"_s);
+        QCOMPARE(bank.Propose(row).Entry.EntryInterval, modWord::Einmalig);
+    }
+
     void KeywordsAloneMakeNoSeries_data()
     {
         // same: days after the row on which the payee is paid again; back: on which the amount goes the other way
@@ -387,6 +470,7 @@ private Q_SLOTS:
         row("a month before", {-31}, {90}, {}, u"Monatlich"_s);
         row("never again", {}, {20, 60}, {}, u"Einmalig"_s);
         row("not to be known yet", {}, {20, 40}, {}, u"Monatlich"_s);
+        row("every other month", {-61}, {20}, {}, u"Einmalig"_s);
         row("every week or so", {8, 30}, {}, {}, u"Einmalig"_s);
         row("returned", {31}, {}, {10}, u"Einmalig"_s);
         row("paid once more", {31}, {}, {-2}, u"Einmalig"_s);

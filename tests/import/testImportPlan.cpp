@@ -109,6 +109,21 @@ private Q_SLOTS:
         QCOMPARE(plans.value(second).Proposal.Entry.EntryInterval, modWord::Einmalig);
     }
 
+    // The older statement comes last: of its two payments one is the rent of a month before the series, and none that
+    // of the month which is paid.
+    void OccurrenceThatIsPaidIsLeft()
+    {
+        cBank bank;
+        const int rent = bank.Enter(day.addDays(30), 5000, u"Miete"_s, u"Monatlich"_s);
+        QVERIFY(bank.Booking.Assign(bank.Stage(day.addDays(29), -5000, u"Tann GmbH"_s, u"DE05"_s), rent));
+        const int older = bank.Stage(day, -5000, u"Tann GmbH"_s, u"DE05"_s);
+        const int extra = bank.Stage(day.addDays(14), -5000, u"Tann GmbH"_s, u"DE05"_s);
+        const QHash<int, cRowPlan> plans = bank.Make({older, extra});
+        QCOMPARE(plans.value(older).Proposal.ExistingEntry, rent);
+        QCOMPARE(MatchOf(plans.value(extra)), 0);
+        QCOMPARE(plans.value(extra).Proposal.Entry.EntryInterval, modWord::Einmalig);
+    }
+
     void Transfers_data()
     {
         // entered: as what one side stands in the book

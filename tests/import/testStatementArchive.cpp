@@ -1,3 +1,4 @@
+#include "cImportBook.h"
 #include "import/stage/modStatementArchive.h"
 #include "import/stage/modStatementFormat.h"
 #include "support/cTestClass.h"
@@ -81,6 +82,22 @@ private Q_SLOTS:
         const cReadProblem first = read.Problems.value(0, read.Skipped.value(0).Reason);
         const QString said = read.Refusal.isEmpty() ? first.Text : read.Refusal;
         QVERIFY2(text.isEmpty() ? said.isEmpty() : said.startsWith(text), qPrintable(said));
+    }
+
+    // The same month as MT940, which names the account by its number, and as camt.
+    void FormatsOfOneAccountAreOneAccount()
+    {
+        QByteArray swift = Fixture(u"camt/giro.sta"_s);
+        swift.replace("DE02100200300001234567", "10020030/0001234567");
+        const cTestFile folder;
+        const QString path = folder.Path(u"a.zip"_s);
+        cTestFile::Write(path, Zip({{u"a.sta"_s, swift}, {u"b.xml"_s, Fixture(u"camt/giro.xml"_s)}}));
+        cImportBook book;
+        cNoProgress progress;
+        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportFile(path, {}, progress);
+        QCOMPARE(result.Accounts, QStringList(u"DE02100200300001234567"_s));
+        QCOMPARE(result.ByFormat.size(), 2);
+        QCOMPARE(result.ByFormat.constLast().Format, eStatementFormat::Camt);
     }
 
     // An account given once must not take in the statements of several.

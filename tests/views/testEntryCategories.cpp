@@ -143,6 +143,9 @@ private Q_SLOTS:
         fields.Amount = u"12,50"_s;
         fields.IsAmountTyped = true;
         fields.CategoryText = u"Garten;  Pflanzen"_s;
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Refused); // the kind becomes that of the category
+        QVERIFY(book.User.Asked.isEmpty());
+        book.User.Shown.clear();
         fields.Type = modWord::Ausgabe;
         QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Refused); // an empty queue answers Cancel
         QCOMPARE(book.User.Asked,
@@ -161,6 +164,22 @@ private Q_SLOTS:
         QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Refused);
         QCOMPARE(book.Editor.FailedPart(), 1); // the first one is there now
         QCOMPARE(book.User.Asked.size(), 1);
+    }
+
+    void TheFirstEntryGivesItsKindToANewCategory()
+    {
+        cEditorBook book;
+        book.User.Answers = {eAnswer::Yes};
+        const QString path = book.Editor.Suggestions().OfferNew(u"Pony"_s, {});
+        for (const QString& type : {modWord::Einnahme, modWord::Ausgabe}) {
+            cEntryEditor::cFields fields = book.Editor.Start(u"Girokonto"_s);
+            fields.Amount = u"12,50"_s;
+            book.Editor.ChooseCategory(path, fields);
+            fields.Type = type;
+            QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+            book.Editor.ChooseCategory(path, fields = book.Editor.Start(u"Girokonto"_s));
+            QCOMPARE(fields.Type, modWord::Einnahme);
+        }
     }
 };
 

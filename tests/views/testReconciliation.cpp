@@ -130,9 +130,11 @@ private Q_SLOTS:
 
     void FirstStatementBringsTheStartBalance_data()
     {
-        const cTestRows<QByteArray> row("head");
-        row("number", "IBAN;DE02100200300001234567\n\n");
-        row("none, so the account lends its name", {});
+        // bare: the file came before without its balances
+        const cTestRows<QByteArray, bool> row("head", "bare");
+        row("number", "IBAN;DE02100200300001234567\n\n", false);
+        row("none, so the account lends its name", {}, false);
+        row("the balance comes later", "IBAN;DE02100200300001234567\n\n", true);
     }
 
     // The book holds what the bank says from the first row on; a hand-made entry that the first row pays does not
@@ -140,6 +142,7 @@ private Q_SLOTS:
     void FirstStatementBringsTheStartBalance()
     {
         QFETCH(const QByteArray, head);
+        QFETCH(const bool, bare);
         cTestBook book;
         cImportReview review(book.Tools);
         cNoProgress progress;
@@ -156,6 +159,15 @@ private Q_SLOTS:
                              + "Buchungstag;Verwendungszweck;Betrag;Saldo\n"
                                "04.05.2026;Kiosk;-3,00;87,00\n02.05.2026;Markt;-10,00;90,00\n");
         book.User.Choices = {u"Girokonto"_s};
+        if (bare) {
+            const QString table = folder.Path(u"b.csv"_s);
+            cTestFile::Write(table,
+                             head
+                                 + "Buchungstag;Verwendungszweck;Betrag\n04.05.2026;Kiosk;-3,00\n"
+                                   "02.05.2026;Markt;-10,00\n");
+            review.Files().ImportFiles({table}, progress);
+            QVERIFY(!book.Data.GetStartGuthaben(u"Girokonto"_s));
+        }
         book.User.Answers = {eAnswer::Yes};
         qint64 shown = 0; // beside the page
         connect(&review, &cImportReview::EntriesChanged, this,
@@ -172,6 +184,18 @@ private Q_SLOTS:
         book.User.Asked.clear();
         review.Files().ImportFiles({path}, progress);
         QCOMPARE(book.User.Asked, QStringList());
+    }
+
+    // Its account has another number, so the bank's balance is not what the book has to come to.
+    void SaysThatNumbersShareTheAccount()
+    {
+        cScene scene;
+        scene.Settings->Set(modSettingKey::BankNumber.Of(u"77"_s), u"Girokonto"_s);
+        scene.Row(2, -1000, u"Bäcker"_s);
+        (void)scene.Stage(u"77"_s, QDate(2026, 5, 3), -500, u"Kiosk"_s);
+        cReconciliation reconciliation(scene.Tools);
+        reconciliation.Load(number, {});
+        QVERIFY(reconciliation.Finding().contains(u"gehören mehrere Kontonummern"));
     }
 
     void ListsWhatDiffers()

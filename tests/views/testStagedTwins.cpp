@@ -87,6 +87,11 @@ private Q_SLOTS:
             each.ImportBeneficiary.clear();
             each.ImportPurpose = u"Stadtwerke Talheim Abschlag"_s;
         });
+        row("no account, no name, the same purpose", 2, [](auto& each) {
+            each.ImportBeneficiaryAccount.clear();
+            each.ImportBeneficiary.clear();
+            each.ImportPurpose = First().ImportPurpose;
+        });
         row("of the same file", 0, [](auto& each) { each.ID = 3; });
         row("taken twice on purpose", 0, [](auto& each) { each.ImportPurpose = First().ImportPurpose; });
     }

@@ -219,16 +219,16 @@ void cImportPlan::TakeSeries(const cImportEntry& row, cRowPlan& plan, cPass& pas
     if (plan.Match || plan.Proposal.ExistingEntry == 0 || IsTransfer(plan.Proposal.Entry)) {
         return;
     }
-    std::optional<cMatchCandidate> candidate = matcher.ByHand(row.ID, plan.Proposal.ExistingEntry);
-    if (!candidate) {
-        return; // a series that had ended and goes on with this row
-    }
-    if (!pass.Taken.contains(OccurrenceOf(*candidate))) {
-        pass.Taken.insert(OccurrenceOf(*candidate));
-        candidate->Reason = plan.Proposal.Reason;
-        candidate->Score = 1.0;
-        plan.Match = std::move(candidate);
-        plan.Group = eRowGroup::InBook;
+    const cOccurrence paid{plan.Proposal.ExistingEntry, plan.Proposal.Occurrence};
+    if (!pass.Taken.contains(paid)) {
+        pass.Taken.insert(paid);
+        std::optional<cMatchCandidate> candidate = matcher.ByHand(row.ID, plan.Proposal.ExistingEntry);
+        if (candidate && OccurrenceOf(*candidate) == paid) { // else a series that is stored too short goes on
+            candidate->Reason = plan.Proposal.Reason;
+            candidate->Score = 1.0;
+            plan.Match = std::move(candidate);
+            plan.Group = eRowGroup::InBook;
+        }
         return;
     }
     plan.Proposal.ExistingEntry = 0;

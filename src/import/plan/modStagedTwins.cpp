@@ -54,13 +54,17 @@ bool HasNumber(const QString& account)
     return std::any_of(account.begin(), account.end(), [](QChar c) { return c != u'0' && !c.isSpace(); });
 }
 
-// Who stands behind a row, by name or by what is written.
-QString Name(const cImportEntry& torn)
+struct cWho
+{
+    QString Name; // empty when the row names nobody
+    QString Text;
+};
+
+cWho Who(const cImportEntry& torn)
 {
     const cImportEntry row = modCutText::WholeWords(torn);
-    const QString name = row.ImportBeneficiary.simplified();
     const QString text = row.ImportPurpose.isEmpty() ? row.ImportType : row.ImportPurpose;
-    return modFold::Fold(name.isEmpty() ? text.simplified() : name).Spelled;
+    return {modFold::Fold(row.ImportBeneficiary.simplified()).Spelled, modFold::Fold(text.simplified()).Spelled};
 }
 
 // Formats cut names off at different lengths, so a part of a name is as good as the whole.
@@ -73,6 +77,14 @@ bool AreNamesAlike(const QString& a, const QString& b)
     return isPart || modSimilar::Similarity(a, b) >= similarNames;
 }
 
+// A row that names nobody may have the name in its text, or have lost it.
+bool IsSomebody(const cWho& a, const cWho& b)
+{
+    const bool isNamed = !a.Name.isEmpty() && !b.Name.isEmpty();
+    return AreNamesAlike(a.Name.isEmpty() ? a.Text : a.Name, b.Name.isEmpty() ? b.Text : b.Name)
+        || (!isNamed && AreNamesAlike(a.Text, b.Text));
+}
+
 std::optional<eSame> Compare(const cImportEntry& a, const cImportEntry& b)
 {
     const QString& first = a.ImportBeneficiaryAccount;
@@ -81,7 +93,7 @@ std::optional<eSame> Compare(const cImportEntry& a, const cImportEntry& b)
         return modAccountNumber::IsSame(first, a.ImportBeneficiaryBLZ, second) ? std::optional(eSame::Counterparty)
                                                                                : std::nullopt;
     }
-    return AreNamesAlike(Name(a), Name(b)) ? std::optional(eSame::Name) : std::nullopt;
+    return IsSomebody(Who(a), Who(b)) ? std::optional(eSame::Name) : std::nullopt;
 }
 
 // Asks about each number once.

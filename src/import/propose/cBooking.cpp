@@ -153,13 +153,17 @@ cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinde
     if (proposal.IsAlone) {
         return BookNew(*row, proposal, series, result);
     }
-    if (proposal.BookedAs.isEmpty() && modRecurrence::IsRecurring(proposal.Entry.EntryInterval)) {
+    const bool isSingle = !modRecurrence::IsRecurring(proposal.Entry.EntryInterval);
+    if (proposal.BookedAs.isEmpty() && !(isSingle && IsJoiningTransfer(proposal))) {
         if (const std::optional<cSeriesMatch> match = series.Find(*row, proposal.Entry)) {
             if (match->IsExtended && !m_data.ChangeEntry(match->Series)) {
                 return eOutcome::Failed;
             }
             series.Learn(*row, match->Series);
             return Join(*row, proposal, *match, result);
+        }
+        if (proposal.ExistingEntry != 0) {
+            proposal.Entry.EntryInterval = modWord::Einmalig; // another row of this run was nearer to its occurrence
         }
     } else if (IsJoiningTransfer(proposal)) {
         if (const std::optional<cEntryItem> transfer = m_data.LoadEntry(proposal.ExistingEntry)) {

@@ -365,9 +365,11 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
     if (transfer) {
         TakeBooked(proposal, *transfer, row);
     }
-    if (proposal.ExistingEntry == 0) {
+    proposal.IsAlone = own != nullptr && own->Interval == modWord::Einmalig && !transfer;
+    if (proposal.ExistingEntry == 0 && !proposal.IsAlone) {
         if (const std::optional<cSeriesMatch> match = m_knowledge->Series.Find(row, proposal.Entry)) {
             proposal.ExistingEntry = match->Series.ID;
+            proposal.Occurrence = match->Occurrence.Planned();
         } else if (choice && own == nullptr && choice->SeriesEnd >= row.ImportDate) {
             // Its series has had its payment, so this is something beside it: a second series is hardly ever meant.
             proposal.Entry.EntryInterval = modWord::Einmalig;

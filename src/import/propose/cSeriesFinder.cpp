@@ -7,6 +7,7 @@
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modSplit.h"
+#include "model/modWord.h"
 #include "store/cDataAccess.h"
 
 #include <algorithm>
@@ -15,17 +16,25 @@
 
 namespace {
 
+constexpr int nearDays = 5; // what is booked so near to its day may have another amount
+
 bool IsLike(const cEntryItem& series, const cEntryItem& entry)
 {
-    return series.EntryInterval == entry.EntryInterval && series.EntryType == entry.EntryType
-        && series.EntryAccount == entry.EntryAccount && series.EntryAccountMove == entry.EntryAccountMove
-        && series.EntryCategory == entry.EntryCategory;
+    return (series.EntryInterval == entry.EntryInterval || !modRecurrence::IsRecurring(entry.EntryInterval))
+        && series.EntryType == entry.EntryType && series.EntryAccount == entry.EntryAccount
+        && series.EntryAccountMove == entry.EntryAccountMove && series.EntryCategory == entry.EntryCategory;
 }
 
-bool IsAbout(qint64 cents, const cEntryItem& entry)
+bool IsAbout(qint64 cents, qint64 usual)
 {
     constexpr int mostPercent = 20;
-    return std::abs(std::abs(cents) - entry.EntryValue) * 100 <= entry.EntryValue * mostPercent;
+    return std::abs(std::abs(cents) - std::abs(usual)) * 100 <= std::abs(usual) * mostPercent;
+}
+
+// A raised rent or a doubled salary; what is less than half or more than twice as much is paid for something else.
+bool MayBe(qint64 cents, qint64 usual)
+{
+    return std::abs(cents) * 2 >= std::abs(usual) && std::abs(cents) <= std::abs(usual) * 2;
 }
 
 // The day from which one step leads exactly to this one, so that a series moved to it keeps all its occurrences. There
@@ -40,6 +49,11 @@ QDate Previous(QDate day, const QString& interval)
         }
     }
     return {};
+}
+
+QString DaysKey(const cImportEntry& row, const QString& counterparty)
+{
+    return counterparty.isEmpty() ? modCounterparty::PurposeKey(row) : counterparty;
 }
 
 } // namespace
@@ -58,9 +72,7 @@ void cSeriesFinder::Build()
     const cImportEntryList rows = m_hive.GetImportHive(eKeepCache::Yes).getImportEntryList();
     for (const cImportEntry& row : rows) {
         if (row.ImportAssigned && m_series.contains(row.ImportAssignedEntry)) {
-            if (const QString key = modCounterparty::Key(row); !key.isEmpty()) {
-                m_entries[key].insert(row.ImportAssignedEntry);
-            }
+            m_entries[modCounterparty::Key(row)].insert(row.ImportAssignedEntry);
         }
     }
     m_isBuilt = true;
@@ -71,10 +83,10 @@ void cSeriesFinder::BuildDays()
     cCounterpartyKeys keys;
     const cImportEntryList rows = m_hive.GetImportHive(eKeepCache::Yes).getImportEntryList();
     for (const cImportEntry& row : rows) {
-        if (const QString key = keys.Of(row); !key.isEmpty() && row.ImportDate.isValid()) {
-            cDays& days = m_days[key][row.ImportAccount];
+        if (row.ImportDate.isValid()) {
+            cDays& days = m_days[DaysKey(row, keys.Of(row))][row.ImportAccount];
             (row.ImportValue < 0 ? days.Out : days.In)
-                .insert(row.ImportDate, {row.ImportValue, row.ImportAssigned ? row.ImportAssignedEntry : 0});
+                .insert(row.ImportDate, {row.ID, row.ImportValue, row.ImportAssigned ? row.ImportAssignedEntry : 0});
         }
         QDate& last = m_lastDays[row.ImportAccount];
         last = last.isValid() ? std::max(last, row.ImportDate) : row.ImportDate;
@@ -84,15 +96,16 @@ void cSeriesFinder::BuildDays()
 
 void cSeriesFinder::Learn(const cImportEntry& row, const cEntryItem& series)
 {
-    if (const QString key = modCounterparty::Key(row); m_isBuilt && !key.isEmpty()) {
-        m_entries[key].insert(series.ID);
+    if (m_isBuilt) {
+        m_entries[modCounterparty::Key(row)].insert(series.ID);
         m_series.insert(series.ID, series);
     }
 }
 
 std::optional<cSeriesMatch> cSeriesFinder::Find(const cImportEntry& row, const cEntryItem& entry)
 {
-    if (!modRecurrence::IsRecurring(entry.EntryInterval) || entry.EntryAccount.isEmpty()) {
+    const bool isRecurring = modRecurrence::IsRecurring(entry.EntryInterval);
+    if (entry.EntryAccount.isEmpty() || (!isRecurring && entry.EntryType == modWord::Umbuchung)) {
         return std::nullopt;
     }
     if (!m_isBuilt) {
@@ -104,13 +117,22 @@ std::optional<cSeriesMatch> cSeriesFinder::Find(const cImportEntry& row, const c
             return match;
         }
     }
+    if (!isRecurring) {
+        return std::nullopt;
+    }
     std::optional<cSeriesMatch> match = Reopen(alike, row);
     return match ? match : Precede(alike, row);
 }
 
+// A row that names nobody may pay any of them, and any row those that such rows have paid: their words change. Whoever
+// pays for two flats has two series: the one of the nearer amount first.
 cEntryItemList cSeriesFinder::Alike(const cImportEntry& row, const cEntryItem& entry)
 {
-    QList<int> ids = m_entries.value(modCounterparty::Key(row)).values();
+    const QString key = modCounterparty::Key(row);
+    QList<int> ids = m_entries.value(key).values();
+    if (modRecurrence::IsRecurring(entry.EntryInterval)) {
+        ids = key.isEmpty() ? m_series.keys() : (m_entries.value(key) + m_entries.value(QString())).values();
+    }
     std::sort(ids.begin(), ids.end());
     cEntryItemList alike;
     for (const int id : std::as_const(ids)) {
@@ -118,6 +140,11 @@ cEntryItemList cSeriesFinder::Alike(const cImportEntry& row, const cEntryItem& e
             alike.append(series);
         }
     }
+    const auto difference = [&](const cEntryItem& series) {
+        return std::abs(std::abs(row.ImportValue) - series.EntryValue);
+    };
+    std::stable_sort(alike.begin(), alike.end(),
+                     [&](const auto& a, const auto& b) { return difference(a) < difference(b); });
     return alike;
 }
 
@@ -134,26 +161,28 @@ std::optional<cSeriesMatch> cSeriesFinder::Reopen(const cEntryItemList& alike, c
     series.EntryDateEnd = modRecurrence::OpenEnd;
     const QList<QDate> next = modSeries::Next(series, latest->EntryDateEnd.addDays(1), mostMissed);
     std::optional<cSeriesMatch> match = Match(series, row);
-    if (!match || !next.contains(match->Occurrence.Planned()) || !IsAbout(row.ImportValue, match->Occurrence)) {
+    if (!match || !next.contains(match->Occurrence.Planned())
+        || !IsAbout(row.ImportValue, match->Occurrence.EntryValue)) {
         return std::nullopt;
     }
     match->IsExtended = true;
     return match;
 }
 
-// The first of about that amount. Its start goes back by whole intervals, so its other occurrences stay as they are;
-// the day of the row is a correction like any other.
+// The first of about that amount that begins behind the row. Its start goes back by whole intervals, so its other
+// occurrences stay as they are; the day of the row is a correction like any other.
 std::optional<cSeriesMatch> cSeriesFinder::Precede(const cEntryItemList& alike, const cImportEntry& row)
 {
     std::optional<cEntryItem> first;
+    QDate before; // the days up to it are near the row
     for (const cEntryItem& series : alike) {
-        if (IsAbout(row.ImportValue, series) && (!first || series.EntryDate < first->EntryDate)) {
+        before = row.ImportDate.addDays(modOccurrence::Reach(series.EntryInterval)); // the same for all of them
+        if (IsAbout(row.ImportValue, series.EntryValue) && series.EntryDate > before
+            && (!first || series.EntryDate < first->EntryDate)) {
             first = series;
         }
     }
-    const int reach = first ? modOccurrence::Reach(first->EntryInterval) : 0;
-    const QDate before = row.ImportDate.addDays(reach); // the days up to it are near the row
-    if (!first || first->EntryDate <= before || modSplit::Group(*first) != 0) {
+    if (!first || modSplit::Group(*first) != 0) {
         return std::nullopt;
     }
     do {
@@ -171,12 +200,18 @@ std::optional<cSeriesMatch> cSeriesFinder::Precede(const cEntryItemList& alike, 
 bool cSeriesFinder::HasPayment(const cEntryItem& series, const cImportEntry& row)
 {
     const int reach = modOccurrence::Reach(series.EntryInterval);
-    const cDays known = DaysOf(row);
-    const cPayments& payments = row.ImportValue < 0 ? known.Out : known.In;
+    const cPayments payments = PaymentsLike(row);
     const auto end = payments.upperBound(series.EntryDate.addDays(reach));
     return std::any_of(payments.lowerBound(series.EntryDate.addDays(-reach)), end, [&](const cPayment& payment) {
-        return (payment.EntryId == 0 || payment.EntryId == series.ID) && IsAbout(payment.Cents, series);
+        return payment.RowId != row.ID && (payment.EntryId == 0 || payment.EntryId == series.ID)
+            && IsAbout(payment.Cents, series.EntryValue);
     });
+}
+
+cSeriesFinder::cPayments cSeriesFinder::PaymentsLike(const cImportEntry& row)
+{
+    const cDays known = DaysOf(row);
+    return row.ImportValue < 0 ? known.Out : known.In;
 }
 
 cSeriesFinder::cDays cSeriesFinder::DaysOf(const cImportEntry& row)
@@ -184,7 +219,7 @@ cSeriesFinder::cDays cSeriesFinder::DaysOf(const cImportEntry& row)
     if (!m_hasDays) {
         BuildDays();
     }
-    return m_days.value(modCounterparty::Key(row)).value(row.ImportAccount);
+    return m_days.value(DaysKey(row, modCounterparty::Key(row))).value(row.ImportAccount);
 }
 
 bool cSeriesFinder::IsTakenBack(const cImportEntry& row)
@@ -204,22 +239,43 @@ bool cSeriesFinder::IsTakenBack(const cImportEntry& row)
 
 bool cSeriesFinder::IsContradicted(const cImportEntry& row, const QString& interval)
 {
-    const cDays known = DaysOf(row);
+    constexpr int mostBeside = 3; // in the half interval before and behind; who is paid more often is a shop
     const int reach = modOccurrence::Reach(interval);
     const QDate next = modRecurrence::Next(row.ImportDate, interval);
     const qint64 step = row.ImportDate.daysTo(next);
-    const QList<QDate> days = (row.ImportValue < 0 ? known.Out : known.In).keys();
+    const qint64 nearStep = std::min<qint64>(reach, step / 3); // halfway between two payments is no step from either
+    const cPayments payments = PaymentsLike(row);
     bool hasNeighbour = false;
-    for (const QDate day : days) {
-        const qint64 distance = std::abs(row.ImportDate.daysTo(day));
-        if (distance != 0 && distance < step - reach) {
-            return true;
+    bool hasOthers = false;
+    int beside = 0;
+    for (auto payment = payments.cbegin(); payment != payments.cend(); ++payment) {
+        const qint64 distance = std::abs(row.ImportDate.daysTo(payment.key()));
+        const qint64 off = std::abs(distance - step);
+        beside += distance != 0 && distance <= reach ? 1 : 0;
+        if (IsAbout(payment->Cents, row.ImportValue)) {
+            if (distance != 0 && distance < step - nearStep) {
+                return true;
+            }
+            hasNeighbour = hasNeighbour || off <= nearStep;
+            hasOthers = hasOthers || distance != 0;
+        } else {
+            hasOthers = hasOthers || distance <= step + reach;
+            hasNeighbour = hasNeighbour
+                || (off <= nearDays && MayBe(row.ImportValue, payment->Cents)
+                    && !HasAbout(payments, payment->Cents, row.ImportDate, reach));
         }
-        hasNeighbour = hasNeighbour || std::abs(distance - step) <= reach;
     }
-    return !hasNeighbour && m_lastDays.value(row.ImportAccount) > next.addDays(reach);
+    return beside > mostBeside
+        || (!hasNeighbour && (hasOthers || m_lastDays.value(row.ImportAccount) > next.addDays(reach)));
 }
 
+bool cSeriesFinder::HasAbout(const cPayments& payments, qint64 cents, QDate day, int reach)
+{
+    return std::any_of(payments.lowerBound(day.addDays(-reach)), payments.upperBound(day.addDays(reach)),
+                       [&](const cPayment& payment) { return IsAbout(payment.Cents, cents); });
+}
+
+// The amount tells, or the day does where nothing else pays the occurrence.
 std::optional<cSeriesMatch> cSeriesFinder::Match(const cEntryItem& series, const cImportEntry& row)
 {
     const cEntryItemFixModList fixMods = m_data.GetEntryMods(series.ID);
@@ -227,7 +283,10 @@ std::optional<cSeriesMatch> cSeriesFinder::Match(const cEntryItem& series, const
     if (!occurrence || IsTaken(series, *occurrence, fixMods, row)) {
         return std::nullopt;
     }
-    return cSeriesMatch{series, *occurrence, false};
+    const bool isLike = IsAbout(row.ImportValue, occurrence->EntryValue)
+        || (MayBe(row.ImportValue, occurrence->EntryValue)
+            && std::abs(modOccurrence::Days(*occurrence, row.ImportDate)) <= nearDays && !HasPayment(*occurrence, row));
+    return isLike ? std::optional(cSeriesMatch{series, *occurrence, false}) : std::nullopt;
 }
 
 bool cSeriesFinder::IsTaken(const cEntryItem& series, const cEntryItem& occurrence, const cEntryItemFixModList& fixMods,

@@ -50,6 +50,7 @@ public:
 private:
     struct cPayment
     {
+        int RowId = 0;
         qint64 Cents = 0;
         int EntryId = 0; // that it was booked to; 0 while it is open
     };
@@ -63,6 +64,8 @@ private:
     void Build();
     void BuildDays();
     [[nodiscard]] cDays DaysOf(const cImportEntry& row);
+    [[nodiscard]] cPayments PaymentsLike(const cImportEntry& row); // of its direction, itself among them
+    [[nodiscard]] static bool HasAbout(const cPayments& payments, qint64 cents, QDate day, int reach);
     [[nodiscard]] cEntryItemList Alike(const cImportEntry& row, const cEntryItem& entry);
     [[nodiscard]] std::optional<cSeriesMatch> Match(const cEntryItem& series, const cImportEntry& row);
     [[nodiscard]] std::optional<cSeriesMatch> Reopen(const cEntryItemList& alike, const cImportEntry& row);

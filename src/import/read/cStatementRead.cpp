@@ -2,11 +2,22 @@
 
 #include "base/cText.h"
 
+#include <algorithm>
+
 cStatementRead cStatementRead::TooMany()
 {
     cStatementRead read;
     read.Refusal = cText::Tr("Die Datei hat zu viele Umsätze für einen Kontoauszug. Es wurde nichts übernommen.");
     return read;
+}
+
+std::optional<eStatementFormat> cStatementRead::FormatAt(qsizetype place) const
+{
+    if (Formats.isEmpty()) {
+        return std::nullopt;
+    }
+    const auto next = std::upper_bound(Parts.begin(), Parts.end(), place);
+    return Formats.at(next - Parts.begin() - 1);
 }
 
 void cStatementRead::Append(cStatementRead more)

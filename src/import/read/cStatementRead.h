@@ -43,6 +43,8 @@ struct cAccountBalance
     bool operator==(const cAccountBalance&) const = default;
 };
 
+enum class eStatementFormat;
+
 // What a reader makes of a statement file: records that are not staged yet. A file with several accounts is one list;
 // each record carries its account.
 struct cStatementRead
@@ -59,7 +61,8 @@ struct cStatementRead
     std::optional<cTableDoubt> Doubt; // to be answered before anything is staged
     QString Layout;                   // name of the table layout (a bank's) that was recognised
     QList<qsizetype> Parts; // places of the entries with which further files of the source begin: these may overlap
-    QString AccountKey;     // under which the account of such files is remembered; empty: it cannot be
+    QList<eStatementFormat> Formats; // of these files, where they may differ
+    QString AccountKey;              // under which the account of such files is remembered; empty: it cannot be
 
     bool IsBook = false; // of another household book: its rows may name categories and accounts, see modBookRow
 
@@ -67,6 +70,9 @@ struct cStatementRead
     bool HasStrayDetails = false; // refused only because of them: eStrayDetails::PassOver reads the rest
 
     QMap<QString, QString> BankCodes; // of own accounts by their number, as far as the file names them
+
+    // Of the file that the entry at this place came with; none where all are of one format.
+    [[nodiscard]] std::optional<eStatementFormat> FormatAt(qsizetype place) const;
 
     // Adds what was read of a further part.
     void Append(cStatementRead more);

@@ -1,6 +1,7 @@
 #include "import/read/modCounterparty.h"
 
 #include "import/read/modAccountNumber.h"
+#include "import/read/modPayee.h"
 #include "model/cImportEntry.h"
 #include "model/modCutText.h"
 
@@ -18,4 +19,9 @@ QString modCounterparty::Key(const cImportEntry& row)
 {
     const QString account = AccountKey(row);
     return account.isEmpty() ? NameKey(row) : account;
+}
+
+QString modCounterparty::PurposeKey(const cImportEntry& row)
+{
+    return u'*' + modPayee::Of(row).Key; // no name is folded to this
 }

@@ -16,4 +16,8 @@ namespace modCounterparty {
 // By account, else by name.
 [[nodiscard]] QString Key(const cImportEntry& row);
 
+// For a row that names nobody: by the words of its purpose that stay the same from one payment to the next. Never
+// empty.
+[[nodiscard]] QString PurposeKey(const cImportEntry& row);
+
 } // namespace modCounterparty

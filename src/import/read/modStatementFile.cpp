@@ -6,6 +6,7 @@
 #include <QByteArrayView>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -72,8 +73,12 @@ modStatementFile::cContent modStatementFile::Read(const QString& path)
 {
     const QString shownPath = QDir::toNativeSeparators(path);
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
-        return {{}, cText::Tr("Die Datei kann nicht geöffnet werden: {0}", {shownPath})};
+    if (const QFileInfo info(path); info.isDir() || !file.open(QIODevice::ReadOnly)) {
+        const QString reason = !info.exists() ? cText::Tr("es gibt sie nicht")
+            : info.isDir()                    ? cText::Tr("es ist ein Ordner, wählen Sie die Dateien darin")
+            : !info.isReadable()              ? cText::Tr("Sie haben nicht das Recht, sie zu lesen")
+                                              : file.errorString();
+        return {{}, cText::Tr("Die Datei kann nicht geöffnet werden ({1}): {0}", {shownPath, reason})};
     }
     if (file.size() > largestFile) {
         return {{}, cText::Tr("Die Datei ist zu groß für einen Kontoauszug: {0}", {shownPath})};

@@ -12,6 +12,13 @@
 
 #include <optional>
 
+// The staged rows of a file that are of one format: an archive may hold the same bookings in several.
+struct cFormatRows
+{
+    eStatementFormat Format{};
+    QList<int> Ids;
+};
+
 // What became of a statement file.
 struct cImportResult
 {
@@ -21,6 +28,7 @@ struct cImportResult
     QString Format; // display name
     int Read = 0;   // transactions in the file
     int Staged = 0;
+    QList<cFormatRows> ByFormat;
     int Zero = 0;   // transactions without amount, never staged
     int Failed = 0; // transactions that the database did not take, those behind the point of giving up included
     cImportEntryList Duplicates; // not staged because an equal row is; each can be staged with eDuplicateTest::Skip
@@ -30,6 +38,7 @@ struct cImportResult
     cRepeatList Settled; // equal rows that were staged, or that the bank's balances rule out
     int Proven = 0;      // of the staged ones: equal to others, but the bank's balances need them
     std::optional<qint64> ClosingBalance; // cents, signed
+    QStringList FirstBalances;            // own account numbers whose balance no earlier file has named
     QList<cReadProblem> Problems;         // lines that could not be read
     QList<cSkippedRow> Skipped;           // rows of the file that are no bookings
     QStringList Accounts;             // own account numbers of the file in their order; "" for statements without one

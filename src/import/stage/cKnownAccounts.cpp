@@ -3,9 +3,11 @@
 #include "import/read/cStatementRead.h"
 #include "import/read/modAccountNumber.h"
 #include "import/stage/cBankBalances.h"
+#include "import/stage/cImportHive.h"
 
 #include <algorithm>
 #include <iterator>
+#include <utility>
 
 cKnownAccounts::cKnownAccounts(QStringList staged, const cBankBalances* balances)
     : m_staged(std::move(staged)),
@@ -16,6 +18,7 @@ cKnownAccounts::cKnownAccounts(QStringList staged, const cBankBalances* balances
 void cKnownAccounts::UseIn(cStatementRead& read)
 {
     m_bankCodes = read.BankCodes;
+    LearnForms(cImportHive::AccountsOf(read.Entries));
     for (cImportEntry& entry : read.Entries) {
         entry.ImportAccount = FormOf(entry.ImportAccount);
     }
@@ -34,6 +37,18 @@ bool cKnownAccounts::KeepBankCodes(cBankBalances& balances) const
         const bool isNews = modAccountNumber::IsBankCode(named.second) && !modAccountNumber::IsGermanIban(form);
         return !isNews || balances.KeepBankCode(form, named.second);
     });
+}
+
+// One archive may tell an account in both forms; the IBAN goes first, because its number alone may be that of another
+// bank.
+void cKnownAccounts::LearnForms(QStringList numbers)
+{
+    std::stable_partition(numbers.begin(), numbers.end(), modAccountNumber::IsGermanIban);
+    for (const QString& number : std::as_const(numbers)) {
+        if (const QString& form = FormOf(number); !m_staged.contains(form)) {
+            m_staged.append(form);
+        }
+    }
 }
 
 const QString& cKnownAccounts::FormOf(const QString& number)

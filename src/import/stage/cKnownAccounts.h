@@ -24,6 +24,7 @@ public:
     [[nodiscard]] bool KeepBankCodes(cBankBalances& balances) const;
 
 private:
+    void LearnForms(QStringList numbers);
     [[nodiscard]] const QString& FormOf(const QString& number);
     [[nodiscard]] QString Find(const QString& number) const;
 

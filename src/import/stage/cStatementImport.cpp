@@ -86,11 +86,17 @@ class cTally
 public:
     explicit cTally(cImportResult& result) : m_result(result) {}
 
-    void Count(eStaged outcome, const cImportEntry& entry)
+    void Count(eStaged outcome, const cImportEntry& entry, eStatementFormat format)
     {
         m_inARow = outcome == eStaged::Failed ? m_inARow + 1 : 0;
         switch (outcome) {
-        case eStaged::Staged: ++m_result.Staged; break;
+        case eStaged::Staged:
+            ++m_result.Staged;
+            if (m_result.ByFormat.isEmpty() || m_result.ByFormat.constLast().Format != format) {
+                m_result.ByFormat.append({format, {}});
+            }
+            m_result.ByFormat.last().Ids.append(entry.ID);
+            break;
         case eStaged::Zero: ++m_result.Zero; break;
         case eStaged::Duplicate: m_result.Duplicates.append(entry); break;
         case eStaged::Failed: ++m_result.Failed; break;
@@ -501,7 +507,7 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
         }
         const eStaged outcome = staging.StageImportEntry(
             entry, verdict == eVerdict::IsNew ? eDuplicateTest::Skip : options.Duplicates); // nothing is asked twice
-        tally.Count(outcome, entry);
+        tally.Count(outcome, entry, read.FormatAt(i).value_or(result.Kind));
         if (outcome == eStaged::Staged && options.Run == eStagingRun::Try) {
             result.Rows.append(entry);
         }
@@ -546,7 +552,8 @@ void cStatementImport::SettleEqual(const cStatementRead& read, const cImportOpti
         if (!isTaken) {
             result.Duplicates.append(repeat.Entry);
         } else if (!tally.IsHopeless()) {
-            tally.Count(staging.StageImportEntry(repeat.Entry, eDuplicateTest::Skip), repeat.Entry);
+            const eStaged outcome = staging.StageImportEntry(repeat.Entry, eDuplicateTest::Skip);
+            tally.Count(outcome, repeat.Entry, result.Kind);
             result.Proven += proofs.at(i) == eProof::Real ? 1 : 0;
             if (options.Run == eStagingRun::Try) {
                 result.Rows.append(repeat.Entry);
@@ -566,6 +573,11 @@ void cStatementImport::KeepBalances(const cStatementRead& read, const cKnownAcco
     }
     if (!known.KeepBankCodes(*m_balances)) {
         result.Problems.append({0, cText::Tr("Die Bankleitzahl des Kontos konnte nicht gespeichert werden.")});
+    }
+    for (const cAccountBalance& balance : read.Balances) {
+        if (!result.FirstBalances.contains(balance.Account) && m_balances->Of(balance.Account).isEmpty()) {
+            result.FirstBalances.append(balance.Account);
+        }
     }
     if (!m_balances->Add(read.Balances, read.Entries)) {
         result.Problems.append({0, cText::Tr("Der Kontostand der Bank konnte nicht gespeichert werden.")});

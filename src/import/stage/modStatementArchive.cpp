@@ -85,6 +85,7 @@ private:
         }
         const cStatementRead read = reader(source, m_options);
         if (read.Refusal.isEmpty()) {
+            m_all.Formats.append(format);
             Add(name, read);
             return {};
         }

@@ -57,17 +57,20 @@ bool cEntryCheck::CheckChoices(cEntryFields& fields)
                           ? cText::Tr("Bitte erst neue Kategorien anlegen und diese Buchung einordnen!")
                           : cText::Tr("Bitte erst eine Kategorie wählen!"));
     }
-    if (fields.Type.isEmpty()) {
-        return Refuse(cText::Tr("Bitte erst eine Buchungsart wählen!"));
-    }
-    return CheckAccount(fields) && (!IsSplit(fields) || CheckParts(fields));
+    return CheckType(fields) && CheckAccount(fields) && (!IsSplit(fields) || CheckParts(fields));
 }
 
-// Categories that are typed and not there yet; false when the user does not want one.
+bool cEntryCheck::CheckType(const cEntryFields& fields) const
+{
+    return !fields.Type.isEmpty() || Refuse(cText::Tr("Bitte erst eine Buchungsart wählen!"));
+}
+
+// Categories that are typed and not there yet; false when the user does not want one. The kind has to be known, because
+// it becomes that of the category.
 bool cEntryCheck::OfferNew(cEntryFields& fields)
 {
     const auto take = [&](QString& path, QString& typed) {
-        if (path.isEmpty() && !typed.isEmpty()) {
+        if (path.isEmpty() && !typed.isEmpty() && CheckType(fields)) {
             path = m_suggestions.OfferNew(typed, fields.Type);
             typed = path.isEmpty() ? typed : QString();
         }

@@ -24,6 +24,7 @@ public:
 private:
     [[nodiscard]] eEntrySaved CheckAmounts(const cEntryFields& fields);
     [[nodiscard]] bool CheckChoices(cEntryFields& fields);
+    [[nodiscard]] bool CheckType(const cEntryFields& fields) const;
     [[nodiscard]] bool OfferNew(cEntryFields& fields);
     [[nodiscard]] bool HasCategory(const cEntryFields& fields);
     [[nodiscard]] bool CheckAccount(const cEntryFields& fields) const;

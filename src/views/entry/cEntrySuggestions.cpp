@@ -8,6 +8,7 @@
 #include "store/cUndoStep.h"
 
 #include <algorithm>
+#include <optional>
 #include <tuple>
 #include <utility>
 #include <vector>
@@ -247,7 +248,23 @@ QString cEntrySuggestions::OfferNew(const QString& typed, const QString& type)
         return {};
     }
     ForgetCategories();
+    m_made = name;
     return name;
+}
+
+bool cEntrySuggestions::GiveKind(const QString& path, const QString& type)
+{
+    if (path != m_made || path.isEmpty()) {
+        return true;
+    }
+    m_made.clear();
+    ForgetCategories();
+    std::optional<cTemplateItem> made = m_data.FindTemplate(modTemplate::MainOf(path), modTemplate::SubOf(path));
+    if (!made || made->EntryType == type) {
+        return true;
+    }
+    made->EntryType = type;
+    return m_data.ChangeTemplate(*made);
 }
 
 void cEntrySuggestions::Note(const cEntryItem& entry)

@@ -91,7 +91,7 @@ qint64 ErrorOn(const modBalanceCheck::cResult& check, QDate day)
 
 } // namespace
 
-bool cOpeningBalance::IsDue(const QString& number, int newestBefore) const
+bool cOpeningBalance::IsDue(const QString& number, int newestBefore, const QStringList& balanced) const
 {
     cStatementLedger ledger(m_tools.Data, m_tools.Settings);
     ledger.Load(number);
@@ -103,7 +103,7 @@ bool cOpeningBalance::IsDue(const QString& number, int newestBefore) const
     }
     const QDate first = rows.constFirst().ImportDate;
     const std::optional<cEntryItem> start = m_tools.Data.GetStartGuthaben(ledger.AccountOf(number));
-    return first < known->ImportDate && start && start->EntryDate >= first;
+    return start ? first < known->ImportDate && start->EntryDate >= first : balanced.contains(number);
 }
 
 std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& number) const

@@ -221,6 +221,13 @@ QString cReconciliation::Finding() const
     }
     const QString count = m_items.size() == 1 ? cText::Tr("Ein Unterschied bis {1}.", values)
                                               : cText::Tr("{4} Unterschiede bis {1}.", values);
+    if (!m_bank && m_ledger.Check().IsAnchored) {
+        return count + u' '
+            + cText::Tr(
+                   "Zum Konto '{0}' gehören mehrere Kontonummern, deren Stände die Bank einzeln nennt; im Buch sind "
+                   "es zusammen {2}.",
+                   values);
+    }
     if (!m_bank) {
         return count + u' ' + cText::Tr("Die Bank hat keinen Kontostand genannt; im Buch sind es {2}.", values);
     }

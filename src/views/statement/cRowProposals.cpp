@@ -129,6 +129,8 @@ cRowPlan cRowProposals::WithChoice(cRowPlan plan) const
         plan.Proposal.Entry.EntryInterval = choice.Interval;
         // The series that it belonged to has another interval; an entry that becomes a transfer gets it.
         plan.Proposal.ExistingEntry = plan.Proposal.BookedAs.isEmpty() ? 0 : plan.Proposal.ExistingEntry;
+        plan.Proposal.IsAlone =
+            choice.Interval == modWord::Einmalig && plan.Proposal.Entry.EntryType != modWord::Umbuchung;
     }
     if (!choice.Description.isEmpty()) {
         plan.Proposal.Entry.EntryDescription = choice.Description;

@@ -190,13 +190,14 @@ struct cStatementDesk::cWorks
                          [this](const QList<int>& ids) { Runs.NoteImport(ids); });
     }
 
-    // A file brought the rows from `first` on.
-    void NoteRows(int first, eStatementFormat format)
+    void NoteRows(const cImportResult& result)
     {
-        if (const int next = Hive.GetImportHive().NextId(); next > first) {
-            Runs.NoteFile({first, next - 1}, format);
-            Runs.NoteImport({first, next - 1});
+        QList<int> ids;
+        for (const cFormatRows& each : result.ByFormat) {
+            Runs.NoteFile(each.Ids, each.Format);
+            ids += each.Ids;
         }
+        Runs.NoteImport(ids);
     }
 
     cImportHiveCache Hive;
@@ -375,13 +376,13 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     options.StrayDetails = wish.SkipsStrayDetails ? eStrayDetails::PassOver : eStrayDetails::Refuse;
     options.BookCurrency = wish.TakesCurrency ? QString() : m_tools.Format.CurrencyCode();
     cNoProgress progress;
-    const int next = m_works->Hive.GetImportHive().NextId();
+    const int newest = m_works->Hive.GetImportHive().NextId() - 1;
     const cImportResult result = m_works->Import.ImportFile(path, options, progress);
     cFileReport report = Report(result, m_tools.Format);
     if (wish.IsTrial) {
         return report;
     }
-    m_works->NoteRows(next, result.Kind);
+    m_works->NoteRows(result);
     RememberAccount(result, options.DefaultAccount, m_works->Memory);
     cLeftOutRows leftOut(m_tools.Settings);
     (void)(leftOut.Forget(result.Settled) && leftOut.Note(result.Repeats)); // of a refusal the user has been told
@@ -393,7 +394,7 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     }
     const cOpeningBalance opening(m_tools);
     for (const QString& number : result.Accounts) {
-        if (!wish.KeepsStart && opening.IsDue(number, next - 1)) {
+        if (!wish.KeepsStart && opening.IsDue(number, newest, result.FirstBalances)) {
             report.IsDone = TakeStart(number, report.Notes) && report.IsDone;
         }
     }

@@ -117,6 +117,7 @@ struct cStatementFiles::cRun
     cRepeatList Repeats;
     cBookNames Names;
     std::vector<std::unique_ptr<cImportAssistant>> Answered;
+    QStringList FirstBalances{}; // numbers of which the bank had named none before
 };
 
 void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssist assist)
@@ -163,13 +164,16 @@ void cStatementFiles::Note(const cImportResult& result, cRun& run)
     m_last.last().Rows.append(rows);
     m_last.last().Format = result.Kind;
     run.Rows.append(rows);
-    Q_EMIT FileStaged(rows, result.Kind);
+    for (const cFormatRows& each : result.ByFormat) {
+        Q_EMIT FileStaged(each.Ids, each.Format);
+    }
     run.Lines.append(modImportText::Summary(result, m_tools.Format));
     KeepLeftOut(result);
     (void)cLeftOutRows(m_tools.Settings).Forget(result.Settled); // of a refusal the user has been told
     run.Repeats += result.Repeats;
     run.Numbers.append(result.Accounts);
     run.Names.Add(result.Book);
+    run.FirstBalances += result.FirstBalances;
 }
 
 void cStatementFiles::End(cRun& run)
@@ -521,7 +525,7 @@ QStringList cStatementFiles::DueStarts(const cRun& run)
     QStringList due = run.Numbers;
     due.removeDuplicates();
     due.removeIf([&](const QString& number) {
-        return m_accounts.AccountOf(number).isEmpty() || !opening.IsDue(number, run.Before);
+        return m_accounts.AccountOf(number).isEmpty() || !opening.IsDue(number, run.Before, run.FirstBalances);
     });
     return due;
 }
