@@ -94,7 +94,7 @@ std::optional<double> modAmount::TryReadGerman(QStringView text)
     kept.remove(u'.').replace(u',', u'.');
     bool isNumber = false;
     const double value = kept.toDouble(&isNumber);
-    if (!isNumber || value * 100.0 > mostCents) {
+    if (!isNumber || std::abs(value) * 100.0 > mostCents) {
         return std::nullopt; // the nearest amount that can be told would be another one
     }
     return isNegative ? -value : value;
