@@ -46,7 +46,7 @@ enum eField : char {
 
 struct cOrder
 {
-    qsizetype Before; // fields of the group in front of the rows
+    qsizetype Before = 0; // fields of the group in front of the rows
     QByteArrayView Fields;
 };
 
