@@ -446,10 +446,6 @@ Which account do its transactions belong to?</translation>
         <translation>own account: from {0}</translation>
     </message>
     <message>
-        <source>Die Datei kann nicht geöffnet werden: {0}</source>
-        <translation>The file cannot be opened: {0}</translation>
-    </message>
-    <message>
         <source>Die Datei ist zu groß für einen Kontoauszug: {0}</source>
         <translation>The file is too large for a statement: {0}</translation>
     </message>
@@ -901,10 +897,6 @@ Entries booked from them will remain.</translation>
     <message>
         <source>Kontostände heute</source>
         <translation>Balances today</translation>
-    </message>
-    <message>
-        <source>Kontostände im Zeitraum</source>
-        <translation>Balances in the period</translation>
     </message>
     <message>
         <source>kein Konto</source>
@@ -3309,10 +3301,6 @@ You can create the account or move the entries to another one.</translation>
     <message>
         <source>keine</source>
         <translation>none</translation>
-    </message>
-    <message>
-        <source>&amp;Letzte Sicherungen:</source>
-        <translation>&amp;Latest backups:</translation>
     </message>
     <message>
         <source>&amp;Ordner:</source>
@@ -6068,10 +6056,6 @@ Do you want to load a backup? The damaged file is kept under another name.</tran
         <translation>What should be shown here is not known. If the file is damaged, load a backup with &quot;File&quot;, &quot;Load backup&quot;.</translation>
     </message>
     <message>
-        <source>Kontorelle sichert die Datenbank beim ersten Start an einem Tag, vor jedem Import und beim Beenden, wenn sich etwas geändert hat. Neben den letzten Tagen bleibt die letzte Sicherung jedes Monats erhalten.</source>
-        <translation>Kontorelle backs up the database at the first start of a day, before each import and when it is closed, if something has changed. Besides those of the last days, the last backup of each month is kept.</translation>
-    </message>
-    <message>
         <source>Der Datenträger ist voll.</source>
         <translation>The disk is full.</translation>
     </message>
@@ -6288,10 +6272,6 @@ They are not executed. If you have not made them yourself, please check where th
         <translation>Product registration with the German Banking Industry Committee; the book remembers it</translation>
     </message>
     <message>
-        <source>Protokoll; ohne Angabe 3.0</source>
-        <translation>Protocol; 3.0 when not given</translation>
-    </message>
-    <message>
         <source>hierhin kommt das Bild einer photoTAN</source>
         <translation>where the picture of a photoTAN is written</translation>
     </message>
@@ -6430,10 +6410,6 @@ They are not executed. If you have not made them yourself, please check where th
     <message>
         <source>Die Bank ist nicht erreichbar. Prüfen Sie die Verbindung zum Internet und die Adresse der Bank.</source>
         <translation>The bank cannot be reached. Check the connection to the internet and the address of the bank.</translation>
-    </message>
-    <message>
-        <source>Die Bank antwortet nicht. Versuchen Sie es später noch einmal.</source>
-        <translation>The bank does not answer. Try again later.</translation>
     </message>
     <message>
         <source>Die Gegenstelle konnte sich nicht als Ihre Bank ausweisen. Es wurde nichts gesendet. Prüfen Sie die Adresse der Bank und ob Sie in einem fremden Netz sind.</source>
@@ -10846,10 +10822,6 @@ What shall be done?</translation>
         <translation>Click “Check now” once you have approved.</translation>
     </message>
     <message>
-        <source>Es ist noch kein Bankkonto eingerichtet. Richten Sie unter „Bankzugänge…“ eines ein.</source>
-        <translation>No bank account has been set up yet. Set one up under “Bank logins…”.</translation>
-    </message>
-    <message>
         <source>Mit „Neuer Zugang…“ richten Sie den Abruf der Umsätze bei Ihrer Bank ein.</source>
         <translation>“New login…” sets up the fetching of transactions from your bank.</translation>
     </message>
@@ -11014,6 +10986,142 @@ Is it to be read all the same?</translation>
     <message>
         <source>&apos;{0}&apos; kann eine weitere Person sein oder der neue Name von &apos;{1}&apos;. Bitte wählen Sie „Hinzufügen“ oder „Umbenennen“.</source>
         <translation>&apos;{0}&apos; may be one more person or the new name of &apos;{1}&apos;. Please choose “Add” or “Rename”.</translation>
+    </message>
+    <message>
+        <source>Protokoll aller Zugänge dieser Bank; ohne Angabe das bisherige, zuerst 3.0</source>
+        <translation>Protocol of all logins at this bank; if not given the one used so far, at first 3.0</translation>
+    </message>
+    <message>
+        <source>Es ist noch kein Bankkonto eingerichtet. Der Befehl banks add richtet eines ein.</source>
+        <translation>No bank account has been set up yet. The command banks add sets one up.</translation>
+    </message>
+    <message>
+        <source>Die Datensicherung &apos;{0}&apos; wurde nicht gefunden. Bitte prüfen Sie den Pfad.</source>
+        <translation>The backup &apos;{0}&apos; was not found. Please check the path.</translation>
+    </message>
+    <message>
+        <source>Versuchen Sie es später noch einmal.</source>
+        <translation>Try again later.</translation>
+    </message>
+    <message>
+        <source>Kategorie aus der Datei</source>
+        <translation>Category from the file</translation>
+    </message>
+    <message>
+        <source>das Konto hat schon ein Startguthaben</source>
+        <translation>the account has an opening balance already</translation>
+    </message>
+    <message>
+        <source>in der Datei eine Umbuchung mit {0}</source>
+        <translation>a transfer with {0} in the file</translation>
+    </message>
+    <message>
+        <source>in der Datei unter {0}</source>
+        <translation>under {0} in the file</translation>
+    </message>
+    <message>
+        <source>Die Teile der Buchung ergeben nicht ihren Betrag; sie bleibt ein Umsatz.</source>
+        <translation>The parts of the transaction do not add up to its amount; it remains one transaction.</translation>
+    </message>
+    <message>
+        <source>es gibt sie nicht</source>
+        <translation>it does not exist</translation>
+    </message>
+    <message>
+        <source>es ist ein Ordner, wählen Sie die Dateien darin</source>
+        <translation>it is a folder, choose the files in it</translation>
+    </message>
+    <message>
+        <source>Sie haben nicht das Recht, sie zu lesen</source>
+        <translation>you have no permission to read it</translation>
+    </message>
+    <message>
+        <source>Die Datei kann nicht geöffnet werden ({1}): {0}</source>
+        <translation>The file cannot be opened ({1}): {0}</translation>
+    </message>
+    <message>
+        <source>1 Konto</source>
+        <translation>1 account</translation>
+    </message>
+    <message>
+        <source>{0} Konten</source>
+        <translation>{0} accounts</translation>
+    </message>
+    <message>
+        <source>In der Zeile fehlen Tag, Buchungsart, Konto, Zielkonto oder Betrag.</source>
+        <translation>The line lacks day, kind, account, target account or amount.</translation>
+    </message>
+    <message>
+        <source>Keines der Konten kann abgerufen werden. Laden Sie bei Ihrer Bank Kontoauszüge herunter und importieren Sie diese.
+{0}</source>
+        <translation>None of the accounts can be fetched. Download statements from your bank and import them.
+{0}</translation>
+    </message>
+    <message>
+        <source>Es ist noch kein Bankkonto eingerichtet. Mit „Bankzugang einrichten…“ richten Sie eines ein.</source>
+        <translation>No bank account has been set up yet. Use “Set up a bank login…” to set one up.</translation>
+    </message>
+    <message>
+        <source>Der Bankzugang ist noch nicht gespeichert.
+Möchten Sie Ihre Eingaben verwerfen?</source>
+        <translation>The bank login has not been saved yet.
+Do you want to discard what you entered?</translation>
+    </message>
+    <message>
+        <source>zählt nur bis zum {0}, es sind zu viele Vorkommen; &quot;Ab hier&quot; an einem Tag davor setzt sie fort</source>
+        <translation>counts only up to {0}, there are too many occurrences; &quot;From here on&quot; on a day before goes on with it</translation>
+    </message>
+    <message>
+        <source>Die Belege sind nicht dabei (Zahl der Dateien: {0}). Unter &quot;Automatische Datensicherung…&quot; im Menü Extras lässt sich einschalten, dass sie mitgesichert werden.</source>
+        <translation>The receipts are not included (number of files: {0}). Under &quot;Automatic backup…&quot; in the Tools menu you can have them included.</translation>
+    </message>
+    <message>
+        <source>{0} (geplant am {1})</source>
+        <translation>{0} (planned for {1})</translation>
+    </message>
+    <message>
+        <source>Zum Konto &apos;{0}&apos; gehören mehrere Kontonummern, deren Stände die Bank einzeln nennt; im Buch sind es zusammen {2}.</source>
+        <translation>Account &apos;{0}&apos; has several account numbers, and the bank names the balance of each by itself; in the book they come to {2} together.</translation>
+    </message>
+    <message>
+        <source>{0}, verschoben</source>
+        <translation>{0}, moved</translation>
+    </message>
+    <message>
+        <source>Veränderung</source>
+        <translation>Change</translation>
+    </message>
+    <message>
+        <source>Veränderung im Zeitraum</source>
+        <translation>Change in the period</translation>
+    </message>
+    <message>
+        <source>Aus der Datei angelegt: {0}</source>
+        <translation>Added from the file: {0}</translation>
+    </message>
+    <message>
+        <source>Noch nicht im Buch sind aus der Datei: {0}
+
+{1}
+
+Sollen sie angelegt werden?</source>
+        <translation>Named by the file and not yet in the book: {0}
+
+{1}
+
+Add them?</translation>
+    </message>
+    <message>
+        <source>Kategorien und Konten der Datei</source>
+        <translation>Categories and accounts of the file</translation>
+    </message>
+    <message>
+        <source>Kontorelle sichert die Datenbank beim ersten Start an einem Tag, vor jedem Import, alle vier Stunden und beim Beenden, wenn sich etwas geändert hat. Neben den letzten Tagen bleibt die letzte Sicherung jedes Monats erhalten.</source>
+        <translation>Kontorelle backs up the database at the first start of a day, before each import, every four hours and when it is closed, if something has changed. Besides the last days the last backup of each month is kept.</translation>
+    </message>
+    <message>
+        <source>&amp;Letzte Tage:</source>
+        <translation>&amp;Last days:</translation>
     </message>
 </context>
 </TS>
