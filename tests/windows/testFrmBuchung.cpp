@@ -371,7 +371,9 @@ void testFrmBuchung::NewCategoryOfAPartIsOffered()
     QCOMPARE(table.item(0, cSplitTable::Category)->text(), u"haus"_s);
     QCOMPARE(table.Parts().first().Category, QString());
     table.ChooseCell(0, cSplitTable::Description);
-    Key(Qt::Key_Return, Qt::ControlModifier); // asks once more
+    QComboBox& kinds = scene.Box(u"cboBuchungsart"_s);
+    kinds.setCurrentIndex(kinds.findData(modWord::Ausgabe)); // without one nothing is asked
+    Key(Qt::Key_Return, Qt::ControlModifier);                // asks once more
     QCOMPARE(table.item(0, cSplitTable::Category)->text(), u"haus"_s);
     QCOMPARE(scene.Book.User.Asked.size(), 2);
 }
