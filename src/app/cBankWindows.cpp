@@ -3,7 +3,7 @@
 #include "app/machine/cQtBankUser.h"
 #include "base/cClock.h"
 #include "core/cBookTools.h"
-#include "model/cBankState.h"
+#include "model/bank/cBankState.h"
 #include "net/cQtHttps.h"
 #include "views/bank/cBankDirectory.h"
 #include "views/bank/cBankFetch.h"

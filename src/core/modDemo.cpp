@@ -3,7 +3,7 @@
 #include "base/modDate.h"
 #include "core/modDemoSeries.h"
 #include "core/modDemoShopping.h"
-#include "model/cBankBalance.h"
+#include "model/bank/cBankBalance.h"
 #include "model/modBalance.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "model/cBankAccount.h"
-#include "model/cBankFailure.h"
-#include "model/cBankState.h"
+#include "model/bank/cBankAccount.h"
+#include "model/bank/cBankFailure.h"
+#include "model/bank/cBankState.h"
 
 #include <QByteArray>
 #include <QDate>

@@ -2,8 +2,8 @@
 
 #include "fints/HBCIMessage.h"
 #include "fints/HBCISegment.h"
-#include "model/cBankAccount.h"
-#include "model/TanVerfahrenItem.h"
+#include "model/bank/cBankAccount.h"
+#include "model/bank/TanVerfahrenItem.h"
 
 #include <QByteArray>
 #include <QDate>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "fints/HBCISegment.h"
-#include "model/cBankAccount.h"
-#include "model/TanVerfahrenItem.h"
+#include "model/bank/cBankAccount.h"
+#include "model/bank/TanVerfahrenItem.h"
 
 #include <QByteArray>
 #include <QByteArrayView>

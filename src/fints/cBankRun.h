@@ -2,7 +2,7 @@
 
 #include "fints/HBCIBusiness.h"
 #include "fints/modBankFault.h"
-#include "model/cBankState.h"
+#include "model/bank/cBankState.h"
 
 #include <QString>
 #include <QStringList>

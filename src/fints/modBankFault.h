@@ -2,7 +2,7 @@
 
 #include "base/cHttps.h"
 #include "fints/cBankAnswer.h"
-#include "model/cBankFailure.h"
+#include "model/bank/cBankFailure.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "fints/cBankAnswer.h"
-#include "model/cBankState.h"
+#include "model/bank/cBankState.h"
 
 #include <QList>
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/cBankUser.h"
-#include "model/TanVerfahrenItem.h"
+#include "model/bank/TanVerfahrenItem.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/cBankBalance.h"
+#include "model/bank/cBankBalance.h"
 
 #include <QDate>
 #include <QList>

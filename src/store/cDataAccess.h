@@ -1,5 +1,6 @@
 #pragma once
 
+#include "model/bank/cOnlineAccount.h"
 #include "model/cAccountSum.h"
 #include "model/cCategorySum.h"
 #include "model/cEntryItem.h"
@@ -8,7 +9,6 @@
 #include "model/cEntryWindow.h"
 #include "model/cFaultyEntry.h"
 #include "model/cImportEntry.h"
-#include "model/cOnlineAccount.h"
 #include "model/cTemplateItem.h"
 #include "store/cJournal.h"
 

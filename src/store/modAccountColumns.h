@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/cOnlineAccount.h"
+#include "model/bank/cOnlineAccount.h"
 
 #include <array>
 

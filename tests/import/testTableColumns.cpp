@@ -1,4 +1,4 @@
-#include "import/table/modCell.h"
+#include "import/cell/modCell.h"
 #include "import/table/modColumnWords.h"
 #include "import/table/modTablePurpose.h"
 #include "import/table/modTableText.h"

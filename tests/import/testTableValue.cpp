@@ -1,4 +1,4 @@
-#include "import/table/modTableValue.h"
+#include "import/cell/modTableValue.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 

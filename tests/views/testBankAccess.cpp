@@ -1,4 +1,4 @@
-#include "model/cOnlineAccount.h"
+#include "model/bank/cOnlineAccount.h"
 #include "model/modSettingKey.h"
 #include "store/cUndoStep.h"
 #include "store/modAccountColumns.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "import/read/cStatementRead.h"
-#include "model/cBankBalance.h"
+#include "model/bank/cBankBalance.h"
 
 #include <QDate>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "import/read/cTableDoubt.h"
-#include "model/cBankBalance.h"
+#include "model/bank/cBankBalance.h"
 #include "model/cImportEntry.h"
 
 #include <QDate>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "import/stage/cRepeat.h"
-#include "model/cBankBalance.h"
+#include "model/bank/cBankBalance.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #include "import/table/cColumnFacts.h"
 
-#include "import/table/modTableNumber.h"
-#include "import/table/modTableValue.h"
+#include "import/cell/modTableNumber.h"
+#include "import/cell/modTableValue.h"
 
 #include <algorithm>
 

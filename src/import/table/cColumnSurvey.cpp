@@ -1,8 +1,8 @@
 #include "import/table/cColumnSurvey.h"
 
+#include "import/cell/modCell.h"
+#include "import/cell/modTableValue.h"
 #include "import/table/cTable.h"
-#include "import/table/modCell.h"
-#include "import/table/modTableValue.h"
 
 namespace {
 

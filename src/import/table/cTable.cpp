@@ -1,6 +1,6 @@
 #include "import/table/cTable.h"
 
-#include "import/table/modCell.h"
+#include "import/cell/modCell.h"
 
 #include <algorithm>
 

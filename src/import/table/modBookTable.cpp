@@ -2,10 +2,10 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "import/cell/modTableValue.h"
 #include "import/read/cTableLayout.h"
 #include "import/read/modBookRow.h"
 #include "import/table/cTable.h"
-#include "import/table/modTableValue.h"
 #include "model/modWord.h"
 
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "import/table/modColumnWords.h"
 
-#include "import/table/modCell.h"
+#include "import/cell/modCell.h"
 
 #include <QList>
 

@@ -1,10 +1,10 @@
 #include "import/table/modTableAbove.h"
 
 #include "base/modAmount.h"
+#include "import/cell/modCell.h"
+#include "import/cell/modTableValue.h"
 #include "import/read/modAccountNumber.h"
 #include "import/table/cTable.h"
-#include "import/table/modCell.h"
-#include "import/table/modTableValue.h"
 
 #include <QList>
 

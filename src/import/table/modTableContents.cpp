@@ -1,9 +1,9 @@
 #include "import/table/modTableContents.h"
 
+#include "import/cell/modTableValue.h"
 #include "import/table/cColumnSurvey.h"
 #include "import/table/modTableMoney.h"
 #include "import/table/modTableParties.h"
-#include "import/table/modTableValue.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "import/table/modTableDetails.h"
 
-#include "import/table/modTableValue.h"
+#include "import/cell/modTableValue.h"
 #include "model/cImportEntry.h"
 
 #include <algorithm>

@@ -1,8 +1,8 @@
 #include "import/table/modTableEnd.h"
 
+#include "import/cell/modTableValue.h"
 #include "import/read/cTableLayout.h"
 #include "import/table/cTable.h"
-#include "import/table/modTableValue.h"
 
 #include <QList>
 

@@ -1,9 +1,9 @@
 #include "import/table/modTableHeader.h"
 
+#include "import/cell/modTableValue.h"
 #include "import/table/modColumnWords.h"
 #include "import/table/modTableProfile.h"
 #include "import/table/modTableText.h"
-#include "import/table/modTableValue.h"
 
 #include <algorithm>
 #include <array>

@@ -1,8 +1,8 @@
 #include "import/table/modTableMend.h"
 
 #include "base/cText.h"
+#include "import/cell/modTableValue.h"
 #include "import/table/modTableAbove.h"
-#include "import/table/modTableValue.h"
 
 #include <QHash>
 

@@ -1,10 +1,10 @@
 #include "import/table/modTableProfile.h"
 
+#include "import/cell/modTableValue.h"
 #include "import/table/cKnownLayout.h"
 #include "import/table/cTable.h"
 #include "import/table/modColumnWords.h"
 #include "import/table/modTableAbove.h"
-#include "import/table/modTableValue.h"
 
 #include <QStringView>
 

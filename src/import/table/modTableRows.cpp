@@ -2,18 +2,18 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "import/cell/modCell.h"
+#include "import/cell/modTableValue.h"
 #include "import/read/modAccountNumber.h"
 #include "import/read/modBookRow.h"
 #include "import/read/modStatementFile.h"
 #include "import/table/cRowBalances.h"
 #include "import/table/cTable.h"
-#include "import/table/modCell.h"
 #include "import/table/modTableAbove.h"
 #include "import/table/modTableDetails.h"
 #include "import/table/modTableEnd.h"
 #include "import/table/modTablePurpose.h"
 #include "import/table/modTableStatus.h"
-#include "import/table/modTableValue.h"
 
 #include <QSet>
 

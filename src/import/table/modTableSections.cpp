@@ -1,12 +1,12 @@
 #include "import/table/modTableSections.h"
 
+#include "import/cell/modCell.h"
+#include "import/cell/modTableValue.h"
 #include "import/read/cReadOptions.h"
 #include "import/table/cTable.h"
 #include "import/table/cTableMemory.h"
-#include "import/table/modCell.h"
 #include "import/table/modColumnWords.h"
 #include "import/table/modTableProfile.h"
-#include "import/table/modTableValue.h"
 
 #include <algorithm>
 

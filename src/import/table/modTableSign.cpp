@@ -1,12 +1,12 @@
 #include "import/table/modTableSign.h"
 
 #include "base/modAmount.h"
+#include "import/cell/modCell.h"
+#include "import/cell/modMoneyWords.h"
+#include "import/cell/modTableValue.h"
 #include "import/table/cColumnSurvey.h"
 #include "import/table/cTable.h"
-#include "import/table/modCell.h"
-#include "import/table/modMoneyWords.h"
 #include "import/table/modTableRows.h"
-#include "import/table/modTableValue.h"
 
 #include <QSet>
 

@@ -5,7 +5,7 @@
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "import/stage/cAccountMap.h"
-#include "model/cOnlineAccount.h"
+#include "model/bank/cOnlineAccount.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "views/bank/modBankRecord.h"

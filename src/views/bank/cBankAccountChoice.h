@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/cBankState.h"
+#include "model/bank/cBankState.h"
 
 #include <QList>
 #include <QString>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/modFold.h"
-#include "model/cBankInfo.h"
+#include "model/bank/cBankInfo.h"
 
 #include <QHash>
 #include <QString>

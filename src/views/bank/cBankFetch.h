@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/cBankFailure.h"
+#include "model/bank/cBankFailure.h"
 #include "views/bank/cBankAccess.h"
 
 #include <QDate>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/cSecret.h"
-#include "model/cBankFailure.h"
-#include "model/cBankState.h"
+#include "model/bank/cBankFailure.h"
+#include "model/bank/cBankState.h"
 #include "views/bank/cBankAccess.h"
 #include "views/bank/cBankAccountChoice.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/cBankState.h"
-#include "model/cOnlineAccount.h"
+#include "model/bank/cBankState.h"
+#include "model/bank/cOnlineAccount.h"
 
 #include <QDate>
 #include <QString>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "model/cBankAccount.h"
-#include "model/cBankState.h"
-#include "model/TanVerfahrenItem.h"
+#include "model/bank/cBankAccount.h"
+#include "model/bank/cBankState.h"
+#include "model/bank/TanVerfahrenItem.h"
 
 #include <QString>
 #include <QStringList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/cBankInfo.h"
+#include "model/bank/cBankInfo.h"
 #include "windows/bank/cBankPage.h"
 
 class cBankSetup;

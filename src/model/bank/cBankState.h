@@ -1,7 +1,7 @@
 #pragma once
 
-#include "model/cBankAccount.h"
-#include "model/TanVerfahrenItem.h"
+#include "model/bank/cBankAccount.h"
+#include "model/bank/TanVerfahrenItem.h"
 
 #include <QByteArray>
 #include <QList>

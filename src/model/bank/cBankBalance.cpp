@@ -1,4 +1,4 @@
-#include "model/cBankBalance.h"
+#include "model/bank/cBankBalance.h"
 
 #include "base/modDate.h"
 

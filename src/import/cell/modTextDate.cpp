@@ -1,4 +1,4 @@
-#include "import/table/modTextDate.h"
+#include "import/cell/modTextDate.h"
 
 #include <QList>
 

@@ -1,4 +1,4 @@
-#include "import/table/modTableNumber.h"
+#include "import/cell/modTableNumber.h"
 
 #include <QList>
 

@@ -1,9 +1,9 @@
-#include "import/table/modTableValue.h"
+#include "import/cell/modTableValue.h"
 
 #include "base/modAmount.h"
+#include "import/cell/modTableNumber.h"
+#include "import/cell/modTextDate.h"
 #include "import/read/modAccountNumber.h"
-#include "import/table/modTableNumber.h"
-#include "import/table/modTextDate.h"
 
 #include <QList>
 

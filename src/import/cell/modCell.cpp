@@ -1,4 +1,4 @@
-#include "import/table/modCell.h"
+#include "import/cell/modCell.h"
 
 #include "import/read/modWildcard.h"
 

@@ -1,6 +1,6 @@
-#include "import/table/modMoneyWords.h"
+#include "import/cell/modMoneyWords.h"
 
-#include "import/table/modTableValue.h"
+#include "import/cell/modTableValue.h"
 
 #include <QList>
 #include <QString>
