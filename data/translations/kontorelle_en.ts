@@ -11068,8 +11068,8 @@ Möchten Sie Ihre Eingaben verwerfen?</source>
 Do you want to discard what you entered?</translation>
     </message>
     <message>
-        <source>zählt nur bis zum {0}, es sind zu viele Vorkommen; &quot;Ab hier&quot; an einem Tag davor setzt sie fort</source>
-        <translation>counts only up to {0}, there are too many occurrences; &quot;From here on&quot; on a day before goes on with it</translation>
+        <source>zählt nur bis zum {0}, es sind zu viele Vorkommen; &quot;Ab hier&quot; an diesem Tag setzt sie fort</source>
+        <translation>counts only up to {0}, there are too many occurrences; &quot;From here on&quot; on this day goes on with it</translation>
     </message>
     <message>
         <source>Die Belege sind nicht dabei (Zahl der Dateien: {0}). Unter &quot;Automatische Datensicherung…&quot; im Menü Extras lässt sich einschalten, dass sie mitgesichert werden.</source>
@@ -11122,6 +11122,10 @@ Add them?</translation>
     <message>
         <source>&amp;Letzte Tage:</source>
         <translation>&amp;Last days:</translation>
+    </message>
+    <message>
+        <source>Kontostände bis {0}</source>
+        <translation>Balances up to {0}</translation>
     </message>
 </context>
 </TS>

@@ -110,14 +110,15 @@ QString modSeries::MissedComment()
     return cText::Tr("{0} nicht gebucht", {BankComment()});
 }
 
+// The stored ones are in the language in which the program ran then.
+bool modSeries::IsBooked(const QString& comment)
+{
+    return comment == BankComment() || comment == u"Laut Kontoauszug";
+}
+
 bool modSeries::IsFromBank(const QString& comment)
 {
-    // The stored one is in the language in which the program ran then.
-    const QStringList written{BankComment(),
-                              LateComment(),
-                              MissedComment(),
-                              u"Laut Kontoauszug"_s,
-                              u"Laut Kontoauszug noch nicht gebucht"_s,
-                              u"Laut Kontoauszug nicht gebucht"_s};
-    return written.contains(comment);
+    const QStringList others{LateComment(), MissedComment(), u"Laut Kontoauszug noch nicht gebucht"_s,
+                             u"Laut Kontoauszug nicht gebucht"_s};
+    return IsBooked(comment) || others.contains(comment);
 }

@@ -42,5 +42,6 @@ namespace modSeries {
 [[nodiscard]] QString LateComment();   // the bank has not booked the occurrence yet
 [[nodiscard]] QString MissedComment(); // and never will
 [[nodiscard]] bool IsFromBank(const QString& comment);
+[[nodiscard]] bool IsBooked(const QString& comment); // the bank has booked the occurrence
 
 } // namespace modSeries

@@ -28,7 +28,7 @@ private Q_SLOTS:
         row("early end of a series", u"EntryDateEnd = '2026-03-09'"_s, u"endet am 09.03.2026, vor dem ersten Tag"_s, 0);
         const QString daily = u"EntryInterval = 'Täglich', EntryDate = '%1'"_s;
         row("more days than are made", daily.arg(u"1998-10-27"_s),
-            u"zählt nur bis zum 14.03.2026, es sind zu viele Vorkommen; \"Ab hier\" an einem Tag davor setzt sie fort"_s,
+            u"zählt nur bis zum 14.03.2026, es sind zu viele Vorkommen; \"Ab hier\" an diesem Tag setzt sie fort"_s,
             14);
         row("as many as are made up to today", daily.arg(u"1998-10-28"_s), {}, 15);
         row("early end of an old series, which has none", u"EntryDateEnd = '1899-12-30'"_s, {}, 1);

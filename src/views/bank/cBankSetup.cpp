@@ -168,6 +168,9 @@ bool cBankSetup::Connect()
         return false;
     }
     m_pin = *std::move(pin);
+    if (m_isNew) {
+        m_state.Accounts.clear(); // of a try that failed: the login has none yet
+    }
     m_business =
         std::make_unique<HBCIBusiness>(HBCIBusiness::cParts{m_parts.Https, *m_customer, m_parts.Tools.Clock, *m_log,
                                                             m_productId, modBankText::ProductVersion(m_parts.Version)},

@@ -32,9 +32,8 @@ QString TextOf(eEntryFault fault, const cFaultyEntry& entry)
         return cText::Tr("endet am {0}, vor dem ersten Tag",
                          {modDate::ToText(modRecurrence::EffectiveEnd(entry.Entry.EntryDateEnd))});
     case eEntryFault::Length:
-        return cText::Tr(
-            "zählt nur bis zum {0}, es sind zu viele Vorkommen; \"Ab hier\" an einem Tag davor setzt sie fort",
-            {modDate::ToText(modRecurrence::CutOffAt(entry.Entry))});
+        return cText::Tr("zählt nur bis zum {0}, es sind zu viele Vorkommen; \"Ab hier\" an diesem Tag setzt sie fort",
+                         {modDate::ToText(modRecurrence::CutOffAt(entry.Entry))});
     case eEntryFault::Amount:
         return entry.AmountText.isEmpty() ? cText::Tr("kein Betrag")
                                           : cText::Tr("Betrag '{0}' nicht lesbar", {entry.AmountText});

@@ -269,7 +269,10 @@ cEntryEditor::eSaved cEntryEditor::Store(const cFields& fields)
     cUndoStep step(m_tools.Data, StepName(rows.first().Entry));
     // Files are copied last: a question that is declined leaves none behind.
     const bool isWritten = writer.Write(rows, removed, m_from) && guard.Allows()
-        && m_suggestions.GiveKind(rows.first().Entry.EntryCategory, fields.Type)
+        && std::all_of(rows.begin(), rows.end(),
+                       [&](const cEntryWrite& row) {
+                           return m_suggestions.GiveKind(row.Entry.EntryCategory, row.Entry.EntryType);
+                       })
         && (!m_onStored || m_onStored(rows.first().Entry.ID))
         && (fields.NewReceipts.isEmpty() || cReceipts(m_tools).Add(rows.first().Entry.ID, fields.NewReceipts));
     if (!step.DoneIf(isWritten)) {

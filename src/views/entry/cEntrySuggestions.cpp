@@ -248,16 +248,15 @@ QString cEntrySuggestions::OfferNew(const QString& typed, const QString& type)
         return {};
     }
     ForgetCategories();
-    m_made = name;
+    m_made.append(name);
     return name;
 }
 
 bool cEntrySuggestions::GiveKind(const QString& path, const QString& type)
 {
-    if (path != m_made || path.isEmpty()) {
+    if (!m_made.contains(path)) {
         return true;
     }
-    m_made.clear();
     ForgetCategories();
     std::optional<cTemplateItem> made = m_data.FindTemplate(modTemplate::MainOf(path), modTemplate::SubOf(path));
     if (!made || made->EntryType == type) {
@@ -269,6 +268,7 @@ bool cEntrySuggestions::GiveKind(const QString& path, const QString& type)
 
 void cEntrySuggestions::Note(const cEntryItem& entry)
 {
+    m_made.clear();
     if (m_hasUses && !entry.EntryDescription.isEmpty()) {
         m_uses.removeIf([&](const cUse& use) { return use.Description == entry.EntryDescription; });
         m_uses.prepend({entry.EntryDescription, entry.EntryCategory, entry.EntryAccount});

@@ -49,8 +49,8 @@ public:
     // own: of the kind `type`, or of that of its neighbours for an empty one. Its path, also when it was there already
     // but hidden; empty when the user declines or nothing is left of the name.
     [[nodiscard]] QString OfferNew(const QString& typed, const QString& type);
-    // Gives the category that was made last the kind of the first entry that is saved with it: it had that of its
-    // neighbours. False when that could not be stored.
+    // Gives a category that was made for the entry that is saved the kind of this entry: it had that of its neighbours.
+    // False when that could not be stored.
     [[nodiscard]] bool GiveKind(const QString& path, const QString& type);
     // Paths used by the last entries, newest first.
     [[nodiscard]] QStringList RecentCategories();
@@ -85,7 +85,7 @@ private:
     QList<cUse> m_uses;
     QList<cKnown> m_categories; // in the order that the user gave them
     QStringList m_recent;
-    QString m_made; // path of the category that was made last, until an entry is saved with it
+    QStringList m_made; // paths of the categories that were made since an entry was saved
     bool m_hasUses = false;
     bool m_hasCategories = false;
 };

@@ -84,7 +84,7 @@ void cEntryWriter::FollowAmount(cEntryWrite& row) const
     for (cEntryItemFixMod& fixMod : row.Corrections) {
         const cEntryItemFixMod* known = Find(before, fixMod.EntryStartDate);
         if (known != nullptr && known->EntryDay.isValid() && known->EntryValue == stored->EntryValue
-            && fixMod.EntryValue == known->EntryValue && fixMod.EntryComment != modSeries::BankComment()) {
+            && fixMod.EntryValue == known->EntryValue && !modSeries::IsBooked(fixMod.EntryComment)) {
             moved.append(&fixMod);
         }
     }

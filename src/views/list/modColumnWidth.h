@@ -17,9 +17,8 @@ struct cColumn
 };
 
 // The width of each column. What `room` has left goes to columns up to their most, then to the column `rest`
-// (-1: to none). Where it has too little,
-// columns give way by their share of what they have above enough, then of what they have above their least; below that
-// the list has to scroll.
+// (-1: to none). Where it has too little, columns give way by their share of what they have above enough, then of what
+// they have above their least; below that the list has to scroll.
 [[nodiscard]] QList<int> Share(const QList<cColumn>& columns, int rest, int room);
 
 } // namespace modColumnWidth

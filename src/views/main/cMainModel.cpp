@@ -3,7 +3,6 @@
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "base/modCount.h"
-#include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "core/cConfiguration.h"
@@ -578,9 +577,7 @@ QString cMainModel::WindowTitle() const
 
 QString cMainModel::BalancesTitle() const
 {
-    return m_view.BalancesToToday                   ? cText::Tr("Kontostände heute")
-        : m_view.ShowsChange(m_tools.Clock.Today()) ? cText::Tr("Veränderung im Zeitraum")
-                                                    : cText::Tr("Kontostände bis heute");
+    return modViewText::Balances(m_view, m_tools.Clock.Today());
 }
 
 bool cMainModel::IsReadOnly() const

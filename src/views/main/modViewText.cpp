@@ -61,6 +61,15 @@ QString modViewText::Title(const cViewState& view)
     return account.isEmpty() ? cText::Tr("Einträge") : cText::Tr("Einträge: {0}", {account});
 }
 
+QString modViewText::Balances(const cViewState& view, QDate today)
+{
+    const QDate end = view.BalanceQuery(today).End;
+    return view.BalancesToToday          ? cText::Tr("Kontostände heute")
+        : view.ShowsChange(today)        ? cText::Tr("Veränderung im Zeitraum")
+        : !end.isValid() || end == today ? cText::Tr("Kontostände bis heute")
+                                         : cText::Tr("Kontostände bis {0}", {modDate::ToText(end)});
+}
+
 QStringList modViewText::Lines(const cViewState& view, const modPeriod::cRange& range)
 {
     const QString account = view.FilterAccount();

@@ -16,6 +16,9 @@ namespace modViewText {
 // How a choice of payers is called; see modPeople.
 [[nodiscard]] QString PayerText(const QString& choice);
 
+// What the figures beside the accounts are.
+[[nodiscard]] QString Balances(const cViewState& view, QDate today);
+
 // Period with its days and account, then one line each for whatever narrows or orders the list.
 [[nodiscard]] QStringList Lines(const cViewState& view, const modPeriod::cRange& range);
 

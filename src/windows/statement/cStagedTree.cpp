@@ -204,8 +204,8 @@ void cStagedTree::RestoreSelection()
     }
     const QModelIndex current = IndexOf(m_kept.Current);
     const QModelIndex next = wasOne && selection.isEmpty() ? IndexOf(m_kept.Next) : QModelIndex();
-    const bool wasAny = !m_kept.Ids.isEmpty() || !m_kept.Heads.isEmpty();
-    m_isLost = selection.isEmpty() && !next.isValid() && (m_isLost || wasAny);
+    // Of several that were booked none hands it on: a second Enter must not book what nobody chose.
+    m_isLost = selection.isEmpty() && !next.isValid() && (m_isLost || wasOne || m_model.OpenIds().isEmpty());
     if (next.isValid()) {
         // A single line that was booked or deleted hands the selection on, so that Enter works down the list.
         selectionModel()->setCurrentIndex(next.siblingAtColumn(m_kept.Column),

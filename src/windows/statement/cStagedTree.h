@@ -96,7 +96,7 @@ private:
     QString m_emptyHint;
     QSet<QString> m_closed; // groups that the user has closed
     cKept m_kept;
-    bool m_isLost = false;     // all that was selected went, as by taking an import back: Enter needs another row
+    bool m_isLost = false;     // what was selected went, as by taking an import back: Enter needs another row
     QPointer<QWidget> m_field; // that OpenCategory has opened
     int m_fieldId = 0;         // its row, which may leave the list with the category that it takes
 };
