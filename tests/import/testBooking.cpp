@@ -420,7 +420,7 @@ private Q_SLOTS:
             {u"Strom Rechnung 4711 vom 03.01."_s, u"Strom Rechnung 99 vom 04.02."_s, u"Strom Rechnung 815"_s}, false,
             1);
         row("other words", {u"Miete Anna"_s, u"Mietzahlung"_s, flat}, false, 2); // the first may be the only one
-        row("named later", {flat, flat, flat}, true, 1);
+        row("named later", {u"Miete Januar 2026"_s, u"Miete Februar 2026"_s, u"Miete März 2026"_s}, true, 1);
         row("somebody else", {flat, flat, u"Miete"_s}, true, 2);
     }
 

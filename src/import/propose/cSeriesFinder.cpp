@@ -1,5 +1,6 @@
 #include "import/propose/cSeriesFinder.h"
 
+#include "import/cell/modTextDate.h"
 #include "import/propose/modOccurrence.h"
 #include "import/read/cCounterpartyKeys.h"
 #include "import/read/modCounterparty.h"
@@ -16,6 +17,8 @@
 #include <algorithm>
 #include <cstdlib>
 #include <utility>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -59,13 +62,18 @@ QString DaysKey(const cImportEntry& row, const QString& counterparty)
     return counterparty.isEmpty() ? modCounterparty::PurposeKey(row) : counterparty;
 }
 
-// All of the purpose but numbers and dates.
+bool IsMonth(const QString& word)
+{
+    return modTextDate::Read(QString(u"1 "_s + word + u" 2000"_s)).isValid();
+}
+
+// All of the purpose but numbers, dates and months.
 QString WordsOf(const cImportEntry& row)
 {
     QStringList words;
     const QList<modTextWords::cWord> all = modTextWords::Of(row.ImportPurpose);
     for (const modTextWords::cWord& word : all) {
-        if (!modTextWords::HasDigits(word.Folded, 1)) {
+        if (!modTextWords::HasDigits(word.Folded, 1) && !IsMonth(word.Folded)) {
             words.append(word.Folded);
         }
     }
