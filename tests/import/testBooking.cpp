@@ -420,7 +420,8 @@ private Q_SLOTS:
             {u"Strom Rechnung 4711 vom 03.01."_s, u"Strom Rechnung 99 vom 04.02."_s, u"Strom Rechnung 815"_s}, false,
             1);
         row("other words", {u"Miete Anna"_s, u"Mietzahlung"_s, flat}, false, 2); // the first may be the only one
-        row("named later", {flat, flat, flat}, true, 1);
+        row("named later", {u"Miete Januar 2026"_s, u"Miete Februar 2026"_s, u"Miete März 2026"_s}, true, 1);
+        row("somebody else", {flat, flat, u"Miete"_s}, true, 2);
     }
 
     // Two series of one payment would both go on for ever.
@@ -494,6 +495,14 @@ private Q_SLOTS:
             (void)bank.Stage(day.addDays(days), 650, u"Miete Tann"_s, u"DE05"_s);
         }
         QTEST(bank.Propose(row).Entry.EntryInterval, "interval");
+    }
+
+    void LastRentBeforeARiseIsASeries()
+    {
+        cBank bank;
+        const int row = bank.Stage(day, -800, u"Miete Tann"_s, u"DE05"_s);
+        (void)bank.Stage(day.addDays(31), -984, u"Miete Tann"_s, u"DE05"_s); // a fifth of it less is more than the 800
+        QCOMPARE(bank.Propose(row).Entry.EntryInterval, u"Monatlich"_s);
     }
 
     // Statements come in pieces, and behind the first one the series was ended.

@@ -479,12 +479,12 @@ private Q_SLOTS:
         QCOMPARE(read.Skipped.value(0).Reason.Line, 3);
     }
 
-    void TakesCategoryOfAnotherProgram()
+    // It would go before what the user has taught.
+    void GuessOfABankIsNoCategory()
     {
         const cStatementRead read =
             ReadText(u"Datum;Kategorie;Verwendungszweck;Betrag\n03.02.2026;Auto: Benzin;a;-5,00\n"_s);
-        QCOMPARE(read.Entries.value(0).ImportType, u"Kategorie: Auto; Benzin"_s);
-        QVERIFY(!read.IsBook);
+        QCOMPARE(read.Entries.value(0).ImportType, QString());
     }
 
     void RefusesWhatIsNoTable()

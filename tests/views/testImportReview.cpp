@@ -359,6 +359,20 @@ private Q_SLOTS:
         }
     }
 
+    // It would make the series begin earlier, but for the category.
+    void OtherCategoryKeepsTheInterval()
+    {
+        cPage page;
+        page.ImportFixture();
+        for (const int month : {5, 4}) {
+            const int id = page.Stage(u"1234567"_s, QDate(2026, month, 2), -65000, u"Miete Tann"_s).ID;
+            page.Review.Refresh();
+            QVERIFY(page.Review.Choose({id}, month == 4 ? u"Freizeit; Geschenke"_s : u"Wohnung; Miete"_s, {}));
+            page.Review.Book({id}, page.Progress);
+        }
+        QCOMPARE(page.Data.GetSeries().size(), 2);
+    }
+
     void AcceptsWhatIsCertain()
     {
         cPage page;

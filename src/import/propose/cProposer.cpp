@@ -358,7 +358,7 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
         TakeTransfer(proposal, *transfer, row);
     }
     // What the user has said explicitly goes before all that the program has learned or knows by itself. That keeps its
-    // order among itself: learned, then keywords, then the list, then the default.
+    // order among itself: what another book says, then learned, then keywords, then the list, then the default.
     if (own != nullptr) {
         TakeOwnRule(proposal, *own);
     }

@@ -1,8 +1,10 @@
 #include "import/propose/cSeriesFinder.h"
 
+#include "import/cell/modTextDate.h"
 #include "import/propose/modOccurrence.h"
 #include "import/read/cCounterpartyKeys.h"
 #include "import/read/modCounterparty.h"
+#include "import/read/modTextWords.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
@@ -10,9 +12,13 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <cstdlib>
 #include <utility>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -56,6 +62,24 @@ QString DaysKey(const cImportEntry& row, const QString& counterparty)
     return counterparty.isEmpty() ? modCounterparty::PurposeKey(row) : counterparty;
 }
 
+bool IsMonth(const QString& word)
+{
+    return modTextDate::Read(QString(u"1 "_s + word + u" 2000"_s)).isValid();
+}
+
+// All of the purpose but numbers, dates and months.
+QString WordsOf(const cImportEntry& row)
+{
+    QStringList words;
+    const QList<modTextWords::cWord> all = modTextWords::Of(row.ImportPurpose);
+    for (const modTextWords::cWord& word : all) {
+        if (!modTextWords::HasDigits(word.Folded, 1) && !IsMonth(word.Folded)) {
+            words.append(word.Folded);
+        }
+    }
+    return words.join(u' ');
+}
+
 } // namespace
 
 cSeriesFinder::cSeriesFinder(cDataAccess& data, cImportHiveCache& hive) : m_data(data), m_hive(hive)
@@ -72,10 +96,19 @@ void cSeriesFinder::Build()
     const cImportEntryList rows = m_hive.GetImportHive(eKeepCache::Yes).getImportEntryList();
     for (const cImportEntry& row : rows) {
         if (row.ImportAssigned && m_series.contains(row.ImportAssignedEntry)) {
-            m_entries[modCounterparty::Key(row)].insert(row.ImportAssignedEntry);
+            Note(row, row.ImportAssignedEntry);
         }
     }
     m_isBuilt = true;
+}
+
+void cSeriesFinder::Note(const cImportEntry& row, int series)
+{
+    const QString key = modCounterparty::Key(row);
+    m_entries[key].insert(series);
+    if (const QString words = key.isEmpty() ? WordsOf(row) : QString(); !words.isEmpty()) {
+        m_unnamed[words].insert(series);
+    }
 }
 
 void cSeriesFinder::BuildDays()
@@ -97,7 +130,7 @@ void cSeriesFinder::BuildDays()
 void cSeriesFinder::Learn(const cImportEntry& row, const cEntryItem& series)
 {
     if (m_isBuilt) {
-        m_entries[modCounterparty::Key(row)].insert(series.ID);
+        Note(row, series.ID);
         m_series.insert(series.ID, series);
     }
 }
@@ -124,14 +157,15 @@ std::optional<cSeriesMatch> cSeriesFinder::Find(const cImportEntry& row, const c
     return match ? match : Precede(alike, row);
 }
 
-// A row that names nobody may pay any of them, and any row those that such rows have paid: their words change. Whoever
-// pays for two flats has two series: the one of the nearer amount first.
+// A row that names nobody may pay any of them, because its words change; one that does, those that rows without a name
+// have paid in the same words: who comes with others may be somebody new. Whoever pays for two flats has two series:
+// the one of the nearer amount first.
 cEntryItemList cSeriesFinder::Alike(const cImportEntry& row, const cEntryItem& entry)
 {
     const QString key = modCounterparty::Key(row);
     QList<int> ids = m_entries.value(key).values();
     if (modRecurrence::IsRecurring(entry.EntryInterval)) {
-        ids = key.isEmpty() ? m_series.keys() : (m_entries.value(key) + m_entries.value(QString())).values();
+        ids = key.isEmpty() ? m_series.keys() : (m_entries.value(key) + m_unnamed.value(WordsOf(row))).values();
     }
     std::sort(ids.begin(), ids.end());
     cEntryItemList alike;
@@ -262,17 +296,18 @@ bool cSeriesFinder::IsContradicted(const cImportEntry& row, const QString& inter
             hasOthers = hasOthers || distance <= step + reach;
             hasNeighbour = hasNeighbour
                 || (off <= nearDays && MayBe(row.ImportValue, payment->Cents)
-                    && !HasAbout(payments, payment->Cents, row.ImportDate, reach));
+                    && !HasAbout(payments, payment->Cents, row, reach));
         }
     }
     return beside > mostBeside
         || (!hasNeighbour && (hasOthers || m_lastDays.value(row.ImportAccount) > next.addDays(reach)));
 }
 
-bool cSeriesFinder::HasAbout(const cPayments& payments, qint64 cents, QDate day, int reach)
+bool cSeriesFinder::HasAbout(const cPayments& payments, qint64 cents, const cImportEntry& row, int reach)
 {
-    return std::any_of(payments.lowerBound(day.addDays(-reach)), payments.upperBound(day.addDays(reach)),
-                       [&](const cPayment& payment) { return IsAbout(payment.Cents, cents); });
+    return std::any_of(
+        payments.lowerBound(row.ImportDate.addDays(-reach)), payments.upperBound(row.ImportDate.addDays(reach)),
+        [&](const cPayment& payment) { return payment.RowId != row.ID && IsAbout(payment.Cents, cents); });
 }
 
 // The amount tells, or the day does where nothing else pays the occurrence.

@@ -62,10 +62,12 @@ private:
     };
 
     void Build();
+    void Note(const cImportEntry& row, int series);
     void BuildDays();
     [[nodiscard]] cDays DaysOf(const cImportEntry& row);
     [[nodiscard]] cPayments PaymentsLike(const cImportEntry& row); // of its direction, itself among them
-    [[nodiscard]] static bool HasAbout(const cPayments& payments, qint64 cents, QDate day, int reach);
+    // Whether another payment near the row is about that high.
+    [[nodiscard]] static bool HasAbout(const cPayments& payments, qint64 cents, const cImportEntry& row, int reach);
     [[nodiscard]] cEntryItemList Alike(const cImportEntry& row, const cEntryItem& entry);
     [[nodiscard]] std::optional<cSeriesMatch> Match(const cEntryItem& series, const cImportEntry& row);
     [[nodiscard]] std::optional<cSeriesMatch> Reopen(const cEntryItemList& alike, const cImportEntry& row);
@@ -78,6 +80,7 @@ private:
     cImportHiveCache& m_hive;
     bool m_isBuilt = false;
     QHash<QString, QSet<int>> m_entries; // counterparty to the IDs of its series
+    QHash<QString, QSet<int>> m_unnamed; // words of a purpose to those that rows without a name have paid
     QHash<int, cEntryItem> m_series;     // by ID
     bool m_hasDays = false;
     QHash<QString, QHash<QString, cDays>> m_days; // counterparty and own account number to its rows

@@ -5,7 +5,6 @@
 #include "import/cell/modCell.h"
 #include "import/cell/modTableValue.h"
 #include "import/read/modAccountNumber.h"
-#include "import/read/modBookRow.h"
 #include "import/read/modStatementFile.h"
 #include "import/table/cRowBalances.h"
 #include "import/table/cTable.h"
@@ -75,7 +74,6 @@ public:
         : m_table(table),
           m_layout(layout),
           m_map(layout.Map),
-          m_category(static_cast<int>(layout.Map.Names.indexOf(u"Kategorie"_s))),
           m_account(account),
           m_number(layout.Number),
           m_end(static_cast<int>(qMin<qint64>(table.RowCount(), qint64{layout.FirstRow} + rows))),
@@ -349,9 +347,6 @@ private:
         entry.ImportAccount = OwnAccount();
         entry.ImportDate = modTableValue::ReadDate(Cell(m_map.Date), m_layout.Date);
         entry.ImportType = m_type.Of(Cell(m_map.Text));
-        if (entry.ImportType.isEmpty()) {
-            entry.ImportType = modBookRow::CategoryText(modBookRow::PathOf(Cell(m_category).toString()));
-        }
         entry.ImportPurpose = Purpose();
         entry.ImportBeneficiary = Counterparty(value);
         if (entry.ImportBeneficiary.isEmpty()) {
@@ -492,7 +487,6 @@ private:
     const cTable& m_table;
     const cTableLayout& m_layout;
     const cColumnMap& m_map;
-    const int m_category; // column of another program's categories
     QString m_account;
     eNumberFormat m_number;
     static constexpr qsizetype mostUnknownStates = 3;

@@ -120,6 +120,10 @@ cRowPlan cRowProposals::WithChoice(cRowPlan plan) const
             // Of what may be no transfer the user has said what it was for.
             plan.Proposal.MakeSpent(choice.Row, m_parts.Accounts.AccountOf(choice.Row.ImportAccount));
         }
+        if (entry.EntryCategory != choice.Category && entry.EntryType != modWord::Umbuchung
+            && plan.Proposal.BookedAs.isEmpty()) {
+            plan.Proposal.ExistingEntry = 0; // the series that would go on has another category
+        }
         entry.EntryCategory = choice.Category;
         plan.Proposal.HasOwnCategory = true;
         plan.Proposal.IsDefault = false;
