@@ -202,6 +202,21 @@ private Q_SLOTS:
         QCOMPARE(balances({}), balances(demo));
     }
 
+    // However the file spells them, nothing is there twice, and a name that is none stops nothing.
+    void NamesOfAnotherBook()
+    {
+        const QString file = Write(u"alt.qif"_s,
+                                   "!Account\nNneu\n^\n!Type:Bank\nD5.1.26\nT-3\nLR&B:X\n^\nD6.1.26\nT-3\nLRB:x\n^\n"
+                                   "D7.1.26\nT-3\nL[Alle Konten]\n^\nD8.1.26\nT-3\nL[Zzz]\n^\n");
+        const cCliRun run = Run(u"import|"_s + file);
+        QVERIFY2(run.Text().contains(u"Aus der Datei angelegt: 1 Kategorie, 2 Konten"), qPrintable(run.Text()));
+        QVERIFY2(run.Text().contains(u"so heißen kann: Alle Konten"), qPrintable(run.Text()));
+        QCOMPARE(run.Code, 0);
+        const QString other = Write(u"b.qif"_s, "!Account\nNsparkonto\n^\n!Type:Bank\nD5.1.26\nT-3\nLAuto\n^\n");
+        const cCliRun one = Run(u"import|--book-account|Girokonto|"_s + other);
+        QVERIFY2(one.Text().contains(u"'sparkonto' gehört nun zum Konto 'Girokonto'"), qPrintable(one.Text()));
+    }
+
     void LayoutsAreShared()
     {
         QVERIFY(Do(u"layouts"_s).Out.contains("comdirect\n"_L1));

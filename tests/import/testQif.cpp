@@ -148,21 +148,23 @@ private Q_SLOTS:
 
     void SplitsAreRows_data()
     {
-        const cTestRows<QString, QString, int> row("fields", "amounts", "problems");
-        row("without total", u"Sa\n$-1.50\nSb\n$-2.25"_s, u"-150 -225"_s, 0);
-        row("other total", u"T-4\nSa\n$-1.50\nSb\n$-2.25"_s, u"-400"_s, 1);
-        row("no number", u"T-1.5\nSa\n$-1.50\nSb\n$x"_s, u"-150"_s, 1);
+        const cTestRows<QString, QString, int> row("fields", "rows", "problems");
+        row("without total", u"Sa\n$-1.50\nSb\n$-2.25"_s, u"-150 Kategorie: a, -225 Kategorie: b"_s, 0);
+        row("other total", u"T-4\nSa\n$-1.50\nSb\n$-2.25"_s, u"-400 a, b"_s, 1);
+        row("no number", u"T-1.5\nSa\n$-1.50\nSb\n$x"_s, u"-150 a, b"_s, 1);
+        row("one part without amount", u"T-4\nSa"_s, u"-400 Kategorie: a"_s, 0);
+        row("one part of another amount", u"T-4\nSa\n$-3.99"_s, u"-400 Kategorie: a"_s, 1);
     }
 
     void SplitsAreRows()
     {
         QFETCH(QString, fields);
         const cStatementRead read = ReadText(u"!Type:Bank\nD31.1.26\n"_s + fields + u"\n^\n"_s);
-        QStringList amounts;
+        QStringList rows;
         for (const cImportEntry& entry : read.Entries) {
-            amounts.append(QString::number(entry.ImportValue));
+            rows.append(QString::number(entry.ImportValue) + u' ' + entry.ImportType);
         }
-        QTEST(amounts.join(u' '), "amounts");
+        QTEST(rows.join(u", "_s), "rows");
         QTEST(static_cast<int>(read.Problems.size()), "problems");
     }
 
@@ -182,6 +184,27 @@ private Q_SLOTS:
         QTEST(read.Entries.value(0).ImportType, "type");
         QTEST(read.Entries.value(0).ImportBeneficiaryAccount, "other");
         QCOMPARE(read.IsBook, !category.isEmpty());
+    }
+
+    void OpeningIsNoTransfer_data()
+    {
+        const cTestRows<QString, QString, QString> row("head", "given", "account");
+        row("listed account under another number", u"!Account\nNGiro\n^\n"_s, u"4711"_s, u"4711"_s);
+        row("no account", {}, {}, u"Giro"_s);
+        row("no account, but a number", {}, u"4711"_s, u"4711"_s);
+    }
+
+    void OpeningIsNoTransfer()
+    {
+        QFETCH(const QString, head);
+        QFETCH(const QString, given);
+        cReadOptions options;
+        options.Account = given;
+        const QString text = u"!Type:Bank\nD1.1.26\nT5\nPOpening Balance\nL[Giro]\n^\nD2.1.26\nT-1\nL[Sparen]\n^\n"_s;
+        const cStatementRead read = ReadText(head + text, options);
+        QCOMPARE(read.Entries.value(0).ImportType, u"Kategorie: Allgemein; Startguthaben"_s);
+        QCOMPARE(read.Entries.value(1).ImportType, u"Umbuchung: Sparen"_s);
+        QTEST(read.Entries.value(1).ImportAccount, "account");
     }
 
     void EveryPrefixIsRead()

@@ -100,6 +100,26 @@ private Q_SLOTS:
         QCOMPARE(result.ByFormat.constLast().Format, eStatementFormat::Camt);
     }
 
+    // Beside them, those of a statement are asked about all the same.
+    void EqualRowsOfABookAreReal()
+    {
+        const cTestFile folder;
+        const QString path = folder.Path(u"a.zip"_s);
+        const QByteArray twice = "D5.1.26\nT-3\nPParkhaus\nLAuto\n^\n";
+        cTestFile::Write(path,
+                         Zip({{u"a.qif"_s, "!Account\nNAlpha\n^\n!Type:Bank\n" + twice + twice},
+                              {u"b.csv"_s,
+                               "IBAN;Buchungstag;Verwendungszweck;Betrag\nDE02100200300001234567;05.01.2026;Bus;-2,00\n"
+                               "DE02100200300001234567;05.01.2026;Bus;-2,00\n"}}));
+        cImportBook book;
+        cNoProgress progress;
+        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportFile(path, {}, progress);
+        QVERIFY2(result.Message.isEmpty(), qPrintable(result.Message));
+        QCOMPARE(result.Staged, 3);
+        QCOMPARE(result.Repeats.size(), 1);
+        QCOMPARE(result.Book.Accounts, QStringList(u"Alpha"_s));
+    }
+
     // An account given once must not take in the statements of several.
     void AccountsAreNotMixed()
     {

@@ -479,6 +479,14 @@ private Q_SLOTS:
         QCOMPARE(read.Skipped.value(0).Reason.Line, 3);
     }
 
+    void KindsOfABankAreNoBook()
+    {
+        const cStatementRead read = ReadText(u"Datum;Buchungsart;Kategorie;Konto;Beschreibung;Betrag\n"
+                                             "02.01.2026;Lastschrift;;Giro;Strom;-8,00\n"_s);
+        QVERIFY(!read.IsBook);
+        QCOMPARE(Brief(read).size(), 1);
+    }
+
     // It would go before what the user has taught.
     void GuessOfABankIsNoCategory()
     {

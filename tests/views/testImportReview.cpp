@@ -112,6 +112,21 @@ private Q_SLOTS:
         QTEST(entries, "entries");
     }
 
+    // Older rows of an account that the book has under this name would count on top of its start balance.
+    void AsksForTheStartOfAnotherBook()
+    {
+        const cTestFile folder;
+        const QString path = folder.Path(u"a.qif"_s);
+        cTestFile::Write(path, "!Account\nNgirokonto\n^\n!Type:Bank\nD30.1.26\nT-5\nPHolle\nLAuto\n^\n");
+        cPage page;
+        QVERIFY(page.Data.SetStartGuthaben(u"Girokonto"_s, 100000, QDate(2026, 3, 1)));
+        page.User.Answers = {eAnswer::Yes};
+        page.Review.Files().ImportFiles({path}, page.Progress);
+        QVERIFY2(page.User.Asked.join(u'|').contains(u"Als Stand vom 01.03.2026"),
+                 qPrintable(page.User.Asked.join(u'|')));
+        QCOMPARE(page.Data.GetStartGuthaben(u"Girokonto"_s).value_or(cEntryItem()).EntryValue, 100500);
+    }
+
     // The user may have the rest of a statement that is refused for lines nobody needs.
     void OffersTheRestOfAStatement()
     {

@@ -137,13 +137,7 @@ cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinde
     if (!row) {
         return eOutcome::Skipped;
     }
-    if (proposal.Entry.EntryAccount.isEmpty()) {
-        proposal.Entry.EntryAccount = m_accounts.AccountOf(row->ImportAccount);
-    }
-    if (proposal.Entry.EntryAccount.isEmpty()) {
-        if (!result.UnknownAccounts.contains(row->ImportAccount)) {
-            result.UnknownAccounts.append(row->ImportAccount);
-        }
+    if (!HasAccount(*row, proposal, result)) {
         return eOutcome::NoAccount;
     }
     if (proposal.PartnerRow != 0 && !OpenRow(m_hive, proposal.PartnerRow)) {
@@ -171,6 +165,19 @@ cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinde
         }
     }
     return BookNew(*row, proposal, series, result);
+}
+
+// Gives the proposal the account of the row where it has none; notes the number of which no account is known.
+bool cBooking::HasAccount(const cImportEntry& row, cProposal& proposal, cBookingResult& result)
+{
+    if (proposal.Entry.EntryAccount.isEmpty()) {
+        proposal.Entry.EntryAccount = m_accounts.AccountOf(row.ImportAccount);
+    }
+    const bool isKnown = !proposal.Entry.EntryAccount.isEmpty();
+    if (!isKnown && !result.UnknownAccounts.contains(row.ImportAccount)) {
+        result.UnknownAccounts.append(row.ImportAccount);
+    }
+    return isKnown;
 }
 
 cBooking::eOutcome cBooking::BookNew(const cImportEntry& row, const cProposal& proposal, cSeriesFinder& series,

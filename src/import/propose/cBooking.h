@@ -65,6 +65,7 @@ private:
 
     [[nodiscard]] QList<int> ByDay(QList<int> rowIds);
     [[nodiscard]] eOutcome BookRow(int rowId, cProposal proposal, cSeriesFinder& series, cBookingResult& result);
+    [[nodiscard]] bool HasAccount(const cImportEntry& row, cProposal& proposal, cBookingResult& result);
     [[nodiscard]] eOutcome BookNew(const cImportEntry& row, const cProposal& proposal, cSeriesFinder& series,
                                    cBookingResult& result);
     [[nodiscard]] eOutcome Join(const cImportEntry& row, const cProposal& proposal, const cSeriesMatch& match,

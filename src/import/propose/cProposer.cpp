@@ -95,6 +95,25 @@ struct cProposer::cKnowledge
         return named.isEmpty() ? QString() : BookCategories.Find(named);
     }
 
+    // The series that the row goes on with, if any; `isPaid`: that of the lesson has had its payment.
+    void TakeSeries(cProposal& proposal, const cImportEntry& row, bool isPaid)
+    {
+        if (const std::optional<cSeriesMatch> match = Series.Find(row, proposal.Entry)) {
+            proposal.ExistingEntry = match->Series.ID;
+            proposal.Occurrence = match->Occurrence.Planned();
+        } else if (isPaid) {
+            // Its series has had its payment, so this is something beside it: a second series is hardly ever meant.
+            proposal.Entry.EntryInterval = modWord::Einmalig;
+            proposal.IsSure = false;
+        }
+        if (proposal.ExistingEntry == 0 && modRecurrence::IsRecurring(proposal.Entry.EntryInterval)
+            && Series.IsTakenBack(row)) {
+            proposal.Entry.EntryInterval = modWord::Einmalig;
+            proposal.IsSure = false;
+            proposal.Reason = cText::Tr("der Betrag wurde zurückgebucht, daher keine Serie");
+        }
+    }
+
     // The user's own rule for the row; null when there is none.
     [[nodiscard]] const cOwnRule* OwnRule(const cImportEntry& row, const QString& account) const
     {
@@ -367,20 +386,7 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
     }
     proposal.IsAlone = own != nullptr && own->Interval == modWord::Einmalig && !transfer;
     if (proposal.ExistingEntry == 0 && !proposal.IsAlone) {
-        if (const std::optional<cSeriesMatch> match = m_knowledge->Series.Find(row, proposal.Entry)) {
-            proposal.ExistingEntry = match->Series.ID;
-            proposal.Occurrence = match->Occurrence.Planned();
-        } else if (choice && own == nullptr && choice->SeriesEnd >= row.ImportDate) {
-            // Its series has had its payment, so this is something beside it: a second series is hardly ever meant.
-            proposal.Entry.EntryInterval = modWord::Einmalig;
-            proposal.IsSure = false;
-        }
-        if (proposal.ExistingEntry == 0 && modRecurrence::IsRecurring(proposal.Entry.EntryInterval)
-            && m_knowledge->Series.IsTakenBack(row)) {
-            proposal.Entry.EntryInterval = modWord::Einmalig;
-            proposal.IsSure = false;
-            proposal.Reason = cText::Tr("der Betrag wurde zurückgebucht, daher keine Serie");
-        }
+        m_knowledge->TakeSeries(proposal, row, choice && own == nullptr && choice->SeriesEnd >= row.ImportDate);
     }
     return proposal;
 }

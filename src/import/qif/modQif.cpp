@@ -302,11 +302,27 @@ QString AccountIn(const QString& category)
     return end < 0 ? QString() : category.mid(1, end - 1).trimmed();
 }
 
+// Of a file that lists no accounts, the first record tells which one it is about: what this held in the beginning.
+QString AccountByOpening(const QList<cRecord>& records)
+{
+    constexpr std::array<QStringView, 5> words = {u"opening", u"eröffnung", u"anfangs", u"startguthaben",
+                                                  u"startsaldo"};
+    const cRecord first = records.value(0);
+    const bool isOpening = std::any_of(words.begin(), words.end(), [&](QStringView word) {
+        return first.Account.isEmpty() && first.Payee.contains(word, Qt::CaseInsensitive);
+    });
+    return isOpening ? AccountIn(first.Category) : QString();
+}
+
 class cReader
 {
 public:
     cReader(QList<cRecord> records, const cReadOptions& options) : m_records(std::move(records)), m_options(options)
     {
+        const QString opened = AccountByOpening(m_records);
+        for (cRecord& record : m_records) {
+            record.Account = record.Account.isEmpty() ? opened : record.Account;
+        }
         const cOrder order = OrderOf(m_records);
         m_order = options.Table.Date.value_or(order.Order);
         if (order.IsGuessed && !options.Table.Date) {
@@ -393,11 +409,15 @@ private:
     {
         const std::optional<qint64> cents = CentsOf(record.Amount);
         const QString memo = record.Memo.isEmpty() ? Joined(record.Parts, &cPart::Memo) : record.Memo;
-        Add(record, record.Parts.size() > 1 ? QString() : record.Category, memo, cents.value_or(0));
+        const bool hasOnePart = record.Parts.size() == 1 && !record.Parts.first().Category.isEmpty();
+        const QString category = hasOnePart ? record.Parts.first().Category : record.Category;
+        Add(record, record.Parts.size() > 1 ? QString() : category, memo, cents.value_or(0));
         if (!cents) {
             Report(record.Line, cText::Tr("Der Betrag ist keine Zahl: {0}", {record.Amount.left(40)}));
         } else if (record.Parts.size() > 1) {
             m_read.Entries.last().ImportType = Joined(record.Parts, &cPart::Category);
+        }
+        if (cents && !record.Parts.isEmpty() && (record.Parts.size() > 1 || CentsOf(record.Parts.first().Amount))) {
             Report(record.Line, cText::Tr("Die Teile der Buchung ergeben nicht ihren Betrag; sie bleibt ein Umsatz."));
         }
     }
@@ -413,18 +433,18 @@ private:
         if (entry.ImportPurpose.isEmpty() && m_options.MissingPurpose == eMissingPurpose::Name) {
             entry.ImportPurpose = record.Payee;
         }
-        TakeCategory(category, entry);
+        TakeCategory(category, record.Account, entry);
         m_read.NeedsAccount = m_read.NeedsAccount || entry.ImportAccount.isEmpty();
         m_read.Entries.append(entry);
     }
 
     // What leads from an account to itself is what it held in the beginning.
-    void TakeCategory(const QString& category, cImportEntry& entry)
+    void TakeCategory(const QString& category, const QString& own, cImportEntry& entry)
     {
         const QString other = AccountIn(category);
         if (other.isEmpty()) {
             entry.ImportType = modBookRow::CategoryText(modBookRow::PathOf(category));
-        } else if (other == entry.ImportAccount) {
+        } else if (other == own || other == entry.ImportAccount) {
             entry.ImportType = modBookRow::CategoryText(modWord::Startguthaben);
         } else {
             modBookRow::MakeTransfer(entry, other, {});

@@ -166,7 +166,7 @@ QStringList cAccountMap::AssignNames(const QStringList& numbers)
 {
     QStringList assigned;
     for (const QString& number : numbers) {
-        if (AccountOf(number).isEmpty() && Exists(number) && Assign(number, number)) {
+        if (AccountOf(number).isEmpty() && Has(number) && Assign(number, number)) {
             assigned.append(number); // of a refusal the user has been told
         }
     }

@@ -2,7 +2,7 @@
 
 #include "import/read/cStatementRead.h"
 #include "import/stage/cRepeat.h"
-#include "import/stage/modBookNames.h"
+#include "import/stage/modForeignNames.h"
 #include "import/stage/modStatementFormat.h"
 #include "model/cImportEntry.h"
 
@@ -51,7 +51,7 @@ struct cImportResult
     QStringList OtherCurrencies;      // refused only because of them: codes
     std::optional<cTableDoubt> Doubt; // refused only because of it
     cImportEntryList Rows;            // with eStagingRun::Try: what would have been staged
-    cBookNames Book;                  // what the file names that is of another household book
+    cForeignNames Book;               // what the file names that is of another household book
     QString Layout;                   // name of the table layout that was recognised
     QString AccountKey;               // of a table, for cTableMemory
     QString Number;                   // of a fetch: its account in the form in which it is staged

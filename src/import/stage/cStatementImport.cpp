@@ -8,6 +8,7 @@
 #include "import/mt940/modMT940.h"
 #include "import/read/cStatementSource.h"
 #include "import/read/modAccountNumber.h"
+#include "import/read/modBookRow.h"
 #include "import/read/modStatementFile.h"
 #include "import/stage/cBankBalances.h"
 #include "import/stage/cFetchedStatement.h"
@@ -485,7 +486,7 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
     result.Problems = read.Problems;
     result.Skipped = read.Skipped;
     result.Accounts = cImportHive::AccountsOf(read.Entries);
-    result.Book = modBookNames::Of(read, options.DefaultAccount);
+    result.Book = modForeignNames::Of(read, options.DefaultAccount);
     if (options.Run == eStagingRun::Try) {
         result.Rows.reserve(result.Read);
     }
@@ -542,8 +543,9 @@ void cStatementImport::SettleEqual(const cStatementRead& read, const cImportOpti
     for (qsizetype i = 0; i < proofs.size(); ++i) {
         cRepeat repeat = result.Repeats.at(i);
         repeat.WasLeftOut = cLeftOutRows(settings).Has(repeat);
-        // Parts of statements may overlap, a book has nothing twice.
-        const bool isTaken = proofs.at(i) == eProof::Real || options.Equal == eEqualRows::Take || read.IsBook;
+        // Parts of statements may overlap, a book has nothing twice. An archive may hold both.
+        const bool isOfBook = read.IsBook && (read.Formats.isEmpty() || modBookRow::IsBook(repeat.Entry));
+        const bool isTaken = proofs.at(i) == eProof::Real || options.Equal == eEqualRows::Take || isOfBook;
         if (!isTaken && proofs.at(i) == eProof::None) {
             open.append(repeat);
             continue;

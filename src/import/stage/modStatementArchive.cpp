@@ -102,22 +102,17 @@ private:
         m_all.Problems.append({0, cText::Tr("{0}: {1}", {name, text})});
     }
 
-    void Add(const QString& name, const cStatementRead& read)
+    void Add(const QString& name, cStatementRead read)
     {
         ++m_statements;
-        m_all.Parts.append(m_all.Entries.size());
-        m_all.Entries += read.Entries;
-        m_all.Balances += read.Balances;
-        m_all.BankCodes.insert(read.BankCodes);
-        m_all.WasNameless = m_all.WasNameless || read.WasNameless;
-        m_all.ClosingBalance = read.ClosingBalance ? read.ClosingBalance : m_all.ClosingBalance;
-        for (const cReadProblem& problem : read.Problems) {
-            m_all.Problems.append({problem.Line, cText::Tr("{0}: {1}", {name, problem.Text})});
+        for (cReadProblem& problem : read.Problems) {
+            problem.Text = cText::Tr("{0}: {1}", {name, problem.Text});
         }
-        for (cSkippedRow row : read.Skipped) {
+        for (cSkippedRow& row : read.Skipped) {
             row.Reason.Text = cText::Tr("{0}: {1}", {name, row.Reason.Text});
-            m_all.Skipped.append(row);
         }
+        m_all.WasNameless = m_all.WasNameless || read.WasNameless;
+        m_all.Append(read);
         if (read.Doubt && m_all.Refusal.isEmpty()) {
             m_all.Refusal = cText::Tr("{0}: {1} Entpacken Sie das Archiv und lesen Sie diese Datei einzeln ein.",
                                       {name, modStatementFile::OpenSign()});
@@ -127,7 +122,6 @@ private:
         }
         if (read.NeedsAccount) {
             ++m_nameless;
-            m_all.NeedsAccount = true;
             m_all.AccountKey = read.AccountKey;
         }
     }

@@ -43,6 +43,20 @@ QString WithoutMark(const QString& text)
     return text.size() > 1 && text.front() == u'\'' && u"=+-@"_s.contains(text.at(1)) ? text.mid(1) : text;
 }
 
+// Banks may call their columns so, and then have kinds of their own. A word that somebody has changed decides nothing.
+bool HasOurKinds(const cTable& table, int firstRow, int column)
+{
+    int ours = 0;
+    int others = 0;
+    for (int row = firstRow; row < table.RowCount(); ++row) {
+        const QString kind = table.Cell(row, column).toString();
+        if (!kind.isEmpty()) {
+            ++(modWord::EntryTypes().Contains(modWord::EntryTypes().ToStored(kind)) ? ours : others);
+        }
+    }
+    return ours >= others;
+}
+
 class cReader
 {
 public:
@@ -126,7 +140,8 @@ private:
 bool modBookTable::IsBook(const cTable& table, const cTableLayout& layout)
 {
     const cColumns columns = ColumnsOf(table, layout);
-    return std::find(columns.begin(), columns.begin() + Target, -1) == columns.begin() + Target;
+    return std::find(columns.begin(), columns.begin() + Target, -1) == columns.begin() + Target
+        && HasOurKinds(table, layout.FirstRow, static_cast<int>(columns.at(Kind)));
 }
 
 cStatementRead modBookTable::Read(const cTable& table, const cTableLayout& layout)

@@ -161,7 +161,8 @@ private:
         layout.Map = map;
         const cRows rows = modTableRows::Probe(m_table, layout, cColumnSurvey::SurveyedRows);
         const cHits hits = HitsOf(rows);
-        const bool isEnough = hits.Verdict() != eVerdict::Open && hits.Most() >= 2 && hits.Most() * 2 >= rows.size();
+        const bool isEnough =
+            hits.Verdict() != eVerdict::Open && hits.Most() >= 2 && qsizetype{2} * hits.Most() >= rows.size();
         if (isEnough && hits.Most() > m_best.Most()) {
             m_best = hits;
             better = map;
@@ -322,7 +323,7 @@ private:
                 || (m_strongAgainst > 0 && (m_isOfCard || m_against >= 3));
             return isSure ? eVerdict::Turned : eVerdict::Open;
         }
-        const bool isBackedUp = m_for > m_against * clear && (!IsUnsigned() || m_for * 2 >= m_rows.size());
+        const bool isBackedUp = m_for > m_against * clear && (!IsUnsigned() || qsizetype{2} * m_for >= m_rows.size());
         if (isBackedUp) {
             return eVerdict::AsRead;
         }

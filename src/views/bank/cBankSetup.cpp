@@ -4,6 +4,7 @@
 #include "base/cClock.h"
 #include "base/cHttps.h"
 #include "base/cText.h"
+#include "base/cUser.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "fints/cBankLog.h"

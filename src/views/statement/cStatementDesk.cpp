@@ -298,23 +298,33 @@ QList<int> cStatementDesk::FirstRules(const cImportEntryList& rows, const QList<
     return places;
 }
 
-// One account for all leaves the file's own without meaning.
-bool cStatementDesk::TakeNames(const cBookNames& names, const QString& wanted, QStringList& notes)
+// One account for all leaves the names of the file's own without meaning.
+bool cStatementDesk::TakeNames(cForeignNames names, const QStringList& numbers, const QString& wanted,
+                               QStringList& notes)
 {
-    cBookNames missing = modBookNames::Missing(names, m_tools.Data, m_works->Accounts);
+    cForeignNames missing = modForeignNames::Missing(names, m_tools.Data, m_works->Accounts);
     if (!wanted.isEmpty()) {
         missing.Accounts.clear();
+        names.Accounts.removeIf([&](const QString& name) { return numbers.contains(name); });
     }
-    if (missing.IsEmpty()) {
-        return true;
+    if (!missing.Bad.isEmpty()) {
+        notes.append(modForeignNames::BadText(missing.Bad));
     }
-    notes.append(cText::Tr("Aus der Datei angelegt: {0}", {modBookNames::Count(missing)}));
-    return modBookNames::Create(missing, m_tools.Data, m_works->Accounts);
+    if (!missing.IsEmpty()) {
+        if (!modForeignNames::Create(missing, m_tools.Data, m_works->Accounts)) {
+            return false;
+        }
+        notes.append(cText::Tr("Aus der Datei angelegt: {0}", {modForeignNames::Count(missing)}));
+    }
+    (void)m_works->Accounts.AssignNames(names.Accounts);
+    return true;
 }
 
 bool cStatementDesk::AssignAccounts(const QStringList& numbers, const QString& wanted, QStringList& notes)
 {
-    (void)m_works->Accounts.AssignNames(numbers);
+    if (wanted.isEmpty()) {
+        (void)m_works->Accounts.AssignNames(numbers);
+    }
     const QStringList unknown = m_works->Accounts.Unknown(numbers);
     for (const QString& number : unknown) {
         const QString proposal = m_works->Accounts.Proposal(number);
@@ -386,7 +396,7 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     RememberAccount(result, options.DefaultAccount, m_works->Memory);
     cLeftOutRows leftOut(m_tools.Settings);
     (void)(leftOut.Forget(result.Settled) && leftOut.Note(result.Repeats)); // of a refusal the user has been told
-    report.IsDone = TakeNames(result.Book, wish.BookAccount, report.Notes) && report.IsDone;
+    report.IsDone = TakeNames(result.Book, result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
     report.IsDone = AssignAccounts(result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
     if (!wish.Sign.isEmpty() && !wish.Remembers && !result.IsRefused) {
         QStringList unsaid; // a table without names for its columns is asked about again

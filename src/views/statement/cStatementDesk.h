@@ -17,7 +17,7 @@
 class cMatchFlow;
 class cSeriesCheck;
 class cStatementFiles;
-struct cBookNames;
+struct cForeignNames;
 struct cBookTools;
 struct cFileFinding;
 struct cFileReport;
@@ -86,7 +86,8 @@ public:
 
 private:
     // Adds what a file of another household book names and this one lacks, and notes it.
-    [[nodiscard]] bool TakeNames(const cBookNames& names, const QString& wanted, QStringList& notes);
+    [[nodiscard]] bool TakeNames(cForeignNames names, const QStringList& numbers, const QString& wanted,
+                                 QStringList& notes);
     struct cWorks; // the tools of the import floor
 
     [[nodiscard]] cBooked Booked(const cPlanFlow::cOutcome& outcome);

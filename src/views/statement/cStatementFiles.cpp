@@ -115,7 +115,7 @@ struct cStatementFiles::cRun
     QStringList Refusals;
     QList<int> Rows; // staged
     cRepeatList Repeats;
-    cBookNames Names;
+    cForeignNames Names;
     std::vector<std::unique_ptr<cImportAssistant>> Answered;
     QStringList FirstBalances{}; // numbers of which the bank had named none before
 };
@@ -188,7 +188,7 @@ void cStatementFiles::End(cRun& run)
     }
     const QStringList due = DueStarts(run);
     OfferNames(run.Names);
-    AskAccounts(run.Numbers);
+    AskUnknown(run.Numbers);
     OfferStart(due);
     Q_EMIT RowsStaged(run.Rows);
 }
@@ -518,14 +518,14 @@ void cStatementFiles::KeepLeftOut(const cImportResult& result)
     }
 }
 
-// The numbers whose account was known before these rows came; of the others AskAccounts speaks.
+// Asked before the accounts of new numbers are known: all that these hold came now.
 QStringList cStatementFiles::DueStarts(const cRun& run)
 {
     const cOpeningBalance opening(m_tools);
     QStringList due = run.Numbers;
     due.removeDuplicates();
     due.removeIf([&](const QString& number) {
-        return m_accounts.AccountOf(number).isEmpty() || !opening.IsDue(number, run.Before, run.FirstBalances);
+        return !m_accounts.AccountOf(number).isEmpty() && !opening.IsDue(number, run.Before, run.FirstBalances);
     });
     return due;
 }

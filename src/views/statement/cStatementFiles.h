@@ -16,7 +16,7 @@ class cAccountMap;
 class cImportAssistant;
 class cImportHiveCache;
 class cProgress;
-struct cBookNames;
+struct cForeignNames;
 struct cBookTools;
 struct cFetchedStatement;
 struct cImportOptions;
@@ -137,8 +137,9 @@ private:
     static void NoteRefusal(const cImportResult& result, cRun& run); // to be shown at the end of the run
     [[nodiscard]] bool IsAnswered(cImportAssistant& assistant, cRun& run);
     [[nodiscard]] QList<int> RemoveOpen(const QList<int>& rows);
-    void OfferNames(const cBookNames& names);
-    [[nodiscard]] bool AreNamesWanted(const cBookNames& missing);
+    void OfferNames(const cForeignNames& names);
+    [[nodiscard]] bool AreNamesWanted(const cForeignNames& missing);
+    void AskUnknown(const QStringList& numbers);
     void OfferStart(const QStringList& numbers);
     [[nodiscard]] QStringList DueStarts(const cRun& run);
     void KeepLeftOut(const cImportResult& result);

@@ -42,19 +42,21 @@ bool cStatementFiles::IsCurrencyWanted(const cImportResult& result)
         == eAnswer::Yes;
 }
 
-void cStatementFiles::OfferNames(const cBookNames& names)
+void cStatementFiles::OfferNames(const cForeignNames& names)
 {
     if (names.IsEmpty() || m_tools.Data.IsReadOnly()) {
         return;
     }
-    const cBookNames missing = modBookNames::Missing(names, m_tools.Data, m_accounts);
+    const cForeignNames missing = modForeignNames::Missing(names, m_tools.Data, m_accounts);
     if (!missing.IsEmpty() && AreNamesWanted(missing)) {
-        (void)modBookNames::Create(missing, m_tools.Data, m_accounts); // of a refusal the user has been told
+        (void)modForeignNames::Create(missing, m_tools.Data, m_accounts); // of a refusal the user has been told
     }
-    Q_EMIT AccountsAsked({}); // what the list proposes was made without them
+    (void)m_accounts.AssignNames(names.Accounts);
+    // What the list proposes was made without them.
+    Q_EMIT AccountsAsked(missing.Bad.isEmpty() ? QStringList() : QStringList(modForeignNames::BadText(missing.Bad)));
 }
 
-bool cStatementFiles::AreNamesWanted(const cBookNames& missing)
+bool cStatementFiles::AreNamesWanted(const cForeignNames& missing)
 {
     constexpr qsizetype most = 10;
     const QStringList all = missing.Accounts + missing.Categories.keys();
@@ -64,7 +66,7 @@ bool cStatementFiles::AreNamesWanted(const cBookNames& missing)
     }
     const cQuestion question{.Text = cText::Tr("Noch nicht im Buch sind aus der Datei: {0}\n\n{1}\n\nSollen sie "
                                                "angelegt werden?",
-                                               {modBookNames::Count(missing), lines.join(u'\n')}),
+                                               {modForeignNames::Count(missing), lines.join(u'\n')}),
                              .Title = cText::Tr("Kategorien und Konten der Datei"),
                              .Default = eAnswer::Yes};
     return m_tools.User.Ask(question) == eAnswer::Yes;
@@ -92,6 +94,13 @@ void cStatementFiles::OfferStart(const QStringList& numbers)
 
 void cStatementFiles::AskAccounts(const QStringList& numbers)
 {
+    const QStringList unknown = m_accounts.Unknown(numbers);
+    AskUnknown(numbers);
+    OfferStart(unknown);
+}
+
+void cStatementFiles::AskUnknown(const QStringList& numbers)
+{
     const QStringList named = m_accounts.AssignNames(numbers);
     QStringList unknown = m_accounts.Unknown(numbers);
     unknown.removeDuplicates();
@@ -105,5 +114,4 @@ void cStatementFiles::AskAccounts(const QStringList& numbers)
         }
     }
     Q_EMIT AccountsAsked(lines);
-    OfferStart(named + unknown);
 }
