@@ -11127,5 +11127,9 @@ Add them?</translation>
         <source>Kontostände bis {0}</source>
         <translation>Balances up to {0}</translation>
     </message>
+    <message>
+        <source>Aus der Datei nicht angelegt, weil im Buch nichts so heißen kann: {0}</source>
+        <translation>Not created from the file, because nothing in the book can be called that: {0}</translation>
+    </message>
 </context>
 </TS>
