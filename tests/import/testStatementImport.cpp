@@ -462,6 +462,19 @@ private Q_SLOTS:
         }
     }
 
+    void ClassesAreNoCategories()
+    {
+        cReadingBook book;
+        cTemplateItem power = modTemplate::NewCategory({}, u"Haus"_s, u"Strom/Gas"_s);
+        QVERIFY(book.Data.AddNewTemplate(power));
+        const QString text = u"!Type:Bank\nD1.1.26\nT-1\nL%1\n^\n"_s;
+        cImportOptions options;
+        options.DefaultAccount = u"4711"_s;
+        const cImportResult result =
+            book.Read(text.arg(u"Haus:Strom/Gas"_s) + text.arg(u"Neu:Reisen/Italien"_s), options, u"a.qif"_s);
+        QCOMPARE(result.Book.Categories.keys(), QStringList({u"Haus; Strom/Gas"_s, u"Neu; Reisen"_s}));
+    }
+
     void SeesWritesOfOthers()
     {
         cReadingBook book;

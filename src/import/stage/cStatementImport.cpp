@@ -16,6 +16,7 @@
 #include "import/stage/cImportHiveCache.h"
 #include "import/stage/cKnownAccounts.h"
 #include "import/stage/cLeftOutRows.h"
+#include "import/stage/modCategoryClass.h"
 #include "import/stage/modEqualRows.h"
 #include "import/stage/modNamelessRows.h"
 #include "import/stage/modStatementCurrency.h"
@@ -481,6 +482,7 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
     if (options.Duplicates == eDuplicateTest::Test) {
         modNamelessRows::UseIn(read, staging);
     }
+    modCategoryClass::CutFrom(read, result.Kind, m_data);
     result.Read = static_cast<int>(read.Entries.size());
     result.ClosingBalance = read.ClosingBalance;
     result.Problems = read.Problems;
