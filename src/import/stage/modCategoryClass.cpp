@@ -10,6 +10,9 @@
 
 void modCategoryClass::CutFrom(cStatementRead& read, eStatementFormat kind, cDataAccess& data)
 {
+    if (!read.IsBook) {
+        return; // no row names a category
+    }
     const cBookCategories known(data.GetTemplates());
     for (qsizetype i = 0; i < read.Entries.size(); ++i) {
         cImportEntry& row = read.Entries[i];
