@@ -54,8 +54,23 @@ void cImportHive::setImportEntryList(cImportEntryList entries)
     m_groups.clear();
     m_isIndexed = false;
     m_index.clear();
+    BuildGroups();
+}
+
+// Entries are assigned in any order: sorted once, no group has to make room among the others.
+void cImportHive::BuildGroups()
+{
+    QList<std::pair<int, int>> assigned; // entry ID and row ID
+    assigned.reserve(m_entries.size());
     for (const cImportEntry& entry : std::as_const(m_entries)) {
-        AddToGroup(entry.ImportAssignedEntry, entry.ID);
+        assigned.append({entry.ImportAssignedEntry, entry.ID});
+    }
+    std::ranges::stable_sort(assigned, {}, &std::pair<int, int>::first);
+    for (const auto& [entryId, rowId] : std::as_const(assigned)) {
+        if (m_groups.isEmpty() || m_groups.last().EntryId != entryId) {
+            m_groups.append(cGroup{entryId, {}});
+        }
+        m_groups.last().RowIds.append(rowId);
     }
 }
 

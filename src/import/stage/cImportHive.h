@@ -60,6 +60,7 @@ private:
 
     [[nodiscard]] qsizetype FindRow(int id) const;
     [[nodiscard]] qsizetype FindGroup(int entryId) const;
+    void BuildGroups();
     void AddToGroup(int entryId, int rowId);
     void RemoveFromGroup(int entryId, int rowId);
     void AddToIndex(const cImportEntry& entry) const;
