@@ -15,6 +15,7 @@
 #include "views/book/cNationalSettings.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
+#include "views/overview/cOverviewBook.h"
 #include "views/reminder/cReminderModel.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
@@ -83,6 +84,9 @@ bool cMainProgram::Start(const cStartRequest& request)
     startUp.CheckCurrency();
     if (!OpenBook(startUp)) {
         return false;
+    }
+    if (m_book.Settings().GetBool(modSettingKey::StartWithOverview)) {
+        m_book.Data().ReadAhead(cOverviewBook::DaysOn(m_ports.Clock.Today())); // while the window is made
     }
     m_backups.BookOpened();
     m_language.Use(WantedLanguage(), m_ports.Shell);

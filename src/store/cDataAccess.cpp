@@ -1,6 +1,7 @@
 #include "store/cDataAccess.h"
 
 #include "store/cDatabase.h"
+#include "store/cWindowAhead.h"
 #include "store/modFailure.h"
 
 #include <utility>
@@ -13,8 +14,11 @@ cDataAccess::cDataAccess(cDatabase& database, cUser& user)
     m_journal.OnEnd([this](bool isWritten) { TellCleaned(isWritten); });
 }
 
+cDataAccess::~cDataAccess() = default;
+
 void cDataAccess::ForgetFile()
 {
+    m_ahead.reset();
     m_journal.Forget();
     m_unread.clear();
 }
@@ -46,6 +50,7 @@ eDatabaseFault cDataAccess::Try(const char* name, const std::function<void()>& o
 
 bool cDataAccess::Write(const char* name, const std::function<void()>& operation)
 {
+    m_ahead.reset();
     return Try(name,
                [&] {
                    if (!m_unread.isEmpty()) {
@@ -73,6 +78,12 @@ bool cDataAccess::Look(const char* name, const std::function<void()>& operation)
     return Try(name, operation) == eDatabaseFault::None;
 }
 
+bool cDataAccess::Store(const char* name, const std::function<void()>& operation)
+{
+    m_ahead.reset();
+    return Look(name, operation);
+}
+
 bool cDataAccess::IsWhole() const
 {
     return m_unread.isEmpty() && !m_database.IsDamaged();
@@ -98,7 +109,7 @@ std::optional<cDataAccess::cSettingRows> cDataAccess::ReadSettings()
 bool cDataAccess::ChangeSettingItem(const QString& name, const QString& value)
 {
     // A choice of the view depends on nothing that was read, and closing the window stores many of them.
-    return Look("ChangeSettingItem", [&] {
+    return Store("ChangeSettingItem", [&] {
         bool isKnown = false;
         {
             cRows rows(m_database, "SELECT COUNT(*) FROM setting WHERE SettingName=?", {name});
@@ -116,5 +127,5 @@ bool cDataAccess::ChangeSettingItem(const QString& name, const QString& value)
 
 bool cDataAccess::DeleteSetting(const QString& name)
 {
-    return Look("DeleteSetting", [&] { m_database.Execute("DELETE FROM setting WHERE SettingName = ?", {name}); });
+    return Store("DeleteSetting", [&] { m_database.Execute("DELETE FROM setting WHERE SettingName = ?", {name}); });
 }

@@ -20,11 +20,14 @@
 
 #include <array>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <utility>
 
 class cDatabase;
 class cUser;
+class cWindowAhead;
+struct cWindowRows;
 
 // An earlier description with category and account of its latest use.
 struct cDescriptionUse
@@ -50,6 +53,9 @@ class cDataAccess
 {
 public:
     cDataAccess(cDatabase& database, cUser& user);
+    cDataAccess(const cDataAccess&) = delete;
+    cDataAccess& operator=(const cDataAccess&) = delete;
+    ~cDataAccess();
 
     // Table `data`
     [[nodiscard]] bool AddNewEntry(cEntryItem& entry); // sets entry.ID
@@ -80,6 +86,8 @@ public:
     // The entries of these days, both valid, and the sums of all earlier ones, in one pass through the table. The sums
     // up to `balanceDay`, one of the days, are kept: GetSums gives them without reading while nothing is written.
     [[nodiscard]] cEntryWindow GetWindow(const modPeriod::cRange& days, QDate balanceDay);
+    // Begins to read a window beside what the caller does; the next GetWindow of these days takes what was found.
+    void ReadAhead(const modPeriod::cRange& days);
     [[nodiscard]] int CountEntries();
     [[nodiscard]] int CountEntriesOfAccount(const QString& account);
     [[nodiscard]] int CountEntriesOfCategory(const QString& path); // LIKE, as the path is given
@@ -199,6 +207,7 @@ private:
     bool Write(const char* name, const std::function<void()>& operation);
     bool Read(const char* name, const std::function<void()>& operation, bool isTold = false);
     bool Look(const char* name, const std::function<void()>& operation);
+    bool Store(const char* name, const std::function<void()>& operation); // a setting, which depends on nothing
 
     // Sums of all entries up to a day, as long as the book is as it was when they were made.
     struct cKnownSums
@@ -209,6 +218,7 @@ private:
         std::array<qint64, 3> Mark;   // of the database
     };
     [[nodiscard]] std::optional<QList<cAccountSum>> KnownSums(const cEntryQuery& query, bool withStartBalance);
+    [[nodiscard]] cWindowRows ReadWindow(const modPeriod::cRange& days, const std::array<qint64, 3>& mark);
 
     cDatabase& m_database;
     cUser& m_user;
@@ -216,7 +226,8 @@ private:
     fnFollow m_follow;
     QList<cCleanedName> m_cleaned; // in the open step
     std::optional<cKnownSums> m_knownSums;
-    QSet<QString> m_unread; // reading operations that failed the last time
+    std::unique_ptr<cWindowAhead> m_ahead; // it holds the file for reading, so nothing is written before its end
+    QSet<QString> m_unread;                // reading operations that failed the last time
     bool m_isSettingFailureTold = false;
     quint64 m_timesDone = 0;
 };

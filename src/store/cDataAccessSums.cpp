@@ -1,5 +1,8 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "store/cEntrySums.h"
+#include "store/cWindowAhead.h"
+#include "store/cWindowRows.h"
 #include "store/modEntryScan.h"
 
 #include <algorithm>
@@ -13,91 +16,6 @@
 using namespace modEntryScan;
 
 namespace {
-
-// Sums by three stored texts. Neighbours mostly share them, so the sum found last is tried before the hash.
-template <typename tSum>
-class cSumsByTexts
-{
-public:
-    struct cPart
-    {
-        std::array<std::string, 3> Texts;
-        tSum Sum{};
-    };
-
-    tSum& Of(const std::array<std::string_view, 3>& texts)
-    {
-        if (m_last >= m_parts.size() || !std::equal(texts.begin(), texts.end(), m_parts[m_last].Texts.begin())) {
-            m_last = Find(texts);
-        }
-        return m_parts[m_last].Sum;
-    }
-
-    [[nodiscard]] const std::vector<cPart>& Parts() const { return m_parts; }
-
-private:
-    size_t Find(const std::array<std::string_view, 3>& texts)
-    {
-        constexpr char between = '\0';
-        m_key.assign(texts[0]).append(1, between).append(texts[1]).append(1, between).append(texts[2]);
-        const auto [place, isNew] = m_places.try_emplace(m_key, m_parts.size());
-        if (isNew) {
-            m_parts.push_back({{std::string(texts[0]), std::string(texts[1]), std::string(texts[2])}});
-        }
-        return place->second;
-    }
-
-    std::vector<cPart> m_parts;
-    std::unordered_map<std::string, size_t> m_places;
-    std::string m_key; // kept for its memory
-    size_t m_last = 0;
-};
-
-// Sums by kind, account and target.
-class cSums
-{
-public:
-    static constexpr const char* Columns =
-        "EntryDate, EntryType, EntryAccount, EntryAccountMove, EntryValue, EntryCategory";
-
-    void Add(std::span<const std::string_view> stored)
-    {
-        m_sums.Of({stored[1], stored[2], stored[3]}).Cents += modRow::ReadCents(stored[4]).value_or(0);
-    }
-
-    void Add(const cEntryItem& entry, qint64 cents)
-    {
-        const std::string type = entry.EntryType.toStdString();
-        const std::string account = modRow::Doubled(entry.EntryAccount).toStdString();
-        const std::string move = modRow::Doubled(entry.EntryAccountMove).toStdString();
-        m_sums.Of({type, account, move}).Cents += cents;
-    }
-
-    // Occurrences of one series, which share everything but day and amount.
-    void AddSeries(const cEntryItemList& occurrences)
-    {
-        qint64 cents = 0;
-        for (const cEntryItem& item : occurrences) {
-            cents += item.EntryValue;
-        }
-        if (!occurrences.isEmpty()) {
-            Add(occurrences.first(), cents);
-        }
-    }
-
-    [[nodiscard]] QList<cAccountSum> Take() const
-    {
-        QList<cAccountSum> sums;
-        for (const auto& [texts, sum] : m_sums.Parts()) {
-            sums.append({QString::fromStdString(texts[0]), modRow::ReadDoubled(texts[1]), modRow::ReadDoubled(texts[2]),
-                         sum.Cents});
-        }
-        return sums;
-    }
-
-private:
-    cSumsByTexts<cAccountSum> m_sums;
-};
 
 // Sums by kind, category and tags.
 class cCategorySums
@@ -166,45 +84,9 @@ void SumUp(cDatabase& database, const cEntryQuery& query, const cCondition& cond
     }
 }
 
-// What a window is made of: one-off entries of its days, all series, sums of the one-off entries before.
-struct cWindowRows
-{
-    cEntryItemList Single;
-    cEntryItemList Series;
-    cSums Before;
-    cSums StartBefore; // of start balances, which are not among the others
-};
-
 bool IsStart(const cEntryItem& entry)
 {
     return entry.EntryCategory == modWord::Startguthaben;
-}
-
-// False when one of the days is unclear.
-bool ReadWindowRows(cDatabase& database, const modPeriod::cRange& range, cWindowRows& window)
-{
-    cDayRange days(range.Start, range.End);
-    const std::string start = modWord::Startguthaben.toStdString();
-    bool isClear = true;
-    cEntryReader reader;
-    cRows rows(database,
-               cEntryReader::Select + std::string(" WHERE CASE WHEN EntryInterval = 'Einmalig' THEN Taken(")
-                   + cSums::Columns + ") ELSE EntryInterval <> 'Einmalig' END",
-               {}, [&](const auto& values) {
-                   const eDay day = days.Place(values[0]);
-                   isClear = isClear && day != eDay::Unclear;
-                   if (day == eDay::Before) {
-                       (values.back() == start ? window.StartBefore : window.Before).Add(values);
-                   }
-                   return day == eDay::Inside;
-               });
-    while (rows.Next()) {
-        cEntryItem entry = reader.Read(rows);
-        (entry.EntryInterval == modWord::Einmalig ? window.Single : window.Series).append(std::move(entry));
-    }
-    SortByDate(window.Single);
-    SortByDate(window.Series);
-    return isClear;
 }
 
 // The occurrences of the window's series: sums of those before it, entries of those within.
@@ -226,7 +108,7 @@ void ExpandInto(cDatabase& database, const cEntryQuery& before, const cEntryQuer
 
 QList<cAccountSum> cDataAccess::GetSums(const cEntryQuery& query, bool withStartBalance)
 {
-    cSums sums;
+    cEntrySums sums;
     if (const auto known = KnownSums(query, withStartBalance)) {
         return *known;
     }
@@ -274,8 +156,8 @@ cEntryWindow cDataAccess::GetWindow(const modPeriod::cRange& days, QDate balance
     // Under that name, so that the next list that can be read lifts the refusal of writes after a failure.
     const bool isRead = Read("GetEntries", [&] {
         const cDatabase::cChangeMark mark = m_database.ChangeMark(); // before, in case another program writes meanwhile
-        cWindowRows rows;
-        isClear = ReadWindowRows(m_database, days, rows);
+        cWindowRows rows = ReadWindow(days, mark);
+        isClear = rows.IsClear;
         ExpandInto(m_database, before, within, rows);
         window.Entries = std::move(rows.Single);
         window.Series = std::move(rows.Series);
@@ -297,6 +179,25 @@ cEntryWindow cDataAccess::GetWindow(const modPeriod::cRange& days, QDate balance
         window.Before = GetSums(before, true);
     }
     return window;
+}
+
+void cDataAccess::ReadAhead(const modPeriod::cRange& days)
+{
+    if (IsReadOnly()) {
+        return; // tables of the connection may stand in for those of the file
+    }
+    (void)Look("GetEntries",
+               [&] { m_ahead = std::make_unique<cWindowAhead>(m_database.Path(), days, m_database.ChangeMark()); });
+}
+
+cWindowRows cDataAccess::ReadWindow(const modPeriod::cRange& days, const std::array<qint64, 3>& mark)
+{
+    std::optional<cWindowRows> rows;
+    if (m_ahead && !m_database.IsGathering()) {
+        rows = m_ahead->Take(days, mark);
+    }
+    m_ahead.reset();
+    return rows ? std::move(*rows) : cWindowRows::Read(m_database, days);
 }
 
 // None when they would have to be read.

@@ -38,15 +38,18 @@ cReportFigures LimitsOf(const cEntryItemList& entries, const cTemplateItemList& 
 
 } // namespace
 
+modPeriod::cRange cOverviewBook::DaysOn(QDate today)
+{
+    const QDate ahead = today.addDays(std::max({AheadDays, cForecast::WarningDays, DueDays}));
+    return {modOverview::FirstDay(today), std::max(modPeriod::Month(today, 0).End, ahead)};
+}
+
 cOverviewBook cOverviewBook::Read(const cBookTools& tools)
 {
     cOverviewBook book;
     book.Today = tools.Clock.Today();
     // One pass through the table for everything on the page.
-    const QDate ahead = book.Today.addDays(std::max(AheadDays, cForecast::WarningDays));
-    const modPeriod::cRange read{modOverview::FirstDay(book.Today),
-                                 std::max({modPeriod::Month(book.Today, 0).End, book.Today.addDays(DueDays), ahead})};
-    const cEntryWindow window = tools.Data.GetWindow(read, book.Today);
+    const cEntryWindow window = tools.Data.GetWindow(DaysOn(book.Today), book.Today);
     const cEntryItemList& entries = window.Entries;
     cForecast forecast(tools.Data, book.Today);
     book.Balances = forecast.Days({book.Today, book.Today.addDays(AheadDays)}, window);

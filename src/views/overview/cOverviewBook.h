@@ -2,6 +2,7 @@
 
 #include "model/cEntryItem.h"
 #include "model/cTemplateItem.h"
+#include "model/modPeriod.h"
 #include "views/list/cBalanceDays.h"
 #include "views/look/cCategoryLooks.h"
 #include "views/overview/modOverview.h"
@@ -20,6 +21,8 @@ struct cOverviewBook
     static constexpr int DueDays = 14;
 
     [[nodiscard]] static cOverviewBook Read(const cBookTools& tools);
+    // The days whose entries it reads.
+    [[nodiscard]] static modPeriod::cRange DaysOn(QDate today);
 
     QDate Today;
     bool IsUnread = false;   // the book refused; all else means nothing
