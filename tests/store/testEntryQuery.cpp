@@ -1,5 +1,6 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "store/cWindowAhead.h"
 #include "store/modSchema.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
@@ -193,13 +194,40 @@ private Q_SLOTS:
         const cAdded before = Added(book.Data.GetSums(UpTo(days.Start.addDays(-1)), true));
         const cAdded upToMiddle = Added(book.Data.GetSums(UpTo(middle), true));
         const cAdded withoutStart = Added(book.Data.GetSums(UpTo(middle), false));
-        const cEntryWindow window = book.Data.GetWindow(days, middle);
-        QCOMPARE(Ids(window.Entries), Ids(book.Data.GetEntries(within)));
-        QCOMPARE(Added(window.Before), before);
+        for (const bool isAhead : {true, false}) {
+            if (isAhead) {
+                book.Data.ReadAhead(days);
+            }
+            const cEntryWindow window = book.Data.GetWindow(days, middle);
+            QCOMPARE(Ids(window.Entries), Ids(book.Data.GetEntries(within)));
+            QCOMPARE(Added(window.Before), before);
+        }
         QCOMPARE(Added(book.Data.GetSums(UpTo(middle), true)), upToMiddle);
         QCOMPARE(Added(book.Data.GetSums(UpTo(middle), false)), withoutStart);
         QVERIFY(book.Data.DeleteEntry(2));
         QCOMPARE(Added(book.Data.GetSums(UpTo(middle), true)), Added(book.Data.GetEntries(UpTo(middle))));
+    }
+
+    void WindowAhead_data() const
+    {
+        const cTestRows<QString, int, qint64, bool> row("file", "later", "written", "taken");
+        row("nothing has changed", u""_s, 0, 0, true);
+        row("other days", u""_s, 1, 0, false);
+        row("written since", u""_s, 0, 1, false);
+        row("no such file", u".gone"_s, 0, 0, false);
+    }
+
+    // What was read beside other work is taken when it is what is asked for and still true.
+    void WindowAhead() const
+    {
+        QFETCH(const QString, file);
+        QFETCH(const int, later);
+        QFETCH(const qint64, written);
+        const cHousehold book;
+        const modPeriod::cRange days{QDate(2024, 2, 1), QDate(2024, 3, 5)};
+        cWindowAhead ahead(book.Database.Path() + file, days, {1, 0, 1});
+        const auto rows = ahead.Take({days.Start, days.End.addDays(later)}, {1, written, 1});
+        QTEST(rows.has_value(), "taken");
     }
 
     void OccurrencesAreCorrected() const
