@@ -104,7 +104,7 @@ auto TranslateOf(tConnection& connection, tCall call)
 
 int FlagsOf(eOpenMode mode)
 {
-    // The program has one thread, so the connection needs no locks of its own: they cost a fifth of the time of a scan.
+    // A connection belongs to one thread, so it needs no locks of its own: they cost a fifth of the time of a scan.
     switch (mode) {
     case eOpenMode::ReadOnly: return SQLite::OPEN_READONLY | SQLite::OPEN_NOMUTEX;
     case eOpenMode::Create: return SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE | SQLite::OPEN_NOMUTEX;
