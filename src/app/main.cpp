@@ -23,8 +23,10 @@
 #include <QCommandLineParser>
 #include <QDBusConnection>
 #include <QFileInfo>
+#include <QFontDatabase>
 
 #include <cstdio>
+#include <future>
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -92,6 +94,8 @@ int main(int argc, char* argv[])
         return RefuseWithoutDisplay();
     }
     QApplication application(argc, argv);
+    // The system's fonts are looked up while the book is opened; who needs one earlier waits for the rest of it.
+    const auto fonts = std::async(std::launch::async, [] { return QFontDatabase::hasFamily(QString()); });
     modChoiceAccess::Install();
     QApplication::setStyle(new cStyle); // over the desktop's own style, which only the application knows
     QApplication::setApplicationName(u"kontorelle"_s);
