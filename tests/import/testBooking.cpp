@@ -410,30 +410,35 @@ private Q_SLOTS:
         QCOMPARE(booked, paid);
     }
 
-    void PaymentsWithoutANameMakeOneSeries_data()
+    void PaymentsMakeOneSeries_data()
     {
-        // purposes, month by month; named: the last row has a name; entries: after all are booked at once
-        const cTestRows<QStringList, bool, int> row("purposes", "named", "entries");
+        // month by month: purposes, and names with accounts; entries: after all are booked at once
+        const cTestRows<QStringList, QStringList, int> row("purposes", "payees", "entries");
         const QString flat = u"Miete Lindenhof 12"_s;
-        row("the same words", {flat, flat, flat}, false, 1);
+        const QStringList nobody{{}, {}, {}};
+        const QStringList last{{}, {}, u"Tann"_s};
+        row("the same words", {flat, flat, flat}, nobody, 1);
         row("numbers and dates",
-            {u"Strom Rechnung 4711 vom 03.01."_s, u"Strom Rechnung 99 vom 04.02."_s, u"Strom Rechnung 815"_s}, false,
+            {u"Strom Rechnung 4711 vom 03.01."_s, u"Strom Rechnung 99 vom 04.02."_s, u"Strom Rechnung 815"_s}, nobody,
             1);
-        row("other words", {u"Miete Anna"_s, u"Mietzahlung"_s, flat}, false, 2); // the first may be the only one
-        row("named later", {u"Miete Januar 2026"_s, u"Miete Februar 2026"_s, u"Miete März 2026"_s}, true, 1);
-        row("somebody else", {flat, flat, u"Miete"_s}, true, 2);
+        row("other words", {u"Miete Anna"_s, u"Mietzahlung"_s, flat}, nobody, 2); // the first may be the only one
+        row("named later", {u"Miete Januar 2026"_s, u"Miete Februar 2026"_s, u"Miete März 2026"_s}, last, 1);
+        row("somebody else", {flat, flat, u"Miete"_s}, last, 2);
+        row("account later", {flat, flat, flat}, {u"Tann"_s, u"Tann"_s, u"Tann/DE05"_s}, 1);
+        row("account before", {flat, flat, flat}, {u"Tann/DE05"_s, u"Tann/DE05"_s, u"Tann"_s}, 1);
     }
 
-    // Two series of one payment would both go on for ever.
-    void PaymentsWithoutANameMakeOneSeries()
+    // Two series of one payment would both go on for ever: formats differ in what they say of the payee.
+    void PaymentsMakeOneSeries()
     {
         QFETCH(const QStringList, purposes);
-        QFETCH(const bool, named);
+        QFETCH(const QStringList, payees);
         cBank bank;
         QList<int> rows;
         for (int month = 0; month < purposes.size(); ++month) {
-            const QString name = named && month == 2 ? u"Tann"_s : QString();
-            rows.append(bank.Stage(day.addMonths(month), -650 - month, name, {}, u"111"_s, purposes.at(month)));
+            const QString& payee = payees.at(month);
+            rows.append(bank.Stage(day.addMonths(month), -650 - month, payee.section(u'/', 0, 0),
+                                   payee.section(u'/', 1, 1), u"111"_s, purposes.at(month)));
         }
         QCOMPARE(bank.BookAll(rows).Rows, 3);
         QTEST(bank.Data.CountEntries(), "entries");

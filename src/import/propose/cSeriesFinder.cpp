@@ -106,6 +106,9 @@ void cSeriesFinder::Note(const cImportEntry& row, int series)
 {
     const QString key = modCounterparty::Key(row);
     m_entries[key].insert(series);
+    if (const QString name = modCounterparty::NameKey(row); !name.isEmpty() && name != key) {
+        m_named[name].insert(series);
+    }
     if (const QString words = key.isEmpty() ? WordsOf(row) : QString(); !words.isEmpty()) {
         m_unnamed[words].insert(series);
     }
@@ -129,7 +132,7 @@ void cSeriesFinder::BuildDays()
 
 void cSeriesFinder::Learn(const cImportEntry& row, const cEntryItem& series)
 {
-    if (m_isBuilt) {
+    if (m_isBuilt && modRecurrence::IsRecurring(series.EntryInterval)) {
         Note(row, series.ID);
         m_series.insert(series.ID, series);
     }
@@ -157,15 +160,23 @@ std::optional<cSeriesMatch> cSeriesFinder::Find(const cImportEntry& row, const c
     return match ? match : Precede(alike, row);
 }
 
+// Some formats give the counterparty's account and some do not, so a row without is paid by whoever has its name.
+QSet<int> cSeriesFinder::SeriesOf(const cImportEntry& row) const
+{
+    const QString key = modCounterparty::Key(row);
+    const QString name = modCounterparty::NameKey(row);
+    return m_entries.value(key) + (name == key ? m_named : m_entries).value(name);
+}
+
 // A row that names nobody may pay any of them, because its words change; one that does, those that rows without a name
 // have paid in the same words: who comes with others may be somebody new. Whoever pays for two flats has two series:
 // the one of the nearer amount first.
 cEntryItemList cSeriesFinder::Alike(const cImportEntry& row, const cEntryItem& entry)
 {
-    const QString key = modCounterparty::Key(row);
-    QList<int> ids = m_entries.value(key).values();
+    const bool isNamed = !modCounterparty::Key(row).isEmpty();
+    QList<int> ids = (isNamed ? SeriesOf(row) : m_entries.value({})).values();
     if (modRecurrence::IsRecurring(entry.EntryInterval)) {
-        ids = key.isEmpty() ? m_series.keys() : (m_entries.value(key) + m_unnamed.value(WordsOf(row))).values();
+        ids = isNamed ? (SeriesOf(row) + m_unnamed.value(WordsOf(row))).values() : m_series.keys();
     }
     std::sort(ids.begin(), ids.end());
     cEntryItemList alike;
