@@ -4,9 +4,6 @@
 #include "base/modFold.h"
 #include "base/modMD5.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -37,8 +34,7 @@ private Q_SLOTS:
     void Dates() const
     {
         QFETCH(const QString, text);
-        QFETCH(const QDate, date);
-        QCOMPARE(modDate::FromIso(text), date);
+        QTEST(modDate::FromIso(text), "date");
     }
 
     void GermanDates() const
@@ -73,8 +69,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, text);
         QFETCH(const QString, search);
-        QFETCH(const bool, isFound);
-        QCOMPARE(modFold::HoldsAll(modFold::Fold(text), modFold::Words(search)), isFound);
+        QTEST(modFold::HoldsAll(modFold::Fold(text), modFold::Words(search)), "isFound");
     }
 
     void FindsInAllTextsAtOnce_data() const

@@ -3,9 +3,6 @@
 #include "base/modDayText.h"
 #include "base/modSum.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

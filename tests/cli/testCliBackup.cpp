@@ -3,10 +3,8 @@
 #include "core/cConfiguration.h"
 #include "core/modPassword.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
 
 #include <QDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -2,12 +2,8 @@
 #include "cCliRun.h"
 #include "core/cConfiguration.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/cTestRows.h"
 
 #include <QDir>
-#include <QFile>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

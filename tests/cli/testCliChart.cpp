@@ -1,9 +1,5 @@
 #include "cCliRun.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

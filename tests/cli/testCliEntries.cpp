@@ -1,10 +1,6 @@
 #include "app/machine/cFileLock.h"
 #include "cCliRun.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

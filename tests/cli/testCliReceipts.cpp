@@ -1,10 +1,7 @@
 #include "cCliRun.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
 
 #include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

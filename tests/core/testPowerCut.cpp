@@ -1,13 +1,9 @@
 #include "faults/cPowerVfs.h"
 #include "model/modSettingKey.h"
-#include "model/modWord.h"
 #include "store/cUndoStep.h"
-#include "store/modSchema.h"
 #include "support/bookDump.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
-
-#include <QTest>
 
 #include <sqlite3.h>
 

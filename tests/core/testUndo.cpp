@@ -1,12 +1,8 @@
-#include "model/modRecurrence.h"
 #include "model/modSettingKey.h"
-#include "model/modWord.h"
 #include "store/cUndoStep.h"
 #include "support/bookDump.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
-
-#include <QTest>
 
 #include <functional>
 

@@ -1,8 +1,5 @@
 #include "fints/cBankScene.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -25,11 +22,7 @@ cBankProfile Refusing(const QByteArray& step, int nth, const QByteArray& words,
 
 QString Methods(const cBankState& state)
 {
-    QStringList functions;
-    for (const TanVerfahrenItem& method : state.Methods) {
-        functions.append(method.SecurityFunction);
-    }
-    return functions.join(u' ');
+    return Each(state.Methods, &TanVerfahrenItem::SecurityFunction).join(u' ');
 }
 
 const QString syncEnd = u"sync 999 0/0 | end | "_s;
@@ -44,68 +37,70 @@ class testBusinessSetUp final : public QObject
 private Q_SLOTS:
     void FindsAccounts_data()
     {
-        QTest::addColumn<cBankProfile>("profile");
-        QTest::addColumn<QString>("story");
-        QTest::newRow("after the strong authentication only")
-            << cBankProfile() << syncEnd + u"init 912 78/0 HKIDN | HKTAB4 | end";
-        QTest::newRow("at once") << Profile([](cBankProfile& bank) { bank.TellsAccountsAtOnce = true; })
-                                 << syncEnd + u"init 912 78/3 HKIDN | HKTAB4 | end";
-        QTest::newRow("behind a TAN") << Profile([](cBankProfile& bank) { bank.AskedTans["HKIDN"] = {}; })
-                                      << syncEnd + u"init 912 78/0 HKIDN | TAN? | TAN | HKTAB4 | end";
-        QTest::newRow("behind an approval") << Profile([](cBankProfile& bank) {
-            bank.Methods = {cBankScene::App("5:3:2:J:J")};
-            bank.AskedTans["HKIDN"] = cBankScene::Approval(2);
-        })
-                                            << syncEnd
-                + u"init 946 78/0 HKIDN | wait 3 | status | wait 2 | status | wait 2 | status | done | HKTAB4 | end";
-        QTest::newRow("medium has to be named") << Profile([](cBankProfile& bank) {
-            bank.Methods = {{.Function = "912", .MediumRequired = "2"}};
-            bank.Media = {"mT?:0170"};
-        }) << syncEnd + u"init 912 78/0 HKTAB | HKTAB4 | end | init 912 78/3 HKIDN | HKTAB4 | end";
-        QTest::newRow("media in version 5") << Profile([](cBankProfile& bank) { bank.Parameters = {"HITABS:5+1+1+0"}; })
-                                            << syncEnd + u"init 912 78/0 HKIDN | HKTAB5 | end";
-        QTest::newRow("media not told") << Profile([](cBankProfile& bank) { bank.Parameters = {"HITABS:2+1+1+0"}; })
-                                        << syncEnd + u"init 912 78/0 HKIDN | end";
-        QTest::newRow("media refused") << Refusing("HKTAB", 1, "9210::Keine Medien.")
-                                       << syncEnd + u"init 912 78/0 HKIDN | HKTAB4 | end";
-        QTest::newRow("PIN alone") << Profile([](cBankProfile& bank) {
-            bank.Methods = {};
-            bank.OldMethods = "HITANS:1+1+1+0+J:N:0:0:900:2:ITAN:iTAN:6:1:TAN:99:1:J:J";
-            bank.Functions = "900";
-            bank.Parameters = {"HIKAZS:5+1+1+90:N:N"};
-            bank.TellsAccountsAtOnce = true;
-        }) << syncEnd + u"init 999 78/3 | end";
-        QTest::newRow("answers with a signature") << Profile([](cBankProfile& bank) { bank.IsSigned = true; })
-                                                  << syncEnd + u"init 912 78/0 HKIDN | HKTAB4 | end";
-        QTest::newRow("user parameters are old and come")
-            << Profile([](cBankProfile& bank) { bank.InitWords = "3050::UPD nicht mehr aktuell. Neue folgen."; })
-            << syncEnd + u"init 912 78/0 HKIDN | HKTAB4 | end";
-        QTest::newRow("ended, but the procedures had been told") << Profile([](cBankProfile& bank) {
-            bank.Refusals["HKSYN"] = {.Nth = 1,
-                                      .Global = "9800::Ende.",
-                                      .Local = "3920::Verfahren:912",
-                                      .Extra =
-                                          "HIBPA:3+78+280:12345678+Testbank+3+1+300'HITANS:6+1+1+1+N:N:0:912:2:sms::"
-                                          ":SMS:6:1:TAN:999:N:1:N:0:0:N:N:00:0:N:1"};
-        }) << u"sync 999 0/0 | sync 912 78/0 HKIDN | end"_s;
-        QTest::newRow("procedure of process 1") << Profile([](cBankProfile& bank) {
-            bank.Methods = {{.Function = "912", .Process = "1"}};
-            bank.AskedTans["HKIDN"] = {};
-        }) << syncEnd + u"init 912 78/0 HKIDN | TAN? | TAN | HKTAB4 | end";
-        QTest::newRow("user parameters are old and do not come") << Profile([](cBankProfile& bank) {
-            bank.TellsAccountsAtOnce = true;
-            bank.InitWords = "3050::UPD nicht mehr aktuell.";
-        }) << syncEnd + u"init 912 78/3 HKIDN | HKTAB4 | end | sync 999 78/3 | end";
+        const cTestRows<QString, cBankProfile> row("story", "profile");
+        row("after the strong authentication only", syncEnd + u"init 912 78/0 HKIDN | HKTAB4 | end", cBankProfile());
+        row("at once", syncEnd + u"init 912 78/3 HKIDN | HKTAB4 | end",
+            Profile([](cBankProfile& bank) { bank.TellsAccountsAtOnce = true; }));
+        row("behind a TAN", syncEnd + u"init 912 78/0 HKIDN | TAN? | TAN | HKTAB4 | end",
+            Profile([](cBankProfile& bank) { bank.AskedTans["HKIDN"] = {}; }));
+        row("behind an approval",
+            syncEnd
+                + u"init 946 78/0 HKIDN | wait 3 | status | wait 2 | status | wait 2 | status | done | HKTAB4 | end",
+            Profile([](cBankProfile& bank) {
+                bank.Methods = {cBankScene::App("5:3:2:J:J")};
+                bank.AskedTans["HKIDN"] = cBankScene::Approval(2);
+            }));
+        row("medium has to be named",
+            syncEnd + u"init 912 78/0 HKTAB | HKTAB4 | end | init 912 78/3 HKIDN | HKTAB4 | end",
+            Profile([](cBankProfile& bank) {
+                bank.Methods = {{.Function = "912", .MediumRequired = "2"}};
+                bank.Media = {"mT?:0170"};
+            }));
+        row("media in version 5", syncEnd + u"init 912 78/0 HKIDN | HKTAB5 | end",
+            Profile([](cBankProfile& bank) { bank.Parameters = {"HITABS:5+1+1+0"}; }));
+        row("media not told", syncEnd + u"init 912 78/0 HKIDN | end",
+            Profile([](cBankProfile& bank) { bank.Parameters = {"HITABS:2+1+1+0"}; }));
+        row("media refused", syncEnd + u"init 912 78/0 HKIDN | HKTAB4 | end",
+            Refusing("HKTAB", 1, "9210::Keine Medien."));
+        row("PIN alone", syncEnd + u"init 999 78/3 | end", Profile([](cBankProfile& bank) {
+                bank.Methods = {};
+                bank.OldMethods = "HITANS:1+1+1+0+J:N:0:0:900:2:ITAN:iTAN:6:1:TAN:99:1:J:J";
+                bank.Functions = "900";
+                bank.Parameters = {"HIKAZS:5+1+1+90:N:N"};
+                bank.TellsAccountsAtOnce = true;
+            }));
+        row("answers with a signature", syncEnd + u"init 912 78/0 HKIDN | HKTAB4 | end",
+            Profile([](cBankProfile& bank) { bank.IsSigned = true; }));
+        row("user parameters are old and come", syncEnd + u"init 912 78/0 HKIDN | HKTAB4 | end",
+            Profile([](cBankProfile& bank) { bank.InitWords = "3050::UPD nicht mehr aktuell. Neue folgen."; }));
+        row("ended, but the procedures had been told", u"sync 999 0/0 | sync 912 78/0 HKIDN | end"_s,
+            Profile([](cBankProfile& bank) {
+                bank.Refusals["HKSYN"] = {
+                    .Nth = 1,
+                    .Global = "9800::Ende.",
+                    .Local = "3920::Verfahren:912",
+                    .Extra = "HIBPA:3+78+280:12345678+Testbank+3+1+300'HITANS:6+1+1+1+N:N:0:912:2:sms::"
+                             ":SMS:6:1:TAN:999:N:1:N:0:0:N:N:00:0:N:1"};
+            }));
+        row("procedure of process 1", syncEnd + u"init 912 78/0 HKIDN | TAN? | TAN | HKTAB4 | end",
+            Profile([](cBankProfile& bank) {
+                bank.Methods = {{.Function = "912", .Process = "1"}};
+                bank.AskedTans["HKIDN"] = {};
+            }));
+        row("user parameters are old and do not come",
+            syncEnd + u"init 912 78/3 HKIDN | HKTAB4 | end | sync 999 78/3 | end", Profile([](cBankProfile& bank) {
+                bank.TellsAccountsAtOnce = true;
+                bank.InitWords = "3050::UPD nicht mehr aktuell.";
+            }));
     }
 
     void FindsAccounts()
     {
         QFETCH(cBankProfile, profile);
-        QFETCH(QString, story);
         cBankScene scene(profile);
         QVERIFY2(scene.Business.Discover(), qPrintable(scene.Business.ErrorText()));
         QVERIFY2(scene.Business.Refresh(), qPrintable(scene.Business.ErrorText()));
-        QCOMPARE(scene.Bank.Story(), story);
+        QTEST(scene.Bank.Story(), "story");
         QVERIFY(scene.Bank.IsQuiet());
         QCOMPARE(scene.State.Accounts.size(), 2);
         QCOMPARE(scene.State.Accounts.constFirst().Iban, u"DE11"_s);
@@ -174,7 +169,6 @@ private Q_SLOTS:
         QFETCH(cBankProfile, profile);
         QFETCH(eBankFault, fault);
         QFETCH(QString, text);
-        QFETCH(QString, story);
         cBankScene scene(profile);
         QVERIFY(!(scene.Business.Discover() && scene.Business.Refresh()));
         QCOMPARE(scene.Fault(), fault);
@@ -182,7 +176,7 @@ private Q_SLOTS:
         QVERIFY(!scene.Business.Failure().Text.isEmpty());
         QVERIFY(!scene.Business.Failure().Text.contains(u"9"));
         QVERIFY(!scene.Business.Failure().BankWords.isEmpty());
-        QCOMPARE(scene.Bank.Story(), story);
+        QTEST(scene.Bank.Story(), "story");
         QVERIFY(scene.Bank.IsQuiet());
         if (fault == eBankFault::WrongPin || fault == eBankFault::Locked) {
             QVERIFY(!scene.Business.Discover()); // the bank would complain of the PIN

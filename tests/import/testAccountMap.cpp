@@ -2,9 +2,6 @@
 #include "import/read/modAccountNumber.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -2,9 +2,6 @@
 #include "import/plan/cImportPlan.h"
 #include "model/modSplit.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 #include <functional>
 

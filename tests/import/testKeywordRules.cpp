@@ -5,9 +5,6 @@
 #include "model/cImportEntry.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -2,15 +2,9 @@
 #include "cImportBook.h"
 #include "import/match/cMatcher.h"
 #include "import/match/modMatchScore.h"
-#include "import/propose/cBooking.h"
-#include "model/modRecurrence.h"
 #include "model/modSplit.h"
-#include "model/modWord.h"
 #include "store/cUndoStep.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -57,15 +51,6 @@ struct cBank : cBankBook
     }
 
     QList<cMatchCandidate> Candidates(int row) { return cMatcher(Data, Hive, Accounts).Candidates(row); }
-};
-
-// Stops at once, as a user who has changed his mind.
-struct cStopped final : cProgress
-{
-    void showProgressBar(int /*maximum*/) override {}
-    void addProgressValue(int /*steps*/) override {}
-    void hideProgressBar() override {}
-    [[nodiscard]] bool IsCancelled() const override { return true; }
 };
 
 QList<int> Counts(const cMatchResult& result)
@@ -325,7 +310,7 @@ private Q_SLOTS:
         const int row = bank.Stage(day, -23.1, u"REWE"_s);
         QCOMPARE(Counts(bank.Match({row}, eMatchRun::Try)), QList<int>({1, 0, 0, 0}));
         QCOMPARE(bank.EntryOf(row), -1);
-        cStopped stopped;
+        cFakeStop stopped;
         const cMatchResult result =
             cMatcher(bank.Data, bank.Hive, bank.Accounts).MatchAll({row}, stopped, eMatchRun::Write);
         QVERIFY(result.IsCancelled && result.Left == QList<int>{row});

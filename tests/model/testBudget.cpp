@@ -2,8 +2,6 @@
 #include "model/modWord.h"
 #include "support/cTestClass.h"
 
-#include <QTest>
-
 #include <numeric>
 
 using namespace Qt::Literals::StringLiterals;

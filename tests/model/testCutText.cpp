@@ -1,9 +1,6 @@
 #include "model/cImportEntry.h"
 #include "model/modCutText.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -4,15 +4,27 @@
 #include "model/modPeriod.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+cImportEntry Row(qint64 value, const QString& purpose, const QString& beneficiary = {})
+{
+    cImportEntry row;
+    row.ImportValue = value;
+    row.ImportPurpose = purpose;
+    row.ImportBeneficiary = beneficiary;
+    return row;
+}
+
+} // namespace
 
 class testRecords final : public QObject
 {
     Q_OBJECT
+
+    using fnChange = void (*)(cImportEntry&);
 
 private Q_SLOTS:
     void PeriodNames_data() const
@@ -60,11 +72,10 @@ private Q_SLOTS:
     {
         QFETCH(const QString, category);
         QFETCH(const QString, name);
-        QFETCH(const QString, path);
         cTemplateItem item;
         item.TemplateCategory = category;
         item.TemplateName = name;
-        QCOMPARE(modTemplate::Path(item), path);
+        QTEST(modTemplate::Path(item), "path");
     }
 
     void TemplateTexts() const
@@ -127,46 +138,59 @@ private Q_SLOTS:
 
     void Duplicates_data() const
     {
-        using fnChange = void (*)(cImportEntry&);
-        QTest::addColumn<fnChange>("change");
-        QTest::addColumn<bool>("isDuplicate");
-        const auto add = [](const char* name, fnChange change, bool isDuplicate) {
-            QTest::newRow(name) << change << isDuplicate;
-        };
-        add(
-            "same", [](cImportEntry&) {}, true);
-        add(
-            "other booking text", [](cImportEntry& row) { row.ImportType = u"Lastschrift"_s; }, true);
-        add(
-            "other currency", [](cImportEntry& row) { row.ImportCurrency = u"USD"_s; }, true);
-        add(
-            "other day", [](cImportEntry& row) { row.ImportDate = row.ImportDate.addDays(1); }, false);
-        add(
-            "other case", [](cImportEntry& row) { row.ImportPurpose = u"MIETE"_s; }, false);
-        add(
-            "other bank", [](cImportEntry& row) { row.ImportBeneficiaryBLZ = u"1"_s; }, false);
-        add(
-            "other amount", [](cImportEntry& row) { row.ImportValue += 1; }, false);
+        const cTestRows<bool, fnChange> row("isDuplicate", "change");
+        row("same", true, [](cImportEntry&) {});
+        row("other booking text", true, [](cImportEntry& each) { each.ImportType = u"Lastschrift"_s; });
+        row("other currency", true, [](cImportEntry& each) { each.ImportCurrency = u"USD"_s; });
+        row("other day", false, [](cImportEntry& each) { each.ImportDate = each.ImportDate.addDays(1); });
+        row("other case", false, [](cImportEntry& each) { each.ImportPurpose = u"MIETE"_s; });
+        row("other account", false, [](cImportEntry& each) { each.ImportAccount = u"a"_s; });
+        row("other name", false, [](cImportEntry& each) { each.ImportBeneficiary = u"x"_s; });
+        row("other counterparty", false, [](cImportEntry& each) { each.ImportBeneficiaryAccount = u"x"_s; });
+        row("other bank", false, [](cImportEntry& each) { each.ImportBeneficiaryBLZ = u"1"_s; });
+        row("other amount", false, [](cImportEntry& each) { each.ImportValue += 1; });
     }
 
     void Duplicates() const
     {
-        using fnChange = void (*)(cImportEntry&);
         QFETCH(const fnChange, change);
-        QFETCH(const bool, isDuplicate);
         cImportEntry first;
         first.ImportDate = QDate(2024, 1, 1);
+        first.ImportAccount = u"A"_s;
         first.ImportPurpose = u"Miete"_s;
         first.ImportValue = -50000;
         cImportEntry second = first;
         change(second);
-        QCOMPARE(first.isEqual(second), isDuplicate);
+        QTEST(first.isEqual(second), "isDuplicate");
     }
 
     void ViewWordsBecomeQueryWords() const
     {
         QCOMPARE(modWord::QueryType(u"Umbuchung"_s), u"Umbuchungen"_s);
         QCOMPARE(modWord::QueryType(u"Alle Buchungsarten"_s), u"Alle Buchungen"_s);
+    }
+
+    void Similar_data() const
+    {
+        const cTestRows<cImportEntry, cImportEntry, double> row("row", "other", "score");
+        const cImportEntry rent = Row(-650, u"Miete Talstrasse 5"_s, u"Tann"_s);
+        row("equal expenses", rent, Row(-9, u"Miete Talstrasse 5"_s, u"Tann"_s), 1.025);
+        row("without purposes", Row(-1, {}, u"Tann"_s), Row(-2, {}, u"tann"_s), 1.025);
+        row("other payee", rent, Row(-650, u"Miete Talstrasse 5"_s, u"Ohlig"_s), 0.525);
+        row("the first letters in another case", rent, Row(-1, u"MIETE Talstrasse 5"_s, u"Tann"_s), 1.0);
+        row("expense beside income", rent, Row(650, u"Miete Talstrasse 5"_s, u"Tann"_s), 0.0);
+        row("nothing beside income", Row(0, u"A"_s), Row(1, u"A"_s), 0.0);
+        row("income goes by its amount", Row(100, u"abcd"_s, u"X"_s), Row(80, u"efgh"_s, u"X"_s), 0.4);
+        row("the larger one first or last", Row(80, u"abcd"_s), Row(100, u"abcf"_s), 0.775);
+    }
+
+    void Similar() const
+    {
+        QFETCH(const cImportEntry, row);
+        QFETCH(const cImportEntry, other);
+        QFETCH(const double, score);
+        QCOMPARE(row.isSimilar(other), score);
+        QCOMPARE(other.isSimilar(row), score);
     }
 };
 

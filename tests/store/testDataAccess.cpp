@@ -4,10 +4,7 @@
 #include "store/modSchema.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
-#include "support/cTestRows.h"
 #include "support/fakes.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -99,14 +96,13 @@ private Q_SLOTS:
     {
         QFETCH(const QString, stored);
         QFETCH(const qint64, cents);
-        QFETCH(const QString, written);
         cOpened book("INSERT INTO data (ID, EntryDate, EntryDateEnd) VALUES (1, '2024-01-05 00:00:00', 'nie')");
         book.Database.Execute("UPDATE data SET EntryValue = ?", {stored});
         std::optional<cEntryItem> entry = book.Data.LoadEntry(1);
         entry->EntryDescription = u"neu"_s;
         entry->EntryValue = cents;
         QVERIFY(book.Data.ChangeEntry(*entry));
-        QCOMPARE(book.Value("SELECT EntryValue FROM data"), written);
+        QTEST(book.Value("SELECT EntryValue FROM data"), "written");
         QCOMPARE(book.Value("SELECT EntryDate FROM data"), u"2024-01-05 00:00:00"_s);
         QCOMPARE(book.Value("SELECT EntryDateEnd FROM data"), u"2050-01-01"_s);
         QCOMPARE(book.Value("SELECT EntryDescription FROM data"), u"neu"_s);
@@ -216,11 +212,7 @@ private Q_SLOTS:
         cOpened book;
         cTestFile::Run(book.File.Path(),
                        "INSERT INTO import (ImportValue) VALUES (-12.340000000000002), (1.005), ('7.5'), (NULL)");
-        QList<qint64> cents;
-        for (const cImportEntry& row : book.Data.GetImportEntries()) {
-            cents.append(row.ImportValue);
-        }
-        QCOMPARE(cents, QList<qint64>({-1234, 101, 750, 0}));
+        QCOMPARE(Each(book.Data.GetImportEntries(), &cImportEntry::ImportValue), QList<qint64>({-1234, 101, 750, 0}));
     }
 
     void CacheLearnsOfEveryWrite() const

@@ -3,10 +3,7 @@
 #include "store/modSchema.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
-#include "support/cTestRows.h"
 #include "support/fakes.h"
-
-#include <QTest>
 
 #include <algorithm>
 
@@ -51,11 +48,7 @@ struct cHousehold
 
 QString Ids(const cEntryItemList& entries)
 {
-    QStringList ids;
-    for (const cEntryItem& entry : entries) {
-        ids.append(QString::number(entry.ID));
-    }
-    return ids.join(u' ');
+    return Each(entries, [](const cEntryItem& entry) { return QString::number(entry.ID); }).join(u' ');
 }
 
 cEntryQuery February(const QString& type = {}, const QString& account = {}, const QString& category = {})

@@ -3,12 +3,9 @@
 #include "store/modSchema.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
-#include "support/cTestRows.h"
 #include "support/fakes.h"
 
-#include <QDir>
 #include <QScopeGuard>
-#include <QTest>
 
 #include <unistd.h>
 

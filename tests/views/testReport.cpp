@@ -1,8 +1,6 @@
 #include "core/modDemo.h"
 #include "model/modSettingKey.h"
-#include "model/modWord.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
 #include "views/report/cReportExport.h"
@@ -14,8 +12,6 @@
 #include "views/report/modReportLink.h"
 
 #include <QAbstractItemModelTester>
-#include <QFile>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -69,10 +65,9 @@ QString Plain(const cReportSection& section)
 {
     QStringList groups;
     for (const cReportGroup& group : section.Groups) {
-        QStringList categories;
-        for (const cReportCategory& category : group.Categories) {
-            categories.append(u"%1 %2"_s.arg(category.Label).arg(category.Amount.Cents));
-        }
+        const QStringList categories = Each(group.Categories, [](const cReportCategory& category) {
+            return u"%1 %2"_s.arg(category.Label).arg(category.Amount.Cents);
+        });
         groups.append(u"%1 %2: %3"_s.arg(group.Label).arg(group.Amount.Cents).arg(categories.join(u", "_s)));
     }
     return groups.join(u" | "_s);
