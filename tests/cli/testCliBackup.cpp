@@ -24,8 +24,7 @@ private Q_SLOTS:
     void ThereAndBack()
     {
         const QString backup = Path(u"one.backup"_s);
-        const cCliRun made = Do(u"backup|"_s + backup);
-        QVERIFY2(made.Out.contains("one.backup: 1 Eintrag, der letzte vom 31.01.2026"_L1), qPrintable(made.Out));
+        Says(u"backup|"_s + backup, {u"one.backup: 1 Eintrag, der letzte vom 31.01.2026"_s});
         QVERIFY(!QFile::permissions(backup).testAnyFlags(QFile::ReadGroup | QFile::ReadOther));
         QVERIFY(!QFile::permissions(Book()).testAnyFlags(QFile::ReadGroup | QFile::ReadOther));
         AddEntry();
@@ -34,8 +33,7 @@ private Q_SLOTS:
         QVERIFY2(asked.Out.contains("1 Eintrag"_L1) && asked.Out.contains(u"2 Einträge"_s), qPrintable(asked.Out));
         QVERIFY(asked.Error.contains("--yes"_L1));
         QCOMPARE(Entries(), u"2"_s);
-        const cCliRun restored = Do(u"restore|%1|--yes"_s.arg(backup));
-        QVERIFY(restored.Out.contains(".ersetzt"_L1));
+        Says(u"restore|%1|--yes"_s.arg(backup), {u".ersetzt"_s});
         QCOMPARE(Entries(), u"1"_s);
     }
 
@@ -79,8 +77,7 @@ private Q_SLOTS:
                 cTestFile::Damage(Book(), "setting");
             }
             QCOMPARE(Run(u"balances"_s).Out, QString());
-            const cCliRun restored = Do(u"restore|%1|--yes"_s.arg(backup));
-            QVERIFY2(restored.Out.contains(u"beschädigt"_s), qPrintable(restored.Error));
+            Says(u"restore|%1|--yes"_s.arg(backup), {u"beschädigt"_s});
             QCOMPARE(Entries(), u"1"_s);
         }
     }
