@@ -260,6 +260,7 @@ private Q_SLOTS:
         const QString digest = u"900150983cd24fb0d6963f7d28e17f72"_s;
         row("digest", digest, u"abc"_s, true);
         row("digest in capitals", digest.toUpper(), u"abc"_s, true);
+        row("digest of UTF-8", u"8419b71c87a225a2c70b50486fbee545"_s, u"ä"_s, true);
         row("other letter case", digest, u"ABC"_s, false);
         row("the digest itself", digest, digest, false);
         row("older file: the password", u"abc"_s, u"abc"_s, true);

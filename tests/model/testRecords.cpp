@@ -164,12 +164,6 @@ private Q_SLOTS:
         QTEST(first.isEqual(second), "isDuplicate");
     }
 
-    void ViewWordsBecomeQueryWords() const
-    {
-        QCOMPARE(modWord::QueryType(u"Umbuchung"_s), u"Umbuchungen"_s);
-        QCOMPARE(modWord::QueryType(u"Alle Buchungsarten"_s), u"Alle Buchungen"_s);
-    }
-
     void Similar_data() const
     {
         const cTestRows<cImportEntry, cImportEntry, double> row("row", "other", "score");

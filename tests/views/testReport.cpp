@@ -1,4 +1,3 @@
-#include "core/modDemo.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
@@ -133,29 +132,6 @@ private Q_SLOTS:
         const cTestFormat format;
         const cReportFigures figures = modReport::Figures(Entries(entries), Limits(limits), wish);
         CompareWithFile(modReportHtml::Html(figures, wish, format.Format), QString::fromUtf8(QTest::currentDataTag()));
-    }
-
-    void HtmlOfTheDemo_data()
-    {
-        const cTestRows<eReport, QString, modPeriod::cRange> row("type", "account", "range");
-        const modPeriod::cRange month = modPeriod::Month(QDate(2026, 2, 1), 0);
-        row("beispiel-summe", eReport::Sum, u"Bargeld"_s, month);
-        row("beispiel-durchschnitt", eReport::Average, u"Sparkonto"_s, year2026);
-        row("beispiel-limit", eReport::Limit, {}, month);
-    }
-
-    void HtmlOfTheDemo()
-    {
-        QFETCH(eReport, type);
-        QFETCH(QString, account);
-        QFETCH(modPeriod::cRange, range);
-        cTestBook book;
-        book.Clock.Day = QDate(2026, 3, 15);
-        QVERIFY(modDemo::Write(book.Data, {book.Clock.Day, 1, 0}));
-        book.Settings->ResetViewDefaults();
-        cReportSource source(book.Tools);
-        const cReportWish wish = source.Wish(type, account, modWord::FreierZeitraum, range);
-        CompareWithFile(source.Html(wish), QString::fromUtf8(QTest::currentDataTag()));
     }
 
     void Figures_data()
