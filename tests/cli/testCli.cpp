@@ -88,6 +88,7 @@ private Q_SLOTS:
     {
         const cTestRows<QString, QStringList> row("filter", "days");
         row("kind", u"|--kind|Ausgabe"_s, {u"2024-03-04"_s, u"2024-03-06"_s, u"2024-03-11"_s});
+        row("kind in the plural", u"|--kind|Umbuchungen"_s, {u"2024-03-08"_s});
         row("category with its sub-categories", u"|--category|Haushalt"_s,
             {u"2024-03-04"_s, u"2024-03-06"_s, u"2024-03-11"_s});
         row("account, transfers into it too", u"|--account|Sparkonto"_s, {u"2024-03-08"_s});

@@ -81,15 +81,10 @@ private Q_SLOTS:
         const cOfferedMethod sms{.Function = "912"};
         row("typed", sms, cAskedTan{}, true, eTanDisplay::Text);
         row("picture", cOfferedMethod{.Function = "913", .Technical = "MS1.0.0", .Name = "photoTAN"},
-            cAskedTan{
-                .HhdUc = QByteArray("\0\11image/png\0\14\211PNG+'@5@\r\n\032\n", 25),
-            },
-            true, eTanDisplay::Picture);
+            cAskedTan{.HhdUc = QByteArray("\0\11image/png\0\14\211PNG+'@5@\r\n\032\n", 25)}, true,
+            eTanDisplay::Picture);
         row("flicker code", cOfferedMethod{.Function = "914", .Technical = "HHD1.4OPT", .Name = "chipTAN"},
-            cAskedTan{
-                .HhdUc = "0248A0120452019980812345678",
-            },
-            true, eTanDisplay::Flicker);
+            cAskedTan{.HhdUc = "0248A0120452019980812345678"}, true, eTanDisplay::Flicker);
         row("beside a fault in one segment", sms, cAskedTan{.Code = "9010::Teilweise fehlerhaft."}, true,
             eTanDisplay::Text);
         row("no challenge", sms, cAskedTan{.Challenge = "nochallenge"}, false, eTanDisplay::Text);

@@ -123,15 +123,6 @@ private Q_SLOTS:
         QVERIFY(book.User.Shown.isEmpty());
     }
 
-    void MissingFileIsRefused()
-    {
-        cImportBook book;
-        cNoProgress progress;
-        const cImportResult result =
-            cStatementImport(book.Data, book.Hive).ImportFile(u"/nirgends/x.sta"_s, {}, progress);
-        QVERIFY(result.IsRefused && result.Message.startsWith(u"Die Datei kann nicht geöffnet werden"));
-    }
-
     // A text or an amount that lacks its end would come again whole with the next file.
     void FilesAreCutOff_data()
     {
