@@ -4,28 +4,18 @@
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 
-#include <functional>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 cEntryItemFixMod FixMod(int entryId, qint64 cents)
 {
-    cEntryItemFixMod fixMod;
-    fixMod.EntryRelation = entryId;
-    fixMod.EntryModType = modWord::Betrag;
-    fixMod.EntryStartDate = QDate(2026, 2, 1);
-    fixMod.EntryEndDate = QDate(2026, 2, 28);
-    fixMod.EntryValue = cents;
-    return fixMod;
+    return {0, entryId, modWord::Betrag, QDate(2026, 2, 1), QDate(2026, 2, 28), cents, {}};
 }
 
-using fnAction = std::function<bool(cTestBook&, const cEntryItem&)>;
+using fnAction = bool (*)(cTestBook&, const cEntryItem&);
 
 } // namespace
-
-Q_DECLARE_METATYPE(fnAction)
 
 class testUndo final : public QObject
 {
@@ -34,30 +24,27 @@ class testUndo final : public QObject
 private Q_SLOTS:
     void StepsGoBackAndForth_data()
     {
-        QTest::addColumn<fnAction>("Action");
-
-        QTest::newRow("entry with correction and bank row deleted")
-            << fnAction([](cTestBook& book, const cEntryItem& entry) { return book.Data.DeleteEntry(entry.ID); });
-        QTest::newRow("entry added and changed in the same step")
-            << fnAction([](cTestBook& book, const cEntryItem& entry) {
-                   cEntryItem copy = entry;
-                   return book.Data.AddNewEntry(copy) && book.Data.ChangeEntry(copy);
-               });
-        QTest::newRow("correction replaced") << fnAction(
+        const cTestRows<fnAction> row("Action");
+        row("entry with correction and bank row deleted",
+            [](cTestBook& book, const cEntryItem& entry) { return book.Data.DeleteEntry(entry.ID); });
+        row("entry added and changed in the same step", [](cTestBook& book, const cEntryItem& entry) {
+            cEntryItem copy = entry;
+            return book.Data.AddNewEntry(copy) && book.Data.ChangeEntry(copy);
+        });
+        row("correction replaced",
             [](cTestBook& book, const cEntryItem& entry) { return book.Data.AddNewEntryMod(FixMod(entry.ID, 5)); });
-        QTest::newRow("category renamed in entries") << fnAction([](cTestBook& book, const cEntryItem& entry) {
+        row("category renamed in entries", [](cTestBook& book, const cEntryItem& entry) {
             return book.Data.ChangeEntryCategory(u"Neu; Kid's"_s, entry.EntryCategory);
         });
-        QTest::newRow("account moved") << fnAction(
+        row("account moved",
             [](cTestBook& book, const cEntryItem&) { return book.Data.ChangeEntryAccount(u"Giro"_s, u"girokonto"_s); });
-        QTest::newRow("template added, other deleted") << fnAction([](cTestBook& book, const cEntryItem&) {
+        row("template added, other deleted", [](cTestBook& book, const cEntryItem&) {
             cTemplateItem item = book.Data.GetTemplates().constFirst();
             const int id = item.ID;
             return book.Data.AddNewTemplate(item) && book.Data.DeleteTemplate(id);
         });
-        QTest::newRow("all bank rows deleted")
-            << fnAction([](cTestBook& book, const cEntryItem&) { return book.Data.DeleteAllImports(); });
-        QTest::newRow("setting under the same name in another row") << fnAction([](cTestBook& book, const cEntryItem&) {
+        row("all bank rows deleted", [](cTestBook& book, const cEntryItem&) { return book.Data.DeleteAllImports(); });
+        row("setting under the same name in another row", [](cTestBook& book, const cEntryItem&) {
             return book.Settings->Delete(modSettingKey::BankNumber.Of(u"1"_s))
                 && book.Settings->Set(modSettingKey::BankNumber.Of(u"2"_s), u"Bargeld"_s)
                 && book.Settings->Set(modSettingKey::BankNumber.Of(u"1"_s), u"Sparkonto"_s);
@@ -74,13 +61,7 @@ private Q_SLOTS:
             item.EntryInterval = u"Monatlich"_s;
         });
         QVERIFY(book.Data.AddNewEntryMod(FixMod(entry.ID, 4711)));
-        cImportEntry row;
-        row.ImportAccount = u"1"_s;
-        row.ImportDate = entry.EntryDate;
-        row.ImportValue = -1000;
-        row.ImportAssigned = true;
-        row.ImportAssignedEntry = entry.ID;
-        QVERIFY(book.Data.AddNewImportEntry(row));
+        book.Stage(u"1"_s, entry.EntryDate, -1000, {}, entry.ID);
         // Older files hold what this program would write in another form.
         book.Database.Execute(
             "UPDATE data SET EntryDate='2026-03-10 00:00:00', EntryValue=10, EntryFlags=NULL, "

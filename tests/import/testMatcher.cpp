@@ -23,26 +23,19 @@ struct cBank : cBankBook
     int Add(QDate date, qint64 cents, const QString& text, const QString& category = u"Sonstiges"_s,
             const QString& interval = modWord::Einmalig)
     {
-        cEntryItem entry;
-        entry.EntryDate = date;
-        entry.EntryDateEnd = modRecurrence::OpenEnd;
-        entry.EntryType = cents < 0 ? modWord::Ausgabe : modWord::Einnahme;
-        entry.EntryValue = std::abs(cents);
-        entry.EntryAccount = u"Girokonto"_s;
-        entry.EntryCategory = category;
-        entry.EntryInterval = interval;
-        entry.EntryDescription = text;
-        return Data.AddNewEntry(entry) ? entry.ID : 0;
+        return cTestBook::Add([&](cEntryItem& entry) {
+                   entry.EntryDate = date;
+                   entry.EntryType = cents < 0 ? modWord::Ausgabe : modWord::Einnahme;
+                   entry.EntryValue = std::abs(cents);
+                   entry.EntryCategory = category;
+                   entry.EntryInterval = interval;
+                   entry.EntryDescription = text;
+               })
+            .ID;
     }
 
     // A transfer from the current account to the savings account.
-    int AddTransfer(QDate date, qint64 cents)
-    {
-        cEntryItem entry = *Data.LoadEntry(Add(date, cents, u"Sparen"_s));
-        entry.EntryType = modWord::Umbuchung;
-        entry.EntryAccountMove = u"Sparkonto"_s;
-        return Data.ChangeEntry(entry) ? entry.ID : 0;
-    }
+    int AddTransfer(QDate date, qint64 cents) { return Move(u"Girokonto"_s, u"Sparkonto"_s, cents, date).ID; }
 
     cMatchResult Match(const QList<int>& rows, eMatchRun run = eMatchRun::Write)
     {

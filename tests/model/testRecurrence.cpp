@@ -119,12 +119,9 @@ private Q_SLOTS:
 
     void Corrections() const
     {
-        cEntryItemFixMod february;
-        february.EntryStartDate = QDate(2024, 2, 1); // the month's first day, not the occurrence's
-        february.EntryComment = u"Nachlass"_s;
-        cEntryItemFixMod beside;
-        beside.EntryStartDate = QDate(2024, 3, 15);
-        beside.EntryValue = 99;
+        // The month's first day, not the occurrence's.
+        const cEntryItemFixMod february{0, 0, {}, QDate(2024, 2, 1), {}, 0, u"Nachlass"_s};
+        const cEntryItemFixMod beside{0, 0, {}, QDate(2024, 3, 15), {}, 99, {}};
         const cEntryItemList found = Expanded(Series(u"Monatlich"_s, QDate(2024, 1, 15)),
                                               {QDate(2024, 1, 1), QDate(2024, 3, 31)}, {february, beside});
         QCOMPARE(Days(found), u"2024-01-15 2024-02-15 2024-03-15"_s);
@@ -160,10 +157,7 @@ private Q_SLOTS:
         QFETCH(const QDate, start);
         QFETCH(const QDate, key);
         QFETCH(const QDate, day);
-        cEntryItemFixMod fixMod;
-        fixMod.EntryStartDate = key;
-        fixMod.EntryValue = 1000;
-        fixMod.EntryDay = day;
+        const cEntryItemFixMod fixMod{0, 0, {}, key, {}, 1000, {}, day};
         const cEntryItem series = Series(interval, start, QDate(2024, 3, 15));
         const cEntryItemList found = Expanded(series, {QDate(2024, 2, 1), QDate(2024, 3, 31)}, {fixMod});
         QTEST(Days(found), "days");

@@ -44,10 +44,7 @@ cEntryItem Entry()
 
 cEntryItemFixMod FixMod(int entryId)
 {
-    cEntryItemFixMod fixMod;
-    fixMod.EntryRelation = entryId;
-    fixMod.EntryModType = modWord::Betrag;
-    return fixMod;
+    return {0, entryId, modWord::Betrag, {}, {}, 0, {}};
 }
 
 } // namespace

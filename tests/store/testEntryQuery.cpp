@@ -215,13 +215,7 @@ private Q_SLOTS:
     {
         cHousehold book;
         const auto move = [&](int series, QDate start, QDate day) {
-            cEntryItemFixMod fixMod;
-            fixMod.EntryRelation = series;
-            fixMod.EntryModType = modWord::Betrag;
-            fixMod.EntryStartDate = start;
-            fixMod.EntryDay = day;
-            fixMod.EntryValue = 700;
-            QVERIFY(book.Data.AddNewEntryMod(fixMod));
+            QVERIFY(book.Data.AddNewEntryMod({0, series, modWord::Betrag, start, {}, 700, {}, day}));
             const cEntryItemFixMod stored = book.Data.GetEntryMods(series).constLast();
             QCOMPARE(stored.EntryDay, day);
             QCOMPARE(stored.EntryModType, modWord::Betrag);

@@ -34,8 +34,6 @@ cFile FileOf(int id)
 
 } // namespace
 
-Q_DECLARE_METATYPE(fnChange)
-
 class testStagedTwins final : public QObject
 {
     Q_OBJECT
