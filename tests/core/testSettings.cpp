@@ -3,33 +3,19 @@
 #include "core/modPassword.h"
 #include "model/modSettingKey.h"
 #include "store/cUndoStep.h"
-#include "store/modSchema.h"
+#include "support/cOpenedFile.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/fakes.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct cOpened
+struct cOpened : cOpenedFile
 {
-    cOpened()
-    {
-        Database.Open(File.Make(), eOpenMode::ReadWrite);
-        modSchema::Upgrade(Database);
-    }
-
     [[nodiscard]] QString Stored(const std::string& name)
     {
-        return cTestFile::Value(
-            Database, "SELECT SettingValue || '|' || SettingDefault FROM setting WHERE SettingName = '" + name + "'");
+        return Value("SELECT SettingValue || '|' || SettingDefault FROM setting WHERE SettingName = '" + name + "'");
     }
-
-    cTestFile File;
-    cFakeUser User;
-    cDatabase Database{1};
-    cDataAccess Data{Database, User};
 };
 
 QString Current(const QString& name)

@@ -1,9 +1,6 @@
 #include "model/modWord.h"
-#include "store/cDataAccess.h"
-#include "store/modSchema.h"
+#include "support/cOpenedFile.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/fakes.h"
 
 #include <algorithm>
 
@@ -30,20 +27,13 @@ constexpr const char* household =
     " (15, '2024-01-10', '2050-01-01', 'Ausgabe', 'Alle 5 Tage', 'Giro', '', 'Haus', '5.00'),"
     " (16, '2024-03-02', '2050-01-01', 'Einnahme', 'Monatlich', 'Spar', '', 'Allgemein; Startguthaben', '6.00');";
 
-struct cHousehold
+struct cHousehold : cOpenedFile
 {
-    cHousehold()
+    cHousehold() : cOpenedFile(household)
     {
-        Database.Open(File.Make(household), eOpenMode::ReadWrite);
-        modSchema::Upgrade(Database);
         Database.ExecuteScript("INSERT INTO datamod (EntryRelation, EntryStartDate, EntryValue, EntryComment) VALUES"
                                " (11, '2024-02-01', '0.00', 'frei'), (12, '2024-02-01', '9.00', 'fremd')");
     }
-
-    cTestFile File;
-    cFakeUser User;
-    cDatabase Database;
-    cDataAccess Data{Database, User};
 };
 
 QString Ids(const cEntryItemList& entries)
