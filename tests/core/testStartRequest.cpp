@@ -48,7 +48,7 @@ private Q_SLOTS:
     }
 
 private:
-    const cTestFile m_folder;
+    cTestFile m_folder;
 };
 
 TEST_CLASS(testStartRequest, QCoreApplication)
