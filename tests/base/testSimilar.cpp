@@ -1,10 +1,8 @@
 #include "base/modSimilar.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 
 #include <QRandomGenerator>
 #include <QStringList>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -120,8 +118,7 @@ private Q_SLOTS:
     {
         QFETCH(const QString, a);
         QFETCH(const QString, b);
-        QFETCH(const double, ratio);
-        QCOMPARE(modSimilar::Similarity(a, b), ratio);
+        QTEST(modSimilar::Similarity(a, b), "ratio");
     }
 
     void EqualsThePlainRecursion_data() const

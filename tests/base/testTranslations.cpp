@@ -2,7 +2,6 @@
 
 #include <QFile>
 #include <QRegularExpression>
-#include <QTest>
 #include <QXmlStreamReader>
 
 using namespace Qt::Literals::StringLiterals;

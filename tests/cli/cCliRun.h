@@ -9,6 +9,7 @@
 #include <QString>
 #include <QStringList>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <memory>
 
@@ -69,6 +70,12 @@ public:
         return run;
     }
 
+    // A line that has to succeed, and its output holds these words.
+    void Says(const QString& line, const QStringList& words) const { Compare(Run(line), 0, words); }
+
+    // A line that has to fail: nothing is put out, and these words say why.
+    void Refuses(const QString& line, const QStringList& words) const { Compare(Run(line), 1, words); }
+
     [[nodiscard]] QString Path(const QString& name) const { return m_folder->filePath(name); }
     [[nodiscard]] QString Book() const { return Path(QStringLiteral("Veltrino Kontorelle/data.db")); }
 
@@ -91,5 +98,13 @@ public:
     void Renew() { m_folder = std::make_unique<QTemporaryDir>(); }
 
 private:
+    static void Compare(const cCliRun& run, int code, const QStringList& words)
+    {
+        QVERIFY2(run.Code == code && (code == 0 || run.Out.isEmpty()), qPrintable(run.Text()));
+        for (const QString& word : words) {
+            QVERIFY2((code == 0 ? run.Out : run.Error).contains(word), qPrintable(word + u": " + run.Text()));
+        }
+    }
+
     std::unique_ptr<QTemporaryDir> m_folder = std::make_unique<QTemporaryDir>();
 };

@@ -1,19 +1,12 @@
-#include "app/machine/cQtRegistry.h"
-#include "app/machine/cQtShell.h"
 #include "cCliRun.h"
 #include "core/cBook.h"
 #include "runInside.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
-#include "testbank/cTestBank.h"
+#include "testbank/cBankHousehold.h"
 #include "testbank/cTestHttps.h"
 #include "views/bank/cBankListModel.h"
 #include "views/book/cBookAccess.h"
-
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -53,12 +46,10 @@ struct cScene
         const cAmountFormat format(configuration);
         const cBookTools tools{book.Data(), book.Settings(), format, user, Clock};
         const cBankListModel model(tools);
-        QStringList texts;
-        for (const cBankListModel::cLine& line : model.Lines()) {
-            texts.append(u"%1 in %2 by %3 %4"_s.arg(line.Account.Number, line.BookAccount,
-                                                    line.Bank.Method->SecurityFunction, line.Bank.Medium));
-        }
-        return texts;
+        return Each(model.Lines(), [](const cBankListModel::cLine& line) {
+            return u"%1 in %2 by %3 %4"_s.arg(line.Account.Number, line.BookAccount, line.Bank.Method->SecurityFunction,
+                                              line.Bank.Medium);
+        });
     }
 
     QTemporaryDir Folder;
@@ -71,6 +62,13 @@ struct cScene
 
 const QString login = u"|--blz|12345678|--login|testuser"_s;
 const QString talk = login + u"|--url|https://bank.example/fints|--product|PRODUKTID0123456789012345"_s;
+
+int Run(cHousehold& house, const QStringList& arguments, const QByteArray& pin = "12345\n")
+{
+    const QTemporaryDir profile;
+    const QStringList whole{u"fetch"_s, u"--database"_s, house.Path(), u"--pin-fd"_s, u"PIN"_s};
+    return RunInside({profile.path(), house.Clock, house.Https, pin}, whole + arguments);
+}
 
 } // namespace
 
@@ -135,6 +133,44 @@ private Q_SLOTS:
         QFETCH(QString, Line);
         cScene scene;
         QCOMPARE(scene.Run(Line), 2);
+    }
+
+    void FetchesAndTellsByItsCode_data()
+    {
+        const cTestRows<QStringList, QByteArray, int, qsizetype> row("arguments", "pin", "code", "rows");
+        row("all", {}, "12345\n", 0, 7);
+        row("chosen",
+            {u"--account"_s, u"DE02 1002 0030 0001 2345 67"_s, u"--blz"_s, u"12345678"_s, u"--from"_s, u"01.03.2026"_s,
+             u"--json"_s},
+            "12345\n", 0, 7);
+        row("old days", {u"--from"_s, u"01.11.2025"_s}, "12345\n", 0, 7);
+        row("another account", {u"--account"_s, u"4711"_s}, {}, 1, 0);
+        row("no PIN", {}, {}, 1, 0);
+        row("empty period", {u"--from"_s, u"03.03.2026"_s, u"--to"_s, u"02.03.2026"_s}, "12345\n", 1, 0);
+        row("no day", {u"--from"_s, u"irgendwann"_s}, {}, 2, 0);
+    }
+
+    void FetchesAndTellsByItsCode()
+    {
+        QFETCH(QStringList, arguments);
+        QFETCH(QByteArray, pin);
+        cHousehold house;
+        house.Tell(cBankMonth::Example());
+        QTEST(Run(house, arguments, pin), "code");
+        QTEST(house.Data.GetImportEntries().size(), "rows");
+    }
+
+    // The log is written of what failed as well, and tells of nobody.
+    void WritesTheLog()
+    {
+        cHousehold house;
+        house.Tell(cBankMonth::Example());
+        house.Bank.Profile.Accounts.first().Refusal = "9210::Konto gesperrt.";
+        const QTemporaryDir folder;
+        QCOMPARE(Run(house, {u"--log"_s, folder.filePath(u"log.txt"_s)}), 1);
+        const QByteArray text = cTestFile::Bytes(folder.filePath(u"log.txt"_s));
+        QVERIFY(text.contains("HNHBK") && text.contains("9210"));
+        QVERIFY(!text.contains("testuser") && !text.contains("1234567") && !text.contains("12345'"));
     }
 };
 

@@ -1,8 +1,5 @@
 #include "cCliRun.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -39,19 +36,16 @@ private Q_SLOTS:
         const cCliRun staged = Do(u"staged|--json"_s);
         QCOMPARE(cCliRun::Column(tried.value(u"rows"_s).toArray(), u"ImportPurpose"_s),
                  staged.Column(u"ImportPurpose"_s));
-        const cCliRun again = Do(u"import|%1|--dry-run"_s.arg(m_giro));
-        QVERIFY2(again.Out.contains("0 neu, 6 schon vorhanden"_L1), qPrintable(again.Text()));
+        Says(u"import|%1|--dry-run"_s.arg(m_giro), {u"0 neu, 6 schon vorhanden"_s});
     }
 
     void AccountOfALayoutIsRemembered()
     {
-        const cCliRun asked = Run(u"import|"_s + m_table);
-        QVERIFY2(asked.Code == 1 && asked.Error.contains("Kontonummer"_L1), qPrintable(asked.Text()));
+        Refuses(u"import|"_s + m_table, {u"Kontonummer"_s});
         Do(u"import|%1|--account|4711|--dry-run"_s.arg(m_table));
         QCOMPARE(Run(u"import|"_s + m_table).Code, 1);
         Do(u"import|%1|--account|4711"_s.arg(m_table));
-        const QJsonObject known = Do(u"import|%1|--json"_s.arg(m_table)).Json().at(0).toObject();
-        QCOMPARE(known.value(u"duplicates"_s).toInt(), 3);
+        QCOMPARE(Do(u"import|%1|--json"_s.arg(m_table)).Column(u"duplicates"_s), QStringList(u"3"_s));
     }
 
     void ColumnsAndCharsetAreChosen()
@@ -66,44 +60,34 @@ private Q_SLOTS:
     void AmountsWithoutSignAreNotGuessed()
     {
         cTestFile::Write(m_table, "Tag;Text;Betrag\n03.02.2026;Miete;500,00\n");
-        const cCliRun refused = Run(u"import|%1|--account|1"_s.arg(m_table));
-        QVERIFY2(refused.Code == 1 && refused.Error.contains("Miete"_L1) && refused.Error.contains("-500,00"_L1)
-                     && refused.Error.contains("--sign umgekehrt"_L1),
-                 qPrintable(refused.Text()));
+        Refuses(u"import|%1|--account|1"_s.arg(m_table), {u"Miete"_s, u"-500,00"_s, u"--sign umgekehrt"_s});
         Do(u"import|%1|--account|1|--sign|umgekehrt"_s.arg(m_table));
         QCOMPARE(Do(u"staged|--json"_s).Column(u"ImportValue"_s), QStringList(u"-500"_s));
-        const cCliRun again = Do(u"import|%1|--json"_s.arg(m_table));
-        QCOMPARE(again.Json().at(0).toObject().value(u"duplicates"_s).toInt(), 1);
+        QCOMPARE(Do(u"import|%1|--json"_s.arg(m_table)).Column(u"duplicates"_s), QStringList(u"1"_s));
     }
 
     void ColumnsAreRemembered()
     {
         Do(u"import|%1|--account|1|--map|datum=0,betrag=2,zweck=1|--remember"_s.arg(m_table));
-        const cCliRun again = Do(u"import|%1|--json"_s.arg(m_table));
-        QCOMPARE(again.Json().at(0).toObject().value(u"duplicates"_s).toInt(), 3);
-        const cCliRun found = Do(u"detect|%1|--json"_s.arg(m_table));
-        QVERIFY2(found.Out.contains(u"\"origin\": \"memory\""_s), qPrintable(found.Text()));
+        QCOMPARE(Do(u"import|%1|--json"_s.arg(m_table)).Column(u"duplicates"_s), QStringList(u"3"_s));
+        Says(u"detect|%1|--json"_s.arg(m_table), {u"\"origin\": \"memory\""_s});
         cTestFile::Write(m_table, "Tag;W\x84hrung;Wert\n03.02.2026;\x8E;-4,20\n");
         Do(u"import|%1|--account|1|--charset|cp850|--map|datum=0,zweck=1,betrag=2|--remember"_s.arg(m_table));
-        const cCliRun cp850 = Do(u"import|%1|--account|1|--json"_s.arg(m_table));
-        QCOMPARE(cp850.Json().at(0).toObject().value(u"duplicates"_s).toInt(), 1);
+        QCOMPARE(Do(u"import|%1|--account|1|--json"_s.arg(m_table)).Column(u"duplicates"_s), QStringList(u"1"_s));
     }
 
     void StrayDetailsAreSkippedOnRequest()
     {
         const QString file =
             Write(u"a.sta"_s, ":20:A\n:25:1\n:60F:C260101EUR0,00\n:86:Vorwort\n:61:260101D1,00NTRF\n:86:x\n-\n");
-        const cCliRun refused = Run(u"import|"_s + file);
-        QVERIFY2(refused.Code == 1 && refused.Error.contains("--skip-stray-details"_L1), qPrintable(refused.Text()));
-        const cCliRun read = Do(u"import|%1|--skip-stray-details"_s.arg(file));
-        QVERIFY2(read.Out.contains("1 gelesen, 1 neu"_L1), qPrintable(read.Text()));
+        Refuses(u"import|"_s + file, {u"--skip-stray-details"_s});
+        Says(u"import|%1|--skip-stray-details"_s.arg(file), {u"1 gelesen, 1 neu"_s});
     }
 
     void OtherCurrencyIsTakenOnRequest()
     {
         const QString file = Write(u"a.sta"_s, ":20:A\n:25:1\n:60F:C260101USD0,00\n:61:260101D1,00NTRF\n:86:x\n-\n");
-        const cCliRun refused = Run(u"import|"_s + file);
-        QVERIFY2(refused.Code == 1 && refused.Error.contains("--take-currency"_L1), qPrintable(refused.Text()));
+        Refuses(u"import|"_s + file, {u"--take-currency"_s});
         Do(u"import|%1|--take-currency"_s.arg(file));
         Do(u"import|"_s + file);
     }
@@ -223,10 +207,8 @@ private Q_SLOTS:
         const QString shared = Path(u"aufbau.txt"_s);
         Do(u"layouts|export|%1|%2|--map|datum=0,betrag=2,zweck=1"_s.arg(m_table, shared));
         Do(u"layouts|import|"_s + shared);
-        const cCliRun found = Do(u"detect|"_s + m_table);
-        QVERIFY2(found.Out.contains("datum=0,betrag=2,zweck=1"_L1), qPrintable(found.Text()));
-        const cCliRun bad = Run(u"layouts|import|"_s + m_table);
-        QVERIFY2(bad.Code == 1 && bad.Error.contains("kein Aufbau"_L1), qPrintable(bad.Text()));
+        Says(u"detect|"_s + m_table, {u"datum=0,betrag=2,zweck=1"_s});
+        Refuses(u"layouts|import|"_s + m_table, {u"kein Aufbau"_s});
         QCOMPARE(Run(u"layouts|export|%1|%2"_s.arg(m_giro, shared)).Code, 1);
     }
 

@@ -1,8 +1,5 @@
 #include "cCliRun.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

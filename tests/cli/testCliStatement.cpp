@@ -1,8 +1,5 @@
 #include "cCliRun.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -64,8 +61,7 @@ private Q_SLOTS:
         QCOMPARE(cCliRun::Column(open.value(u"Differences"_s).toArray(), u"Kind"_s), QStringList(u"bank only"_s));
         QCOMPARE(Run(u"reconcile|--confirm"_s).Code, 1);
         Do(u"book|--all"_s);
-        const cCliRun done = Do(u"reconcile|--confirm"_s);
-        QVERIFY2(done.Out.contains(u"stimmt bis 05.02.2026"), qPrintable(done.Text()));
+        Says(u"reconcile|--confirm"_s, {u"stimmt bis 05.02.2026"_s});
     }
 };
 

@@ -3,7 +3,6 @@
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <poll.h>
 #include <pty.h>
@@ -130,115 +129,107 @@ class testConsoleBankUser final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void PinIsTypedWithoutBeingShown();
-    void TerminalIsSetBackBeforeASignalEndsTheProgram();
-    void StoppedProgramAsksAgain();
-    void LinesComeFromOpenFiles();
-    void TanIsAskedForWithItsChallenge();
-    void PictureIsWritten();
-    void ApprovalIsWaitedFor();
+    void PinIsTypedWithoutBeingShown()
+    {
+        cTerminal terminal([] { return AskPin(u"geheim ä"_s); });
+        QVERIFY(terminal.WaitFor("PIN (wird nicht angezeigt):"));
+        QVERIFY(terminal.IsSilent());
+        terminal.Type("geheim ä\n");
+        QCOMPARE(WEXITSTATUS(terminal.End()), good);
+        QVERIFY(!terminal.Seen().contains("geheim"));
+        QVERIFY(terminal.Seen().contains("Anmeldename: kunde1"));
+    }
+
+    void TerminalIsSetBackBeforeASignalEndsTheProgram()
+    {
+        cTerminal terminal([] { return AskPin({}); });
+        QVERIFY(terminal.WaitFor("PIN (wird nicht angezeigt):"));
+        terminal.Type("geh\x03");
+        const int status = terminal.End();
+        QVERIFY(WIFSIGNALED(status));
+        QCOMPARE(WTERMSIG(status), SIGINT);
+        QVERIFY(!terminal.IsSilent());
+    }
+
+    void StoppedProgramAsksAgain()
+    {
+        cTerminal terminal([] { return AskPin(u"4711"_s); });
+        QVERIFY(terminal.WaitFor("PIN (wird nicht angezeigt):"));
+        terminal.Type("geh\x1a");
+        // Without a shell that could let it go on the system does not really stop it.
+        QVERIFY(terminal.WaitFor("PIN (wird", 2));
+        terminal.Type("4711\n");
+        QCOMPARE(WEXITSTATUS(terminal.End()), good);
+    }
+
+    void LinesComeFromOpenFiles()
+    {
+        const int file = FileWith("eins\r\nzwei\n12 34 56\n\n1234567\n");
+        cConsoleBankUser user({.PinFd = file, .TanFd = file});
+        QCOMPARE(Text(user.AskPin(Pin())), u"eins"_s);
+        QCOMPARE(Text(user.AskPin(Pin())), u"zwei"_s);
+        QCOMPARE(Text(user.AskTan(Tan(eTanDisplay::Text))), u"123456"_s);
+        QCOMPARE(Text(user.AskTan(Tan(eTanDisplay::Text))), u"(none)"_s);
+        QCOMPARE(Text(user.AskTan(Tan(eTanDisplay::Text))), u"(none)"_s); // too long, and no line after it
+        QCOMPARE(Text(user.AskPin(Pin())), u"(none)"_s);
+        cConsoleBankUser closed({.PinFd = 4711});
+        QCOMPARE(Text(closed.AskPin(Pin())), u"(none)"_s);
+    }
+
+    void TanIsAskedForWithItsChallenge()
+    {
+        cTerminal terminal([] {
+            cConsoleBankUser user({});
+            return Text(user.AskTan(Tan(eTanDisplay::Flicker))) == u"123456"_s ? good : 1;
+        });
+        QVERIFY(terminal.WaitFor("TAN-Eingabe:"));
+        QVERIFY(terminal.IsSilent());
+        QVERIFY(terminal.Seen().contains("Umsatzabfrage[2J\r\nKonto 4711"));
+        QVERIFY(terminal.Seen().contains("von Hand ein, eins nach dem anderen:\r\n  87151313\r\n  1,00\r\n"));
+        terminal.Type("1234567\n");
+        QVERIFY(terminal.WaitFor("Das kann keine TAN sein. Höchstens 6 Ziffern"));
+        QVERIFY(terminal.WaitFor("TAN-Eingabe:", 2)); // what is typed before is not read
+        terminal.Type("123 456\n");
+        QCOMPARE(WEXITSTATUS(terminal.End()), good);
+        QVERIFY(!terminal.Seen().contains("123"));
+    }
+
+    void PictureIsWritten()
+    {
+        const QTemporaryDir folder;
+        const QString path = folder.filePath(u"tan.png"_s);
+        const int file = FileWith("123456\n654321\n");
+        cConsoleBankUser user({.TanFd = file, .TanImage = path});
+        QCOMPARE(Text(user.AskTan(Tan(eTanDisplay::Picture))), u"123456"_s);
+        QFile written(path);
+        QVERIFY(written.open(QIODevice::ReadOnly));
+        QCOMPARE(written.readAll(), QByteArray("bild"));
+        // Without a place for the picture there is no TAN to be typed.
+        cConsoleBankUser blind({.TanFd = file});
+        QCOMPARE(Text(blind.AskTan(Tan(eTanDisplay::Picture))), u"(none)"_s);
+    }
+
+    void ApprovalIsWaitedFor()
+    {
+        cTerminal terminal([] {
+            int slept = 0;
+            cConsoleBankUser user({.Sleep = [&](int seconds) { slept += seconds; }});
+            cApproval approval;
+            approval.Challenge = u"Umsatzabfrage"_s;
+            approval.WaitSeconds = 5;
+            const bool isFirst = user.WaitForApproval(approval) == eApproval::AskBank;
+            approval.Asked = 1;
+            approval.IsAutomatic = false; // only when the user says so
+            const bool isSecond = user.WaitForApproval(approval) == eApproval::AskBank;
+            return isFirst && isSecond && slept == 10 ? good : 1;
+        });
+        QVERIFY(terminal.WaitFor("sobald Sie freigegeben haben."));
+        QVERIFY(terminal.Seen().contains("Warten auf die Freigabe"));
+        QCOMPARE(terminal.Seen().count("Umsatzabfrage"), 1);
+        terminal.Type("\n");
+        QCOMPARE(WEXITSTATUS(terminal.End()), good);
+    }
 };
-
-void testConsoleBankUser::PinIsTypedWithoutBeingShown()
-{
-    cTerminal terminal([] { return AskPin(u"geheim ä"_s); });
-    QVERIFY(terminal.WaitFor("PIN (wird nicht angezeigt):"));
-    QVERIFY(terminal.IsSilent());
-    terminal.Type("geheim ä\n");
-    QCOMPARE(WEXITSTATUS(terminal.End()), good);
-    QVERIFY(!terminal.Seen().contains("geheim"));
-    QVERIFY(terminal.Seen().contains("Anmeldename: kunde1"));
-}
-
-void testConsoleBankUser::TerminalIsSetBackBeforeASignalEndsTheProgram()
-{
-    cTerminal terminal([] { return AskPin({}); });
-    QVERIFY(terminal.WaitFor("PIN (wird nicht angezeigt):"));
-    terminal.Type("geh\x03");
-    const int status = terminal.End();
-    QVERIFY(WIFSIGNALED(status));
-    QCOMPARE(WTERMSIG(status), SIGINT);
-    QVERIFY(!terminal.IsSilent());
-}
-
-void testConsoleBankUser::StoppedProgramAsksAgain()
-{
-    cTerminal terminal([] { return AskPin(u"4711"_s); });
-    QVERIFY(terminal.WaitFor("PIN (wird nicht angezeigt):"));
-    terminal.Type("geh\x1a");
-    // Without a shell that could let it go on the system does not really stop it.
-    QVERIFY(terminal.WaitFor("PIN (wird", 2));
-    terminal.Type("4711\n");
-    QCOMPARE(WEXITSTATUS(terminal.End()), good);
-}
-
-void testConsoleBankUser::LinesComeFromOpenFiles()
-{
-    const int file = FileWith("eins\r\nzwei\n12 34 56\n\n1234567\n");
-    cConsoleBankUser user({.PinFd = file, .TanFd = file});
-    QCOMPARE(Text(user.AskPin(Pin())), u"eins"_s);
-    QCOMPARE(Text(user.AskPin(Pin())), u"zwei"_s);
-    QCOMPARE(Text(user.AskTan(Tan(eTanDisplay::Text))), u"123456"_s);
-    QCOMPARE(Text(user.AskTan(Tan(eTanDisplay::Text))), u"(none)"_s);
-    QCOMPARE(Text(user.AskTan(Tan(eTanDisplay::Text))), u"(none)"_s); // too long, and no line after it
-    QCOMPARE(Text(user.AskPin(Pin())), u"(none)"_s);
-    cConsoleBankUser closed({.PinFd = 4711});
-    QCOMPARE(Text(closed.AskPin(Pin())), u"(none)"_s);
-}
-
-void testConsoleBankUser::TanIsAskedForWithItsChallenge()
-{
-    cTerminal terminal([] {
-        cConsoleBankUser user({});
-        return Text(user.AskTan(Tan(eTanDisplay::Flicker))) == u"123456"_s ? good : 1;
-    });
-    QVERIFY(terminal.WaitFor("TAN-Eingabe:"));
-    QVERIFY(terminal.IsSilent());
-    QVERIFY(terminal.Seen().contains("Umsatzabfrage[2J\r\nKonto 4711"));
-    QVERIFY(terminal.Seen().contains("von Hand ein, eins nach dem anderen:\r\n  87151313\r\n  1,00\r\n"));
-    terminal.Type("1234567\n");
-    QVERIFY(terminal.WaitFor("Das kann keine TAN sein. Höchstens 6 Ziffern"));
-    QVERIFY(terminal.WaitFor("TAN-Eingabe:", 2)); // what is typed before is not read
-    terminal.Type("123 456\n");
-    QCOMPARE(WEXITSTATUS(terminal.End()), good);
-    QVERIFY(!terminal.Seen().contains("123"));
-}
-
-void testConsoleBankUser::PictureIsWritten()
-{
-    const QTemporaryDir folder;
-    const QString path = folder.filePath(u"tan.png"_s);
-    const int file = FileWith("123456\n654321\n");
-    cConsoleBankUser user({.TanFd = file, .TanImage = path});
-    QCOMPARE(Text(user.AskTan(Tan(eTanDisplay::Picture))), u"123456"_s);
-    QFile written(path);
-    QVERIFY(written.open(QIODevice::ReadOnly));
-    QCOMPARE(written.readAll(), QByteArray("bild"));
-    // Without a place for the picture there is no TAN to be typed.
-    cConsoleBankUser blind({.TanFd = file});
-    QCOMPARE(Text(blind.AskTan(Tan(eTanDisplay::Picture))), u"(none)"_s);
-}
-
-void testConsoleBankUser::ApprovalIsWaitedFor()
-{
-    cTerminal terminal([] {
-        int slept = 0;
-        cConsoleBankUser user({.Sleep = [&](int seconds) { slept += seconds; }});
-        cApproval approval;
-        approval.Challenge = u"Umsatzabfrage"_s;
-        approval.WaitSeconds = 5;
-        const bool isFirst = user.WaitForApproval(approval) == eApproval::AskBank;
-        approval.Asked = 1;
-        approval.IsAutomatic = false; // only when the user says so
-        const bool isSecond = user.WaitForApproval(approval) == eApproval::AskBank;
-        return isFirst && isSecond && slept == 10 ? good : 1;
-    });
-    QVERIFY(terminal.WaitFor("sobald Sie freigegeben haben."));
-    QVERIFY(terminal.Seen().contains("Warten auf die Freigabe"));
-    QCOMPARE(terminal.Seen().count("Umsatzabfrage"), 1);
-    terminal.Type("\n");
-    QCOMPARE(WEXITSTATUS(terminal.End()), good);
-}
 
 TEST_CLASS(testConsoleBankUser, QCoreApplication)
 #include "testConsoleBankUser.moc"

@@ -4,19 +4,12 @@
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
-#include "store/cDatabase.h"
 #include "store/cTableWalk.h"
 #include "store/cUndoStep.h"
 #include "store/modBookFile.h"
 #include "store/modSchema.h"
 #include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QDateTime>
-#include <QDir>
-#include <QFileInfo>
-#include <QTest>
 
 #include <filesystem>
 
@@ -244,17 +237,8 @@ private Q_SLOTS:
     {
         QFETCH(const QStringList, days);
         QFETCH(const int, count);
-        QFETCH(const QStringList, surplus);
-        QList<QDate> list;
-        for (const QString& day : days) {
-            list.append(QDate::fromString(day, Qt::ISODate));
-        }
-        QStringList result;
-        const QList<QDate> found = cBackupPlan::Surplus(list, count);
-        for (const QDate day : found) {
-            result.append(day.toString(Qt::ISODate));
-        }
-        QCOMPARE(result, surplus);
+        const QList<QDate> list = Each(days, [](const QString& day) { return QDate::fromString(day, Qt::ISODate); });
+        QTEST(Each(cBackupPlan::Surplus(list, count), [](QDate day) { return day.toString(Qt::ISODate); }), "surplus");
     }
 
     void OneCopyADay() const

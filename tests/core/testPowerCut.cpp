@@ -1,13 +1,9 @@
 #include "faults/cPowerVfs.h"
 #include "model/modSettingKey.h"
-#include "model/modWord.h"
 #include "store/cUndoStep.h"
-#include "store/modSchema.h"
 #include "support/bookDump.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
-
-#include <QTest>
 
 #include <sqlite3.h>
 
@@ -115,87 +111,85 @@ class testPowerCut : public QObject
 
 private Q_SLOTS:
     void initTestCase() { modPowerVfs::Install(); }
-    void StepsAreThereOrNot();
-    void CopyIsThere();
-    void TheDiskForgets();
+    void StepsAreThereOrNot()
+    {
+        cTestBook book;
+        for (int i = 1; i <= 20; ++i) {
+            cImportEntry row = Row(i);
+            QVERIFY(book.Data.AddNewImportEntry(row));
+        }
+        cPowerDisk disk(FilesOf(book.Path()));
+        modPowerVfs::Start();
+        QList<QStringList> states{Dump(book.Database)};
+        QList<std::size_t> ends; // of the steps among the calls
+        for (const fnStep& step : Steps()) {
+            QVERIFY(step(book));
+            states.append(Dump(book.Database));
+            ends.append(modPowerVfs::Calls().size());
+        }
+        const std::vector<cDiskCall> calls = modPowerVfs::Calls();
+        QVERIFY(calls.size() > 100);
+
+        QRandomGenerator random(1);
+        qsizetype done = 0;
+        for (std::size_t i = 0; i < calls.size(); ++i) {
+            disk.Take(calls[i]);
+            while (done < ends.size() && ends.at(done) <= i + 1) {
+                ++done;
+            }
+            for (int cut = 0; cut < CutsPerCall(); ++cut) {
+                const QStringList left = cLeft(disk.Cut(random), book.Path()).Read();
+                const bool isWhole =
+                    left == states.at(done) || (done + 1 < states.size() && left == states.at(done + 1));
+                QVERIFY2(isWhole, qPrintable(u"cut after call %1 of step %2"_s.arg(i + 1).arg(done + 1)));
+            }
+        }
+    }
+
+    // What is said to be copied is not taken back by a journal that comes back.
+    void CopyIsThere()
+    {
+        cTestBook book;
+        const QTemporaryDir folder;
+        const QString copy = folder.filePath(u"copy.db"_s);
+        modPowerVfs::Start();
+        book.Database.BackupTo(copy);
+        cPowerDisk disk({});
+        const std::vector<cDiskCall> calls = modPowerVfs::Calls();
+        for (const cDiskCall& call : calls) {
+            disk.Take(call);
+        }
+        QRandomGenerator random(1);
+        const QStringList whole = Dump(book.Database);
+        for (int cut = 0; cut < 10; ++cut) {
+            QCOMPARE(cLeft(disk.Cut(random), copy).Read(), whole);
+        }
+    }
+
+    // The same writes without the layer of the program have to lose something, or the disk would be too good.
+    void TheDiskForgets()
+    {
+        const cTestBook book;
+        cPowerDisk disk(FilesOf(book.Path()));
+        modPowerVfs::Start();
+        sqlite3* connection = nullptr;
+        QCOMPARE(sqlite3_open_v2(book.Path().toUtf8().constData(), &connection, SQLITE_OPEN_READWRITE, "power"),
+                 SQLITE_OK);
+        const char* writes = "PRAGMA synchronous=OFF; PRAGMA cache_size=5; BEGIN; "
+                             "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 500) "
+                             "INSERT INTO data (EntryDescription) SELECT hex(zeroblob(100)) FROM n; COMMIT;";
+        QCOMPARE(sqlite3_exec(connection, writes, nullptr, nullptr, nullptr), SQLITE_OK);
+        sqlite3_close(connection);
+        QRandomGenerator random(1);
+        int unreadable = 0;
+        const std::vector<cDiskCall> calls = modPowerVfs::Calls(); // reading goes through the layer as well
+        for (const cDiskCall& call : calls) {
+            disk.Take(call);
+            unreadable += cLeft(disk.Cut(random), book.Path()).Read().isEmpty() ? 1 : 0;
+        }
+        QVERIFY(unreadable > 0);
+    }
 };
-
-void testPowerCut::StepsAreThereOrNot()
-{
-    cTestBook book;
-    for (int i = 1; i <= 20; ++i) {
-        cImportEntry row = Row(i);
-        QVERIFY(book.Data.AddNewImportEntry(row));
-    }
-    cPowerDisk disk(FilesOf(book.Path()));
-    modPowerVfs::Start();
-    QList<QStringList> states{Dump(book.Database)};
-    QList<std::size_t> ends; // of the steps among the calls
-    for (const fnStep& step : Steps()) {
-        QVERIFY(step(book));
-        states.append(Dump(book.Database));
-        ends.append(modPowerVfs::Calls().size());
-    }
-    const std::vector<cDiskCall> calls = modPowerVfs::Calls();
-    QVERIFY(calls.size() > 100);
-
-    QRandomGenerator random(1);
-    qsizetype done = 0;
-    for (std::size_t i = 0; i < calls.size(); ++i) {
-        disk.Take(calls[i]);
-        while (done < ends.size() && ends.at(done) <= i + 1) {
-            ++done;
-        }
-        for (int cut = 0; cut < CutsPerCall(); ++cut) {
-            const QStringList left = cLeft(disk.Cut(random), book.Path()).Read();
-            const bool isWhole = left == states.at(done) || (done + 1 < states.size() && left == states.at(done + 1));
-            QVERIFY2(isWhole, qPrintable(u"cut after call %1 of step %2"_s.arg(i + 1).arg(done + 1)));
-        }
-    }
-}
-
-// What is said to be copied is not taken back by a journal that comes back.
-void testPowerCut::CopyIsThere()
-{
-    cTestBook book;
-    const QTemporaryDir folder;
-    const QString copy = folder.filePath(u"copy.db"_s);
-    modPowerVfs::Start();
-    book.Database.BackupTo(copy);
-    cPowerDisk disk({});
-    const std::vector<cDiskCall> calls = modPowerVfs::Calls();
-    for (const cDiskCall& call : calls) {
-        disk.Take(call);
-    }
-    QRandomGenerator random(1);
-    const QStringList whole = Dump(book.Database);
-    for (int cut = 0; cut < 10; ++cut) {
-        QCOMPARE(cLeft(disk.Cut(random), copy).Read(), whole);
-    }
-}
-
-// The same writes without the layer of the program have to lose something, or the disk would be too good.
-void testPowerCut::TheDiskForgets()
-{
-    const cTestBook book;
-    cPowerDisk disk(FilesOf(book.Path()));
-    modPowerVfs::Start();
-    sqlite3* connection = nullptr;
-    QCOMPARE(sqlite3_open_v2(book.Path().toUtf8().constData(), &connection, SQLITE_OPEN_READWRITE, "power"), SQLITE_OK);
-    const char* writes = "PRAGMA synchronous=OFF; PRAGMA cache_size=5; BEGIN; "
-                         "WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n WHERE i < 500) "
-                         "INSERT INTO data (EntryDescription) SELECT hex(zeroblob(100)) FROM n; COMMIT;";
-    QCOMPARE(sqlite3_exec(connection, writes, nullptr, nullptr, nullptr), SQLITE_OK);
-    sqlite3_close(connection);
-    QRandomGenerator random(1);
-    int unreadable = 0;
-    const std::vector<cDiskCall> calls = modPowerVfs::Calls(); // reading goes through the layer as well
-    for (const cDiskCall& call : calls) {
-        disk.Take(call);
-        unreadable += cLeft(disk.Cut(random), book.Path()).Read().isEmpty() ? 1 : 0;
-    }
-    QVERIFY(unreadable > 0);
-}
 
 TEST_CLASS(testPowerCut, QCoreApplication)
 #include "testPowerCut.moc"

@@ -1,10 +1,6 @@
 #include "core/cStartRequest.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QDir>
-#include <QTemporaryDir>
-#include <QTest>
+#include "support/cTestFile.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -34,39 +30,25 @@ private Q_SLOTS:
         QFETCH(const QString, book);
         QFETCH(const QStringList, statements);
         QFETCH(const QString, error);
-        const auto full = [this](const QString& name) { return name.isEmpty() ? name : m_folder.filePath(name); };
-        QStringList paths;
-        for (const QString& file : files) {
-            paths.append(full(file));
-        }
-        QStringList wanted;
-        for (const QString& statement : statements) {
-            wanted.append(full(statement));
-        }
+        const auto full = [this](const QString& name) { return name.isEmpty() ? name : m_folder.Path(name); };
+        const QStringList paths = Each(files, full);
         cStartRequest request;
         QVERIFY2(request.TakeFiles(paths).contains(error), qPrintable(request.TakeFiles(paths)));
         QCOMPARE(request.TakeFiles(paths).isEmpty(), error.isEmpty());
         QCOMPARE(request.Book, full(book));
-        QCOMPARE(request.Statements, wanted);
+        QCOMPARE(request.Statements, Each(statements, full));
     }
 
     void initTestCase()
     {
-        Write(u"haushalt.xyz"_s, QByteArrayLiteral("SQLite format 3\0 and more"));
-        Write(u"kaputt.db"_s, QByteArrayLiteral("no database any more"));
-        Write(u"a.sta"_s, QByteArrayLiteral(":20:STARTUMS"));
-        Write(u"b.xml"_s, QByteArrayLiteral("<Document/>"));
+        cTestFile::Write(m_folder.Path(u"haushalt.xyz"_s), "SQLite format 3\0 and more"_ba);
+        cTestFile::Write(m_folder.Path(u"kaputt.db"_s), "no database any more");
+        cTestFile::Write(m_folder.Path(u"a.sta"_s), ":20:STARTUMS");
+        cTestFile::Write(m_folder.Path(u"b.xml"_s), "<Document/>");
     }
 
 private:
-    void Write(const QString& name, const QByteArray& content)
-    {
-        QFile file(m_folder.filePath(name));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(content), content.size());
-    }
-
-    QTemporaryDir m_folder;
+    cTestFile m_folder;
 };
 
 TEST_CLASS(testStartRequest, QCoreApplication)

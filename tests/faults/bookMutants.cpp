@@ -4,10 +4,7 @@
 // The exit status is 1 when a book did what it must not. Mutants that did are kept in the folder of temporary files.
 
 #include "core/cBook.h"
-#include "store/cDataAccess.h"
-#include "store/cDatabase.h"
 #include "store/cUndoStep.h"
-#include "store/modSchema.h"
 #include "support/testBook.h"
 
 #include <QCoreApplication>

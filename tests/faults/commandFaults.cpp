@@ -9,34 +9,27 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+// `line` has "|" between its arguments.
+modFaultRuns::cAction Command(const QString& name, const QString& line, bool isInParts = false)
+{
+    return {name, line.split(u'|'), {u"balances"_s}, isInParts};
+}
+
 QList<modFaultRuns::cAction> Commands()
 {
-    const QStringList before{u"balances"_s};
+    const QString food = u"Haushalt; Lebensmittel"_s;
     return {
-        {u"add"_s,
-         {u"add"_s, u"--amount"_s, u"12,34"_s, u"--category"_s, u"Haushalt; Lebensmittel"_s, u"--account"_s,
-          u"Girokonto"_s, u"--date"_s, u"2026-11-05"_s},
-         before},
-        {u"import"_s, {u"import"_s, u"mehr.csv"_s, u"--account"_s, u"DE02100100100006820101"_s}, before, true},
-        {u"book"_s, {u"book"_s, u"--all"_s}, before},
-        {u"match"_s, {u"match"_s}, before},
-        {u"change from here"_s,
-         {u"change"_s, u"14"_s, u"--amount"_s, u"777"_s, u"--from"_s, u"2026-12-01"_s, u"--yes"_s},
-         before},
-        {u"delete"_s, {u"delete"_s, u"20"_s, u"--yes"_s}, before},
-        {u"rename account"_s,
-         {u"accounts"_s, u"rename"_s, u"Girokonto"_s, u"Hauptkonto"_s, u"--entries"_s, u"yes"_s},
-         before},
-        {u"delete account"_s,
-         {u"accounts"_s, u"delete"_s, u"Sparkonto"_s, u"--move-to"_s, u"Girokonto"_s, u"--yes"_s},
-         before},
-        {u"rename category"_s,
-         {u"categories"_s, u"rename"_s, u"Haushalt; Lebensmittel"_s, u"Haushalt; Essen"_s},
-         before},
-        {u"rename main"_s, {u"categories"_s, u"rename"_s, u"Haushalt"_s, u"Haus"_s}, before},
-        {u"merge"_s,
-         {u"categories"_s, u"merge"_s, u"Haushalt; Lebensmittel"_s, u"Alltag; Bus und Bahn"_s, u"--yes"_s},
-         before},
+        Command(u"add"_s, u"add|--amount|12,34|--category|%1|--account|Girokonto|--date|2026-11-05"_s.arg(food)),
+        Command(u"import"_s, u"import|mehr.csv|--account|DE02100100100006820101"_s, true),
+        Command(u"book"_s, u"book|--all"_s),
+        Command(u"match"_s, u"match"_s),
+        Command(u"change from here"_s, u"change|14|--amount|777|--from|2026-12-01|--yes"_s),
+        Command(u"delete"_s, u"delete|20|--yes"_s),
+        Command(u"rename account"_s, u"accounts|rename|Girokonto|Hauptkonto|--entries|yes"_s),
+        Command(u"delete account"_s, u"accounts|delete|Sparkonto|--move-to|Girokonto|--yes"_s),
+        Command(u"rename category"_s, u"categories|rename|%1|Haushalt; Essen"_s.arg(food)),
+        Command(u"rename main"_s, u"categories|rename|Haushalt|Haus"_s),
+        Command(u"merge"_s, u"categories|merge|%1|Alltag; Bus und Bahn|--yes"_s.arg(food)),
     };
 }
 

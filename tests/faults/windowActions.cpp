@@ -24,7 +24,6 @@
 
 #include <QApplication>
 #include <QDir>
-#include <QFileInfo>
 
 #include <dlfcn.h>
 

@@ -3,6 +3,7 @@
 #include "base/cSecret.h"
 #include "fints/cBankLog.h"
 #include "fints/HBCIBusiness.h"
+#include "support/each.h"
 #include "support/fakes.h"
 #include "testbank/cTestBank.h"
 #include "testbank/cTestBankUser.h"
@@ -54,11 +55,9 @@ public:
 
     [[nodiscard]] QList<cFetchOrder> Orders() const
     {
-        QList<cFetchOrder> orders;
-        for (const cBankAccount& account : State.Accounts) {
-            orders.append({.Account = account, .From = QDate(2026, 2, 1), .To = QDate(2026, 2, 28)});
-        }
-        return orders;
+        return Each(State.Accounts, [](const cBankAccount& account) {
+            return cFetchOrder{.Account = account, .From = QDate(2026, 2, 1), .To = QDate(2026, 2, 28)};
+        });
     }
 
     // "TAN wrong" and the like of the last operation, for comparing

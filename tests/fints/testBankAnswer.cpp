@@ -1,8 +1,5 @@
 #include "fints/cBankAnswer.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -28,11 +25,7 @@ cBankAnswer Read(const QByteArray& inner)
 
 QStringList Numbers(const QList<cBankAccount>& accounts)
 {
-    QStringList numbers;
-    for (const cBankAccount& account : accounts) {
-        numbers.append(account.Number);
-    }
-    return numbers;
+    return Each(accounts, &cBankAccount::Number);
 }
 
 } // namespace

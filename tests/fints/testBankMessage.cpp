@@ -1,9 +1,6 @@
 #include "base/cSecret.h"
 #include "fints/HBCIFactory.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -2,9 +2,6 @@
 #include "fints/modFintsSplit.h"
 #include "fints/modFintsValue.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -12,11 +9,7 @@ namespace {
 
 QList<QByteArray> Copied(const QList<QByteArrayView>& tokens)
 {
-    QList<QByteArray> copies;
-    for (const QByteArrayView token : tokens) {
-        copies.append(token.toByteArray());
-    }
-    return copies;
+    return Each(tokens, &QByteArrayView::toByteArray);
 }
 
 } // namespace
@@ -81,10 +74,9 @@ private Q_SLOTS:
             + QByteArray::number(inner.size()) + "@" + inner + "'HNHBS:4:1+1'";
         const cShield shield(message);
         QVERIFY(!shield.IsCut());
-        QList<QByteArray> lines;
-        for (const cWireSegment& segment : SegmentsOf(shield)) {
-            lines.append(segment.Head.toByteArray() + " | " + Copied(segment.Elements).join(" | "));
-        }
+        const QList<QByteArray> lines = Each(SegmentsOf(shield), [](const cWireSegment& segment) {
+            return QByteArray(segment.Head.toByteArray() + " | " + Copied(segment.Elements).join(" | "));
+        });
         const QList<QByteArray> expected{
             "HNHBK:1:3 | 1",
             "HNVSK:998:3 | 2:13:@8@'''''''':5",

@@ -4,7 +4,6 @@
 #include <QList>
 #include <QRandomGenerator>
 #include <QString>
-#include <QStringList>
 
 // An invented household with what its banks book and what it writes down by hand. Everything follows from the seed.
 class cHousehold
@@ -20,8 +19,8 @@ public:
         QString Name;
         QString Iban;
         QString Purpose;
-        QString Kind;         // the bank's booking text
-        QStringList Category; // paths that are right for it; empty where nobody could know
+        QString Kind;     // the bank's booking text
+        QString Category; // the path that is right for it; empty where nobody could know
     };
 
     struct cAccount
@@ -59,7 +58,7 @@ private:
         QString Iban;
         QString Purpose; // "{0}" is the month
         QString Kind;
-        QStringList Category;
+        QString Category{};
     };
 
     void AddIncome();

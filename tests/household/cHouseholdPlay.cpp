@@ -5,8 +5,6 @@
 #include "model/modBalance.h"
 #include "views/statement/cStatementFiles.h"
 
-#include <QMap>
-
 #include <algorithm>
 #include <numeric>
 
@@ -260,7 +258,7 @@ void cHouseholdPlay::CheckCategory(const cImportEntry& row, const cHousehold::cB
 {
     const QString category = m_data.LoadEntry(row.ImportAssignedEntry).value_or(cEntryItem()).EntryCategory;
     ++m_figures.Known;
-    if (booking.Category.contains(category)) {
+    if (booking.Category == category) {
         ++m_figures.Right;
         return;
     }

@@ -1,8 +1,6 @@
 #include "household/cHouseholdPlay.h"
 #include "support/cTestClass.h"
 
-#include <QTest>
-
 // A household that only ever presses Enter has the balances of its banks, whatever it has typed before.
 class testHousehold : public QObject
 {

@@ -2,9 +2,6 @@
 #include "import/read/modAccountNumber.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -87,12 +84,8 @@ private Q_SLOTS:
         QVERIFY(book.Data.SetStartGuthaben(u"Girokonto"_s, 70000, QDate(2026, 3, 31)));
         for (const QString& text : rows.split(u';')) {
             const QStringList parts = text.split(u' ');
-            cImportEntry row;
-            row.ImportAccount = number;
-            row.ImportDate = QDate(2026, 3, parts.at(0).toInt());
-            row.ImportValue = parts.at(1).toInt();
-            row.ImportBeneficiary = parts.at(2);
-            row.ImportPurpose = parts.value(3);
+            cImportEntry row =
+                BankRow(number, QDate(2026, 3, parts.at(0).toInt()), parts.at(1).toInt(), parts.at(2), parts.value(3));
             QVERIFY(book.Hive.Add(row));
         }
         if (QByteArray(QTest::currentDataTag()).endsWith("like the bank")) {
@@ -115,9 +108,7 @@ private Q_SLOTS:
         QCOMPARE(book.Accounts.Proposal(u"DE02100200300001234567"_s), u"Sparkonto"_s);
         QCOMPARE(book.Accounts.Proposal(u"4711XXXXXXXX1234"_s), QString());
         for (const QString& name : {u"A"_s, u"B"_s, u"C"_s, u"D"_s}) { // many payees: a second current account
-            cImportEntry row;
-            row.ImportAccount = u"9"_s;
-            row.ImportBeneficiary = name;
+            cImportEntry row = BankRow(u"9"_s, {}, 0, name);
             QVERIFY(book.Hive.Add(row));
         }
         QCOMPARE(book.Accounts.Proposal(u"9"_s), QString());
@@ -154,9 +145,7 @@ private Q_SLOTS:
     {
         cImportBook book;
         QVERIFY(book.Accounts.Assign(u"123"_s, u"Sparkonto"_s));
-        cImportEntry row;
-        row.ImportAccount = u"123"_s;
-        row.ImportBeneficiaryAccount = u"123"_s;
+        const cImportEntry row = BankRow(u"123"_s, {}, 0, {}, {}, u"123"_s);
         QCOMPARE(book.Accounts.getAssignedAccount(row)->TemplateName, u"Sparkonto"_s);
         QCOMPARE(book.Accounts.getAssignedAccountTo(row)->TemplateName, u"Sparkonto"_s);
         QVERIFY(book.Data.DeleteTemplate(book.Data.FindAccount(u"Sparkonto"_s)->ID));

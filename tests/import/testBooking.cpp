@@ -1,15 +1,9 @@
 #include "base/modAmount.h"
 #include "cImportBook.h"
-#include "import/propose/cBooking.h"
 #include "import/propose/cProposer.h"
 #include "import/propose/modCorrected.h"
 #include "import/read/modBookRow.h"
-#include "model/modRecurrence.h"
-#include "model/modWord.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 #include <algorithm>
 
@@ -400,14 +394,9 @@ private Q_SLOTS:
         QTEST(bank.Data.CountEntries(), "entries");
         cEntryQuery query;
         query.End = *std::max_element(days.begin(), days.end());
-        QList<QDate> booked;
-        const cEntryItemList entries = bank.Data.GetEntries(query);
-        for (const cEntryItem& entry : entries) {
-            booked.append(entry.EntryDate);
-        }
         QList<QDate> paid = days;
         std::sort(paid.begin(), paid.end());
-        QCOMPARE(booked, paid);
+        QCOMPARE(Each(bank.Data.GetEntries(query), &cEntryItem::EntryDate), paid);
     }
 
     void PaymentsMakeOneSeries_data()

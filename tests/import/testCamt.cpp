@@ -7,9 +7,6 @@
 #include "import/zip/modZip.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -182,11 +179,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, details);
         QFETCH(int, problems);
         const cStatementRead read = ReadBytes(With(Entry("5.00", "DBIT", "<NtryDtls>" + details + "</NtryDtls>")));
-        QList<qint64> values;
-        for (const cImportEntry& entry : read.Entries) {
-            values.append(entry.ImportValue);
-        }
-        QTEST(values, "values");
+        QTEST(Each(read.Entries, &cImportEntry::ImportValue), "values");
         QCOMPARE(read.Problems.size(), problems);
     }
 

@@ -4,9 +4,6 @@
 #include "store/cUndoStep.h"
 #include "support/bankMonth.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

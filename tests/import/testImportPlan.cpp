@@ -2,9 +2,6 @@
 #include "import/plan/cImportPlan.h"
 #include "model/modSplit.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 #include <functional>
 
@@ -23,13 +20,7 @@ struct cBank : cBankBook
 
     int Enter(QDate date, qint64 cents, const QString& text, const QString& interval = modWord::Einmalig)
     {
-        return Add([&](cEntryItem& entry) {
-                   entry.EntryDate = date;
-                   entry.EntryValue = cents;
-                   entry.EntryDescription = text;
-                   entry.EntryInterval = interval;
-               })
-            .ID;
+        return Spend(date, cents, text, interval).ID;
     }
 
     QHash<int, cRowPlan> Make(const QList<int>& rows)
@@ -52,8 +43,6 @@ int MatchOf(const cRowPlan& plan)
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(fnChange)
 
 class testImportPlan final : public QObject
 {

@@ -6,9 +6,6 @@
 #include "import/table/modTable.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -4,9 +4,6 @@
 #include "import/xml/modOfxText.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

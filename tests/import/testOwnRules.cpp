@@ -1,14 +1,9 @@
 #include "base/modAmount.h"
 #include "cImportBook.h"
-#include "import/propose/cBooking.h"
 #include "import/propose/cOwnRules.h"
 #include "import/propose/cRuleMatcher.h"
 #include "import/propose/modOwnRule.h"
-#include "model/modWord.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -172,10 +167,9 @@ private Q_SLOTS:
     {
         QFETCH(const cOwnRule, rule);
         QFETCH(const cImportEntry, row);
-        QFETCH(const QString, said);
         cBank bank;
         bank.Keep({rule});
-        QCOMPARE(Said(bank.Propose(row)), said);
+        QTEST(Said(bank.Propose(row)), "said");
     }
 
     void BeforeWhatWasLearned() const
@@ -217,11 +211,9 @@ private Q_SLOTS:
     void FromARow() const
     {
         QFETCH(const cImportEntry, row);
-        QFETCH(const QString, text);
-        QFETCH(const QString, counterparty);
         const cOwnRule rule = modOwnRule::FromRow(row);
-        QCOMPARE(rule.Text, text);
-        QCOMPARE(rule.Counterparty, counterparty);
+        QTEST(rule.Text, "text");
+        QTEST(rule.Counterparty, "counterparty");
         QCOMPARE(rule.Sign, row.ImportValue > 0 ? eRuleSign::In : eRuleSign::Out);
         QCOMPARE(cRuleMatcher({rule}).Find(cRuleRow(row, {})), 0);
     }

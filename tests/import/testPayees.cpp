@@ -2,15 +2,9 @@
 #include "cImportBook.h"
 #include "import/propose/cProposer.h"
 #include "import/propose/modCash.h"
-#include "import/propose/modKeywordTrust.h"
 #include "import/propose/modPayeeList.h"
 #include "import/read/modPayee.h"
-#include "model/modWord.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -118,11 +112,7 @@ private Q_SLOTS:
     void ListUsesTheTemplate()
     {
         cImportBook book;
-        QStringList paths;
-        const cTemplateItemList items = book.Data.GetTemplates();
-        for (const cTemplateItem& item : items) {
-            paths.append(modTemplate::Path(item));
-        }
+        const QStringList paths = Each(book.Data.GetTemplates(), modTemplate::Path);
         const modPayeeList::cContents contents = modPayeeList::Contents();
         QVERIFY(contents.Words >= 500);
         for (const QString& category : contents.Categories) {

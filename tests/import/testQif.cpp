@@ -1,9 +1,6 @@
 #include "import/qif/modQif.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -21,11 +18,8 @@ cStatementRead ReadText(const QString& text, const cReadOptions& options = {})
 
 QString Days(const cStatementRead& read)
 {
-    QStringList days;
-    for (const cImportEntry& entry : read.Entries) {
-        days.append(entry.ImportDate.toString(Qt::ISODate));
-    }
-    return days.join(u' ');
+    const auto day = [](const cImportEntry& entry) { return entry.ImportDate.toString(Qt::ISODate); };
+    return Each(read.Entries, day).join(u' ');
 }
 
 } // namespace
@@ -160,11 +154,10 @@ private Q_SLOTS:
     {
         QFETCH(QString, fields);
         const cStatementRead read = ReadText(u"!Type:Bank\nD31.1.26\n"_s + fields + u"\n^\n"_s);
-        QStringList rows;
-        for (const cImportEntry& entry : read.Entries) {
-            rows.append(QString::number(entry.ImportValue) + u' ' + entry.ImportType);
-        }
-        QTEST(rows.join(u", "_s), "rows");
+        const auto shown = [](const cImportEntry& entry) {
+            return u"%1 %2"_s.arg(entry.ImportValue).arg(entry.ImportType);
+        };
+        QTEST(Each(read.Entries, shown).join(u", "_s), "rows");
         QTEST(static_cast<int>(read.Problems.size()), "problems");
     }
 

@@ -5,11 +5,6 @@
 #include "import/stage/modStatementFormat.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
-#include "support/cTestRows.h"
-
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <xlsxwriter.h>
 
@@ -134,12 +129,10 @@ cStatementRead Read(const QString& name, const QByteArray& bytes, const cReadOpt
 // "2026-01-31|-12.50|purpose" for each transaction.
 QStringList Facts(const cStatementRead& read)
 {
-    QStringList facts;
-    for (const cImportEntry& entry : read.Entries) {
-        facts.append(entry.ImportDate.toString(Qt::ISODate) + u'|' + modAmount::CentsToText(entry.ImportValue) + u'|'
-                     + entry.ImportPurpose);
-    }
-    return facts;
+    return Each(read.Entries, [](const cImportEntry& entry) {
+        return u"%1|%2|%3"_s.arg(entry.ImportDate.toString(Qt::ISODate), modAmount::CentsToText(entry.ImportValue),
+                                 entry.ImportPurpose);
+    });
 }
 
 } // namespace

@@ -2,12 +2,6 @@
 #include "import/stage/modStatementArchive.h"
 #include "import/stage/modStatementFormat.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/cTestRows.h"
-
-#include <QFile>
-#include <QTemporaryDir>
-#include <QTest>
 
 #include <minizip/zip.h>
 

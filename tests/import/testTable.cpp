@@ -1,7 +1,5 @@
 #include "base/modAmount.h"
-#include "base/modDate.h"
 #include "cImportBook.h"
-#include "import/stage/cStatementImport.h"
 #include "import/stage/modStatementFormat.h"
 #include "import/table/cTable.h"
 #include "import/table/cTableMemory.h"
@@ -10,11 +8,6 @@
 #include "import/table/modTableText.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/cTestRows.h"
-
-#include <QDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -59,12 +52,10 @@ QString Shown(const cStatementRead& read)
 // Days, amounts and accounts: "2025-02-03 -12.00 4711".
 QStringList Brief(const cStatementRead& read)
 {
-    QStringList lines;
-    for (const cImportEntry& entry : read.Entries) {
-        lines.append(modDate::ToIso(entry.ImportDate) + u' ' + modAmount::CentsToText(entry.ImportValue) + u' '
-                     + entry.ImportAccount);
-    }
-    return lines;
+    return Each(read.Entries, [](const cImportEntry& entry) {
+        return u"%1 %2 %3"_s.arg(modDate::ToIso(entry.ImportDate), modAmount::CentsToText(entry.ImportValue),
+                                 entry.ImportAccount);
+    });
 }
 
 } // namespace
@@ -256,12 +247,11 @@ private Q_SLOTS:
         QFETCH(QString, rows);
         const cStatementRead read =
             ReadText(u"Datum;Empfänger;Verwendungszweck;Betrag;Währung\n"_s + rows.replace(u'|', u'\n'));
-        QStringList shown;
-        for (const cImportEntry& entry : read.Entries) {
-            shown.append(modAmount::CentsToText(entry.ImportValue) + u' ' + entry.ImportBeneficiary + u' '
-                         + entry.ImportPurpose);
-        }
-        QTEST(shown.join(u", "_s), "read");
+        const auto shown = [](const cImportEntry& entry) {
+            return QStringList{modAmount::CentsToText(entry.ImportValue), entry.ImportBeneficiary, entry.ImportPurpose}
+                .join(u' ');
+        };
+        QTEST(Each(read.Entries, shown).join(u", "_s), "read");
         QTEST(static_cast<int>(read.Problems.size() + read.Skipped.size()), "told");
     }
 
@@ -362,16 +352,11 @@ private Q_SLOTS:
                                              "x;y\n"
                                              ";;;;\n"_s);
         QCOMPARE(Brief(read), QStringList(u"2025-02-01 -1.00 98765"_s));
-        QList<eSkipped> kinds;
-        QList<int> lines;
-        for (const cSkippedRow& row : read.Skipped) {
-            kinds.append(row.Kind);
-            lines.append(row.Reason.Line);
-        }
-        QCOMPARE(kinds,
+        QCOMPARE(Each(read.Skipped, &cSkippedRow::Kind),
                  QList<eSkipped>({eSkipped::Pending, eSkipped::Pending, eSkipped::Pending, eSkipped::Unreadable,
                                   eSkipped::Balance, eSkipped::Unreadable}));
-        QCOMPARE(lines, QList<int>({4, 5, 6, 7, 8, 9}));
+        QCOMPARE(Each(read.Skipped, [](const cSkippedRow& row) { return row.Reason.Line; }),
+                 QList<int>({4, 5, 6, 7, 8, 9}));
         QCOMPARE(read.Skipped.first().Entry.ImportValue, -200);
         QCOMPARE(read.ClosingBalance, std::optional<qint64>(10000));
     }

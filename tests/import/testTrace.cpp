@@ -1,4 +1,3 @@
-#include "base/cProgress.h"
 #include "core/cBackup.h"
 #include "core/cBook.h"
 #include "core/cSettings.h"
@@ -13,7 +12,6 @@
 #include "support/fakes.h"
 
 #include <QLoggingCategory>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

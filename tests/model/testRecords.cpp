@@ -1,18 +1,31 @@
 #include "model/cImportEntry.h"
 #include "model/cTemplateItem.h"
+#include "model/modCutText.h"
 #include "model/modFlags.h"
 #include "model/modPeriod.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+cImportEntry Row(qint64 value, const QString& purpose, const QString& beneficiary = {})
+{
+    cImportEntry row;
+    row.ImportValue = value;
+    row.ImportPurpose = purpose;
+    row.ImportBeneficiary = beneficiary;
+    return row;
+}
+
+} // namespace
 
 class testRecords final : public QObject
 {
     Q_OBJECT
+
+    using fnChange = void (*)(cImportEntry&);
 
 private Q_SLOTS:
     void PeriodNames_data() const
@@ -60,11 +73,10 @@ private Q_SLOTS:
     {
         QFETCH(const QString, category);
         QFETCH(const QString, name);
-        QFETCH(const QString, path);
         cTemplateItem item;
         item.TemplateCategory = category;
         item.TemplateName = name;
-        QCOMPARE(modTemplate::Path(item), path);
+        QTEST(modTemplate::Path(item), "path");
     }
 
     void TemplateTexts() const
@@ -127,46 +139,126 @@ private Q_SLOTS:
 
     void Duplicates_data() const
     {
-        using fnChange = void (*)(cImportEntry&);
-        QTest::addColumn<fnChange>("change");
-        QTest::addColumn<bool>("isDuplicate");
-        const auto add = [](const char* name, fnChange change, bool isDuplicate) {
-            QTest::newRow(name) << change << isDuplicate;
-        };
-        add(
-            "same", [](cImportEntry&) {}, true);
-        add(
-            "other booking text", [](cImportEntry& row) { row.ImportType = u"Lastschrift"_s; }, true);
-        add(
-            "other currency", [](cImportEntry& row) { row.ImportCurrency = u"USD"_s; }, true);
-        add(
-            "other day", [](cImportEntry& row) { row.ImportDate = row.ImportDate.addDays(1); }, false);
-        add(
-            "other case", [](cImportEntry& row) { row.ImportPurpose = u"MIETE"_s; }, false);
-        add(
-            "other bank", [](cImportEntry& row) { row.ImportBeneficiaryBLZ = u"1"_s; }, false);
-        add(
-            "other amount", [](cImportEntry& row) { row.ImportValue += 1; }, false);
+        const cTestRows<bool, fnChange> row("isDuplicate", "change");
+        row("same", true, [](cImportEntry&) {});
+        row("other booking text", true, [](cImportEntry& each) { each.ImportType = u"Lastschrift"_s; });
+        row("other currency", true, [](cImportEntry& each) { each.ImportCurrency = u"USD"_s; });
+        row("other day", false, [](cImportEntry& each) { each.ImportDate = each.ImportDate.addDays(1); });
+        row("other case", false, [](cImportEntry& each) { each.ImportPurpose = u"MIETE"_s; });
+        row("other account", false, [](cImportEntry& each) { each.ImportAccount = u"a"_s; });
+        row("other name", false, [](cImportEntry& each) { each.ImportBeneficiary = u"x"_s; });
+        row("other counterparty", false, [](cImportEntry& each) { each.ImportBeneficiaryAccount = u"x"_s; });
+        row("other bank", false, [](cImportEntry& each) { each.ImportBeneficiaryBLZ = u"1"_s; });
+        row("other amount", false, [](cImportEntry& each) { each.ImportValue += 1; });
     }
 
     void Duplicates() const
     {
-        using fnChange = void (*)(cImportEntry&);
         QFETCH(const fnChange, change);
-        QFETCH(const bool, isDuplicate);
         cImportEntry first;
         first.ImportDate = QDate(2024, 1, 1);
+        first.ImportAccount = u"A"_s;
         first.ImportPurpose = u"Miete"_s;
         first.ImportValue = -50000;
         cImportEntry second = first;
         change(second);
-        QCOMPARE(first.isEqual(second), isDuplicate);
+        QTEST(first.isEqual(second), "isDuplicate");
     }
 
-    void ViewWordsBecomeQueryWords() const
+    void Similar_data() const
     {
-        QCOMPARE(modWord::QueryType(u"Umbuchung"_s), u"Umbuchungen"_s);
-        QCOMPARE(modWord::QueryType(u"Alle Buchungsarten"_s), u"Alle Buchungen"_s);
+        const cTestRows<cImportEntry, cImportEntry, double> row("row", "other", "score");
+        const cImportEntry rent = Row(-650, u"Miete Talstrasse 5"_s, u"Tann"_s);
+        row("equal expenses", rent, Row(-9, u"Miete Talstrasse 5"_s, u"Tann"_s), 1.025);
+        row("without purposes", Row(-1, {}, u"Tann"_s), Row(-2, {}, u"tann"_s), 1.025);
+        row("other payee", rent, Row(-650, u"Miete Talstrasse 5"_s, u"Ohlig"_s), 0.525);
+        row("the first letters in another case", rent, Row(-1, u"MIETE Talstrasse 5"_s, u"Tann"_s), 1.0);
+        row("expense beside income", rent, Row(650, u"Miete Talstrasse 5"_s, u"Tann"_s), 0.0);
+        row("nothing beside income", Row(0, u"A"_s), Row(1, u"A"_s), 0.0);
+        row("income goes by its amount", Row(100, u"abcd"_s, u"X"_s), Row(80, u"efgh"_s, u"X"_s), 0.4);
+        row("the larger one first or last", Row(80, u"abcd"_s), Row(100, u"abcf"_s), 0.775);
+    }
+
+    void Similar() const
+    {
+        QFETCH(const cImportEntry, row);
+        QFETCH(const cImportEntry, other);
+        QFETCH(const double, score);
+        QCOMPARE(row.isSimilar(other), score);
+        QCOMPARE(other.isSimilar(row), score);
+    }
+
+    void ClosesCuts_data()
+    {
+        const cTestRows<QString, QString> row("text", "closed");
+        // Names: 27 characters, then the rest.
+        row("name", u"Steuerberatung Lindner & Sö hne"_s, u"Steuerberatung Lindner & Söhne"_s);
+        row("two words of a name", u"Sportverein Talheim Abtlung fuer Rudern"_s,
+            u"Sportverein Talheim Abtlung fuer Rudern"_s);
+        row("ordinary word", u"Hausverwaltung Tannert Buch und Sohn"_s, u"Hausverwaltung Tannert Buch und Sohn"_s);
+        row("legal form", u"Gesellschaft Technik Süd AB mbH"_s, u"Gesellschaft Technik Süd AB mbH"_s);
+        row("short", u"Lindner & Sö hne"_s, u"Lindner & Sö hne"_s);
+    }
+
+    void ClosesCuts()
+    {
+        QFETCH(QString, text);
+        QTEST(modCutText::Name(text), "closed");
+    }
+
+    void ClosesPurposes_data()
+    {
+        const cTestRows<QString, QString> row("text", "closed");
+        row("without keyword", u"Abschlag fuer Oktober Wasse rwerk"_s, u"Abschlag fuer Oktober Wasserwerk"_s);
+        row("first piece has lost its keyword", u"Strukturierter Verwend ungszweck 4711"_s,
+            u"Strukturierter Verwendungszweck 4711"_s);
+        row("punctuation", u"Miete Januar Lindenweg , Garage"_s, u"Miete Januar Lindenweg, Garage"_s);
+        row("several pieces, small letters before",
+            u"ueberweisung mit vr-ne tworld und noch ein lang zw eck der weitergeht"_s,
+            u"ueberweisung mit vr-networld und noch ein lang zweck der weitergeht"_s);
+        row("a digit goes on", u"Rechnung vom 12.03.202 6"_s, u"Rechnung vom 12.03.202 6"_s);
+        row("behind a reference",
+            u"EREF+TF 4711 MTLG:Grund nicht spezifizie rt Reject aus SEPA-Ueberwei sungsauftrag"_s,
+            u"EREF+TF 4711 MTLG:Grund nicht spezifiziert Reject aus SEPA-Ueberweisungsauftrag"_s);
+        row("originator in brackets", u"Debitk.4 (Tankstelle am Lindenpa rk)"_s,
+            u"Debitk.4 (Tankstelle am Lindenpark)"_s);
+        // Texts that no statement has cut.
+        row("words of one long text", u"Miete fuer die Wohnung bis zum Ende des Jahres"_s,
+            u"Miete fuer die Wohnung bis zum Ende des Jahres"_s);
+        row("all small", u"abschlag fuer die wohnung im lindenweg"_s, u"abschlag fuer die wohnung im lindenweg"_s);
+        row("nothing", {}, {});
+    }
+
+    void ClosesPurposes()
+    {
+        QFETCH(QString, text);
+        QTEST(modCutText::Purpose(text), "closed");
+    }
+
+    // One format has the text whole, the other in pieces or cut off.
+    void ComparesButBlanks_data()
+    {
+        const cTestRows<QString, QString, bool> row("name", "other", "isAlike");
+        const QString whole = u"Hausverwaltung Tannert und Söhne Grundstücksgesellschaft mbH & Co. KG"_s;
+        const QString cut = u"Hausverwaltung Tannert und Söhne Grundstücksgesellschaft"_s;
+        row("blanks", whole, u"Hausverwaltung Tannert und  Söhne Grundstücksgesellsch aft mbH & Co. KG"_s, true);
+        row("cut off", whole, cut, true);
+        row("another end", whole, QString(cut + u" AG"), false);
+        row("too short to be cut", u"Hausverwaltung Tannert"_s, u"Hausverwaltung"_s, false);
+    }
+
+    void ComparesButBlanks()
+    {
+        QFETCH(bool, isAlike);
+        cImportEntry row;
+        QFETCH(QString, name);
+        row.ImportBeneficiary = name;
+        QFETCH(QString, other);
+        cImportEntry second;
+        second.ImportBeneficiary = other;
+        QCOMPARE(row.isEqualButBlanks(second), isAlike);
+        QCOMPARE(second.isEqualButBlanks(row), isAlike);
+        QVERIFY(!isAlike || row.EqualHash() == second.EqualHash());
     }
 };
 

@@ -1,34 +1,11 @@
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
-#include "store/cDataAccess.h"
-#include "store/modSchema.h"
+#include "support/cOpenedFile.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/cTestRows.h"
-#include "support/fakes.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-// An upgraded database with its operations.
-struct cOpened
-{
-    explicit cOpened(const std::string& sql = {})
-    {
-        Database.Open(File.Make(sql), eOpenMode::ReadWrite);
-        modSchema::Upgrade(Database);
-    }
-
-    [[nodiscard]] QString Value(const std::string& sql) { return cTestFile::Value(Database, sql); }
-
-    cTestFile File;
-    cFakeUser User;
-    cDatabase Database{0};
-    cDataAccess Data{Database, User};
-};
 
 cEntryItem Entry()
 {
@@ -47,10 +24,7 @@ cEntryItem Entry()
 
 cEntryItemFixMod FixMod(int entryId)
 {
-    cEntryItemFixMod fixMod;
-    fixMod.EntryRelation = entryId;
-    fixMod.EntryModType = modWord::Betrag;
-    return fixMod;
+    return {0, entryId, modWord::Betrag, {}, {}, 0, {}};
 }
 
 } // namespace
@@ -62,7 +36,7 @@ class testDataAccess final : public QObject
 private Q_SLOTS:
     void EntryReadsBack() const
     {
-        cOpened book;
+        cOpenedFile book;
         cEntryItem entry = Entry();
         QVERIFY(book.Data.AddNewEntry(entry));
         QCOMPARE(entry.ID, 1);
@@ -99,14 +73,13 @@ private Q_SLOTS:
     {
         QFETCH(const QString, stored);
         QFETCH(const qint64, cents);
-        QFETCH(const QString, written);
-        cOpened book("INSERT INTO data (ID, EntryDate, EntryDateEnd) VALUES (1, '2024-01-05 00:00:00', 'nie')");
+        cOpenedFile book("INSERT INTO data (ID, EntryDate, EntryDateEnd) VALUES (1, '2024-01-05 00:00:00', 'nie')");
         book.Database.Execute("UPDATE data SET EntryValue = ?", {stored});
         std::optional<cEntryItem> entry = book.Data.LoadEntry(1);
         entry->EntryDescription = u"neu"_s;
         entry->EntryValue = cents;
         QVERIFY(book.Data.ChangeEntry(*entry));
-        QCOMPARE(book.Value("SELECT EntryValue FROM data"), written);
+        QTEST(book.Value("SELECT EntryValue FROM data"), "written");
         QCOMPARE(book.Value("SELECT EntryDate FROM data"), u"2024-01-05 00:00:00"_s);
         QCOMPARE(book.Value("SELECT EntryDateEnd FROM data"), u"2050-01-01"_s);
         QCOMPARE(book.Value("SELECT EntryDescription FROM data"), u"neu"_s);
@@ -115,8 +88,8 @@ private Q_SLOTS:
     // Only one side of the comparison is lower-cased, so names with capitals are never matched.
     void RenamingMatchesLowerCaseOnly() const
     {
-        cOpened book("INSERT INTO data (ID, EntryAccount, EntryAccountMove) VALUES"
-                     " (1, 'Bank', 'bank'), (2, 'bank', 'Bank'), (3, 'tom''''s', '')");
+        cOpenedFile book("INSERT INTO data (ID, EntryAccount, EntryAccountMove) VALUES"
+                         " (1, 'Bank', 'bank'), (2, 'bank', 'Bank'), (3, 'tom''''s', '')");
         QVERIFY(book.Data.ChangeEntryAccount(u"Neu"_s, u"BANK"_s));
         QVERIFY(book.Data.ChangeEntryAccount(u"Tim's"_s, u"Tom's"_s));
         QCOMPARE(book.Value("SELECT group_concat(EntryAccount || '/' || EntryAccountMove, ' ') FROM data"),
@@ -125,9 +98,9 @@ private Q_SLOTS:
 
     void DeletedEntryLetsGo() const
     {
-        cOpened book("INSERT INTO data (ID) VALUES (1), (2);"
-                     "INSERT INTO import (ID, ImportAssigned, ImportAssignedEntry) VALUES"
-                     " (1, -1, 1), (2, -1, 2), (3, -1, 1);");
+        cOpenedFile book("INSERT INTO data (ID) VALUES (1), (2);"
+                         "INSERT INTO import (ID, ImportAssigned, ImportAssignedEntry) VALUES"
+                         " (1, -1, 1), (2, -1, 2), (3, -1, 1);");
         QVERIFY(book.Data.AddNewEntryMod(FixMod(1)));
         QVERIFY(book.Data.AddNewEntryMod(FixMod(2)));
         QVERIFY(book.Data.DeleteEntry(1));
@@ -140,7 +113,7 @@ private Q_SLOTS:
 
     void CorrectionReplacesTheFormer() const
     {
-        cOpened book;
+        cOpenedFile book;
         cEntryItemFixMod fixMod = FixMod(4);
         fixMod.EntryStartDate = QDate(2024, 1, 1);
         fixMod.EntryValue = 500;
@@ -161,7 +134,7 @@ private Q_SLOTS:
 
     void TemplatesKeepTheirTexts() const
     {
-        cOpened book;
+        cOpenedFile book;
         cTemplateItem item;
         item.TemplateType = modWord::Kategorie;
         item.TemplateCategory = u"Haus & Garten"_s;
@@ -185,7 +158,7 @@ private Q_SLOTS:
 
     void StagedRowReadsBack() const
     {
-        cOpened book;
+        cOpenedFile book;
         cImportEntry entry;
         entry.ImportAccount = u"DE01"_s;
         entry.ImportDate = QDate(2024, 5, 6);
@@ -213,19 +186,15 @@ private Q_SLOTS:
 
     void StagedAmountsBecomeCents() const
     {
-        cOpened book;
+        cOpenedFile book;
         cTestFile::Run(book.File.Path(),
                        "INSERT INTO import (ImportValue) VALUES (-12.340000000000002), (1.005), ('7.5'), (NULL)");
-        QList<qint64> cents;
-        for (const cImportEntry& row : book.Data.GetImportEntries()) {
-            cents.append(row.ImportValue);
-        }
-        QCOMPARE(cents, QList<qint64>({-1234, 101, 750, 0}));
+        QCOMPARE(Each(book.Data.GetImportEntries(), &cImportEntry::ImportValue), QList<qint64>({-1234, 101, 750, 0}));
     }
 
     void CacheLearnsOfEveryWrite() const
     {
-        cOpened book;
+        cOpenedFile book;
         const quint64 first = book.Data.ImportVersion();
         QCOMPARE(book.Data.ImportVersion(), first);
         cImportEntry entry;
@@ -244,7 +213,7 @@ private Q_SLOTS:
 
     void StartBalance() const
     {
-        cOpened book;
+        cOpenedFile book;
         QVERIFY(!book.Data.GetStartGuthaben(u"O'Hara"_s));
         QVERIFY(book.Data.SetStartGuthaben(u"O'Hara"_s, 10000, QDate(2024, 1, 1)));
         QVERIFY(book.Data.SetStartGuthaben(u"O'Hara"_s, -2550, QDate(2023, 12, 31)));
@@ -259,7 +228,7 @@ private Q_SLOTS:
 
     void OnlineAccountsKeepTheirColumns() const
     {
-        cOpened book;
+        cOpenedFile book;
         cOnlineAccount account;
         for (size_t i = 0; i < account.Values.size(); ++i) {
             account.Values[i] = u"Wert %1"_s.arg(i);
@@ -306,7 +275,7 @@ private Q_SLOTS:
     {
         using fnCall = bool (*)(cDataAccess&);
         QFETCH(const fnCall, call);
-        cOpened book;
+        cOpenedFile book;
         for (const char* table : {"data", "datamod", "template", "import", "setting"}) {
             book.Database.Execute(std::string("DROP TABLE ") + table);
         }
@@ -316,7 +285,7 @@ private Q_SLOTS:
 
     void FullDiskLosesNothing() const
     {
-        cOpened book;
+        cOpenedFile book;
         cEntryItem entry = Entry();
         QVERIFY(book.Data.AddNewEntry(entry));
         (void)book.Value("PRAGMA max_page_count=1"); // cut to the pages there are
@@ -333,7 +302,7 @@ private Q_SLOTS:
 
     void LockedFileRefusesOnce() const
     {
-        cOpened book;
+        cOpenedFile book;
         cDatabase other;
         other.Open(book.File.Path(), eOpenMode::ReadWrite);
         other.Execute("BEGIN IMMEDIATE");
@@ -349,7 +318,7 @@ private Q_SLOTS:
 
     void BackupIsWholeOrAbsent() const
     {
-        cOpened book;
+        cOpenedFile book;
         cEntryItem entry = Entry();
         QVERIFY(book.Data.AddNewEntry(entry));
         const QString copy = book.File.Path(u"copy.backup"_s);

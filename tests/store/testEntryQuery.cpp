@@ -1,13 +1,7 @@
 #include "model/modWord.h"
-#include "store/cDataAccess.h"
 #include "store/cWindowAhead.h"
-#include "store/modSchema.h"
+#include "support/cOpenedFile.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/cTestRows.h"
-#include "support/fakes.h"
-
-#include <QTest>
 
 #include <algorithm>
 
@@ -34,29 +28,18 @@ constexpr const char* household =
     " (15, '2024-01-10', '2050-01-01', 'Ausgabe', 'Alle 5 Tage', 'Giro', '', 'Haus', '5.00'),"
     " (16, '2024-03-02', '2050-01-01', 'Einnahme', 'Monatlich', 'Spar', '', 'Allgemein; Startguthaben', '6.00');";
 
-struct cHousehold
+struct cHousehold : cOpenedFile
 {
-    cHousehold()
+    cHousehold() : cOpenedFile(household)
     {
-        Database.Open(File.Make(household), eOpenMode::ReadWrite);
-        modSchema::Upgrade(Database);
         Database.ExecuteScript("INSERT INTO datamod (EntryRelation, EntryStartDate, EntryValue, EntryComment) VALUES"
                                " (11, '2024-02-01', '0.00', 'frei'), (12, '2024-02-01', '9.00', 'fremd')");
     }
-
-    cTestFile File;
-    cFakeUser User;
-    cDatabase Database;
-    cDataAccess Data{Database, User};
 };
 
 QString Ids(const cEntryItemList& entries)
 {
-    QStringList ids;
-    for (const cEntryItem& entry : entries) {
-        ids.append(QString::number(entry.ID));
-    }
-    return ids.join(u' ');
+    return Each(entries, [](const cEntryItem& entry) { return QString::number(entry.ID); }).join(u' ');
 }
 
 cEntryQuery February(const QString& type = {}, const QString& account = {}, const QString& category = {})
@@ -250,13 +233,7 @@ private Q_SLOTS:
     {
         cHousehold book;
         const auto move = [&](int series, QDate start, QDate day) {
-            cEntryItemFixMod fixMod;
-            fixMod.EntryRelation = series;
-            fixMod.EntryModType = modWord::Betrag;
-            fixMod.EntryStartDate = start;
-            fixMod.EntryDay = day;
-            fixMod.EntryValue = 700;
-            QVERIFY(book.Data.AddNewEntryMod(fixMod));
+            QVERIFY(book.Data.AddNewEntryMod({0, series, modWord::Betrag, start, {}, 700, {}, day}));
             const cEntryItemFixMod stored = book.Data.GetEntryMods(series).constLast();
             QCOMPARE(stored.EntryDay, day);
             QCOMPARE(stored.EntryModType, modWord::Betrag);

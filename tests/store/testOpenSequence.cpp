@@ -3,12 +3,9 @@
 #include "store/modSchema.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
-#include "support/cTestRows.h"
 #include "support/fakes.h"
 
-#include <QDir>
 #include <QScopeGuard>
-#include <QTest>
 
 #include <unistd.h>
 
@@ -202,16 +199,12 @@ private Q_SLOTS:
 
     void DamagedBackupIsNotRestored() const
     {
-        class cOnceRescue final : public cRescue
+        struct cOnceRescue final : cFakeRescue
         {
-        public:
-            std::optional<QString> ChooseDatabase(const QString& /*current*/) override { return {}; }
             std::optional<QString> ChooseBackup(const QString& /*folder*/) override
             {
                 return std::exchange(Backup, {});
             }
-            bool AskPassword(const std::function<bool(const QString&)>& /*isRight*/) override { return false; }
-            std::optional<QString> Backup;
         };
         cMachine machine;
         cOnceRescue rescue;

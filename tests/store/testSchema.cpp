@@ -2,10 +2,7 @@
 #include "store/modSchema.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
-#include "support/cTestRows.h"
 #include "support/fakes.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -50,7 +47,6 @@ private Q_SLOTS:
     {
         QFETCH(const QString, type);
         QFETCH(const QString, interval);
-        QFETCH(const QString, words);
         const cTestFile file;
         cDatabase database;
         database.Open(file.Make(), eOpenMode::ReadWrite);
@@ -60,8 +56,8 @@ private Q_SLOTS:
         database.Execute("INSERT INTO template (ID, TemplateType, EntryType, EntryInterval) VALUES (10, 'Konto', ?, ?)",
                          codes);
         modSchema::Upgrade(database);
-        QCOMPARE(cTestFile::Value(database, "SELECT EntryType || '/' || EntryInterval FROM template WHERE ID = 9"),
-                 words);
+        QTEST(cTestFile::Value(database, "SELECT EntryType || '/' || EntryInterval FROM template WHERE ID = 9"),
+              "words");
         QCOMPARE(cTestFile::Value(database, "SELECT EntryInterval FROM template WHERE ID = 10"), interval);
     }
 
@@ -189,7 +185,6 @@ private Q_SLOTS:
     {
         QFETCH(const bool, hasTemplate);
         QFETCH(const bool, hasDatabase);
-        QFETCH(const QByteArray, content);
         QFETCH(const QString, message);
         cFakeShell shell;
         cFakeUser user;
@@ -201,7 +196,7 @@ private Q_SLOTS:
             cTestFile::Write(path, "mine");
         }
         QCOMPARE(modSchema::GetDefaultDatabase(shell, user), path);
-        QCOMPARE(cTestFile::Bytes(path), content);
+        QTEST(cTestFile::Bytes(path), "content");
         QCOMPARE(user.Shown, message.isEmpty() ? QStringList() : QStringList(message));
     }
 

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "support/cTestRows.h"
+#include "support/each.h"
+
 #include <QCoreApplication>
 #include <QTest>
 
 // A class of tests, known to its program under its name. The tests of a floor are one program, which is linked once:
-// "views_tests testReport" runs one class, with the options of QTest behind it.
+// "views_tests testReport" runs one class, with the options of QTest behind it. What every test needs comes along.
 class cTestClass
 {
 public:

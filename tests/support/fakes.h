@@ -188,7 +188,7 @@ private:
     QTemporaryDir m_root;
 };
 
-class cFakeRescue final : public cRescue
+class cFakeRescue : public cRescue
 {
 public:
     std::optional<QString> ChooseDatabase(const QString& /*current*/) override { return Database; }

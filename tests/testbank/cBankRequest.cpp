@@ -1,5 +1,7 @@
 #include "testbank/cBankRequest.h"
 
+#include "support/each.h"
+
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -148,11 +150,8 @@ cBankRequest cReader::Read()
 
 void cReader::CheckFrame()
 {
-    QList<QByteArray> codes;
-    for (const cRequestSegment& segment : std::as_const(m_outer)) {
-        codes.append(segment.Code);
-    }
-    Check(codes == QList<QByteArray>({"HNHBK", "HNVSK", "HNVSD", "HNHBS"}), u"frame of the message"_s);
+    Check(Each(m_outer, &cRequestSegment::Code) == QList<QByteArray>({"HNHBK", "HNVSK", "HNVSD", "HNHBS"}),
+          u"frame of the message"_s);
     if (!m_request.Faults.isEmpty()) {
         return;
     }

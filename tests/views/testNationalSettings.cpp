@@ -1,11 +1,9 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/book/cNationalSettings.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

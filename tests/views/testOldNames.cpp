@@ -1,11 +1,9 @@
 #include "cTemplateScene.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "views/template/cNameKeepers.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

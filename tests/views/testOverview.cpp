@@ -8,7 +8,6 @@
 #include "views/overview/cOverviewModel.h"
 
 #include <QRandomGenerator>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -42,12 +41,9 @@ struct cScene
     // "text | figure" of each line.
     [[nodiscard]] QStringList Lines(eOverviewCard kind) const
     {
-        QStringList lines;
-        const QList<cOverviewLine> shown = Card(kind).Lines;
-        for (const cOverviewLine& line : shown) {
-            lines.append(Plain(line.Figure.isEmpty() ? line.Text : line.Text + u" | "_s + line.Figure));
-        }
-        return lines;
+        return Each(Card(kind).Lines, [](const cOverviewLine& line) {
+            return Plain(line.Figure.isEmpty() ? line.Text : line.Text + u" | "_s + line.Figure);
+        });
     }
 
     // What the list comes to that a line leads to.

@@ -1,11 +1,8 @@
 #include "core/modPassword.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/book/cPasswordFlow.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -3,7 +3,6 @@
 #include "store/cUndoStep.h"
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/list/cSearch.h"
 #include "views/main/cMainModel.h"
@@ -13,9 +12,7 @@
 #include "views/people/modSettlement.h"
 #include "views/template/cNameKeepers.h"
 
-#include <QFile>
 #include <QRandomGenerator>
-#include <QTest>
 
 #include <algorithm>
 #include <numeric>
@@ -30,11 +27,10 @@ namespace {
 // "Anna -> Ben 12, ..."
 QString Plain(const QList<cPayment>& payments)
 {
-    QStringList texts;
-    for (const cPayment& payment : payments) {
-        texts.append(u"%1 -> %2 %3"_s.arg(payment.From, payment.To).arg(payment.Cents));
-    }
-    return texts.join(u", "_s);
+    const auto text = [](const cPayment& payment) {
+        return u"%1 -> %2 %3"_s.arg(payment.From, payment.To).arg(payment.Cents);
+    };
+    return Each(payments, text).join(u", "_s);
 }
 
 cEntryItem Entry(const QString& type, const QString& account, const QString& payer, qint64 cents)

@@ -4,7 +4,6 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeDesk.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/list/cEntryListModel.h"
@@ -12,10 +11,6 @@
 #include "views/receipt/cReceipts.h"
 
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,9 +1,6 @@
-#include "base/cProgress.h"
 #include "core/modDemo.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryDelete.h"
 #include "views/ledger/cOpeningBalance.h"
@@ -12,8 +9,6 @@
 #include "views/ledger/cReconciliation.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

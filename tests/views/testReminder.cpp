@@ -3,7 +3,6 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cContracts.h"
 #include "views/entry/cEntryEditor.h"
@@ -12,7 +11,6 @@
 #include "views/reminder/cReminderModel.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

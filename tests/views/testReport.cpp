@@ -1,8 +1,5 @@
-#include "core/modDemo.h"
 #include "model/modSettingKey.h"
-#include "model/modWord.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
 #include "views/report/cReportExport.h"
@@ -14,8 +11,6 @@
 #include "views/report/modReportLink.h"
 
 #include <QAbstractItemModelTester>
-#include <QFile>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -69,10 +64,9 @@ QString Plain(const cReportSection& section)
 {
     QStringList groups;
     for (const cReportGroup& group : section.Groups) {
-        QStringList categories;
-        for (const cReportCategory& category : group.Categories) {
-            categories.append(u"%1 %2"_s.arg(category.Label).arg(category.Amount.Cents));
-        }
+        const QStringList categories = Each(group.Categories, [](const cReportCategory& category) {
+            return u"%1 %2"_s.arg(category.Label).arg(category.Amount.Cents);
+        });
         groups.append(u"%1 %2: %3"_s.arg(group.Label).arg(group.Amount.Cents).arg(categories.join(u", "_s)));
     }
     return groups.join(u" | "_s);
@@ -138,29 +132,6 @@ private Q_SLOTS:
         const cTestFormat format;
         const cReportFigures figures = modReport::Figures(Entries(entries), Limits(limits), wish);
         CompareWithFile(modReportHtml::Html(figures, wish, format.Format), QString::fromUtf8(QTest::currentDataTag()));
-    }
-
-    void HtmlOfTheDemo_data()
-    {
-        const cTestRows<eReport, QString, modPeriod::cRange> row("type", "account", "range");
-        const modPeriod::cRange month = modPeriod::Month(QDate(2026, 2, 1), 0);
-        row("beispiel-summe", eReport::Sum, u"Bargeld"_s, month);
-        row("beispiel-durchschnitt", eReport::Average, u"Sparkonto"_s, year2026);
-        row("beispiel-limit", eReport::Limit, {}, month);
-    }
-
-    void HtmlOfTheDemo()
-    {
-        QFETCH(eReport, type);
-        QFETCH(QString, account);
-        QFETCH(modPeriod::cRange, range);
-        cTestBook book;
-        book.Clock.Day = QDate(2026, 3, 15);
-        QVERIFY(modDemo::Write(book.Data, {book.Clock.Day, 1, 0}));
-        book.Settings->ResetViewDefaults();
-        cReportSource source(book.Tools);
-        const cReportWish wish = source.Wish(type, account, modWord::FreierZeitraum, range);
-        CompareWithFile(source.Html(wish), QString::fromUtf8(QTest::currentDataTag()));
     }
 
     void Figures_data()

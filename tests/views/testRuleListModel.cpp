@@ -2,14 +2,12 @@
 #include "import/propose/cOwnRules.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/rule/cRuleEditor.h"
 #include "views/rule/modRuleText.h"
 #include "views/template/cTemplateManager.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -35,11 +33,8 @@ struct cScene : cTestBook
     // The stored texts in their order; those that are switched off in brackets.
     QStringList Texts()
     {
-        QStringList texts;
-        for (const cOwnRule& rule : cOwnRules(*Settings).Load()) {
-            texts.append(rule.IsOn ? rule.Text : u'(' + rule.Text + u')');
-        }
-        return texts;
+        return Each(cOwnRules(*Settings).Load(),
+                    [](const cOwnRule& rule) { return rule.IsOn ? rule.Text : QString(u'(' + rule.Text + u')'); });
     }
 
 private:

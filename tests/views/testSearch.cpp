@@ -1,11 +1,9 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/list/cSearchModel.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -57,11 +55,9 @@ struct cScene
     // "Rewe 10.03.", in the order of the results
     static QStringList Names(const cEntryItemList& entries)
     {
-        QStringList names;
-        for (const cEntryItem& entry : entries) {
-            names.append(entry.EntryDescription + entry.EntryDate.toString(u" dd.MM."_s));
-        }
-        return names;
+        return Each(entries, [](const cEntryItem& entry) {
+            return QString(entry.EntryDescription + entry.EntryDate.toString(u" dd.MM."_s));
+        });
     }
 
     cTestBook Book;

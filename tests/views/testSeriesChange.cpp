@@ -1,11 +1,8 @@
 #include "cEditorBook.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/entry/modCorrections.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -24,13 +21,10 @@ struct cRentBook : cEditorBook
 // "2026-04-01 12.50 text" of each correction, by period.
 QStringList Corrections(cTestBook& book, int id)
 {
-    QStringList texts;
-    const cEntryItemFixModList fixMods = book.Data.GetEntryMods(id);
-    for (const cEntryItemFixMod& fixMod : fixMods) {
-        texts.append(QStringList{fixMod.EntryStartDate.toString(Qt::ISODate), QString::number(fixMod.EntryValue),
-                                 fixMod.EntryComment}
-                         .join(u' '));
-    }
+    QStringList texts = Each(book.Data.GetEntryMods(id), [](const cEntryItemFixMod& fixMod) {
+        return u"%1 %2 %3"_s.arg(fixMod.EntryStartDate.toString(Qt::ISODate), QString::number(fixMod.EntryValue),
+                                 fixMod.EntryComment);
+    });
     texts.sort();
     return texts;
 }

@@ -1,13 +1,9 @@
-#include "base/modDate.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/statement/cSeriesCheck.h"
-
-#include <QTest>
 
 #include <numeric>
 

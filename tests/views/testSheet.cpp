@@ -1,7 +1,6 @@
 #include "model/modSettingKey.h"
 #include "model/modSplit.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/main/cSavedViews.h"
 #include "views/sheet/cCellEdit.h"
@@ -12,8 +11,6 @@
 #include "views/sheet/modRowCopy.h"
 #include "views/sheet/modRowDrag.h"
 #include "views/template/cTemplateFlow.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -136,11 +133,8 @@ private Q_SLOTS:
             twice.append({{parts.at(0).ID, QDate(2026, month, 10)}, {parts.at(1).ID, QDate(2026, month, 10)}});
         }
         const QList<cKey> both = flow.Duplicate(twice, cEntryDuplicate::eDay::Today);
-        QList<int> groups;
-        for (const cKey& key : both) {
-            groups.append(modSplit::Group(scene.Stored(key.ID)));
-        }
-        QCOMPARE(groups, (QList<int>{both.at(0).ID, both.at(0).ID, both.at(2).ID, both.at(2).ID}));
+        QCOMPARE(Each(both, [&](const cKey& key) { return modSplit::Group(scene.Stored(key.ID)); }),
+                 (QList<int>{both.at(0).ID, both.at(0).ID, both.at(2).ID, both.at(2).ID}));
     }
 
     void StartBalanceIsNotCopied()

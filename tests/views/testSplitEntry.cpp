@@ -1,9 +1,6 @@
 #include "cEditorBook.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "views/entry/modSplitParts.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

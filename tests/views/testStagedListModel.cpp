@@ -2,11 +2,8 @@
 #include "core/cAmountFormat.h"
 #include "core/cConfiguration.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/fakes.h"
 #include "views/statement/cStagedListModel.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

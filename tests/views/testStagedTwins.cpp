@@ -1,11 +1,8 @@
 #include "import/plan/modStagedTwins.h"
 #include "import/stage/modStatementFormat.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/statement/cImportRuns.h"
-
-#include <QTest>
 
 #include <functional>
 
@@ -36,8 +33,6 @@ cFile FileOf(int id)
 }
 
 } // namespace
-
-Q_DECLARE_METATYPE(fnChange)
 
 class testStagedTwins final : public QObject
 {
@@ -116,16 +111,15 @@ private Q_SLOTS:
     // Two payments that are alike, of which the first file has only the one.
     void EachBookingHasOneTwin_data()
     {
-        QTest::addColumn<int>("Days"); // from the booking to its twin
-        QTest::addColumn<int>("Twin"); // of the booking, when it is told of another day
-        QTest::newRow("the same day") << 0 << 0;
-        QTest::newRow("another day") << 1 << 10;
+        // Days: from the booking to its twin; Twin: of the booking, when it is told of another day
+        const cTestRows<int, int> row("Days", "Twin");
+        row("the same day", 0, 0);
+        row("another day", 1, 10);
     }
 
     void EachBookingHasOneTwin()
     {
         QFETCH(const int, Days);
-        QFETCH(const int, Twin);
         cImportEntry same = First();
         same.ID = 10;
         same.ImportDate = same.ImportDate.addDays(Days);
@@ -134,7 +128,7 @@ private Q_SLOTS:
         next.ImportDate = next.ImportDate.addDays(2);
         const auto twins = modStagedTwins::Find(
             {First(), same, next}, {.AccountOf = [](const QString& number) { return number; }, .FileOf = FileOf});
-        QCOMPARE(twins.value(1).RowId, Twin);
+        QTEST(twins.value(1).RowId, "Twin");
         QCOMPARE(twins.value(1).Days, Days);
         QVERIFY(!twins.contains(next.ID));
     }

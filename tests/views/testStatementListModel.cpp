@@ -1,4 +1,3 @@
-#include "base/cProgress.h"
 #include "import/read/cStatementRead.h"
 #include "import/stage/cBankBalances.h"
 #include "import/stage/cImportHiveCache.h"
@@ -6,13 +5,11 @@
 #include "import/stage/cStatementImport.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/ledger/cOpeningBalance.h"
 #include "views/ledger/cStatementListModel.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -60,12 +57,10 @@ struct cScene : cTestBook
 
 QString FaultsOf(const cStatementListModel& statement)
 {
-    QStringList texts;
-    for (const modBalanceCheck::cFault& fault : statement.Ledger().Check().Faults) {
-        texts.append(fault.From.toString(u"MMdd"_s) + u'-' + fault.To.toString(u"MMdd"_s) + u' '
-                     + QString::number(fault.Missing));
-    }
-    return texts.join(u';');
+    const auto text = [](const modBalanceCheck::cFault& fault) {
+        return u"%1-%2 %3"_s.arg(fault.From.toString(u"MMdd"_s), fault.To.toString(u"MMdd"_s)).arg(fault.Missing);
+    };
+    return Each(statement.Ledger().Check().Faults, text).join(u';');
 }
 
 // Statements of autumn 2026 as a bank with value days makes them: the petrol of October 30th is valued on November 1st,
@@ -183,18 +178,17 @@ private Q_SLOTS:
 
     void ValueDaysAreNoDifference_data()
     {
-        QTest::addColumn<QString>("files");
-        QTest::addColumn<QString>("faults");
-        QTest::newRow("one month as CSV") << u"10.csv"_s << QString();
-        QTest::newRow("as MT940") << u"10.sta"_s << QString();
-        QTest::newRow("two months as CSV") << u"10.csv 11.csv"_s << QString();
-        QTest::newRow("as MT940, read twice") << u"10.sta 11.sta 10.sta"_s << QString();
-        QTest::newRow("the newer one first") << u"12.sta 11.sta 10.sta"_s << QString();
-        QTest::newRow("a month and its last day") << u"10.sta end.sta"_s << QString();
-        QTest::newRow("the last day first") << u"end.sta 10.sta"_s << QString();
-        QTest::newRow("a month halfway and at its end") << u"10.sta begin.sta 11.sta"_s << QString();
-        QTest::newRow("balances beside the rows") << u"all.csv"_s << QString();
-        QTest::newRow("a month is missing") << u"10.sta 12.sta"_s << u"1101-1130 -1800"_s;
+        const cTestRows<QString, QString> row("files", "faults");
+        row("one month as CSV", u"10.csv"_s, {});
+        row("as MT940", u"10.sta"_s, {});
+        row("two months as CSV", u"10.csv 11.csv"_s, {});
+        row("as MT940, read twice", u"10.sta 11.sta 10.sta"_s, {});
+        row("the newer one first", u"12.sta 11.sta 10.sta"_s, {});
+        row("a month and its last day", u"10.sta end.sta"_s, {});
+        row("the last day first", u"end.sta 10.sta"_s, {});
+        row("a month halfway and at its end", u"10.sta begin.sta 11.sta"_s, {});
+        row("balances beside the rows", u"all.csv"_s, {});
+        row("a month is missing", u"10.sta 12.sta"_s, u"1101-1130 -1800"_s);
     }
 
     // A balance contains the rows of its statement, whatever days they have.

@@ -2,7 +2,6 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeDesk.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/receipt/cReceiptListModel.h"
 #include "views/receipt/cReceipts.h"
@@ -11,9 +10,6 @@
 #include "views/template/cTemplateRemoval.h"
 
 #include <QDateTime>
-#include <QDir>
-#include <QFile>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -35,15 +31,7 @@ struct cScene
         cTestFile::Write(Outside.filePath(name), content);
         return {Outside.filePath(name)};
     }
-    QStringList Texts() const
-    {
-        QStringList texts;
-        const QList<cReceiptHolder::cItem> items = Papers.Items();
-        for (const cReceiptHolder::cItem& item : items) {
-            texts.append(item.Text);
-        }
-        return texts;
-    }
+    QStringList Texts() const { return Each(Papers.Items(), &cReceiptHolder::cItem::Text); }
     QStringList Folder() const
     {
         return QDir(cReceiptFolder(Book.Tools).Path()).entryList(QDir::Files | QDir::Hidden, QDir::Name);

@@ -1,13 +1,11 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
 #include "views/statistics/cStatisticsModel.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,11 +1,8 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/list/cListLayout.h"
 #include "views/template/cTemplateFlow.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

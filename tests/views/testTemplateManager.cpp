@@ -1,11 +1,9 @@
 #include "cTemplateScene.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
-#include "support/cTestRows.h"
 #include "views/look/cCategoryLooks.h"
 
 #include <QSignalSpy>
-#include <QTest>
 #include <QVariantList>
 
 using namespace Qt::Literals::StringLiterals;

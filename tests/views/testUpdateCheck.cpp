@@ -1,14 +1,11 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeHttps.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
-#include "support/cTestRows.h"
 #include "support/modUpdateAnswer.h"
 #include "support/testBook.h"
 #include "views/help/cUpdateCheck.h"
 
 #include <QSignalSpy>
-#include <QTest>
 #include <QVariantList>
 
 using namespace Qt::Literals::StringLiterals;
