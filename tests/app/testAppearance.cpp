@@ -57,72 +57,70 @@ class testAppearance final : public QObject
 
 private Q_SLOTS:
     void cleanup() const { QApplication::setPalette(QPalette()); }
-    void OpenWindowsFollow() const;
-    void DesktopIsFollowed() const;
+
+    void OpenWindowsFollow() const
+    {
+        const QPalette platform = QApplication::palette();
+        QVERIFY(!IsDark());
+        QWidget window;
+        QLabel plain(&window);
+        QLabel toned(&window);
+        modTone::Use(toned, modTone::Expense);
+        window.show();
+        const QColor light = toned.palette().color(QPalette::WindowText);
+
+        cFakeRegistry registry;
+        Choose(registry, u"Dunkel"_s);
+        cAppearance appearance(registry);
+        QVERIFY(IsDark());
+        QTRY_VERIFY(modTone::IsDark(plain.palette()));
+        QCOMPARE(plain.palette().color(QPalette::WindowText), modPalette::Dark().color(QPalette::WindowText));
+        QCOMPARE(toned.palette().color(QPalette::WindowText), modTone::Expense(modPalette::Dark()));
+
+        Choose(registry, u"Hell"_s);
+        appearance.Apply();
+        QVERIFY(QApplication::palette() == platform); // as light as is wanted, so its own
+        QTRY_COMPARE(toned.palette().color(QPalette::WindowText), light);
+        modTone::Use(toned, nullptr);
+        QCOMPARE(toned.palette().color(QPalette::WindowText), plain.palette().color(QPalette::WindowText));
+    }
+
+    void DesktopIsFollowed() const
+    {
+        const cTestBus bus;
+        QVERIFY(!bus.Address.isEmpty());
+        QDBusConnection server = QDBusConnection::connectToBus(bus.Address, u"portal"_s);
+        QDBusConnection client = QDBusConnection::connectToBus(bus.Address, u"program"_s);
+        QVERIFY(server.isConnected() && client.isConnected());
+        cFakePortal portal;
+        QVERIFY(server.registerObject(u"/org/freedesktop/portal/desktop"_s, &portal,
+                                      QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals));
+        QVERIFY(server.registerService(u"org.freedesktop.portal.Desktop"_s));
+        const auto say = [&](const QString& key, uint value) {
+            Q_EMIT portal.SettingChanged(u"org.freedesktop.appearance"_s, key, QDBusVariant(value));
+        };
+
+        cFakeRegistry registry;
+        cAppearance appearance(registry);
+        QVERIFY(!IsDark());
+        appearance.FollowDesktop(client);
+        QTRY_VERIFY(IsDark());
+        say(u"contrast"_s, 2); // is about something else
+        say(u"color-scheme"_s, 2);
+        QTRY_VERIFY(!IsDark());
+        say(u"color-scheme"_s, 1);
+        QTRY_VERIFY(IsDark());
+
+        Choose(registry, u"Hell"_s); // the user goes before the desktop
+        appearance.Apply();
+        QVERIFY(!IsDark());
+        Choose(registry, u"System"_s);
+        appearance.Apply();
+        QVERIFY(IsDark());
+        QDBusConnection::disconnectFromBus(u"portal"_s);
+        QDBusConnection::disconnectFromBus(u"program"_s);
+    }
 };
-
-void testAppearance::OpenWindowsFollow() const
-{
-    const QPalette platform = QApplication::palette();
-    QVERIFY(!IsDark());
-    QWidget window;
-    QLabel plain(&window);
-    QLabel toned(&window);
-    modTone::Use(toned, modTone::Expense);
-    window.show();
-    const QColor light = toned.palette().color(QPalette::WindowText);
-
-    cFakeRegistry registry;
-    Choose(registry, u"Dunkel"_s);
-    cAppearance appearance(registry);
-    QVERIFY(IsDark());
-    QTRY_VERIFY(modTone::IsDark(plain.palette()));
-    QCOMPARE(plain.palette().color(QPalette::WindowText), modPalette::Dark().color(QPalette::WindowText));
-    QCOMPARE(toned.palette().color(QPalette::WindowText), modTone::Expense(modPalette::Dark()));
-
-    Choose(registry, u"Hell"_s);
-    appearance.Apply();
-    QVERIFY(QApplication::palette() == platform); // as light as is wanted, so its own
-    QTRY_COMPARE(toned.palette().color(QPalette::WindowText), light);
-    modTone::Use(toned, nullptr);
-    QCOMPARE(toned.palette().color(QPalette::WindowText), plain.palette().color(QPalette::WindowText));
-}
-
-void testAppearance::DesktopIsFollowed() const
-{
-    const cTestBus bus;
-    QVERIFY(!bus.Address.isEmpty());
-    QDBusConnection server = QDBusConnection::connectToBus(bus.Address, u"portal"_s);
-    QDBusConnection client = QDBusConnection::connectToBus(bus.Address, u"program"_s);
-    QVERIFY(server.isConnected() && client.isConnected());
-    cFakePortal portal;
-    QVERIFY(server.registerObject(u"/org/freedesktop/portal/desktop"_s, &portal,
-                                  QDBusConnection::ExportAllSlots | QDBusConnection::ExportAllSignals));
-    QVERIFY(server.registerService(u"org.freedesktop.portal.Desktop"_s));
-    const auto say = [&](const QString& key, uint value) {
-        Q_EMIT portal.SettingChanged(u"org.freedesktop.appearance"_s, key, QDBusVariant(value));
-    };
-
-    cFakeRegistry registry;
-    cAppearance appearance(registry);
-    QVERIFY(!IsDark());
-    appearance.FollowDesktop(client);
-    QTRY_VERIFY(IsDark());
-    say(u"contrast"_s, 2); // is about something else
-    say(u"color-scheme"_s, 2);
-    QTRY_VERIFY(!IsDark());
-    say(u"color-scheme"_s, 1);
-    QTRY_VERIFY(IsDark());
-
-    Choose(registry, u"Hell"_s); // the user goes before the desktop
-    appearance.Apply();
-    QVERIFY(!IsDark());
-    Choose(registry, u"System"_s);
-    appearance.Apply();
-    QVERIFY(IsDark());
-    QDBusConnection::disconnectFromBus(u"portal"_s);
-    QDBusConnection::disconnectFromBus(u"program"_s);
-}
 
 TEST_CLASS(testAppearance, QApplication)
 #include "testAppearance.moc"

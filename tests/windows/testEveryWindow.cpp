@@ -508,76 +508,71 @@ class testEveryWindow final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void CanBeReadAndOperated_data();
-    void CanBeReadAndOperated();
-    void IsTranslatedWhole_data();
-    void IsTranslatedWhole();
-};
+    void CanBeReadAndOperated_data()
+    {
+        QTest::addColumn<fnMake>("Make");
+        QTest::addColumn<int>("Points");
 
-void testEveryWindow::CanBeReadAndOperated_data()
-{
-    QTest::addColumn<fnMake>("Make");
-    QTest::addColumn<int>("Points");
-
-    for (const auto& [name, make] : everyWindow) {
-        for (const int points : {9, 12, 16}) {
-            QTest::addRow("%s, %d points", name, points) << make << points;
-        }
-    }
-}
-
-void testEveryWindow::CanBeReadAndOperated()
-{
-    QFETCH(fnMake, Make);
-    QFETCH(int, Points);
-    const QFont font = QApplication::font();
-    QFont scaled = font;
-    scaled.setPointSize(Points);
-    QApplication::setFont(scaled);
-    cScene scene;
-    const std::unique_ptr<QWidget> window = Make(scene);
-    QApplication::setFont(font);
-    QVERIFY(window);
-    window->show();
-    QStringList faults = FaultsOfAllPages(*window);
-    window->resize(smallScreen);
-    faults += modWindowFaults::TooLarge(*window, smallScreen) + FaultsOfAllPages(*window);
-    QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
-}
-
-void testEveryWindow::IsTranslatedWhole_data()
-{
-    QTest::addColumn<fnMake>("Make");
-    for (const auto& [name, make] : everyWindow) {
-        QTest::addRow("%s", name) << make;
-    }
-}
-
-// In a language with long words nothing is left in German and nothing is cut.
-void testEveryWindow::IsTranslatedWhole()
-{
-    QFETCH(fnMake, Make);
-    cPseudoLanguage language;
-    QCoreApplication::installTranslator(&language); // taken away by its destructor
-    cScene scene;
-    const std::unique_ptr<QWidget> window = Make(scene);
-    QVERIFY(window);
-    const QStringList allowed = Untranslatable(scene);
-    window->show();
-    QStringList faults = FaultsOfAllPages(*window, [&allowed](const QWidget& shown) {
-        QStringList found = modWindowFaults::Clipped(shown);
-        for (const modWindowTexts::cShown& text : modWindowTexts::Of(shown)) {
-            if (modWindowTexts::IsUntranslated(text.Text, allowed)) {
-                found.append(u"not translated: '%1' (%2)"_s.arg(text.Text, text.Where));
+        for (const auto& [name, make] : everyWindow) {
+            for (const int points : {9, 12, 16}) {
+                QTest::addRow("%s, %d points", name, points) << make << points;
             }
         }
-        return found;
-    });
-    for (const QString& fault : faults) {
-        qWarning("%s", qPrintable(fault)); // a message of the test itself would be cut
     }
-    QVERIFY(faults.isEmpty());
-}
+
+    void CanBeReadAndOperated()
+    {
+        QFETCH(fnMake, Make);
+        QFETCH(int, Points);
+        const QFont font = QApplication::font();
+        QFont scaled = font;
+        scaled.setPointSize(Points);
+        QApplication::setFont(scaled);
+        cScene scene;
+        const std::unique_ptr<QWidget> window = Make(scene);
+        QApplication::setFont(font);
+        QVERIFY(window);
+        window->show();
+        QStringList faults = FaultsOfAllPages(*window);
+        window->resize(smallScreen);
+        faults += modWindowFaults::TooLarge(*window, smallScreen) + FaultsOfAllPages(*window);
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
+    }
+
+    void IsTranslatedWhole_data()
+    {
+        QTest::addColumn<fnMake>("Make");
+        for (const auto& [name, make] : everyWindow) {
+            QTest::addRow("%s", name) << make;
+        }
+    }
+
+    // In a language with long words nothing is left in German and nothing is cut.
+    void IsTranslatedWhole()
+    {
+        QFETCH(fnMake, Make);
+        cPseudoLanguage language;
+        QCoreApplication::installTranslator(&language); // taken away by its destructor
+        cScene scene;
+        const std::unique_ptr<QWidget> window = Make(scene);
+        QVERIFY(window);
+        const QStringList allowed = Untranslatable(scene);
+        window->show();
+        QStringList faults = FaultsOfAllPages(*window, [&allowed](const QWidget& shown) {
+            QStringList found = modWindowFaults::Clipped(shown);
+            for (const modWindowTexts::cShown& text : modWindowTexts::Of(shown)) {
+                if (modWindowTexts::IsUntranslated(text.Text, allowed)) {
+                    found.append(u"not translated: '%1' (%2)"_s.arg(text.Text, text.Where));
+                }
+            }
+            return found;
+        });
+        for (const QString& fault : faults) {
+            qWarning("%s", qPrintable(fault)); // a message of the test itself would be cut
+        }
+        QVERIFY(faults.isEmpty());
+    }
+};
 
 std::vector<cWindowMaker> EveryWindow()
 {

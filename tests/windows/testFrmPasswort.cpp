@@ -44,122 +44,115 @@ class testFrmPasswort final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void StaysUntilThePasswordIsRight();
-    void WaitOutlivesTheWindow();
-    void EscapeGivesUp();
-    void SetsAndRemoves();
-    void KeysStartInTheFirstField();
-    void WrongOldPasswordWaits();
-};
-
-void testFrmPasswort::StaysUntilThePasswordIsRight()
-{
-    cPasswordTries tries;
-    frmPasswort prompt(tries, [](const QString& typed) { return typed == "geheim"_L1; });
-    prompt.show();
-    QLineEdit* password = Field(prompt, u"old"_s);
-    QCOMPARE(password->echoMode(), QLineEdit::Password);
-    int wait = 1;
-    for (const char* wrong : {"", "Geheim", "geheim "}) {
-        QTest::keyClicks(password, QString::fromLatin1(wrong));
-        QTest::keyClick(password, Qt::Key_Return);
-        QVERIFY(prompt.isVisible());
-        QCOMPARE(modWindowFaults::All(prompt), QStringList());
-        QCOMPARE(Message(prompt),
-                 u"Das Passwort ist nicht richtig. Der nächste Versuch ist in %1 s möglich."_s.arg(wait));
-        password->setText(u"geheim"_s);
-        QTest::keyClick(password, Qt::Key_Return); // the right one has to wait as well
-        QVERIFY(prompt.isVisible() && !Button(prompt, u"OK"_s).isEnabled());
-        PassSeconds(prompt, wait);
-        QCOMPARE(Message(prompt), u"Das Passwort ist nicht richtig. Bitte versuchen Sie es noch einmal."_s);
-        password->clear();
-        wait *= 2;
-    }
-    QTest::keyClicks(password, u"geheim"_s);
-    QTest::keyClick(password, Qt::Key_Return);
-    QCOMPARE(prompt.result(), static_cast<int>(QDialog::Accepted));
-}
-
-void testFrmPasswort::WaitOutlivesTheWindow()
-{
-    cPasswordTries tries;
-    tries.NoteWrong();
-    tries.NoteWrong();
-    frmPasswort prompt(tries, [](const QString&) { return true; });
-    prompt.show();
-    QVERIFY(!Button(prompt, u"OK"_s).isEnabled());
-    PassSeconds(prompt, 2);
-    QVERIFY(Button(prompt, u"OK"_s).isEnabled());
-}
-
-void testFrmPasswort::EscapeGivesUp()
-{
-    cPasswordTries tries;
-    frmPasswort prompt(tries, [](const QString&) { return true; });
-    prompt.show();
-    QTest::keyClick(&prompt, Qt::Key_Escape);
-    QCOMPARE(prompt.result(), static_cast<int>(QDialog::Rejected));
-    QVERIFY(!prompt.isVisible());
-}
-
-void testFrmPasswort::SetsAndRemoves()
-{
-    cTestBook book;
-    cPasswordFlow flow(book.Data, book.Configuration, book.User);
+    void StaysUntilThePasswordIsRight()
     {
+        cPasswordTries tries;
+        frmPasswort prompt(tries, [](const QString& typed) { return typed == "geheim"_L1; });
+        prompt.show();
+        QLineEdit* password = Field(prompt, u"old"_s);
+        QCOMPARE(password->echoMode(), QLineEdit::Password);
+        int wait = 1;
+        for (const char* wrong : {"", "Geheim", "geheim "}) {
+            QTest::keyClicks(password, QString::fromLatin1(wrong));
+            QTest::keyClick(password, Qt::Key_Return);
+            QVERIFY(prompt.isVisible());
+            QCOMPARE(modWindowFaults::All(prompt), QStringList());
+            QCOMPARE(Message(prompt),
+                     u"Das Passwort ist nicht richtig. Der nächste Versuch ist in %1 s möglich."_s.arg(wait));
+            password->setText(u"geheim"_s);
+            QTest::keyClick(password, Qt::Key_Return); // the right one has to wait as well
+            QVERIFY(prompt.isVisible() && !Button(prompt, u"OK"_s).isEnabled());
+            PassSeconds(prompt, wait);
+            QCOMPARE(Message(prompt), u"Das Passwort ist nicht richtig. Bitte versuchen Sie es noch einmal."_s);
+            password->clear();
+            wait *= 2;
+        }
+        QTest::keyClicks(password, u"geheim"_s);
+        QTest::keyClick(password, Qt::Key_Return);
+        QCOMPARE(prompt.result(), static_cast<int>(QDialog::Accepted));
+    }
+
+    void WaitOutlivesTheWindow()
+    {
+        cPasswordTries tries;
+        tries.NoteWrong();
+        tries.NoteWrong();
+        frmPasswort prompt(tries, [](const QString&) { return true; });
+        prompt.show();
+        QVERIFY(!Button(prompt, u"OK"_s).isEnabled());
+        PassSeconds(prompt, 2);
+        QVERIFY(Button(prompt, u"OK"_s).isEnabled());
+    }
+
+    void EscapeGivesUp()
+    {
+        cPasswordTries tries;
+        frmPasswort prompt(tries, [](const QString&) { return true; });
+        prompt.show();
+        QTest::keyClick(&prompt, Qt::Key_Escape);
+        QCOMPARE(prompt.result(), static_cast<int>(QDialog::Rejected));
+        QVERIFY(!prompt.isVisible());
+    }
+
+    void SetsAndRemoves()
+    {
+        cTestBook book;
+        cPasswordFlow flow(book.Data, book.Configuration, book.User);
+        {
+            frmPasswort window(flow);
+            window.show();
+            QVERIFY(Field(window, u"old"_s) == nullptr);
+            QTest::keyClicks(Field(window, u"new"_s), u"eins"_s);
+            QTest::keyClick(Field(window, u"new"_s), Qt::Key_Return); // not repeated yet
+            QVERIFY(window.isVisible() && !flow.HasPassword());
+            QTest::keyClicks(Field(window, u"repeated"_s), u"eins"_s);
+            QTest::keyClick(Field(window, u"repeated"_s), Qt::Key_Return);
+            QVERIFY(!window.isVisible() && flow.HasPassword());
+        }
         frmPasswort window(flow);
         window.show();
-        QVERIFY(Field(window, u"old"_s) == nullptr);
-        QTest::keyClicks(Field(window, u"new"_s), u"eins"_s);
-        QTest::keyClick(Field(window, u"new"_s), Qt::Key_Return); // not repeated yet
-        QVERIFY(window.isVisible() && !flow.HasPassword());
-        QTest::keyClicks(Field(window, u"repeated"_s), u"eins"_s);
-        QTest::keyClick(Field(window, u"repeated"_s), Qt::Key_Return);
-        QVERIFY(!window.isVisible() && flow.HasPassword());
+        QCOMPARE(modWindowFaults::All(window), QStringList());
+        QTest::keyClicks(Field(window, u"old"_s), u"eins"_s);
+        QTest::mouseClick(&Button(window, u"Passwort entfernen"_s), Qt::LeftButton);
+        QVERIFY(!window.isVisible() && !flow.HasPassword());
     }
-    frmPasswort window(flow);
-    window.show();
-    QCOMPARE(modWindowFaults::All(window), QStringList());
-    QTest::keyClicks(Field(window, u"old"_s), u"eins"_s);
-    QTest::mouseClick(&Button(window, u"Passwort entfernen"_s), Qt::LeftButton);
-    QVERIFY(!window.isVisible() && !flow.HasPassword());
-}
 
-void testFrmPasswort::KeysStartInTheFirstField()
-{
-    cTestBook book;
-    cPasswordFlow flow(book.Data, book.Configuration, book.User);
-    frmPasswort window(flow);
-    Bring(window);
-    for (const QString& field : {u"new"_s, u"repeated"_s}) {
-        QCOMPARE(QApplication::focusWidget(), Field(window, field));
-        QTest::keyClicks(QApplication::focusWidget(), u"eins"_s);
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    void KeysStartInTheFirstField()
+    {
+        cTestBook book;
+        cPasswordFlow flow(book.Data, book.Configuration, book.User);
+        frmPasswort window(flow);
+        Bring(window);
+        for (const QString& field : {u"new"_s, u"repeated"_s}) {
+            QCOMPARE(QApplication::focusWidget(), Field(window, field));
+            QTest::keyClicks(QApplication::focusWidget(), u"eins"_s);
+            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        }
+        QVERIFY(qobject_cast<QCheckBox*>(QApplication::focusWidget()) != nullptr);
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+        QVERIFY(flow.HasPassword());
+        cPasswordTries tries;
+        frmPasswort prompt(tries, [](const QString&) { return true; });
+        prompt.show();
+        QCOMPARE(prompt.focusWidget(), Field(prompt, u"old"_s));
     }
-    QVERIFY(qobject_cast<QCheckBox*>(QApplication::focusWidget()) != nullptr);
-    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-    QVERIFY(flow.HasPassword());
-    cPasswordTries tries;
-    frmPasswort prompt(tries, [](const QString&) { return true; });
-    prompt.show();
-    QCOMPARE(prompt.focusWidget(), Field(prompt, u"old"_s));
-}
 
-void testFrmPasswort::WrongOldPasswordWaits()
-{
-    cTestBook book;
-    QVERIFY(modPassword::Set(book.Configuration, u"eins"_s));
-    cPasswordFlow flow(book.Data, book.Configuration, book.User);
-    frmPasswort window(flow);
-    window.show();
-    QTest::mouseClick(&Button(window, u"Passwort entfernen"_s), Qt::LeftButton);
-    QVERIFY(window.isVisible() && flow.HasPassword());
-    for (const QString& button : {u"Passwort ändern"_s, u"Passwort entfernen"_s}) {
-        QVERIFY(!Button(window, button).isEnabled());
+    void WrongOldPasswordWaits()
+    {
+        cTestBook book;
+        QVERIFY(modPassword::Set(book.Configuration, u"eins"_s));
+        cPasswordFlow flow(book.Data, book.Configuration, book.User);
+        frmPasswort window(flow);
+        window.show();
+        QTest::mouseClick(&Button(window, u"Passwort entfernen"_s), Qt::LeftButton);
+        QVERIFY(window.isVisible() && flow.HasPassword());
+        for (const QString& button : {u"Passwort ändern"_s, u"Passwort entfernen"_s}) {
+            QVERIFY(!Button(window, button).isEnabled());
+        }
+        PassSeconds(window, 1);
+        QVERIFY(Button(window, u"Passwort ändern"_s).isEnabled());
     }
-    PassSeconds(window, 1);
-    QVERIFY(Button(window, u"Passwort ändern"_s).isEnabled());
-}
+};
 
 TEST_CLASS(testFrmPasswort, QApplication)
 #include "testFrmPasswort.moc"

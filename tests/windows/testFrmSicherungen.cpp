@@ -44,62 +44,61 @@ class testFrmSicherungen final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void FolderAndNumber();
-    void SizesFollowTheBook();
-    void UnusableFolderIsRefused();
-};
-
-void testFrmSicherungen::FolderAndNumber()
-{
-    cMachine machine;
-    frmSicherungen window(machine.Settings);
-    window.show();
-    auto* count = window.findChild<QSpinBox*>();
-    auto* copies = window.findChild<QListWidget*>();
-    QCOMPARE(count->value(), 10);
-    QCOMPARE(copies->count(), 1);
-    QVERIFY(copies->item(0)->text().startsWith(u"15.03.2026, "_s));
-    machine.User.Folder = machine.File.Path(u"neu"_s);
-    modWindowHands::Button(window, u"Wählen…"_s).click();
-    count->setValue(3);
-    QTest::keyClick(&window, Qt::Key_Return);
-    QVERIFY(!window.isVisible());
-    QCOMPARE(machine.Plan.Count(), 3);
-    QCOMPARE(machine.Plan.Folder(), machine.File.Path(u"neu"_s));
-    QVERIFY(QDir(machine.Plan.Folder()).exists());
-}
-
-void testFrmSicherungen::SizesFollowTheBook()
-{
-    cMachine machine;
-    const auto isWrittenWith = [&](QChar sign) {
-        const QString size = machine.Settings.Copies().constFirst().section(u", "_s, 1);
-        return QRegularExpression(u"^\\d+%1\\d [kM]B$"_s.arg(QRegularExpression::escape(sign))).match(size).hasMatch();
-    };
-    QVERIFY(isWrittenWith(u','));
-    machine.Configuration.SaveSetting(modSettingKey::LanguageCurrency, u"en-GB"_s, eSettingPlace::Database);
-    QVERIFY(isWrittenWith(u'.'));
-}
-
-void testFrmSicherungen::UnusableFolderIsRefused()
-{
-    cMachine machine;
-    frmSicherungen window(machine.Settings);
-    window.show();
-    for (const QString& folder : {u"relativ"_s, machine.File.Path(u"data.db/unter"_s)}) {
-        const QList<QLineEdit*> fields = window.findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly);
-        fields.constFirst()->setText(folder);
+    void FolderAndNumber()
+    {
+        cMachine machine;
+        frmSicherungen window(machine.Settings);
+        window.show();
+        auto* count = window.findChild<QSpinBox*>();
+        auto* copies = window.findChild<QListWidget*>();
+        QCOMPARE(count->value(), 10);
+        QCOMPARE(copies->count(), 1);
+        QVERIFY(copies->item(0)->text().startsWith(u"15.03.2026, "_s));
+        machine.User.Folder = machine.File.Path(u"neu"_s);
+        modWindowHands::Button(window, u"Wählen…"_s).click();
+        count->setValue(3);
         QTest::keyClick(&window, Qt::Key_Return);
-        QVERIFY(window.isVisible());
-        QCOMPARE(machine.User.Shown.constLast(), u"In den Ordner '%1' kann nicht geschrieben werden."_s.arg(folder));
+        QVERIFY(!window.isVisible());
+        QCOMPARE(machine.Plan.Count(), 3);
+        QCOMPARE(machine.Plan.Folder(), machine.File.Path(u"neu"_s));
+        QVERIFY(QDir(machine.Plan.Folder()).exists());
     }
-    machine.User.Answers = {eAnswer::Yes, eAnswer::No};
-    window.reject();
-    QVERIFY(window.isVisible()); // as refused as before
-    window.reject();
-    QVERIFY(!window.isVisible());
-    QCOMPARE(machine.Plan.Folder(), machine.Plan.DefaultFolder());
-}
+
+    void SizesFollowTheBook()
+    {
+        cMachine machine;
+        const auto isWrittenWith = [&](QChar sign) {
+            const QString size = machine.Settings.Copies().constFirst().section(u", "_s, 1);
+            return QRegularExpression(u"^\\d+%1\\d [kM]B$"_s.arg(QRegularExpression::escape(sign)))
+                .match(size)
+                .hasMatch();
+        };
+        QVERIFY(isWrittenWith(u','));
+        machine.Configuration.SaveSetting(modSettingKey::LanguageCurrency, u"en-GB"_s, eSettingPlace::Database);
+        QVERIFY(isWrittenWith(u'.'));
+    }
+
+    void UnusableFolderIsRefused()
+    {
+        cMachine machine;
+        frmSicherungen window(machine.Settings);
+        window.show();
+        for (const QString& folder : {u"relativ"_s, machine.File.Path(u"data.db/unter"_s)}) {
+            const QList<QLineEdit*> fields = window.findChildren<QLineEdit*>(Qt::FindDirectChildrenOnly);
+            fields.constFirst()->setText(folder);
+            QTest::keyClick(&window, Qt::Key_Return);
+            QVERIFY(window.isVisible());
+            QCOMPARE(machine.User.Shown.constLast(),
+                     u"In den Ordner '%1' kann nicht geschrieben werden."_s.arg(folder));
+        }
+        machine.User.Answers = {eAnswer::Yes, eAnswer::No};
+        window.reject();
+        QVERIFY(window.isVisible()); // as refused as before
+        window.reject();
+        QVERIFY(!window.isVisible());
+        QCOMPARE(machine.Plan.Folder(), machine.Plan.DefaultFolder());
+    }
+};
 
 TEST_CLASS(testFrmSicherungen, QApplication)
 #include "testFrmSicherungen.moc"

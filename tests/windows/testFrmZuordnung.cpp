@@ -106,69 +106,64 @@ class testFrmZuordnung final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void KeysMatchAssignAndRelease() const;
-    void DoubleClickAssigns() const;
-    void EmptyListCannotAssign() const;
-    void NothingWithoutASelection() const;
-};
-
-void testFrmZuordnung::KeysMatchAssignAndRelease() const
-{
-    cScene scene;
-    scene.Select(1);
-    scene.Press(Qt::Key_G);
-    QCOMPARE(scene.States(), QStringList({booked, open, open}));
-    QVERIFY(scene.Page.findChild<QPlainTextEdit*>()->toPlainText().startsWith(u"Zugeordnet: 1, vorgeschlagen: 1"));
-    scene.AssignWith(Qt::Key_Escape);
-    QVERIFY(scene.HasOpened);
-    QCOMPARE(scene.State(1), open);
-    scene.AssignWith(Qt::Key_Return);
-    QVERIFY(scene.HasOpened);
-    QCOMPARE(scene.State(1), booked);
-    scene.Tree.selectAll();
-    scene.Press(Qt::Key_L);
-    QCOMPARE(scene.States(), QStringList({open, open, open}));
-}
-
-void testFrmZuordnung::DoubleClickAssigns() const
-{
-    cScene scene;
-    const auto list = scene.Review.StartAssign({scene.Review.Rows().IdAt(scene.Review.Rows().index(1, 0))});
-    frmZuordnung window(*list);
-    window.show();
-    auto& tree = *window.findChild<QTreeView*>();
-    const QPoint place = tree.visualRect(list->index(0, cAssignListModel::Description)).center();
-    QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, place);
-    QTest::mouseDClick(tree.viewport(), Qt::LeftButton, {}, place);
-    QCOMPARE(window.result(), int{QDialog::Accepted});
-    QCOMPARE(scene.State(1), booked);
-}
-
-void testFrmZuordnung::EmptyListCannotAssign() const
-{
-    cScene scene;
-    const auto list = scene.Review.StartAssign({scene.Review.Rows().IdAt(scene.Review.Rows().index(2, 0))});
-    frmZuordnung window(*list);
-    window.show();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
-    QTest::keyClick(window.findChild<QTreeView*>(), Qt::Key_Return);
-    QVERIFY(!window.isVisible()); // Enter leaves it
-    QCOMPARE(window.result(), int{QDialog::Rejected});
-}
-
-// What cannot be done has neither a button nor a key.
-void testFrmZuordnung::NothingWithoutASelection() const
-{
-    cScene scene;
-    scene.Tree.clearSelection();
-    scene.AssignWith(Qt::Key_Escape);
-    QTest::qWait(1);
-    QVERIFY(!scene.HasOpened);
-    const cStagedActions& actions = scene.Page.findChild<cStagedPanel*>()->Actions();
-    for (const cStagedActions::eId id : {cStagedActions::Book, cStagedActions::Assign, cStagedActions::Release}) {
-        QVERIFY(!actions.Get(id)->isEnabled());
+    void KeysMatchAssignAndRelease() const
+    {
+        cScene scene;
+        scene.Select(1);
+        scene.Press(Qt::Key_G);
+        QCOMPARE(scene.States(), QStringList({booked, open, open}));
+        QVERIFY(scene.Page.findChild<QPlainTextEdit*>()->toPlainText().startsWith(u"Zugeordnet: 1, vorgeschlagen: 1"));
+        scene.AssignWith(Qt::Key_Escape);
+        QVERIFY(scene.HasOpened);
+        QCOMPARE(scene.State(1), open);
+        scene.AssignWith(Qt::Key_Return);
+        QVERIFY(scene.HasOpened);
+        QCOMPARE(scene.State(1), booked);
+        scene.Tree.selectAll();
+        scene.Press(Qt::Key_L);
+        QCOMPARE(scene.States(), QStringList({open, open, open}));
     }
-}
+
+    void DoubleClickAssigns() const
+    {
+        cScene scene;
+        const auto list = scene.Review.StartAssign({scene.Review.Rows().IdAt(scene.Review.Rows().index(1, 0))});
+        frmZuordnung window(*list);
+        window.show();
+        auto& tree = *window.findChild<QTreeView*>();
+        const QPoint place = tree.visualRect(list->index(0, cAssignListModel::Description)).center();
+        QTest::mouseClick(tree.viewport(), Qt::LeftButton, {}, place);
+        QTest::mouseDClick(tree.viewport(), Qt::LeftButton, {}, place);
+        QCOMPARE(window.result(), int{QDialog::Accepted});
+        QCOMPARE(scene.State(1), booked);
+    }
+
+    void EmptyListCannotAssign() const
+    {
+        cScene scene;
+        const auto list = scene.Review.StartAssign({scene.Review.Rows().IdAt(scene.Review.Rows().index(2, 0))});
+        frmZuordnung window(*list);
+        window.show();
+        QVERIFY(QTest::qWaitForWindowActive(&window));
+        QTest::keyClick(window.findChild<QTreeView*>(), Qt::Key_Return);
+        QVERIFY(!window.isVisible()); // Enter leaves it
+        QCOMPARE(window.result(), int{QDialog::Rejected});
+    }
+
+    // What cannot be done has neither a button nor a key.
+    void NothingWithoutASelection() const
+    {
+        cScene scene;
+        scene.Tree.clearSelection();
+        scene.AssignWith(Qt::Key_Escape);
+        QTest::qWait(1);
+        QVERIFY(!scene.HasOpened);
+        const cStagedActions& actions = scene.Page.findChild<cStagedPanel*>()->Actions();
+        for (const cStagedActions::eId id : {cStagedActions::Book, cStagedActions::Assign, cStagedActions::Release}) {
+            QVERIFY(!actions.Get(id)->isEnabled());
+        }
+    }
+};
 
 TEST_CLASS(testFrmZuordnung, QApplication)
 #include "testFrmZuordnung.moc"
