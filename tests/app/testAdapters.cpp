@@ -15,7 +15,6 @@
 #include <QSignalSpy>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QTest>
 
 #include <filesystem>
 #include <thread>

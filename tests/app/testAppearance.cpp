@@ -8,10 +8,8 @@
 
 #include <QApplication>
 #include <QDBusConnection>
-#include <QDBusMessage>
 #include <QDBusVariant>
 #include <QLabel>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -7,9 +7,6 @@
 #include "views/bank/cBankFetch.h"
 #include "views/bank/cBankSetup.h"
 #include "views/statement/cStatementDesk.h"
-#include "views/statement/cStatementFiles.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

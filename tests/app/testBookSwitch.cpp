@@ -2,15 +2,12 @@
 #include "app/machine/cFileLock.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
-#include "core/cSettings.h"
 #include "core/modPassword.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
-
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -4,7 +4,6 @@
 
 #include <QCoreApplication>
 #include <QStringList>
-#include <QTest>
 #include <QVariantMap>
 
 using namespace Qt::Literals::StringLiterals;

@@ -3,7 +3,6 @@
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 
-#include <QTest>
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,6 +1,5 @@
 #include "app/cMainProgram.h"
 #include "app/cNavigation.h"
-#include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
@@ -17,14 +16,12 @@
 #include "windows/statement/frmKontoauszug.h"
 
 #include <QAction>
-#include <QActionGroup>
 #include <QApplication>
 #include <QDir>
 #include <QListView>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QTest>
 #include <QTimer>
 #include <QToolButton>
 

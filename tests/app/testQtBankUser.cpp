@@ -1,13 +1,9 @@
 #include "app/machine/cQtBankUser.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
-#include "windows/bank/frmPin.h"
-#include "windows/bank/frmTan.h"
 
 #include <QApplication>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QTest>
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;

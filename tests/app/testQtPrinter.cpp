@@ -9,7 +9,6 @@
 #include <QPainter>
 #include <QPrinter>
 #include <QTemporaryDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -11,7 +11,6 @@
 #include <QInputDialog>
 #include <QKeySequence>
 #include <QTemporaryDir>
-#include <QTest>
 #include <QTimer>
 
 #include <functional>

@@ -1,13 +1,11 @@
 #include "app/cMainProgram.h"
 #include "app/cNavigation.h"
 #include "app/machine/cSessionWatch.h"
-#include "store/cDataAccess.h"
 #include "store/cDatabase.h"
 #include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 #include "windows/entry/frmBuchung.h"
-#include "windows/main/frmMain.h"
 
 #include <QApplication>
 #include <QDir>
@@ -15,7 +13,6 @@
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
-#include <QTest>
 #include <QTimer>
 
 #include <csignal>

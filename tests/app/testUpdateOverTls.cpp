@@ -7,8 +7,6 @@
 #include "support/testBook.h"
 #include "views/help/cUpdateCheck.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 using namespace modUpdateAnswer;
 using namespace std::chrono_literals;

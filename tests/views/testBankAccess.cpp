@@ -7,8 +7,6 @@
 #include "support/testBook.h"
 #include "views/bank/cBankAccess.h"
 
-#include <QTest>
-
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;

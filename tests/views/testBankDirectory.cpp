@@ -6,7 +6,6 @@
 
 #include <QRegularExpression>
 #include <QSet>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -9,8 +9,6 @@
 #include "views/bank/cTanEntry.h"
 #include "views/bank/modBankQuestion.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

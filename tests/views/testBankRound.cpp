@@ -8,8 +8,6 @@
 #include "views/statement/cFileWish.h"
 #include "views/statement/cStatementDesk.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

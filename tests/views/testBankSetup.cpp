@@ -10,8 +10,6 @@
 #include "views/bank/cBankListModel.h"
 #include "views/bank/cBankSetup.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

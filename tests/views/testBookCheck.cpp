@@ -3,8 +3,6 @@
 #include "support/cTestRows.h"
 #include "views/book/cBookCheck.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 class testBookCheck final : public QObject

@@ -13,7 +13,6 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

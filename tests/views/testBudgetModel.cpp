@@ -6,7 +6,6 @@
 #include "views/template/cTemplateRemoval.h"
 
 #include <QAbstractItemModelTester>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -8,8 +8,6 @@
 #include "views/chart/modChartTable.h"
 #include "views/look/cCategoryLooks.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

@@ -3,8 +3,6 @@
 #include "views/list/cListLayout.h"
 #include "views/list/modColumnWidth.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 // Columns of a list in the width and in the type size that there is.

@@ -10,8 +10,6 @@
 #include "support/testBook.h"
 #include "views/statement/cCorrectionFlow.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

@@ -2,8 +2,6 @@
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

@@ -3,8 +3,6 @@
 #include "support/testBook.h"
 #include "views/entry/cEntryDelete.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

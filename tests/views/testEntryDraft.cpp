@@ -5,7 +5,6 @@
 #include "views/entry/cEntryEditor.h"
 
 #include <QDir>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

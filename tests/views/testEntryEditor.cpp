@@ -4,8 +4,6 @@
 #include "support/cTestRows.h"
 #include "views/entry/modSplitParts.h"
 
-#include <QTest>
-
 #include <functional>
 
 using namespace Qt::Literals::StringLiterals;

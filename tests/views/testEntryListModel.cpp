@@ -8,7 +8,6 @@
 #include "views/list/modColumnWidth.h"
 
 #include <QAbstractItemModelTester>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

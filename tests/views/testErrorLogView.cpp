@@ -7,8 +7,6 @@
 #include "views/help/modBroken.h"
 #include "views/help/modDiagnosis.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

@@ -12,7 +12,6 @@
 #include "views/people/modSettlementExport.h"
 
 #include <QFile>
-#include <QTest>
 #include <QXmlStreamReader>
 
 #include <minizip/unzip.h>

@@ -6,7 +6,6 @@
 #include "views/list/modFileWrite.h"
 
 #include <QDir>
-#include <QTest>
 
 #include <sys/resource.h>
 #include <sys/stat.h>

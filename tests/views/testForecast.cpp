@@ -5,8 +5,6 @@
 #include "views/main/cAccountListModel.h"
 #include "views/main/cLimitWatch.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

@@ -7,8 +7,6 @@
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
 
-#include <QTest>
-
 #include <functional>
 
 using namespace Qt::Literals::StringLiterals;

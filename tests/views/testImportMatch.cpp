@@ -9,7 +9,6 @@
 #include "views/statement/cImportReview.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <deque>
 #include <functional>

@@ -11,7 +11,6 @@
 #include "views/statement/cStatementFiles.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -9,8 +9,6 @@
 #include "views/entry/cEntryWriter.h"
 #include "views/statement/cLesson.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {

@@ -9,7 +9,6 @@
 #include "views/sheet/cManyChange.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <numeric>
 

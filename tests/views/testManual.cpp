@@ -7,7 +7,6 @@
 #include <QDirIterator>
 #include <QRegularExpression>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

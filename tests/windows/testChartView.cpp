@@ -8,12 +8,8 @@
 #include "windows/chart/modChartPainter.h"
 
 #include <QApplication>
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QSignalSpy>
 #include <QSvgRenderer>
-#include <QTest>
-#include <QToolButton>
 #include <QVariantList>
 
 #include <array>

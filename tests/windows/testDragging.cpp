@@ -12,7 +12,6 @@
 
 #include <QApplication>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTimer>
 #include <QWindow>
 

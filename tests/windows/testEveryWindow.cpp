@@ -1,4 +1,3 @@
-#include "base/cText.h"
 #include "core/cBook.h"
 #include "core/cErrorLog.h"
 #include "cReceiptScene.h"
@@ -86,7 +85,6 @@
 #include <QFileInfo>
 #include <QRegularExpression>
 #include <QTabWidget>
-#include <QTest>
 
 #include <algorithm>
 #include <functional>

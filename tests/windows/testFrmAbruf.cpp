@@ -3,15 +3,12 @@
 #include "testbank/cBankHousehold.h"
 #include "views/bank/cBankFetch.h"
 #include "views/statement/cStatementDesk.h"
-#include "views/statement/cStatementFiles.h"
 #include "windows/bank/cFetchTree.h"
 #include "windows/bank/frmAbruf.h"
 
 #include <QApplication>
 #include <QLabel>
-#include <QPushButton>
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -22,7 +22,6 @@
 #include <QPainter>
 #include <QPdfWriter>
 #include <QSignalSpy>
-#include <QTest>
 #include <QTreeView>
 
 using namespace Qt::Literals::StringLiterals;

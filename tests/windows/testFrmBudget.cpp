@@ -7,9 +7,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QLineEdit>
-#include <QPushButton>
 #include <QScrollBar>
-#include <QTest>
 
 #include <algorithm>
 

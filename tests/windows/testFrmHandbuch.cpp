@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QScrollBar>
-#include <QTest>
 #include <QTimer>
 #include <QTreeWidget>
 #include <QWindow>

@@ -1,4 +1,3 @@
-#include "base/cProgress.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"
@@ -12,14 +11,12 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QComboBox>
-#include <QDropEvent>
 #include <QHeaderView>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
 #include <QPlainTextEdit>
 #include <QSemaphore>
-#include <QTest>
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;

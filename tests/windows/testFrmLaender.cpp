@@ -8,7 +8,6 @@
 #include <QApplication>
 #include <QComboBox>
 #include <QLabel>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -24,7 +24,6 @@
 #include <QPointer>
 #include <QSignalSpy>
 #include <QStatusBar>
-#include <QTest>
 #include <QToolButton>
 #include <QTreeView>
 

@@ -16,7 +16,6 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -14,7 +14,6 @@
 #include <QListWidget>
 #include <QRegularExpression>
 #include <QSpinBox>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -21,7 +21,6 @@
 #include <QPlainTextEdit>
 #include <QSignalSpy>
 #include <QSlider>
-#include <QTest>
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;

@@ -9,7 +9,6 @@
 #include "windows/overview/frmUebersicht.h"
 
 #include <QApplication>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 

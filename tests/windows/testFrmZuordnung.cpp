@@ -1,5 +1,4 @@
 #include "base/modAmount.h"
-#include "core/cAmountFormat.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
@@ -15,7 +14,6 @@
 #include <QAction>
 #include <QApplication>
 #include <QPlainTextEdit>
-#include <QTest>
 #include <QTimer>
 #include <QTreeView>
 

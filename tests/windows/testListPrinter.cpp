@@ -11,7 +11,6 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QTest>
 
 #include <algorithm>
 

@@ -9,7 +9,6 @@
 #include <QApplication>
 #include <QLineEdit>
 #include <QSplitter>
-#include <QTest>
 #include <QTreeView>
 
 // What must not be lost where the main window is small and its type large.

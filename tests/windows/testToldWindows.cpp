@@ -11,7 +11,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QTabWidget>
-#include <QTest>
 #include <QTreeWidget>
 
 using namespace Qt::Literals::StringLiterals;

@@ -18,7 +18,6 @@
 
 #include <QApplication>
 #include <QLineEdit>
-#include <QTest>
 #include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;

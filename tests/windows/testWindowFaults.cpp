@@ -9,7 +9,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTest>
 #include <QTreeWidget>
 
 using namespace Qt::Literals::StringLiterals;
