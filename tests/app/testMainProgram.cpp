@@ -86,31 +86,32 @@ class testMainProgram final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_machine.emplace(); }
+
     // Closed, a changed book is copied; opened and closed again it is not, although the window has stored its view.
-    void CopyAtClosing() const
+    void CopyAtClosing()
     {
-        cMachine machine;
-        const QString path = machine.File.Make(oneEntry);
+        const QString path = m_machine->File.Make(oneEntry);
         for (const QString& day : {u"15"_s, u"16"_s}) {
-            cMainProgram program(machine.Ports, u"0.1.0"_s);
-            machine.Clock.Day = QDate(2026, 3, day.toInt());
+            cMainProgram program(m_machine->Ports, u"0.1.0"_s);
+            m_machine->Clock.Day = QDate(2026, 3, day.toInt());
             QVERIFY(program.Start({.Book = path}));
             QVERIFY(program.Window().close());
-            QCOMPARE(machine.Copies(), QStringList(u"data-auto-2026-03-15.backup"_s));
+            QCOMPARE(m_machine->Copies(), QStringList(u"data-auto-2026-03-15.backup"_s));
         }
-        QCOMPARE(machine.User.Shown, QStringList());
+        QCOMPARE(m_machine->User.Shown, QStringList());
     }
 
     // What is due today stands in the status bar a moment after the start, and goes when another book has nothing.
-    void ReminderInTheStatusBar() const
+    void ReminderInTheStatusBar()
     {
-        cMachine machine;
-        const QString path = machine.File.Make("INSERT INTO data (EntryDate, EntryDateEnd, EntryType, EntryInterval, "
-                                               "EntryAccount, EntryCategory, EntryValue, "
-                                               "EntryDescription) VALUES ('2026-02-15', '2050-01-01', 'Ausgabe', "
-                                               "'Monatlich', 'Giro', 'Wohnung', '700.00', "
-                                               "'Miete & mehr');");
-        cMainProgram program(machine.Ports, u"0.1.0"_s);
+        const QString path =
+            m_machine->File.Make("INSERT INTO data (EntryDate, EntryDateEnd, EntryType, EntryInterval, "
+                                 "EntryAccount, EntryCategory, EntryValue, "
+                                 "EntryDescription) VALUES ('2026-02-15', '2050-01-01', 'Ausgabe', "
+                                 "'Monatlich', 'Giro', 'Wohnung', '700.00', "
+                                 "'Miete & mehr');");
+        cMainProgram program(m_machine->Ports, u"0.1.0"_s);
         QVERIFY(program.Start({.Book = path}));
         const auto* line = program.Window().findChild<QToolButton*>(u"cmdErinnerung"_s);
         QVERIFY(line != nullptr && !line->isVisible());
@@ -120,19 +121,18 @@ private Q_SLOTS:
     }
 
     // Kept from the menu, shown again by its key, and still so at the next start.
-    void KeptViewComesBackByItsKey() const
+    void KeptViewComesBackByItsKey()
     {
-        cMachine machine;
-        const QString path = machine.File.Make(oneEntry);
+        const QString path = m_machine->File.Make(oneEntry);
         for (const bool isFirst : {true, false}) {
-            cMainProgram program(machine.Ports, u"0.1.0"_s);
+            cMainProgram program(m_machine->Ports, u"0.1.0"_s);
             QVERIFY(program.Start({.Book = path}));
             cMainModel& model = program.Model();
             program.Window().ShowPage(frmMain::ePage::Entries);
             if (isFirst) {
                 model.TypeFilter(u"miete"_s);
                 model.ChooseGrouping(u"Nach Monat"_s);
-                machine.User.Choices = {u"Wohnen"_s, u"Läden"_s};
+                m_machine->User.Choices = {u"Wohnen"_s, u"Läden"_s};
                 model.Execute(modCommand::SaveView);
                 program.Window().ShowPage(frmMain::ePage::Statements); // which keeps its own
                 program.Review().View().SetFilter(u"rewe"_s);
@@ -155,10 +155,9 @@ private Q_SLOTS:
     }
 
     // From the menu to the colours of an open window, and still so at the next start.
-    void AppearanceIsChosenLive() const
+    void AppearanceIsChosenLive()
     {
-        cMachine machine;
-        const QString path = machine.File.Make(oneEntry);
+        const QString path = m_machine->File.Make(oneEntry);
         const auto checked = [](const frmMain& window) {
             QStringList texts;
             for (const QAction* action : window.findChildren<QAction*>()) {
@@ -169,7 +168,7 @@ private Q_SLOTS:
             return texts;
         };
         {
-            cMainProgram program(machine.Ports, u"0.1.0"_s);
+            cMainProgram program(m_machine->Ports, u"0.1.0"_s);
             QVERIFY(program.Start({.Book = path}));
             QCOMPARE(checked(program.Window()), QStringList(u"Wie das &System"_s));
             QVERIFY(program.Model().Execute(modCommand::AppearanceDark));
@@ -177,7 +176,7 @@ private Q_SLOTS:
             QTRY_VERIFY(modTone::IsDark(program.Window().palette()));
             QVERIFY(program.Window().close());
         }
-        cMainProgram program(machine.Ports, u"0.1.0"_s);
+        cMainProgram program(m_machine->Ports, u"0.1.0"_s);
         QVERIFY(program.Start({.Book = path}));
         QVERIFY(modTone::IsDark(program.Window().palette()));
         QVERIFY(program.Model().Execute(modCommand::AppearanceSystem));
@@ -185,33 +184,31 @@ private Q_SLOTS:
     }
 
     // Nothing that the window shows reads this table, so nothing else would come upon it.
-    void DamageIsFoundAndSaidOnce() const
+    void DamageIsFoundAndSaidOnce()
     {
-        cMachine machine;
-        const QString path = machine.File.Make(oneEntry);
+        const QString path = m_machine->File.Make(oneEntry);
         {
-            cMainProgram program(machine.Ports, u"0.1.0"_s);
+            cMainProgram program(m_machine->Ports, u"0.1.0"_s);
             QVERIFY(program.Start({.Book = path})); // brings the file up to date
         }
         cTestFile::Damage(path, "account");
-        cMainProgram program(machine.Ports, u"0.1.0"_s);
+        cMainProgram program(m_machine->Ports, u"0.1.0"_s);
         QVERIFY(program.Start({.Book = path}));
-        QTRY_COMPARE(machine.User.Asked.size(), 1);
-        QVERIFY(machine.User.Asked[0].contains(u"ist beschädigt"_s));
+        QTRY_COMPARE(m_machine->User.Asked.size(), 1);
+        QVERIFY(m_machine->User.Asked[0].contains(u"ist beschädigt"_s));
         QVERIFY(program.Window().close());
-        QCOMPARE(machine.User.Asked.size(), 1);
-        QCOMPARE(machine.Copies(), QStringList());
+        QCOMPARE(m_machine->User.Asked.size(), 1);
+        QCOMPARE(m_machine->Copies(), QStringList());
     }
 
     // Who sees German words for the first time finds the language by its own name, and loses nothing by the change.
-    void LanguageFollowsTheSystemUntilChosen() const
+    void LanguageFollowsTheSystemUntilChosen()
     {
-        cMachine machine;
-        QVERIFY(QFile::copy(QStringLiteral(ENGLISH), machine.Shell.Folder(u"program"_s) + u"/kontorelle_en.qm"_s));
-        const QString path = machine.File.Make(oneEntry);
+        QVERIFY(QFile::copy(QStringLiteral(ENGLISH), m_machine->Shell.Folder(u"program"_s) + u"/kontorelle_en.qm"_s));
+        const QString path = m_machine->File.Make(oneEntry);
         const cVariable system("LC_ALL", "en_GB.UTF-8");
         {
-            cMainProgram program(machine.Ports, u"0.1.0"_s);
+            cMainProgram program(m_machine->Ports, u"0.1.0"_s);
             QVERIFY(program.Start({.Book = path}));
             QCOMPARE(FirstMenu(program), u"File"_s);
             QCOMPARE(program.Tools().Settings.Get(modSettingKey::LanguageName), QString());
@@ -225,18 +222,17 @@ private Q_SLOTS:
             QCOMPARE(program.Model().View().Grouping, u"Nach Sparte"_s);
             QVERIFY(program.Window().close());
         } // which holds the book
-        cMainProgram next(machine.Ports, u"0.1.0"_s);
+        cMainProgram next(m_machine->Ports, u"0.1.0"_s);
         QVERIFY(next.Start({.Book = path}));
         QCOMPARE(FirstMenu(next), u"Datei"_s);
     }
 
     // By the command in the main window, and in a dialog that waits for an answer.
-    void HelpOpensTheChapterOfTheWindowInFront() const
+    void HelpOpensTheChapterOfTheWindowInFront()
     {
-        cMachine machine;
-        QFile::link(QStringLiteral(MANUAL), machine.Shell.InstalledFile(u"handbuch"_s));
-        cMainProgram program(machine.Ports, u"0.1.0"_s);
-        QVERIFY(program.Start({.Book = machine.File.Make(oneEntry)}));
+        QFile::link(QStringLiteral(MANUAL), m_machine->Shell.InstalledFile(u"handbuch"_s));
+        cMainProgram program(m_machine->Ports, u"0.1.0"_s);
+        QVERIFY(program.Start({.Book = m_machine->File.Make(oneEntry)}));
         const auto activate = [&] {
             program.Window().activateWindow();
             return QTest::qWaitForWindowActive(&program.Window());
@@ -263,13 +259,12 @@ private Q_SLOTS:
     }
 
     // Dropped on the account statement, listed in the window that its button opens, and taken back by the menu.
-    void PapersHangAtTheirAccount() const
+    void PapersHangAtTheirAccount()
     {
-        cMachine machine;
-        const QString paper = machine.File.Path(u"Auszug 03-2026.pdf"_s);
+        const QString paper = m_machine->File.Path(u"Auszug 03-2026.pdf"_s);
         cTestFile::Write(paper, "%PDF-1.4");
-        cMainProgram program(machine.Ports, u"0.1.0"_s);
-        QVERIFY(program.Start({.Book = machine.File.Make(oneTransaction)}));
+        cMainProgram program(m_machine->Ports, u"0.1.0"_s);
+        QVERIFY(program.Start({.Book = m_machine->File.Make(oneTransaction)}));
         QStringList seen;
         QTimer::singleShot(0, &program.Window(), [&] {
             auto* form = qobject_cast<frmKontoauszug*>(QApplication::activeModalWidget());
@@ -299,16 +294,15 @@ private Q_SLOTS:
 
     // A failure marks the status bar until the log was looked at. A run that was killed is told of at the next start
     // and never again, and a second program that is still alive is not taken for one.
-    void FailuresAndBrokenRunsAreTold() const
+    void FailuresAndBrokenRunsAreTold()
     {
-        cMachine machine;
-        const QString path = machine.File.Make(oneEntry);
+        const QString path = m_machine->File.Make(oneEntry);
         {
-            cMainProgram program(machine.Ports, u"0.1.0"_s);
+            cMainProgram program(m_machine->Ports, u"0.1.0"_s);
             QVERIFY(program.Start({.Book = path}));
             const auto* mark = program.Window().statusBar()->findChild<QToolButton*>(u"cmdFehlerprotokoll"_s);
             QTest::qWait(50);
-            QCOMPARE(machine.User.Asked, QStringList());
+            QCOMPARE(m_machine->User.Asked, QStringList());
             QVERIFY(!mark->isVisible());
             program.Tools().User.Show(eTone::Critical, u"Der Name ist zu lang."_s);
             QVERIFY(mark->isVisible());
@@ -316,13 +310,16 @@ private Q_SLOTS:
             QVERIFY(QFile::copy(log, QFileInfo(log).path() + u"/kontorelle-20260101-000000-1-0.log"_s));
         }
         for (int start = 0; start < 2; ++start) {
-            cMainProgram program(machine.Ports, u"0.1.0"_s);
+            cMainProgram program(m_machine->Ports, u"0.1.0"_s);
             QVERIFY(program.Start({.Book = path}));
             QTest::qWait(50);
-            QCOMPARE(machine.User.Asked.size(), 1);
-            QVERIFY(machine.User.Asked[0].contains(u"nicht ordentlich beendet"_s));
+            QCOMPARE(m_machine->User.Asked.size(), 1);
+            QVERIFY(m_machine->User.Asked[0].contains(u"nicht ordentlich beendet"_s));
         }
     }
+
+private:
+    std::optional<cMachine> m_machine;
 };
 
 TEST_CLASS(testMainProgram, QApplication)

@@ -66,14 +66,15 @@ class testBankSetup final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_scene.emplace(); }
+
     void SetsUp()
     {
-        cScene scene;
-        cBankSetup& setup = scene.Setup;
-        scene.Type();
+        cBankSetup& setup = m_scene->Setup;
+        m_scene->Type();
         QVERIFY2(setup.Next(), qPrintable(setup.Problem() + setup.BankWords()));
         QCOMPARE(setup.Page(), ePage::Accounts); // there is one procedure only
-        QVERIFY(scene.Book.Data.GetOnlineAccounts().isEmpty());
+        QVERIFY(m_scene->Book.Data.GetOnlineAccounts().isEmpty());
         QCOMPARE(BookAccounts(setup), QStringList({u"Girokonto"_s, u"Tagesgeld"_s}));
         QCOMPARE(setup.Accounts().Note(0), QString());
         QCOMPARE(setup.Accounts().Note(1), u"wird neu angelegt"_s);
@@ -82,61 +83,59 @@ private Q_SLOTS:
         QVERIFY(setup.Next());
         QCOMPARE(setup.Page(), ePage::Done);
 
-        QVERIFY(scene.Book.Data.FindAccount(u"Notgroschen"_s));
-        QCOMPARE(scene.Book.Settings->Get(modSettingKey::BankNumber.Of(u"DE22"_s)), u"Notgroschen"_s);
-        QCOMPARE(scene.Book.Settings->Get(modSettingKey::BankProduct), product);
-        const cBankListModel list(scene.Book.Tools);
+        QVERIFY(m_scene->Book.Data.FindAccount(u"Notgroschen"_s));
+        QCOMPARE(m_scene->Book.Settings->Get(modSettingKey::BankNumber.Of(u"DE22"_s)), u"Notgroschen"_s);
+        QCOMPARE(m_scene->Book.Settings->Get(modSettingKey::BankProduct), product);
+        const cBankListModel list(m_scene->Book.Tools);
         QCOMPARE(list.rowCount(), 1);
         QCOMPARE(list.index(0, cBankListModel::Login).data().toString(), u"testuser"_s);
         QCOMPARE(list.index(0, cBankListModel::BookAccount).data().toString(), u"Notgroschen"_s);
         QCOMPARE(list.index(0, cBankListModel::LastFetch).data().toString(), u"noch nie"_s);
-        const std::optional<cBankState> state = cBankAccess(scene.Book.Tools).Find(u"12345678"_s, u"testuser"_s);
+        const std::optional<cBankState> state = cBankAccess(m_scene->Book.Tools).Find(u"12345678"_s, u"testuser"_s);
         QCOMPARE(state, setup.State());
         QVERIFY(state->SystemId != "0" && state->BpdVersion != u"0");
-        QCOMPARE(scene.Bank.Journal.count(u"PIN?"_s), 1);
-        QVERIFY(scene.Bank.IsQuiet());
+        QCOMPARE(m_scene->Bank.Journal.count(u"PIN?"_s), 1);
+        QVERIFY(m_scene->Bank.IsQuiet());
         // The account is a step of the book, the login is none.
-        QVERIFY(scene.Book.Data.Journal().Undo());
-        QVERIFY(!scene.Book.Data.FindAccount(u"Notgroschen"_s));
-        QCOMPARE(cBankAccess(scene.Book.Tools).Find(u"12345678"_s, u"testuser"_s), state);
-        const auto settings = scene.Book.Data.GetSettings();
+        QVERIFY(m_scene->Book.Data.Journal().Undo());
+        QVERIFY(!m_scene->Book.Data.FindAccount(u"Notgroschen"_s));
+        QCOMPARE(cBankAccess(m_scene->Book.Tools).Find(u"12345678"_s, u"testuser"_s), state);
+        const auto settings = m_scene->Book.Data.GetSettings();
         for (const auto& [name, value] : settings) {
-            QVERIFY2(!value.contains(*scene.User.Pin), qPrintable(name));
+            QVERIFY2(!value.contains(*m_scene->User.Pin), qPrintable(name));
         }
-        QVERIFY(!setup.Log().Text().contains(*scene.User.Pin));
+        QVERIFY(!setup.Log().Text().contains(*m_scene->User.Pin));
     }
 
     void ChangesALogin()
     {
-        cScene scene;
-        scene.Type();
-        QVERIFY(scene.Setup.Next());
-        scene.Setup.Accounts().Choose(1, false);
-        QVERIFY(scene.Setup.Next());
+        m_scene->Type();
+        QVERIFY(m_scene->Setup.Next());
+        m_scene->Setup.Accounts().Choose(1, false);
+        QVERIFY(m_scene->Setup.Next());
 
-        cBankSetup again({scene.Book.Tools, scene.Directory, scene.Https, scene.User, u"1.0.7"_s});
-        again.Load(*cBankAccess(scene.Book.Tools).Find(u"12345678"_s, u"testuser"_s));
+        cBankSetup again({m_scene->Book.Tools, m_scene->Directory, m_scene->Https, m_scene->User, u"1.0.7"_s});
+        again.Load(*cBankAccess(m_scene->Book.Tools).Find(u"12345678"_s, u"testuser"_s));
         QVERIFY(!again.CanGoBack());
         QVERIFY2(again.Next(), qPrintable(again.Problem()));
         QCOMPARE(BookAccounts(again), QStringList({u"Girokonto"_s, u"-"_s}));
         again.Accounts().Choose(1, true);
         again.Accounts().Choose(0, false);
         QVERIFY(again.Next());
-        QCOMPARE(cBankListModel(scene.Book.Tools).Lines().constFirst().Account.Number, u"222"_s);
+        QCOMPARE(cBankListModel(m_scene->Book.Tools).Lines().constFirst().Account.Number, u"222"_s);
 
-        cBankListModel list(scene.Book.Tools);
+        cBankListModel list(m_scene->Book.Tools);
         QVERIFY(!list.Remove(0)); // the question is answered with no
-        scene.Book.User.Answers = {eAnswer::Yes};
+        m_scene->Book.User.Answers = {eAnswer::Yes};
         QVERIFY(list.Remove(0));
         QCOMPARE(list.rowCount(), 0);
     }
 
     void ASecondLoginSpeaksTheProtocolOfTheFirst()
     {
-        cScene scene;
-        QVERIFY(scene.Book.Settings->Set(modSettingKey::OnlineBank.Of(u"12345678"_s), u"220"_s));
-        scene.Type();
-        QCOMPARE(scene.Setup.State().HbciVersion, u"220"_s);
+        QVERIFY(m_scene->Book.Settings->Set(modSettingKey::OnlineBank.Of(u"12345678"_s), u"220"_s));
+        m_scene->Type();
+        QCOMPARE(m_scene->Setup.State().HbciVersion, u"220"_s);
     }
 
     void AsksForWhatIsMissing_data()
@@ -161,86 +160,81 @@ private Q_SLOTS:
         QFETCH(QString, UserId);
         QFETCH(QString, Product);
         QFETCH(QString, Problem);
-        cScene scene;
-        scene.Setup.ChooseCode(Code);
-        scene.Setup.SetUrl(Url);
-        scene.Setup.SetUserId(UserId);
-        scene.Setup.SetProductId(Product);
-        QVERIFY(!(scene.Setup.Next() && scene.Setup.Next()));
-        QVERIFY2(scene.Setup.Problem().startsWith(Problem), qPrintable(scene.Setup.Problem()));
-        QCOMPARE(scene.Https.Posts, 0);
-        QCOMPARE(scene.Bank.Journal, QStringList()); // nobody was asked for a PIN
+        m_scene->Setup.ChooseCode(Code);
+        m_scene->Setup.SetUrl(Url);
+        m_scene->Setup.SetUserId(UserId);
+        m_scene->Setup.SetProductId(Product);
+        QVERIFY(!(m_scene->Setup.Next() && m_scene->Setup.Next()));
+        QVERIFY2(m_scene->Setup.Problem().startsWith(Problem), qPrintable(m_scene->Setup.Problem()));
+        QCOMPARE(m_scene->Https.Posts, 0);
+        QCOMPARE(m_scene->Bank.Journal, QStringList()); // nobody was asked for a PIN
     }
 
     void PinIsAskedForAgain()
     {
-        cScene scene;
-        scene.Bank.Profile.Refusals["HKIDN"] = {
+        m_scene->Bank.Profile.Refusals["HKIDN"] = {
             .Nth = 1, .Global = "9050::Fehler.", .Local = "9942::PIN falsch.", .Extra = {}};
-        scene.Type();
-        QVERIFY(!scene.Setup.Next());
-        QCOMPARE(scene.Setup.Page(), ePage::Login);
-        QVERIFY2(scene.Setup.Problem().startsWith(u"Sie haben die falsche PIN eingegeben."),
-                 qPrintable(scene.Setup.Problem()));
-        QVERIFY(scene.Setup.BankWords().contains(u"PIN falsch."));
-        QVERIFY(cBankListModel(scene.Book.Tools).Lines().isEmpty());
-        scene.User.Pin.reset(); // nothing is sent
-        const int posts = scene.Https.Posts;
-        QVERIFY(!scene.Setup.Next());
-        QCOMPARE(scene.Setup.Failure().Fault, eBankFault::Cancelled);
-        QCOMPARE(scene.Https.Posts, posts);
-        QCOMPARE(scene.Bank.Journal.count(u"PIN?"_s), 2);
+        m_scene->Type();
+        QVERIFY(!m_scene->Setup.Next());
+        QCOMPARE(m_scene->Setup.Page(), ePage::Login);
+        QVERIFY2(m_scene->Setup.Problem().startsWith(u"Sie haben die falsche PIN eingegeben."),
+                 qPrintable(m_scene->Setup.Problem()));
+        QVERIFY(m_scene->Setup.BankWords().contains(u"PIN falsch."));
+        QVERIFY(cBankListModel(m_scene->Book.Tools).Lines().isEmpty());
+        m_scene->User.Pin.reset(); // nothing is sent
+        const int posts = m_scene->Https.Posts;
+        QVERIFY(!m_scene->Setup.Next());
+        QCOMPARE(m_scene->Setup.Failure().Fault, eBankFault::Cancelled);
+        QCOMPARE(m_scene->Https.Posts, posts);
+        QCOMPARE(m_scene->Bank.Journal.count(u"PIN?"_s), 2);
     }
 
     void MediumIsChosenBeforeAccounts()
     {
-        cScene scene;
-        scene.Bank.Profile.Methods = {{.Function = "912", .MediumRequired = "2"}};
-        scene.Bank.Profile.Media = {"Han?:dy", "Tablet"};
-        scene.Type();
-        QVERIFY(!scene.Setup.Next());
-        QCOMPARE(scene.Setup.Page(), ePage::Method);
-        QVERIFY(scene.Setup.AsksMedium());
-        QVERIFY2(scene.Setup.Problem().endsWith(u"Wählen Sie es aus."), qPrintable(scene.Setup.Problem()));
-        QCOMPARE(scene.Setup.State().Media, QStringList({u"Han:dy"_s, u"Tablet"_s}));
-        scene.Setup.ChooseMedium(0);
-        QVERIFY2(scene.Setup.Next(), qPrintable(scene.Setup.Problem()));
-        QVERIFY(scene.Setup.Next());
-        QCOMPARE(cBankAccess(scene.Book.Tools).Banks().constFirst().Medium, u"Han:dy"_s);
+        m_scene->Bank.Profile.Methods = {{.Function = "912", .MediumRequired = "2"}};
+        m_scene->Bank.Profile.Media = {"Han?:dy", "Tablet"};
+        m_scene->Type();
+        QVERIFY(!m_scene->Setup.Next());
+        QCOMPARE(m_scene->Setup.Page(), ePage::Method);
+        QVERIFY(m_scene->Setup.AsksMedium());
+        QVERIFY2(m_scene->Setup.Problem().endsWith(u"Wählen Sie es aus."), qPrintable(m_scene->Setup.Problem()));
+        QCOMPARE(m_scene->Setup.State().Media, QStringList({u"Han:dy"_s, u"Tablet"_s}));
+        m_scene->Setup.ChooseMedium(0);
+        QVERIFY2(m_scene->Setup.Next(), qPrintable(m_scene->Setup.Problem()));
+        QVERIFY(m_scene->Setup.Next());
+        QCOMPARE(cBankAccess(m_scene->Book.Tools).Banks().constFirst().Medium, u"Han:dy"_s);
     }
 
     void AccountsFindTheirPlaceInTheBook()
     {
-        cScene scene;
-        scene.Bank.Profile.Accounts = {{.Number = "0815", .Iban = "DE81", .Product = "Giro"},
-                                       {.Number = "0816", .Iban = "DE82", .Product = "Giro"},
-                                       {.Number = "0817", .Iban = "DE83", .Product = "Anlage"}};
+        m_scene->Bank.Profile.Accounts = {{.Number = "0815", .Iban = "DE81", .Product = "Giro"},
+                                          {.Number = "0816", .Iban = "DE82", .Product = "Giro"},
+                                          {.Number = "0817", .Iban = "DE83", .Product = "Anlage"}};
         // The number is known from a file, in another form.
-        QVERIFY(scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"817"_s), u"Girokonto"_s));
-        scene.Type();
-        QVERIFY2(scene.Setup.Next(), qPrintable(scene.Setup.Problem()));
-        QCOMPARE(BookAccounts(scene.Setup), QStringList({u"Giro"_s, u"Giro 0816"_s, u"Girokonto"_s}));
-        scene.Setup.Accounts().SetBookAccount(1, u" "_s);
-        QVERIFY(!scene.Setup.Next());
-        QVERIFY2(scene.Setup.Problem().contains(u"DE82"), qPrintable(scene.Setup.Problem()));
+        QVERIFY(m_scene->Book.Settings->Set(modSettingKey::BankNumber.Of(u"817"_s), u"Girokonto"_s));
+        m_scene->Type();
+        QVERIFY2(m_scene->Setup.Next(), qPrintable(m_scene->Setup.Problem()));
+        QCOMPARE(BookAccounts(m_scene->Setup), QStringList({u"Giro"_s, u"Giro 0816"_s, u"Girokonto"_s}));
+        m_scene->Setup.Accounts().SetBookAccount(1, u" "_s);
+        QVERIFY(!m_scene->Setup.Next());
+        QVERIFY2(m_scene->Setup.Problem().contains(u"DE82"), qPrintable(m_scene->Setup.Problem()));
         for (qsizetype line = 0; line < 3; ++line) {
-            scene.Setup.Accounts().Choose(line, false);
+            m_scene->Setup.Accounts().Choose(line, false);
         }
-        QVERIFY(!scene.Setup.Next());
-        QVERIFY2(scene.Setup.Problem().startsWith(u"Wählen Sie mindestens ein Konto aus"),
-                 qPrintable(scene.Setup.Problem()));
+        QVERIFY(!m_scene->Setup.Next());
+        QVERIFY2(m_scene->Setup.Problem().startsWith(u"Wählen Sie mindestens ein Konto aus"),
+                 qPrintable(m_scene->Setup.Problem()));
     }
 
     void AccountsThatCannotBeFetchedSayWhy()
     {
-        cScene scene;
-        scene.Bank.Profile.Accounts.last().Orders = "HKSAL:1";
-        scene.Type();
-        QVERIFY2(scene.Setup.Next(), qPrintable(scene.Setup.Problem()));
-        QCOMPARE(BookAccounts(scene.Setup), QStringList({u"Girokonto"_s, u"-"_s}));
-        scene.Setup.Accounts().Choose(1, true); // stays as it is
-        QCOMPARE(scene.Setup.Accounts().Chosen().size(), 1);
-        QCOMPARE(scene.Setup.Accounts().Lines().at(1).Reason,
+        m_scene->Bank.Profile.Accounts.last().Orders = "HKSAL:1";
+        m_scene->Type();
+        QVERIFY2(m_scene->Setup.Next(), qPrintable(m_scene->Setup.Problem()));
+        QCOMPARE(BookAccounts(m_scene->Setup), QStringList({u"Girokonto"_s, u"-"_s}));
+        m_scene->Setup.Accounts().Choose(1, true); // stays as it is
+        QCOMPARE(m_scene->Setup.Accounts().Chosen().size(), 1);
+        QCOMPARE(m_scene->Setup.Accounts().Lines().at(1).Reason,
                  u"Für dieses Konto gibt die Bank keine Umsätze heraus."_s);
 
         cScene without;
@@ -254,38 +248,39 @@ private Q_SLOTS:
 
     void Cancels()
     {
-        cScene scene;
-        QObject::connect(&scene.Setup, &cBankSetup::StepShown, &scene.Setup, [&] { scene.Setup.Cancel(); });
-        scene.Type();
-        QVERIFY(!scene.Setup.Next());
-        QCOMPARE(scene.Setup.Failure().Fault, eBankFault::Cancelled);
-        QVERIFY(scene.Bank.IsQuiet());
-        scene.Setup.disconnect();
-        QVERIFY2(scene.Setup.Next(), qPrintable(scene.Setup.Problem()));
+        QObject::connect(&m_scene->Setup, &cBankSetup::StepShown, &m_scene->Setup, [&] { m_scene->Setup.Cancel(); });
+        m_scene->Type();
+        QVERIFY(!m_scene->Setup.Next());
+        QCOMPARE(m_scene->Setup.Failure().Fault, eBankFault::Cancelled);
+        QVERIFY(m_scene->Bank.IsQuiet());
+        m_scene->Setup.disconnect();
+        QVERIFY2(m_scene->Setup.Next(), qPrintable(m_scene->Setup.Problem()));
     }
 
     void AnotherAddressIsShownAndNotUsed()
     {
-        cScene scene;
-        scene.Bank.Profile.Parameters.append(
+        m_scene->Bank.Profile.Parameters.append(
             "HIKOM:4+280:12345678+1+2:alt.example::MIM:1+3:https?://neu.example/fints::MIM:1");
-        scene.Type();
-        QVERIFY2(scene.Setup.Next(), qPrintable(scene.Setup.Problem()));
+        m_scene->Type();
+        QVERIFY2(m_scene->Setup.Next(), qPrintable(m_scene->Setup.Problem()));
         const QString begin = u"Die Bank nennt eine andere Adresse: https://neu.example/fints."_s;
-        QVERIFY2(scene.Setup.AddressNote().startsWith(begin), qPrintable(scene.Setup.AddressNote()));
-        QVERIFY(scene.Setup.Next());
-        const cBankAccess access(scene.Book.Tools);
-        QCOMPARE(access.Banks().constFirst().Url, scene.Https.Url);
+        QVERIFY2(m_scene->Setup.AddressNote().startsWith(begin), qPrintable(m_scene->Setup.AddressNote()));
+        QVERIFY(m_scene->Setup.Next());
+        const cBankAccess access(m_scene->Book.Tools);
+        QCOMPARE(access.Banks().constFirst().Url, m_scene->Https.Url);
 
-        scene.Setup.Load(access.Banks().constFirst());
-        scene.Setup.SetUrl(u"neu.example/fints"_s);
-        QVERIFY(!scene.Setup.Next());
-        QCOMPARE(scene.Setup.Problem(), u"Die Adresse der Bank muss mit https:// beginnen."_s);
-        scene.Https.Url = u"https://neu.example/fints"_s;
-        scene.Setup.SetUrl(scene.Https.Url);
-        QVERIFY2(scene.Setup.Next(), qPrintable(scene.Setup.Problem()));
-        QCOMPARE(scene.Setup.AddressNote(), QString());
+        m_scene->Setup.Load(access.Banks().constFirst());
+        m_scene->Setup.SetUrl(u"neu.example/fints"_s);
+        QVERIFY(!m_scene->Setup.Next());
+        QCOMPARE(m_scene->Setup.Problem(), u"Die Adresse der Bank muss mit https:// beginnen."_s);
+        m_scene->Https.Url = u"https://neu.example/fints"_s;
+        m_scene->Setup.SetUrl(m_scene->Https.Url);
+        QVERIFY2(m_scene->Setup.Next(), qPrintable(m_scene->Setup.Problem()));
+        QCOMPARE(m_scene->Setup.AddressNote(), QString());
     }
+
+private:
+    std::optional<cScene> m_scene;
 };
 
 TEST_CLASS(testBankSetup, QCoreApplication)

@@ -80,6 +80,8 @@ class testBookFlow final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_machine.emplace(); }
+
     void DamagedBook_data() const
     {
         const cTestRows<bool, int, QString> row("hasCopy", "chosen", "restored");
@@ -91,40 +93,38 @@ private Q_SLOTS:
         row("giving up", false, -1, {});
     }
 
-    void DamagedBook() const
+    void DamagedBook()
     {
         QFETCH(const bool, hasCopy);
         QFETCH(const int, chosen);
         QFETCH(const QString, restored);
-        cMachine machine;
-        QVERIFY(QDir(machine.File.Folder()).mkpath(u"Sicherungen"_s));
-        cTestFile::Write(machine.Path(u"Sicherungen/data-auto-2026-03-14.backup"_s), "damaged too");
+        QVERIFY(QDir(m_machine->File.Folder()).mkpath(u"Sicherungen"_s));
+        cTestFile::Write(m_machine->Path(u"Sicherungen/data-auto-2026-03-14.backup"_s), "damaged too");
         for (const QString& day : {u"12"_s, u"13"_s}) {
             if (hasCopy) {
-                (void)machine.File.Make(oneEntry, u"Sicherungen/data-auto-2026-03-%1.backup"_s.arg(day));
+                (void)m_machine->File.Make(oneEntry, u"Sicherungen/data-auto-2026-03-%1.backup"_s.arg(day));
             }
         }
-        machine.Rescue.Backup = machine.File.Make(oneEntry, u"my.backup"_s);
-        machine.User.Decisions = {chosen};
-        machine.User.Answers = {eAnswer::Yes};
-        machine.Flow.TellDamage();
-        QVERIFY(machine.User.Asked[0].contains(u"ist beschädigt"_s));
-        QCOMPARE(machine.User.Asked[0].contains(u"ist vom 13.03.2026. Sie enthält:\n1 Eintrag"_s), hasCopy);
-        QCOMPARE(machine.Host.Restored, restored.isEmpty() ? QString() : machine.Path(restored));
+        m_machine->Rescue.Backup = m_machine->File.Make(oneEntry, u"my.backup"_s);
+        m_machine->User.Decisions = {chosen};
+        m_machine->User.Answers = {eAnswer::Yes};
+        m_machine->Flow.TellDamage();
+        QVERIFY(m_machine->User.Asked[0].contains(u"ist beschädigt"_s));
+        QCOMPARE(m_machine->User.Asked[0].contains(u"ist vom 13.03.2026. Sie enthält:\n1 Eintrag"_s), hasCopy);
+        QCOMPARE(m_machine->Host.Restored, restored.isEmpty() ? QString() : m_machine->Path(restored));
     }
 
-    void NewBook() const
+    void NewBook()
     {
-        cMachine machine;
-        machine.User.SavePath = machine.Path(u"neu.db"_s);
-        machine.Flow.NewBook();
-        QCOMPARE(machine.User.Asked, QStringList(u"Datenbanken|*.db|Alle Dateien|*.*"_s));
-        QCOMPARE(machine.User.LastProposal, machine.Path(u"Kontorelle-Neu"_s));
-        QCOMPARE(machine.Host.Switched, machine.Path(u"neu.db"_s));
-        QCOMPARE(machine.Host.Origin, eBookOrigin::Fresh);
-        QCOMPARE(modBookFile::Look(machine.Path(u"neu.db"_s)).Entries, 0);
-        QCOMPARE(machine.List(), QString(machine.Path(u"neu.db"_s) + u'|' + machine.Path(u"data.db"_s)));
-        QCOMPARE(machine.User.Shown, QStringList());
+        m_machine->User.SavePath = m_machine->Path(u"neu.db"_s);
+        m_machine->Flow.NewBook();
+        QCOMPARE(m_machine->User.Asked, QStringList(u"Datenbanken|*.db|Alle Dateien|*.*"_s));
+        QCOMPARE(m_machine->User.LastProposal, m_machine->Path(u"Kontorelle-Neu"_s));
+        QCOMPARE(m_machine->Host.Switched, m_machine->Path(u"neu.db"_s));
+        QCOMPARE(m_machine->Host.Origin, eBookOrigin::Fresh);
+        QCOMPARE(modBookFile::Look(m_machine->Path(u"neu.db"_s)).Entries, 0);
+        QCOMPARE(m_machine->List(), QString(m_machine->Path(u"neu.db"_s) + u'|' + m_machine->Path(u"data.db"_s)));
+        QCOMPARE(m_machine->User.Shown, QStringList());
     }
 
     void NewBookInPlaceOfAFile_data() const
@@ -134,20 +134,19 @@ private Q_SLOTS:
         row("what cannot be opened leaves all as it was", false);
     }
 
-    void NewBookInPlaceOfAFile() const
+    void NewBookInPlaceOfAFile()
     {
         QFETCH(const bool, works);
-        cMachine machine;
-        machine.Host.Works = works;
-        const QString path = machine.File.Make(oneEntry, u"other.db"_s);
-        machine.User.SavePath = path;
-        machine.Flow.NewBook();
+        m_machine->Host.Works = works;
+        const QString path = m_machine->File.Make(oneEntry, u"other.db"_s);
+        m_machine->User.SavePath = path;
+        m_machine->Flow.NewBook();
         const QString kept = path + u".2026-03-15.ersetzt"_s;
         QCOMPARE(QFileInfo::exists(kept), works);
         QCOMPARE(modBookFile::Look(works ? kept : path).Entries, 1);
-        QCOMPARE(machine.User.Shown,
+        QCOMPARE(m_machine->User.Shown,
                  works ? QStringList(u"Die bisherige Datei wurde als '%1' aufgehoben."_s.arg(kept)) : QStringList());
-        QCOMPARE(machine.List().isEmpty(), !works);
+        QCOMPARE(m_machine->List().isEmpty(), !works);
     }
 
     void NoNewBook_data() const
@@ -159,36 +158,34 @@ private Q_SLOTS:
         row("disk full", u"neu.db"_s, true, u"Die Datenbank konnte nicht erstellt werden."_s);
     }
 
-    void NoNewBook() const
+    void NoNewBook()
     {
         QFETCH(const QString, name);
         QFETCH(const bool, isFull);
         QFETCH(const QString, message);
-        cMachine machine;
-        machine.Host.Used = machine.Path(u"used.db"_s);
-        machine.Shell.IsFull = isFull;
-        machine.User.SavePath = name.isEmpty() ? QString() : machine.Path(name);
-        machine.Flow.NewBook();
-        QCOMPARE(machine.Host.Switched, QString());
-        QCOMPARE(machine.User.Shown.size(), message.isEmpty() ? 0 : 1);
-        QVERIFY(machine.User.Shown.join(u'\n').contains(message));
-        QCOMPARE(QDir(machine.File.Folder()).entryList(QDir::Files), QStringList(u"data.db"_s));
+        m_machine->Host.Used = m_machine->Path(u"used.db"_s);
+        m_machine->Shell.IsFull = isFull;
+        m_machine->User.SavePath = name.isEmpty() ? QString() : m_machine->Path(name);
+        m_machine->Flow.NewBook();
+        QCOMPARE(m_machine->Host.Switched, QString());
+        QCOMPARE(m_machine->User.Shown.size(), message.isEmpty() ? 0 : 1);
+        QVERIFY(m_machine->User.Shown.join(u'\n').contains(message));
+        QCOMPARE(QDir(m_machine->File.Folder()).entryList(QDir::Files), QStringList(u"data.db"_s));
     }
 
-    void SwitchFromTheList() const
+    void SwitchFromTheList()
     {
-        cMachine machine;
-        const QString first = machine.File.Make({}, u"first.db"_s);
-        const QString second = machine.File.Make({}, u"second.db"_s);
-        const QString missing = machine.Path(u"stick/missing.db"_s);
-        machine.SetList({first, machine.Path(u"data.db"_s), missing, second});
-        QCOMPARE(machine.Flow.Books(), QStringList({first, second})); // neither the open one nor the missing one
-        machine.User.Choices = {second};
-        machine.Flow.SwitchBook();
-        QCOMPARE(machine.User.LastChoice.Items, QStringList({first, second, u"Andere Datei wählen …"_s}));
-        QCOMPARE(machine.Host.Switched, second);
-        QCOMPARE(machine.Host.Origin, eBookOrigin::Existing);
-        QCOMPARE(machine.List(), QStringList({second, machine.Path(u"data.db"_s), first, missing}).join(u'|'));
+        const QString first = m_machine->File.Make({}, u"first.db"_s);
+        const QString second = m_machine->File.Make({}, u"second.db"_s);
+        const QString missing = m_machine->Path(u"stick/missing.db"_s);
+        m_machine->SetList({first, m_machine->Path(u"data.db"_s), missing, second});
+        QCOMPARE(m_machine->Flow.Books(), QStringList({first, second})); // neither the open one nor the missing one
+        m_machine->User.Choices = {second};
+        m_machine->Flow.SwitchBook();
+        QCOMPARE(m_machine->User.LastChoice.Items, QStringList({first, second, u"Andere Datei wählen …"_s}));
+        QCOMPARE(m_machine->Host.Switched, second);
+        QCOMPARE(m_machine->Host.Origin, eBookOrigin::Existing);
+        QCOMPARE(m_machine->List(), QStringList({second, m_machine->Path(u"data.db"_s), first, missing}).join(u'|'));
     }
 
     void SwitchToAnotherFile_data() const
@@ -199,84 +196,79 @@ private Q_SLOTS:
         row("it does not open", true, false);
     }
 
-    void SwitchToAnotherFile() const
+    void SwitchToAnotherFile()
     {
         QFETCH(const bool, hasList);
         QFETCH(const bool, works);
-        cMachine machine;
-        machine.Host.Works = works;
-        machine.SetList(hasList ? QStringList(machine.File.Make({}, u"first.db"_s)) : QStringList());
-        const QString before = machine.List();
-        machine.Rescue.Database = machine.File.Make({}, u"other.db"_s);
-        machine.User.Choices = {u"Andere Datei wählen …"_s};
-        machine.Flow.SwitchBook();
-        QCOMPARE(machine.Host.Switched, machine.Path(u"other.db"_s));
-        QCOMPARE(machine.List().startsWith(machine.Path(u"other.db"_s)), works);
-        QVERIFY(works || machine.List() == before);
+        m_machine->Host.Works = works;
+        m_machine->SetList(hasList ? QStringList(m_machine->File.Make({}, u"first.db"_s)) : QStringList());
+        const QString before = m_machine->List();
+        m_machine->Rescue.Database = m_machine->File.Make({}, u"other.db"_s);
+        m_machine->User.Choices = {u"Andere Datei wählen …"_s};
+        m_machine->Flow.SwitchBook();
+        QCOMPARE(m_machine->Host.Switched, m_machine->Path(u"other.db"_s));
+        QCOMPARE(m_machine->List().startsWith(m_machine->Path(u"other.db"_s)), works);
+        QVERIFY(works || m_machine->List() == before);
     }
 
-    void OpenBookIsNotOpenedAgain() const
+    void OpenBookIsNotOpenedAgain()
     {
-        cMachine machine;
-        QVERIFY(QFile::link(machine.Path(u"data.db"_s), machine.Path(u"link.db"_s)));
-        machine.Rescue.Database = machine.Path(u"link.db"_s);
-        machine.Rescue.Backup = machine.Path(u"link.db"_s);
-        machine.Flow.SwitchBook();
-        machine.Flow.LoadBackup();
-        QCOMPARE(machine.Host.Switched + machine.Host.Restored, QString());
-        QCOMPARE(machine.User.Shown.size(), 2);
-        QVERIFY(machine.User.Shown[0].endsWith(u"ist bereits geöffnet."_s));
+        QVERIFY(QFile::link(m_machine->Path(u"data.db"_s), m_machine->Path(u"link.db"_s)));
+        m_machine->Rescue.Database = m_machine->Path(u"link.db"_s);
+        m_machine->Rescue.Backup = m_machine->Path(u"link.db"_s);
+        m_machine->Flow.SwitchBook();
+        m_machine->Flow.LoadBackup();
+        QCOMPARE(m_machine->Host.Switched + m_machine->Host.Restored, QString());
+        QCOMPARE(m_machine->User.Shown.size(), 2);
+        QVERIFY(m_machine->User.Shown[0].endsWith(u"ist bereits geöffnet."_s));
     }
 
-    void ListIsShortAndWithoutItsSeparator() const
+    void ListIsShortAndWithoutItsSeparator()
     {
-        cMachine machine;
         QStringList books;
         for (int i = 0; i < 20; ++i) {
-            books.append(machine.Path(u"%1.db"_s.arg(i)));
+            books.append(m_machine->Path(u"%1.db"_s.arg(i)));
         }
-        machine.SetList(books);
-        machine.Rescue.Database = machine.File.Make({}, u"a|b.db"_s);
-        machine.Flow.SwitchBook();
-        const QStringList list = machine.List().split(u'|');
+        m_machine->SetList(books);
+        m_machine->Rescue.Database = m_machine->File.Make({}, u"a|b.db"_s);
+        m_machine->Flow.SwitchBook();
+        const QStringList list = m_machine->List().split(u'|');
         QCOMPARE(list.size(), cBookFlow::MostBooks);
-        QCOMPARE(list[0], machine.Path(u"data.db"_s));
+        QCOMPARE(list[0], m_machine->Path(u"data.db"_s));
     }
 
-    void MakeBackup() const
+    void MakeBackup()
     {
-        cMachine machine;
-        machine.Configuration.SetDatabase(&machine.Book.Settings());
-        const QString target = machine.Path(u"stick/Kontorelle-2026-03-15.backup"_s);
-        machine.User.SavePath = target;
-        machine.Flow.MakeBackup();
-        QCOMPARE(machine.User.Asked, QStringList(u"Backup-Datei|*.backup|Alle Dateien|*.*"_s));
-        QCOMPARE(machine.User.LastProposal, machine.Path(u"Kontorelle-2026-03-15.backup"_s));
+        m_machine->Configuration.SetDatabase(&m_machine->Book.Settings());
+        const QString target = m_machine->Path(u"stick/Kontorelle-2026-03-15.backup"_s);
+        m_machine->User.SavePath = target;
+        m_machine->Flow.MakeBackup();
+        QCOMPARE(m_machine->User.Asked, QStringList(u"Backup-Datei|*.backup|Alle Dateien|*.*"_s));
+        QCOMPARE(m_machine->User.LastProposal, m_machine->Path(u"Kontorelle-2026-03-15.backup"_s));
         QCOMPARE(modBookFile::Look(target).Entries, 1);
-        QCOMPARE(machine.User.Shown.size(), 1);
-        QVERIFY(machine.User.Shown[0].contains(u"1 Eintrag, der letzte vom 31.01.2026"_s));
-        QCOMPARE(machine.Configuration.GetSetting(modSettingKey::BackupLast), u"2026-03-15"_s);
-        machine.User.SavePath = machine.Path(u"data.db"_s);
-        machine.Flow.MakeBackup();
-        QCOMPARE(machine.User.LastProposal, target); // the folder used last
-        QVERIFY(machine.User.Shown.constLast().startsWith(u"Die Datensicherung konnte nicht erstellt werden:"_s));
-        cEntryItem entry = machine.Book.Data().LoadEntry(1).value();
+        QCOMPARE(m_machine->User.Shown.size(), 1);
+        QVERIFY(m_machine->User.Shown[0].contains(u"1 Eintrag, der letzte vom 31.01.2026"_s));
+        QCOMPARE(m_machine->Configuration.GetSetting(modSettingKey::BackupLast), u"2026-03-15"_s);
+        m_machine->User.SavePath = m_machine->Path(u"data.db"_s);
+        m_machine->Flow.MakeBackup();
+        QCOMPARE(m_machine->User.LastProposal, target); // the folder used last
+        QVERIFY(m_machine->User.Shown.constLast().startsWith(u"Die Datensicherung konnte nicht erstellt werden:"_s));
+        cEntryItem entry = m_machine->Book.Data().LoadEntry(1).value();
         modReceiptName::Set(entry, {u"rechnung.pdf"_s});
-        QVERIFY(machine.Book.Data().ChangeEntry(entry));
-        machine.User.SavePath = target;
-        machine.Flow.MakeBackup();
-        QVERIFY(machine.User.Shown.constLast().contains(u"Belege sind nicht dabei (Zahl der Dateien: 1)"_s));
+        QVERIFY(m_machine->Book.Data().ChangeEntry(entry));
+        m_machine->User.SavePath = target;
+        m_machine->Flow.MakeBackup();
+        QVERIFY(m_machine->User.Shown.constLast().contains(u"Belege sind nicht dabei (Zahl der Dateien: 1)"_s));
     }
 
     // What was left of it would be opened as the whole household the next time.
-    void HalfWrittenDemoIsRemoved() const
+    void HalfWrittenDemoIsRemoved()
     {
-        cMachine machine;
-        cTestFile::Run(machine.Shell.InstalledFile(u"template.dat"_s),
+        cTestFile::Run(m_machine->Shell.InstalledFile(u"template.dat"_s),
                        "CREATE TRIGGER full BEFORE INSERT ON import BEGIN SELECT RAISE(ABORT, 'full'); END;");
-        machine.Flow.OpenDemo(u"1.0"_s);
-        QVERIFY(machine.Host.Switched.isEmpty());
-        QCOMPARE(QDir(machine.Shell.DataFolder()).entryList({u"Beispiel*"_s}, QDir::Files | QDir::Hidden),
+        m_machine->Flow.OpenDemo(u"1.0"_s);
+        QVERIFY(m_machine->Host.Switched.isEmpty());
+        QCOMPARE(QDir(m_machine->Shell.DataFolder()).entryList({u"Beispiel*"_s}, QDir::Files | QDir::Hidden),
                  QStringList());
     }
 
@@ -288,35 +280,36 @@ private Q_SLOTS:
         row("wanted, and its password is not known", eAnswer::Yes, false);
     }
 
-    void LoadBackup() const
+    void LoadBackup()
     {
         QFETCH(const eAnswer, answer);
         QFETCH(const bool, works);
-        cMachine machine;
-        machine.Host.Works = works;
-        const QString backup = machine.File.Make(std::string(oneEntry) + oneEntry, u"old.backup"_s);
-        machine.Rescue.Backup = backup;
-        machine.User.Answers = {answer};
-        machine.Flow.LoadBackup();
-        QCOMPARE(machine.User.Asked.size(), 1);
-        QVERIFY(machine.User.Asked[0].contains(u"old.backup' enthält:\n2 Einträge, der letzte vom 31.01.2026"_s));
-        QVERIFY(machine.User.Asked[0].contains(u"data.db' enthält:\n1 Eintrag, der letzte vom 31.01.2026"_s));
-        QCOMPARE(machine.Host.Restored, answer == eAnswer::Yes ? backup : QString());
-        QCOMPARE(machine.User.Shown.size(), answer == eAnswer::Yes && works ? 1 : 0);
+        m_machine->Host.Works = works;
+        const QString backup = m_machine->File.Make(std::string(oneEntry) + oneEntry, u"old.backup"_s);
+        m_machine->Rescue.Backup = backup;
+        m_machine->User.Answers = {answer};
+        m_machine->Flow.LoadBackup();
+        QCOMPARE(m_machine->User.Asked.size(), 1);
+        QVERIFY(m_machine->User.Asked[0].contains(u"old.backup' enthält:\n2 Einträge, der letzte vom 31.01.2026"_s));
+        QVERIFY(m_machine->User.Asked[0].contains(u"data.db' enthält:\n1 Eintrag, der letzte vom 31.01.2026"_s));
+        QCOMPARE(m_machine->Host.Restored, answer == eAnswer::Yes ? backup : QString());
+        QCOMPARE(m_machine->User.Shown.size(), answer == eAnswer::Yes && works ? 1 : 0);
     }
 
-    void DamagedBackup() const
+    void DamagedBackup()
     {
-        cMachine machine;
-        machine.Rescue.Backup = machine.Path(u"bad.backup"_s);
-        cTestFile::Write(*machine.Rescue.Backup, "no database");
-        machine.Flow.LoadBackup();
-        QCOMPARE(machine.User.Asked, QStringList());
-        QCOMPARE(machine.User.Shown,
+        m_machine->Rescue.Backup = m_machine->Path(u"bad.backup"_s);
+        cTestFile::Write(*m_machine->Rescue.Backup, "no database");
+        m_machine->Flow.LoadBackup();
+        QCOMPARE(m_machine->User.Asked, QStringList());
+        QCOMPARE(m_machine->User.Shown,
                  QStringList(u"Die Datensicherung '%1' ist beschädigt oder keine gültige Datenbank."_s.arg(
-                     *machine.Rescue.Backup)));
-        QCOMPARE(machine.Host.Restored, QString());
+                     *m_machine->Rescue.Backup)));
+        QCOMPARE(m_machine->Host.Restored, QString());
     }
+
+private:
+    std::optional<cMachine> m_machine;
 };
 
 TEST_CLASS(testBookFlow, QCoreApplication)

@@ -66,23 +66,24 @@ class testChartData final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_book.emplace(); }
+
     void MainCategoriesHaveTheirColours()
     {
-        cChartBook book;
         const QString blue = u"#0087e8"_s; // that of the first slice, without a choice
-        QVERIFY(cCategoryLooks::Store(*book.Book.Settings, u"Haushalt"_s, {blue, u"einkauf"_s}));
+        QVERIFY(cCategoryLooks::Store(*m_book->Book.Settings, u"Haushalt"_s, {blue, u"einkauf"_s}));
         cChartWish wish{.Kind = eChartKind::ExpensePie, .Range = year};
-        const cChartData pie = book.Make(wish);
+        const cChartData pie = m_book->Make(wish);
         QCOMPARE(pie.Series[1].OwnColour, blue);
         QVERIFY(pie.Series[0].OwnColour.isEmpty());
         QVERIFY(pie.Series[0].Colour != 0); // else it would look like the other one
         wish.Group = u"Haushalt"_s;
-        QVERIFY(book.Make(wish).Series[0].OwnColour.isEmpty()); // its parts are told apart
-        const cChartData flow = book.Make({.Kind = eChartKind::Flow, .Range = year});
+        QVERIFY(m_book->Make(wish).Series[0].OwnColour.isEmpty()); // its parts are told apart
+        const cChartData flow = m_book->Make({.Kind = eChartKind::Flow, .Range = year});
         QCOMPARE(flow.Series[0].Colour, static_cast<int>(modChart::Income));
         QCOMPARE(flow.Series[2].OwnColour, blue);
         const cChartData months =
-            book.Make({.Kind = eChartKind::ExpenseMonths, .Range = year, .Second = cChartWish::YearBefore(year)});
+            m_book->Make({.Kind = eChartKind::ExpenseMonths, .Range = year, .Second = cChartWish::YearBefore(year)});
         QCOMPARE(
             Values(months, 1),
             (QStringList{u"Wohnen=15000"_s, u"Haushalt=25000"_s, u"Wohnen (2025)=0"_s, u"Haushalt (2025)=15000"_s}));
@@ -92,9 +93,8 @@ private Q_SLOTS:
 
     void SlicesByCategory()
     {
-        cChartBook book;
         cChartWish wish{.Kind = eChartKind::ExpensePie, .Range = year};
-        const cChartData main = book.Make(wish);
+        const cChartData main = m_book->Make(wish);
         QCOMPARE(Values(main, 0), (QStringList{u"Wohnen=75000"_s, u"Haushalt=25000"_s}));
         QCOMPARE(main.Labels, QStringList{u"2026"_s});
         QCOMPARE(main.PartText(0, 0).replace(QChar(QChar::Nbsp), u' '), u"Wohnen: 750,00 € (75 %)"_s);
@@ -111,7 +111,7 @@ private Q_SLOTS:
         const cChartTarget target = main.Series[0].TargetAt(0);
         QCOMPARE(target.Kind, cChartTarget::eKind::Deeper);
         wish.Group = target.Node->Group;
-        const cChartData below = book.Make(wish);
+        const cChartData below = m_book->Make(wish);
         QCOMPARE(Values(below, 0), (QStringList{u"Miete=60000"_s, u"Strom=10000"_s, u"Sonstiges (Wohnen)=5000"_s}));
         QVERIFY(!below.BackText.isEmpty());
         QCOMPARE(
@@ -122,9 +122,8 @@ private Q_SLOTS:
 
     void LaysTheYearBeforeBeside()
     {
-        cChartBook book;
         const cChartWish wish{.Kind = eChartKind::ExpensePie, .Range = year, .Second = cChartWish::YearBefore(year)};
-        const cChartData chart = book.Make(wish);
+        const cChartData chart = m_book->Make(wish);
         QCOMPARE(chart.Labels, (QStringList{u"2026"_s, u"2025"_s}));
         QCOMPARE(Values(chart, 1), (QStringList{u"Wohnen=0"_s, u"Haushalt=15000"_s}));
         const modPeriod::cRange leap{QDate(2027, 2, 1), QDate(2027, 2, 28)};
@@ -134,12 +133,11 @@ private Q_SLOTS:
 
     void GathersSmallSlices()
     {
-        cChartBook book;
         for (int i = 0; i < 15; ++i) {
-            book.Add(modWord::Ausgabe, QDate(2026, 3, 1), u"Gruppe %1"_s.arg(i), i < 9 ? 20000 : 100);
+            m_book->Add(modWord::Ausgabe, QDate(2026, 3, 1), u"Gruppe %1"_s.arg(i), i < 9 ? 20000 : 100);
         }
-        book.Add(modWord::Ausgabe, QDate(2026, 3, 1), u"Sonstiges"_s, 30000);
-        const cChartData chart = book.Make({.Kind = eChartKind::ExpensePie, .Range = year});
+        m_book->Add(modWord::Ausgabe, QDate(2026, 3, 1), u"Sonstiges"_s, 30000);
+        const cChartData chart = m_book->Make({.Kind = eChartKind::ExpensePie, .Range = year});
         QCOMPARE(chart.Series.size(), 11);
         QCOMPARE(chart.Series[1].Name, u"Sonstiges"_s);   // the user's own
         QCOMPARE(chart.Series.last().Name, u"Weitere"_s); // so the rest must not be called the same
@@ -150,9 +148,8 @@ private Q_SLOTS:
 
     void AddsUpMonths()
     {
-        cChartBook book;
         cChartWish wish{.Kind = eChartKind::Months, .Range = year};
-        const cChartData chart = book.Make(wish);
+        const cChartData chart = m_book->Make(wish);
         QCOMPARE(chart.Labels.size(), 12);
         QCOMPARE(chart.Labels[1], u"Februar 2026"_s);
         QCOMPARE(chart.ShortLabels[1], u"Feb 26"_s);
@@ -161,11 +158,11 @@ private Q_SLOTS:
         QCOMPARE(chart.Today, 2);
         QCOMPARE(chart.Series[1].TargetAt(1).Range, (modPeriod::cRange{QDate(2026, 2, 1), QDate(2026, 2, 28)}));
         wish.Range = cChartWish::YearBefore(cChartWish::YearBefore(year));
-        QVERIFY(book.Make(wish).IsEmpty());
+        QVERIFY(m_book->Make(wish).IsEmpty());
         wish.Range = year;
         wish.ShowsFuture = false;
         wish.Second = cChartWish::YearBefore(year);
-        const cChartData past = book.Make(wish);
+        const cChartData past = m_book->Make(wish);
         QCOMPARE(past.Labels.size(), 3);
         QCOMPARE(past.Series[4].Name, u"Ausgaben (2025)"_s);
         QCOMPARE(past.Series[4].At(1), 15000);
@@ -174,40 +171,37 @@ private Q_SLOTS:
 
     void TakesYearsForManyMonths()
     {
-        cChartBook book;
-        book.Add(modWord::Ausgabe, QDate(1990, 5, 1), u"Alt"_s, 700);
-        const cChartData chart = book.Make({.Kind = eChartKind::Months});
+        m_book->Add(modWord::Ausgabe, QDate(1990, 5, 1), u"Alt"_s, 700);
+        const cChartData chart = m_book->Make({.Kind = eChartKind::Months});
         QCOMPARE(chart.Labels.first(), u"1990"_s);
         QCOMPARE(chart.Labels.last(), u"2026"_s);
         QCOMPARE(chart.Series[1].At(0), 700);
         QCOMPARE(chart.Series[1].At(36), 100000);
         const modPeriod::cRange upToNow{QDate(1001, 1, 1), today}; // "Buchungen bis heute"
-        QCOMPARE(book.Make({.Kind = eChartKind::Months, .Range = upToNow}).Labels.first(), u"1990"_s);
-        QCOMPARE(book.Make({.Kind = eChartKind::Balances, .Range = upToNow}).Labels.first(), u"01.05.1990"_s);
+        QCOMPARE(m_book->Make({.Kind = eChartKind::Months, .Range = upToNow}).Labels.first(), u"1990"_s);
+        QCOMPARE(m_book->Make({.Kind = eChartKind::Balances, .Range = upToNow}).Labels.first(), u"01.05.1990"_s);
     }
 
     void StacksCategories()
     {
-        cChartBook book;
-        const cChartData chart = book.Make({.Kind = eChartKind::ExpenseMonths, .Range = year});
+        const cChartData chart = m_book->Make({.Kind = eChartKind::ExpenseMonths, .Range = year});
         QCOMPARE(Values(chart, 1), (QStringList{u"Wohnen=15000"_s, u"Haushalt=25000"_s}));
-        const cChartData below = book.Make({.Kind = eChartKind::ExpenseMonths, .Range = year, .Group = u"Wohnen"_s});
+        const cChartData below = m_book->Make({.Kind = eChartKind::ExpenseMonths, .Range = year, .Group = u"Wohnen"_s});
 
         QCOMPARE(Values(below, 1), (QStringList{u"Miete=0"_s, u"Strom=10000"_s, u"Sonstiges (Wohnen)=5000"_s}));
     }
 
     void FollowsBalances()
     {
-        cChartBook book;
-        (void)book.Book.Add([](cEntryItem& entry) {
+        (void)m_book->Book.Add([](cEntryItem& entry) {
             entry.EntryDate = QDate(2026, 3, 20);
             entry.EntryDateEnd = QDate(2026, 5, 1);
             entry.EntryInterval = u"Monatlich"_s;
             entry.EntryValue = 70000;
         });
-        book.Add(modWord::Einnahme, QDate(2026, 4, 30), u"Arbeit; Gehalt"_s, 200000);
+        m_book->Add(modWord::Einnahme, QDate(2026, 4, 30), u"Arbeit; Gehalt"_s, 200000);
         const modPeriod::cRange month{QDate(2026, 2, 1), QDate(2026, 2, 28)};
-        const cChartData chart = book.Make({.Kind = eChartKind::Balances, .Range = month, .ForecastMonths = 2});
+        const cChartData chart = m_book->Make({.Kind = eChartKind::Balances, .Range = month, .ForecastMonths = 2});
         QCOMPARE(chart.Labels.first(), u"01.02.2026"_s);
         QCOMPARE(chart.Labels.last(), u"15.05.2026"_s);
         QCOMPARE(chart.Labels[chart.Today], u"15.03.2026"_s);
@@ -218,27 +212,28 @@ private Q_SLOTS:
         QCOMPARE(chart.Marks.size(), 1);
         QCOMPARE(chart.Labels[chart.Marks.first().Index], u"20.04.2026"_s);
         QVERIFY(chart.Marks.first().Text.contains(u"20.04.2026"));
-        const cChartData savings = book.Make({.Kind = eChartKind::Balances, .Range = month, .Account = u"Sparkonto"_s});
+        const cChartData savings =
+            m_book->Make({.Kind = eChartKind::Balances, .Range = month, .Account = u"Sparkonto"_s});
         QCOMPARE(savings.Series.size(), 1);
         QCOMPARE(savings.Labels.last(), u"28.02.2026"_s);
-        QVERIFY(book.Make({.Kind = eChartKind::Balances, .Range = {QDate(1990, 1, 1), QDate(1990, 1, 31)}}).IsEmpty());
+        QVERIFY(
+            m_book->Make({.Kind = eChartKind::Balances, .Range = {QDate(1990, 1, 1), QDate(1990, 1, 31)}}).IsEmpty());
     }
 
     void FlowsIntoBothSides()
     {
-        cChartBook book;
         const cChartWish wish{.Kind = eChartKind::Flow, .Range = year};
-        const cChartData chart = book.Make(wish);
+        const cChartData chart = m_book->Make(wish);
         QCOMPARE(Values(chart, 0),
                  (QStringList{u"Arbeit=200000"_s, u"Wohnen=-"_s, u"Haushalt=-"_s, u"Bleibt übrig=-"_s}));
         QCOMPARE(Values(chart, 1),
                  (QStringList{u"Arbeit=-"_s, u"Wohnen=75000"_s, u"Haushalt=25000"_s, u"Bleibt übrig=100000"_s}));
         QCOMPARE(chart.PartText(1, 1).replace(QChar(QChar::Nbsp), u' '), u"Wohnen, Hinaus: 750,00 € (38 %)"_s);
         for (int i = 0; i < 4; ++i) { // too thin to be seen
-            book.Add(modWord::Ausgabe, QDate(2026, 3, 1), u"Gruppe %1"_s.arg(i), 100 + i);
+            m_book->Add(modWord::Ausgabe, QDate(2026, 3, 1), u"Gruppe %1"_s.arg(i), 100 + i);
         }
-        book.Add(modWord::Ausgabe, QDate(2026, 3, 2), u"Wohnen; Dach"_s, 500000);
-        const cChartData deficit = book.Make(wish);
+        m_book->Add(modWord::Ausgabe, QDate(2026, 3, 2), u"Wohnen; Dach"_s, 500000);
+        const cChartData deficit = m_book->Make(wish);
         QCOMPARE(deficit.Series.last().Name, u"Übriges"_s);
         QCOMPARE(deficit.Series.last().At(1), 406);
         QCOMPARE(deficit.Series.at(1).Name, u"Aus Erspartem"_s);
@@ -247,8 +242,7 @@ private Q_SLOTS:
 
     void ShadesTheDays()
     {
-        cChartBook book;
-        const cChartData chart = book.Make({.Kind = eChartKind::Calendar, .Range = year, .ShowsFuture = false});
+        const cChartData chart = m_book->Make({.Kind = eChartKind::Calendar, .Range = year, .ShowsFuture = false});
         QCOMPARE(chart.Days.size(), 365);
         QCOMPARE(chart.Series.size(), 1);
         QCOMPARE(chart.Series[0].At(9), 60000);
@@ -259,24 +253,23 @@ private Q_SLOTS:
         QCOMPARE(chart.LevelOf(0), 0);
         QCOMPARE(chart.Series[0].TargetAt(9).Range, (modPeriod::cRange{QDate(2026, 1, 10), QDate(2026, 1, 10)}));
         const modPeriod::cRange leap{QDate(2023, 11, 1), QDate(2024, 12, 31)};
-        QCOMPARE(book.Make({.Kind = eChartKind::Calendar, .Range = leap}).Days.size(), 366);
+        QCOMPARE(m_book->Make({.Kind = eChartKind::Calendar, .Range = leap}).Days.size(), 366);
     }
 
     void LaysLimitsBesideSpending()
     {
-        cChartBook book;
-        QCOMPARE(book.Make({.Kind = eChartKind::Limits, .Range = year}).EmptyText(),
+        QCOMPARE(m_book->Make({.Kind = eChartKind::Limits, .Range = year}).EmptyText(),
                  u"Keine Kategorie hat ein Limit."_s);
         for (const auto& [name, limit] : {std::pair(u"Waschen"_s, u"200.00"_s), std::pair(u"Putzen"_s, QString())}) {
-            book.Book.AddCategory(u"Haushalt; "_s + name, [&limit = limit](cTemplateItem& item) {
+            m_book->Book.AddCategory(u"Haushalt; "_s + name, [&limit = limit](cTemplateItem& item) {
                 item.EntryType = modWord::Ausgabe;
                 item.TemplateDefaultValue = limit;
             });
         }
-        book.Book.Settings->Set(modSettingKey::Budget.Of(u"Haushalt; Putzen"_s), u"2026=,,27.50"_s); // March alone
-        book.Add(modWord::Ausgabe, QDate(2026, 2, 3), u"Haushalt; Waschen"_s, 30000);
-        book.Add(modWord::Einnahme, QDate(2026, 2, 4), u"Haushalt; Waschen"_s, 2500);
-        const cChartData chart = book.Make({.Kind = eChartKind::Limits, .Range = year});
+        m_book->Book.Settings->Set(modSettingKey::Budget.Of(u"Haushalt; Putzen"_s), u"2026=,,27.50"_s); // March alone
+        m_book->Add(modWord::Ausgabe, QDate(2026, 2, 3), u"Haushalt; Waschen"_s, 30000);
+        m_book->Add(modWord::Einnahme, QDate(2026, 2, 4), u"Haushalt; Waschen"_s, 2500);
+        const cChartData chart = m_book->Make({.Kind = eChartKind::Limits, .Range = year});
         QCOMPARE(Values(chart, 1),
                  (QStringList{u"Waschen=27500"_s, u"Limit Waschen=20000"_s, u"Putzen=0"_s, u"Limit Putzen=-"_s}));
         QCOMPARE(Values(chart, 2),
@@ -285,21 +278,19 @@ private Q_SLOTS:
 
     void LaysTagsBeside()
     {
-        cChartBook book;
-        book.Book.Spend(QDate(2026, 1, 10), 700, u"Hotel #urlaub"_s);
-        book.Book.Spend(QDate(2025, 1, 10), 300, u"Zelt #Urlaub #wald"_s);
+        m_book->Book.Spend(QDate(2026, 1, 10), 700, u"Hotel #urlaub"_s);
+        m_book->Book.Spend(QDate(2025, 1, 10), 300, u"Zelt #Urlaub #wald"_s);
         const cChartData chart =
-            book.Make({.Kind = eChartKind::Tags, .Range = year, .Second = cChartWish::YearBefore(year)});
+            m_book->Make({.Kind = eChartKind::Tags, .Range = year, .Second = cChartWish::YearBefore(year)});
         QCOMPARE(chart.Labels, QStringList{u"#urlaub"_s});
         QCOMPARE(Values(chart, 0), QStringList({u"Ausgaben=700"_s, u"Ausgaben (2025)=300"_s}));
     }
 
     void SharesTheNetWorth()
     {
-        cChartBook book;
-        book.Add(modWord::Ausgabe, QDate(2026, 3, 1), u"Auto"_s, 500000);
+        m_book->Add(modWord::Ausgabe, QDate(2026, 3, 1), u"Auto"_s, 500000);
         const modPeriod::cRange march{QDate(2026, 3, 1), QDate(2026, 3, 31)};
-        const cChartData chart = book.Make({.Kind = eChartKind::NetWorth, .Range = march, .ShowsFuture = false});
+        const cChartData chart = m_book->Make({.Kind = eChartKind::NetWorth, .Range = march, .ShowsFuture = false});
         const qint64 current = 12345 - 115000 + 200000 - 50000 - 500000; // below zero
         QCOMPARE(
             Values(chart, 0),
@@ -309,8 +300,7 @@ private Q_SLOTS:
 
     void WritesTheSameFigures()
     {
-        cChartBook book;
-        cChartData pie = book.Make({.Kind = eChartKind::ExpensePie, .Range = year});
+        cChartData pie = m_book->Make({.Kind = eChartKind::ExpensePie, .Range = year});
         QCOMPARE(modChartTable::Csv(pie),
                  QByteArray("\xEF\xBB\xBF"
                             "Kategorie;2026;Anteil %\r\nWohnen;750,00;75,00\r\nHaushalt;250,00;25,00\r\n"));
@@ -339,6 +329,9 @@ private Q_SLOTS:
         QVERIFY(!save.Write({}, folder.filePath(u"fehlt/bild.png"_s)));
         QCOMPARE(book.User.Shown.size(), 3); // also that it is done
     }
+
+private:
+    std::optional<cChartBook> m_book;
 };
 
 TEST_CLASS(testChartData, QCoreApplication)

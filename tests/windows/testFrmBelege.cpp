@@ -76,11 +76,12 @@ class testFrmBelege final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_scene.emplace(); }
+
     void PagesAreTurnedAndEnlarged()
     {
-        cScene scene;
-        scene.Receipts.Add({{scene.Pdf(3)}});
-        frmBelege window(scene.Receipts);
+        m_scene->Receipts.Add({{m_scene->Pdf(3)}});
+        frmBelege window(m_scene->Receipts);
         window.show();
         auto* preview = window.findChild<cPreviewView*>();
         QTRY_VERIFY(preview->HasPicture());
@@ -96,7 +97,7 @@ private Q_SLOTS:
         Button(window, u"Ganze Seite"_s).click();
         QTRY_VERIFY(!Button(window, u"Kleiner"_s).isEnabled());
         Button(window, u"Öffnen"_s).click();
-        QCOMPARE(scene.Desk.Opened, QStringList{scene.Receipts.NameAt(0)});
+        QCOMPARE(m_scene->Desk.Opened, QStringList{m_scene->Receipts.NameAt(0)});
     }
 
     void FilesThatAreNoneAreSaid_data()
@@ -113,9 +114,8 @@ private Q_SLOTS:
         QFETCH(const QString, name);
         QFETCH(const QByteArray, bytes);
         QFETCH(const QString, text);
-        cScene scene;
-        scene.Receipts.Add({{scene.Bytes(name, bytes)}});
-        frmBelege window(scene.Receipts);
+        m_scene->Receipts.Add({{m_scene->Bytes(name, bytes)}});
+        frmBelege window(m_scene->Receipts);
         window.show();
         auto* preview = window.findChild<cPreviewView*>();
         QTRY_VERIFY(preview->accessibleDescription().startsWith(text));
@@ -125,8 +125,7 @@ private Q_SLOTS:
     // However large the file or the wish: a preview stays small enough to be shown at once.
     void PreviewsAreBounded()
     {
-        const cScene scene;
-        for (const QString& path : {scene.Picture({6000, 4000}), scene.Pdf(1)}) {
+        for (const QString& path : {m_scene->Picture({6000, 4000}), m_scene->Pdf(1)}) {
             cPreviewReader reader;
             QSignalSpy done(&reader, &cPreviewReader::Done);
             reader.Read({path, 0, QSize(20000, 20000)});
@@ -139,33 +138,31 @@ private Q_SLOTS:
 
     void PastedPictureBecomesAReceipt()
     {
-        cScene scene;
-        frmBelege window(scene.Receipts);
+        frmBelege window(m_scene->Receipts);
         window.show();
         QApplication::clipboard()->clear();
         Button(window, u"Einfügen"_s).click();
-        QCOMPARE(scene.Book.User.Shown, QStringList{u"In der Zwischenablage ist weder ein Bild noch eine Datei."_s});
+        QCOMPARE(m_scene->Book.User.Shown, QStringList{u"In der Zwischenablage ist weder ein Bild noch eine Datei."_s});
         QImage image(40, 30, QImage::Format_RGB32);
         image.fill(Qt::red);
         QApplication::clipboard()->setImage(image);
         Button(window, u"Einfügen"_s).click();
-        QVERIFY(scene.Receipts.NameAt(0).startsWith(u"2026-03-10 Waschmaschine "_s));
-        QCOMPARE(QImage(scene.Receipts.PathAt(0)).size(), image.size());
+        QVERIFY(m_scene->Receipts.NameAt(0).startsWith(u"2026-03-10 Waschmaschine "_s));
+        QCOMPARE(QImage(m_scene->Receipts.PathAt(0)).size(), image.size());
         auto* preview = window.findChild<cPreviewView*>();
         QTRY_VERIFY(preview->HasPicture());
     }
 
     void MissingFileOffersAnother()
     {
-        cScene scene;
-        scene.Receipts.Add({{scene.Bytes(u"a.pdf"_s, "x")}});
-        QVERIFY(QFile::remove(scene.Receipts.PathAt(0)));
-        cReceiptListModel receipts(scene.Book.Tools, scene.Desk, scene.Entry);
+        m_scene->Receipts.Add({{m_scene->Bytes(u"a.pdf"_s, "x")}});
+        QVERIFY(QFile::remove(m_scene->Receipts.PathAt(0)));
+        cReceiptListModel receipts(m_scene->Book.Tools, m_scene->Desk, m_scene->Entry);
         frmBelege window(receipts);
         window.show();
         QVERIFY(window.findChild<cPreviewView*>()->accessibleDescription().contains(u"fehlt im Ordner"_s));
         QVERIFY(!Button(window, u"Öffnen"_s).isEnabled());
-        scene.Book.User.Files = {scene.Pdf(1)};
+        m_scene->Book.User.Files = {m_scene->Pdf(1)};
         Button(window, u"Datei neu wählen…"_s).click();
         QTRY_VERIFY(window.findChild<cPreviewView*>()->HasPicture());
         QVERIFY(!Button(window, u"Datei neu wählen…"_s).isVisible());
@@ -174,8 +171,7 @@ private Q_SLOTS:
     // Statements go on to who reads them, wherever they fall.
     void OnlyReceiptsHangAtTheLineTheyFallOn()
     {
-        const cScene scene;
-        cEntryListModel list(scene.Book.Format);
+        cEntryListModel list(m_scene->Book.Format);
         cEntryItem entry;
         entry.ID = 7;
         entry.EntryDate = QDate(2026, 3, 10);
@@ -192,35 +188,37 @@ private Q_SLOTS:
             DropFiles(*tree.viewport(), at, {QUrl::fromLocalFile(path)});
         };
         const QPoint line = tree.visualRect(list.index(0, 0)).center();
-        fall(scene.Pdf(1), line);
+        fall(m_scene->Pdf(1), line);
         QCOMPARE(receipts.size(), 1);
         QCOMPARE(receipts.first().first().toInt(), 7);
-        fall(scene.Bytes(u"auszug.csv"_s, "x"), line);
-        fall(scene.Pdf(1), QPoint(5, tree.viewport()->height() - 5));
+        fall(m_scene->Bytes(u"auszug.csv"_s, "x"), line);
+        fall(m_scene->Pdf(1), QPoint(5, tree.viewport()->height() - 5));
         QCOMPARE(receipts.size(), 1);
         QCOMPARE(others.size(), 2);
     }
 
     void OnlyPapersFallIntoTheStatement()
     {
-        cScene scene;
-        scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Girokonto"_s);
-        cStatementListModel statement(scene.Book.Tools); // of an account without rows
+        m_scene->Book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Girokonto"_s);
+        cStatementListModel statement(m_scene->Book.Tools); // of an account without rows
         frmKontoauszug window(statement);
         QSignalSpy papers(&window, &frmKontoauszug::PapersDropped);
         window.show();
         const auto accepts = [&](const QString& path) {
             return DropFiles(window, QPoint(5, 5), {QUrl::fromLocalFile(path)});
         };
-        QVERIFY(!accepts(scene.Bytes(u"auszug.csv"_s, "x")));
-        QVERIFY(accepts(scene.Pdf(1)));
+        QVERIFY(!accepts(m_scene->Bytes(u"auszug.csv"_s, "x")));
+        QVERIFY(accepts(m_scene->Pdf(1)));
         QCOMPARE(papers.size(), 1);
-        cStatementPapers shown(scene.Book.Tools, statement.Number());
+        cStatementPapers shown(m_scene->Book.Tools, statement.Number());
         shown.SetDay(u"2026-03"_s);
         QVERIFY(shown.Add({{papers.first().first().toStringList().value(0)}}));
         statement.Reload();
         QVERIFY(Button(window, u"PDF-Auszüge (1)…"_s).isEnabled());
     }
+
+private:
+    std::optional<cScene> m_scene;
 };
 
 TEST_CLASS(testFrmBelege, QApplication)

@@ -62,68 +62,64 @@ class testFrmHandbuch final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void GoesToTheHeading() const
+    void init() { m_scene.emplace(); }
+
+    void GoesToTheHeading()
     {
-        const cScene scene;
-        scene.Browser->Open(u"02-kontoauszug.html#buchen"_s);
-        const QRect heading = scene.PlaceOf(u"Mit der Eingabetaste allein"_s);
+        m_scene->Browser->Open(u"02-kontoauszug.html#buchen"_s);
+        const QRect heading = m_scene->PlaceOf(u"Mit der Eingabetaste allein"_s);
         QVERIFY2(heading.top() > 0 && heading.top() < 100, qPrintable(QString::number(heading.top())));
-        QCOMPARE(scene.Contents->currentItem()->text(0), u"Buchen"_s);
+        QCOMPARE(m_scene->Contents->currentItem()->text(0), u"Buchen"_s);
     }
 
-    void FollowsLinksAndGoesBackToThePlace() const
+    void FollowsLinksAndGoesBackToThePlace()
     {
-        const cScene scene;
-        scene.Browser->Open(u"02-kontoauszug.html#buchen"_s);
-        const int left = scene.View->verticalScrollBar()->value();
+        m_scene->Browser->Open(u"02-kontoauszug.html#buchen"_s);
+        const int left = m_scene->View->verticalScrollBar()->value();
         QVERIFY(left > 0);
-        Q_EMIT scene.View->LinkClicked(u"03-eintraege.html"_s, u"Eintrag"_s);
-        QVERIFY(scene.View->PlainText().startsWith(u"Einträge erfassen"_s));
-        QCOMPARE(scene.View->verticalScrollBar()->value(), 0);
-        QTest::keyClick(scene.Window.get(), Qt::Key_Left, Qt::AltModifier);
-        QCOMPARE(scene.View->verticalScrollBar()->value(), left);
-        QVERIFY(modWindowHands::Button(*scene.Window, u"Vor"_s).isEnabled());
+        Q_EMIT m_scene->View->LinkClicked(u"03-eintraege.html"_s, u"Eintrag"_s);
+        QVERIFY(m_scene->View->PlainText().startsWith(u"Einträge erfassen"_s));
+        QCOMPARE(m_scene->View->verticalScrollBar()->value(), 0);
+        QTest::keyClick(m_scene->Window.get(), Qt::Key_Left, Qt::AltModifier);
+        QCOMPARE(m_scene->View->verticalScrollBar()->value(), left);
+        QVERIFY(modWindowHands::Button(*m_scene->Window, u"Vor"_s).isEnabled());
     }
 
-    void SearchListsPlacesAndEnterOpensThem() const
+    void SearchListsPlacesAndEnterOpensThem()
     {
-        const cScene scene;
-        auto* field = scene.Window->findChild<QLineEdit*>();
+        auto* field = m_scene->Window->findChild<QLineEdit*>();
         field->setFocus();
         QTest::keyClicks(field, u"photoTAN"_s);
-        QVERIFY(scene.Hits->isVisible());
-        QVERIFY(scene.Hits->topLevelItemCount() > 1);
+        QVERIFY(m_scene->Hits->isVisible());
+        QVERIFY(m_scene->Hits->topLevelItemCount() > 1);
         QTest::keyClick(field, Qt::Key_Return);
-        QCOMPARE(scene.Browser->Place().Page, u"faq.html"_s); // the question has the word in its heading
-        QVERIFY(scene.View->FoundCount() > 0);
+        QCOMPARE(m_scene->Browser->Place().Page, u"faq.html"_s); // the question has the word in its heading
+        QVERIFY(m_scene->View->FoundCount() > 0);
         field->clear();
-        QVERIFY(scene.Contents->isVisible());
+        QVERIFY(m_scene->Contents->isVisible());
     }
 
-    void PicturesAreShown() const
+    void PicturesAreShown()
     {
-        const cScene scene;
-        scene.Browser->Open(u"01-start.html"_s);
-        const int above = scene.PlaceOf(u"Fast alles geht ohne Maus"_s).bottom();
-        const int below = scene.PlaceOf(u"Ein anderer Ordner"_s).top();
+        m_scene->Browser->Open(u"01-start.html"_s);
+        const int above = m_scene->PlaceOf(u"Fast alles geht ohne Maus"_s).bottom();
+        const int below = m_scene->PlaceOf(u"Ein anderer Ordner"_s).top();
         QVERIFY2(below - above > 200, qPrintable(QStringLiteral("%1 to %2").arg(above).arg(below)));
     }
 
-    void HeadsOfTablesStandAboveTheirRows() const
+    void HeadsOfTablesStandAboveTheirRows()
     {
-        const cScene scene;
-        scene.Browser->Open(u"02-kontoauszug.html"_s);
-        const QRect head = scene.PlaceOf(u"gut zu wissen"_s);
+        m_scene->Browser->Open(u"02-kontoauszug.html"_s);
+        const QRect head = m_scene->PlaceOf(u"gut zu wissen"_s);
         QVERIFY(head.isValid());
-        QVERIFY(head.bottom() < scene.PlaceOf(u".sta"_s).top());
+        QVERIFY(head.bottom() < m_scene->PlaceOf(u".sta"_s).top());
     }
 
-    void ListsAreNumbered() const
+    void ListsAreNumbered()
     {
-        const cScene scene;
-        scene.Browser->Open(u"faq.html"_s);
-        const QRect second = scene.PlaceOf(u"2."_s);
-        const QRect words = scene.PlaceOf(u"Auf dem neuen Rechner"_s);
+        m_scene->Browser->Open(u"faq.html"_s);
+        const QRect second = m_scene->PlaceOf(u"2."_s);
+        const QRect words = m_scene->PlaceOf(u"Auf dem neuen Rechner"_s);
         QVERIFY(second.isValid());
         QVERIFY2(second.right() < words.left() && std::abs(second.top() - words.top()) <= 3,
                  qPrintable(QStringLiteral("%1,%2 %3,%4")
@@ -134,19 +130,18 @@ private Q_SLOTS:
     }
 
     // Whoever fills in a form reads beside it how, one dialog above another too.
-    void CanBeUsedBesideADialog() const
+    void CanBeUsedBesideADialog()
     {
-        const cScene scene;
-        scene.Browser->Open(u"05-serien.html"_s);
-        scene.Browser->Open(u"08-suchen.html"_s);
+        m_scene->Browser->Open(u"05-serien.html"_s);
+        m_scene->Browser->Open(u"08-suchen.html"_s);
         QDialog first;
         QDialog second(&first);
         QStringList pages; // where the button led beside each dialog
         const auto goBack = [&](const QDialog& dialog) {
             const bool isBeside = QTest::qWaitFor(
-                [&] { return scene.Window->windowHandle()->transientParent() == dialog.windowHandle(); });
-            Click(modWindowHands::Button(*scene.Window, u"Zurück"_s));
-            pages.append(isBeside ? scene.Browser->Place().Page : QString());
+                [&] { return m_scene->Window->windowHandle()->transientParent() == dialog.windowHandle(); });
+            Click(modWindowHands::Button(*m_scene->Window, u"Zurück"_s));
+            pages.append(isBeside ? m_scene->Browser->Place().Page : QString());
         };
         QTimer::singleShot(0, &first, [&] {
             goBack(first);
@@ -159,10 +154,13 @@ private Q_SLOTS:
         });
         first.exec();
         QCOMPARE(pages, QStringList({u"05-serien.html"_s, u"index.html"_s}));
-        QVERIFY(scene.Window->isVisible());
-        Click(modWindowHands::Button(*scene.Window, u"Vor"_s));
-        QCOMPARE(scene.Browser->Place().Page, u"05-serien.html"_s);
+        QVERIFY(m_scene->Window->isVisible());
+        Click(modWindowHands::Button(*m_scene->Window, u"Vor"_s));
+        QCOMPARE(m_scene->Browser->Place().Page, u"05-serien.html"_s);
     }
+
+private:
+    std::optional<cScene> m_scene;
 };
 
 TEST_CLASS(testFrmHandbuch, QApplication)

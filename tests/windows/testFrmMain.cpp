@@ -70,108 +70,104 @@ class testFrmMain final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_scene.emplace(); }
+
     void KeysReachTheCommands()
     {
-        cScene scene;
-        QTest::keyClick(&scene.Tree(), Qt::Key_N, Qt::ControlModifier);
-        QTest::keyClick(&scene.Tree(), Qt::Key_F5);
-        QTest::keyClick(&scene.Tree(), Qt::Key_E, Qt::ControlModifier); // nothing is selected
-        scene.Select(1);
-        QTest::keyClick(&scene.Tree(), Qt::Key_E, Qt::ControlModifier);
-        QTest::keyClick(&scene.Tree(), Qt::Key_Return);
-        const QString second = u"Eintrag %1 "_s.arg(scene.Second.ID) + modDate::ToIso(scene.Second.EntryDate);
-        QCOMPARE(scene.Navigator.Opened, QStringList({u"neu"_s, u"neu"_s, second, second}));
-        scene.Navigator.Opened.clear();
-        scene.Book.User.Answers = {eAnswer::Yes};
-        QTest::keyClick(&scene.Tree(), Qt::Key_Delete);
-        QCOMPARE(scene.Book.Data.CountEntries(), 1);
-        scene.Select(0);
-        scene.Window.ShowPage(frmMain::ePage::Statements);
-        QTest::keyClick(&scene.Window, Qt::Key_Delete); // the list is not in front
-        QCOMPARE(scene.Book.Data.CountEntries(), 1);
-        QTest::keyClick(&scene.Window, Qt::Key_Q, Qt::AltModifier);
-        QCOMPARE(scene.Navigator.Opened, QStringList{u"Ende"_s});
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_N, Qt::ControlModifier);
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_F5);
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_E, Qt::ControlModifier); // nothing is selected
+        m_scene->Select(1);
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_E, Qt::ControlModifier);
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_Return);
+        const QString second = u"Eintrag %1 "_s.arg(m_scene->Second.ID) + modDate::ToIso(m_scene->Second.EntryDate);
+        QCOMPARE(m_scene->Navigator.Opened, QStringList({u"neu"_s, u"neu"_s, second, second}));
+        m_scene->Navigator.Opened.clear();
+        m_scene->Book.User.Answers = {eAnswer::Yes};
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_Delete);
+        QCOMPARE(m_scene->Book.Data.CountEntries(), 1);
+        m_scene->Select(0);
+        m_scene->Window.ShowPage(frmMain::ePage::Statements);
+        QTest::keyClick(&m_scene->Window, Qt::Key_Delete); // the list is not in front
+        QCOMPARE(m_scene->Book.Data.CountEntries(), 1);
+        QTest::keyClick(&m_scene->Window, Qt::Key_Q, Qt::AltModifier);
+        QCOMPARE(m_scene->Navigator.Opened, QStringList{u"Ende"_s});
     }
 
     void DeleteInAFieldDeletesText()
     {
-        cScene scene;
-        scene.Select(0);
-        const QList<QLineEdit*> edits = scene.Window.findChildren<QLineEdit*>();
+        m_scene->Select(0);
+        const QList<QLineEdit*> edits = m_scene->Window.findChildren<QLineEdit*>();
         auto* filter =
             *std::find_if(edits.begin(), edits.end(), [](const auto* edit) { return edit->isClearButtonEnabled(); });
         filter->setFocus();
         QTest::keyClicks(filter, u"wochen"_s);
         QTest::qWait(5);
-        QCOMPARE(scene.Model.Entries().rowCount(), 1);
+        QCOMPARE(m_scene->Model.Entries().rowCount(), 1);
         QTest::keyClick(filter, Qt::Key_Home);
         QTest::keyClick(filter, Qt::Key_Delete);
         QCOMPARE(filter->text(), u"ochen"_s);
-        QVERIFY(scene.Book.User.Asked.isEmpty());
+        QVERIFY(m_scene->Book.User.Asked.isEmpty());
     }
 
     void ClickOnATagFilters()
     {
-        cScene scene;
-        scene.Book.Add([](cEntryItem& entry) { entry.EntryDescription = u"#kino Karten"_s; });
-        scene.Model.BookChanged();
+        m_scene->Book.Add([](cEntryItem& entry) { entry.EntryDescription = u"#kino Karten"_s; });
+        m_scene->Model.BookChanged();
         const auto click = [&] {
-            for (int row = 0; row < scene.Model.Entries().rowCount(); ++row) {
-                const QModelIndex cell = scene.Model.Entries().index(row, cEntryListModel::Description);
+            for (int row = 0; row < m_scene->Model.Entries().rowCount(); ++row) {
+                const QModelIndex cell = m_scene->Model.Entries().index(row, cEntryListModel::Description);
                 if (cell.data().toString().startsWith(u'#')) {
-                    const QRect place = scene.Tree().visualRect(cell);
-                    const QPoint label(place.left() + 4 * scene.Tree().fontMetrics().averageCharWidth(),
+                    const QRect place = m_scene->Tree().visualRect(cell);
+                    const QPoint label(place.left() + 4 * m_scene->Tree().fontMetrics().averageCharWidth(),
                                        place.center().y());
-                    QTest::mouseClick(scene.Tree().viewport(), Qt::LeftButton, Qt::NoModifier, label);
+                    QTest::mouseClick(m_scene->Tree().viewport(), Qt::LeftButton, Qt::NoModifier, label);
                 }
             }
             QTest::qWait(5);
         };
         click();
-        QCOMPARE(scene.Model.Entries().rowCount(), 1);
-        QCOMPARE(scene.Model.View().Filter, u"#kino"_s);
+        QCOMPARE(m_scene->Model.Entries().rowCount(), 1);
+        QCOMPARE(m_scene->Model.View().Filter, u"#kino"_s);
         click();
-        QCOMPARE(scene.Model.Entries().rowCount(), 3);
+        QCOMPARE(m_scene->Model.Entries().rowCount(), 3);
     }
 
     void SelectionSurvivesARefresh()
     {
-        cScene scene;
-        scene.Select(1);
-        scene.Book.Add([](cEntryItem& entry) { entry.EntryDate = QDate(2026, 1, 1); });
-        scene.Model.BookChanged();
-        QCOMPARE(scene.Tree().SelectedKeys(),
-                 QList<cEntryListModel::cKey>({{scene.Second.ID, scene.Second.EntryDate}}));
-        QCOMPARE(scene.Tree().currentIndex().row(), 2);
-        scene.Model.ChooseGrouping(u"Nach Monat"_s);
-        QCOMPARE(scene.Tree().SelectedKeys().size(), 1);
-        QVERIFY(scene.Tree().isExpanded(scene.Model.Entries().index(0, 0)));
+        m_scene->Select(1);
+        m_scene->Book.Add([](cEntryItem& entry) { entry.EntryDate = QDate(2026, 1, 1); });
+        m_scene->Model.BookChanged();
+        QCOMPARE(m_scene->Tree().SelectedKeys(),
+                 QList<cEntryListModel::cKey>({{m_scene->Second.ID, m_scene->Second.EntryDate}}));
+        QCOMPARE(m_scene->Tree().currentIndex().row(), 2);
+        m_scene->Model.ChooseGrouping(u"Nach Monat"_s);
+        QCOMPARE(m_scene->Tree().SelectedKeys().size(), 1);
+        QVERIFY(m_scene->Tree().isExpanded(m_scene->Model.Entries().index(0, 0)));
     }
 
     void DeletingGoesOnWithTheNextLine()
     {
-        cScene scene;
         for (int day = 1; day <= 3; ++day) {
-            scene.Book.Add([day](cEntryItem& entry) { entry.EntryDate = QDate(2026, 1, day); });
+            m_scene->Book.Add([day](cEntryItem& entry) { entry.EntryDate = QDate(2026, 1, day); });
         }
-        scene.Model.BookChanged();
-        scene.Select(1);
-        scene.Book.User.Answers = {eAnswer::Yes};
-        QTest::keyClick(&scene.Tree(), Qt::Key_Delete);
-        QCOMPARE(scene.Model.Entries().KeyAt(scene.Tree().currentIndex()).Day, QDate(2026, 1, 3));
-        QVERIFY(scene.Tree().SelectedKeys().isEmpty());
+        m_scene->Model.BookChanged();
+        m_scene->Select(1);
+        m_scene->Book.User.Answers = {eAnswer::Yes};
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_Delete);
+        QCOMPARE(m_scene->Model.Entries().KeyAt(m_scene->Tree().currentIndex()).Day, QDate(2026, 1, 3));
+        QVERIFY(m_scene->Tree().SelectedKeys().isEmpty());
     }
 
     // Saved with Ctrl+Enter: the key held down is not meant for the list.
     void SavedEntryIsTheOnlyOneSelected()
     {
-        cScene scene;
-        scene.Select(0);
-        QTest::keyPress(&scene.Window, Qt::Key_Control, Qt::ControlModifier);
-        scene.Window.ShowEntry({scene.Second.ID, scene.Second.EntryDate});
-        QTest::keyRelease(&scene.Window, Qt::Key_Control);
-        QCOMPARE(scene.Tree().SelectedKeys(),
-                 QList<cEntryListModel::cKey>({{scene.Second.ID, scene.Second.EntryDate}}));
+        m_scene->Select(0);
+        QTest::keyPress(&m_scene->Window, Qt::Key_Control, Qt::ControlModifier);
+        m_scene->Window.ShowEntry({m_scene->Second.ID, m_scene->Second.EntryDate});
+        QTest::keyRelease(&m_scene->Window, Qt::Key_Control);
+        QCOMPARE(m_scene->Tree().SelectedKeys(),
+                 QList<cEntryListModel::cKey>({{m_scene->Second.ID, m_scene->Second.EntryDate}}));
     }
 
     void NewWindowsFitTheScreen()
@@ -188,49 +184,46 @@ private Q_SLOTS:
 
     void ColumnLayoutIsKept()
     {
-        cScene scene;
-        scene.Tree().SetLayoutText(u"6,90,1|0,80,1|1,70,0|2,150,1|3,120,1|4,0,1|5,100,1|7,100,1|sort,6,1"_s);
-        const QString layout = scene.Tree().LayoutText();
+        m_scene->Tree().SetLayoutText(u"6,90,1|0,80,1|1,70,0|2,150,1|3,120,1|4,0,1|5,100,1|7,100,1|sort,6,1"_s);
+        const QString layout = m_scene->Tree().LayoutText();
         QVERIFY(layout.startsWith(u"6,90,1|0,80,1|1,70,0|"_s));
-        scene.Window.close();
-        QCOMPARE(scene.Book.Settings->Get(modSettingKey::MainList), layout);
-        scene.Model.ResetView();
-        QVERIFY(scene.Tree().LayoutText().startsWith(u"0,"_s));
+        m_scene->Window.close();
+        QCOMPARE(m_scene->Book.Settings->Get(modSettingKey::MainList), layout);
+        m_scene->Model.ResetView();
+        QVERIFY(m_scene->Tree().LayoutText().startsWith(u"0,"_s));
     }
 
     void ClosedGroupsStayClosed()
     {
-        cScene scene;
-        scene.Model.ChooseGrouping(u"Nach Konto"_s);
-        const auto group = [&](int row) { return scene.Model.Entries().index(row, 0); };
+        m_scene->Model.ChooseGrouping(u"Nach Konto"_s);
+        const auto group = [&](int row) { return m_scene->Model.Entries().index(row, 0); };
         const QString closed = group(0).data(cEntryListModel::NameRole).toString();
-        scene.Tree().collapse(group(0));
-        scene.Model.BookChanged();
-        QVERIFY(!scene.Tree().isExpanded(group(0)));
-        QVERIFY(scene.Tree().isExpanded(group(1)));
-        scene.Window.SaveLayout();
-        frmMain again(scene.Model);
+        m_scene->Tree().collapse(group(0));
+        m_scene->Model.BookChanged();
+        QVERIFY(!m_scene->Tree().isExpanded(group(0)));
+        QVERIFY(m_scene->Tree().isExpanded(group(1)));
+        m_scene->Window.SaveLayout();
+        frmMain again(m_scene->Model);
         again.RestoreLayout();
-        scene.Model.RestoreView(false);
+        m_scene->Model.RestoreView(false);
         auto& tree = *again.findChild<cEntryTree*>();
         QCOMPARE(group(0).data(cEntryListModel::NameRole).toString(), closed);
         QVERIFY(!tree.isExpanded(group(0)));
         QVERIFY(tree.isExpanded(group(1)));
-        scene.Model.ResetView();
-        scene.Model.ChooseGrouping(u"Nach Konto"_s);
+        m_scene->Model.ResetView();
+        m_scene->Model.ChooseGrouping(u"Nach Konto"_s);
         QVERIFY(tree.isExpanded(group(0)));
     }
 
     void PageInFrontIsKept()
     {
-        cScene scene;
-        scene.Window.ShowPage(frmMain::ePage::Statements);
-        scene.Window.SaveLayout();
-        frmMain usual(scene.Model);
+        m_scene->Window.ShowPage(frmMain::ePage::Statements);
+        m_scene->Window.SaveLayout();
+        frmMain usual(m_scene->Model);
         usual.ShowToday();
         QCOMPARE(usual.Page(), frmMain::ePage::Overview);
-        scene.Book.Settings->SetBool(modSettingKey::StartWithOverview, false);
-        frmMain again(scene.Model);
+        m_scene->Book.Settings->SetBool(modSettingKey::StartWithOverview, false);
+        frmMain again(m_scene->Model);
         again.ShowToday();
         QCOMPARE(again.Page(), frmMain::ePage::Statements);
     }
@@ -238,9 +231,8 @@ private Q_SLOTS:
     // What nobody sees is not read, and what does not need the page in front reads it all the same.
     void ListIsReadWhenItComesInSight()
     {
-        cScene scene;
-        cMainModel model(scene.Book.Tools,
-                         {scene.Book.Configuration, scene.Book.Shell, scene.Navigator, scene.Book.Path()});
+        cMainModel model(m_scene->Book.Tools,
+                         {m_scene->Book.Configuration, m_scene->Book.Shell, m_scene->Navigator, m_scene->Book.Path()});
         frmMain window(model);
         window.TakeStartPage();
         QCOMPARE(window.Page(), frmMain::ePage::Overview);
@@ -251,7 +243,7 @@ private Q_SLOTS:
         QCOMPARE(tree.model()->rowCount(), 0);
         model.BookChanged();
         QCOMPARE(tree.model()->rowCount(), 0);
-        window.ShowEntry({scene.First.ID, scene.First.EntryDate});
+        window.ShowEntry({m_scene->First.ID, m_scene->First.EntryDate});
         QCOMPARE(tree.model()->rowCount(), 2);
         model.PutOffList();
         QCOMPARE(model.Entries().rowCount(), 2);
@@ -264,93 +256,89 @@ private Q_SLOTS:
 
     void ClickOnAnAccountFilters()
     {
-        cScene scene;
         QTreeView* accounts = nullptr;
-        for (QTreeView* view : scene.Window.findChildren<QTreeView*>()) {
-            accounts = view == &scene.Tree() ? accounts : view;
+        for (QTreeView* view : m_scene->Window.findChildren<QTreeView*>()) {
+            accounts = view == &m_scene->Tree() ? accounts : view;
         }
-        const QRect row = accounts->visualRect(scene.Model.AccountList().index(4, 0));
+        const QRect row = accounts->visualRect(m_scene->Model.AccountList().index(4, 0));
         QTest::mouseClick(accounts->viewport(), Qt::LeftButton, {}, row.center());
-        QCOMPARE(scene.Model.View().Account, u"Bargeld"_s);
-        QCOMPARE(scene.Model.Entries().rowCount(), 1);
+        QCOMPARE(m_scene->Model.View().Account, u"Bargeld"_s);
+        QCOMPARE(m_scene->Model.Entries().rowCount(), 1);
         QTest::mouseDClick(accounts->viewport(), Qt::LeftButton, {}, row.center());
-        QCOMPARE(scene.Model.View().Account, modWord::AlleKonten);
-        scene.Model.ChooseAccount(u"Bargeld"_s);
-        const cAccountListModel& list = scene.Model.AccountList();
+        QCOMPARE(m_scene->Model.View().Account, modWord::AlleKonten);
+        m_scene->Model.ChooseAccount(u"Bargeld"_s);
+        const cAccountListModel& list = m_scene->Model.AccountList();
         QTest::mouseClick(accounts->viewport(), Qt::LeftButton, {},
                           accounts->visualRect(list.index(list.rowCount() - 1, 0)).center()); // the total
-        QCOMPARE(scene.Model.View().Account, modWord::AlleKonten);
+        QCOMPARE(m_scene->Model.View().Account, modWord::AlleKonten);
     }
 
     void FreePeriodOpensTheDayFields()
     {
-        cScene scene;
-        const QList<cDayEdit*> days = scene.Window.findChild<cViewBar*>()->findChildren<cDayEdit*>();
+        const QList<cDayEdit*> days = m_scene->Window.findChild<cViewBar*>()->findChildren<cDayEdit*>();
         QVERIFY(days.constFirst()->isReadOnly());
         QTest::keyClick(days.constFirst(), Qt::Key_Up);
-        QCOMPARE(scene.Model.ShownRange().Start, QDate(2026, 1, 1));
-        scene.Model.ChoosePeriod(modWord::FreierZeitraum);
+        QCOMPARE(m_scene->Model.ShownRange().Start, QDate(2026, 1, 1));
+        m_scene->Model.ChoosePeriod(modWord::FreierZeitraum);
         QVERIFY(!days.constFirst()->isReadOnly());
         days.constLast()->setFocus();
         days.constLast()->selectAll();
         QTest::keyClicks(days.constLast(), u"11.03.2026"_s);
-        QCOMPARE(scene.Model.ShownRange().End, QDate(2026, 12, 31)); // not before the whole day is typed
+        QCOMPARE(m_scene->Model.ShownRange().End, QDate(2026, 12, 31)); // not before the whole day is typed
         QTest::keyClick(days.constLast(), Qt::Key_Tab);
-        QCOMPARE(scene.Model.ShownRange().End, QDate(2026, 3, 11));
-        QCOMPARE(scene.Model.Entries().rowCount(), 1);
+        QCOMPARE(m_scene->Model.ShownRange().End, QDate(2026, 3, 11));
+        QCOMPARE(m_scene->Model.Entries().rowCount(), 1);
         days.constLast()->setFocus();
         days.constLast()->setText(u"irgendwann"_s);
         QTest::keyClick(days.constLast(), Qt::Key_Tab);
         QVERIFY(modBadField::IsMarked(*days.constLast()));
-        QCOMPARE(scene.Model.ShownRange().End, QDate(2026, 3, 11));
-        scene.Model.ChoosePeriod(modWord::AlleBuchungen);
+        QCOMPARE(m_scene->Model.ShownRange().End, QDate(2026, 3, 11));
+        m_scene->Model.ChoosePeriod(modWord::AlleBuchungen);
         QVERIFY(!modBadField::IsMarked(*days.constLast()));
         QCOMPARE(days.constFirst()->text(), QString());
     }
 
     void CellsAreTypedInTheList()
     {
-        cScene scene;
-        scene.Select(0);
+        m_scene->Select(0);
         const auto type = [](const QString& text, Qt::Key key) {
             QTest::keyClicks(QApplication::focusWidget(), text);
             QTest::keyClick(QApplication::focusWidget(), key);
             QTest::qWait(5);
         };
-        QTest::keyClick(&scene.Tree(), Qt::Key_F2);
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_F2);
         type({}, Qt::Key_Tab); // the category stays
         type(u"Markt"_s, Qt::Key_Tab);
         type(u"12,50+1"_s, Qt::Key_Return);
-        const cEntryItem stored = scene.Book.Data.LoadEntry(scene.First.ID).value_or(cEntryItem{});
-        QCOMPARE(stored.EntryCategory, scene.First.EntryCategory);
+        const cEntryItem stored = m_scene->Book.Data.LoadEntry(m_scene->First.ID).value_or(cEntryItem{});
+        QCOMPARE(stored.EntryCategory, m_scene->First.EntryCategory);
         QCOMPARE(stored.EntryDescription, u"Markt"_s);
         QCOMPARE(stored.EntryValue, 1350);
-        QCOMPARE(scene.Tree().currentIndex().column(), int(cEntryListModel::Amount));
-        QTest::keyClick(&scene.Tree(), Qt::Key_F2);
+        QCOMPARE(m_scene->Tree().currentIndex().column(), int(cEntryListModel::Amount));
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_F2);
         type(u"99"_s, Qt::Key_Escape);
-        QCOMPARE(scene.Book.Data.LoadEntry(scene.First.ID)->EntryValue, 1350);
-        QVERIFY(scene.Tree().hasFocus());
-        scene.Model.Execute(modCommand::Undo);
-        QTest::keyClick(&scene.Tree(), Qt::Key_F2);
+        QCOMPARE(m_scene->Book.Data.LoadEntry(m_scene->First.ID)->EntryValue, 1350);
+        QVERIFY(m_scene->Tree().hasFocus());
+        m_scene->Model.Execute(modCommand::Undo);
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_F2);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Z,
                         Qt::ControlModifier); // with nothing typed it means the book
-        QCOMPARE(scene.Book.Data.LoadEntry(scene.First.ID), scene.First);
-        QVERIFY(scene.Book.Data.SetStartGuthaben(u"Bargeld"_s, 500, QDate(2026, 3, 11))); // between the two
-        scene.Model.BookChanged();
-        scene.Tree().setCurrentIndex(scene.Model.Entries().index(2, cEntryListModel::Category));
-        QTest::keyClick(&scene.Tree(), Qt::Key_F2);
+        QCOMPARE(m_scene->Book.Data.LoadEntry(m_scene->First.ID), m_scene->First);
+        QVERIFY(m_scene->Book.Data.SetStartGuthaben(u"Bargeld"_s, 500, QDate(2026, 3, 11))); // between the two
+        m_scene->Model.BookChanged();
+        m_scene->Tree().setCurrentIndex(m_scene->Model.Entries().index(2, cEntryListModel::Category));
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_F2);
         type({}, Qt::Key_Backtab);
         type(u"7"_s, Qt::Key_Backtab); // of a start balance nothing else can be typed
         type(u"8"_s, Qt::Key_Return);
-        QCOMPARE(scene.Book.Data.GetStartGuthaben(u"Bargeld"_s)->EntryValue, 700);
-        QCOMPARE(scene.Book.Data.LoadEntry(scene.First.ID)->EntryValue, 800);
+        QCOMPARE(m_scene->Book.Data.GetStartGuthaben(u"Bargeld"_s)->EntryValue, 700);
+        QCOMPARE(m_scene->Book.Data.LoadEntry(m_scene->First.ID)->EntryValue, 800);
     }
 
     void BadAmountStaysInItsCell()
     {
-        cScene scene;
-        scene.Tree().setCurrentIndex(scene.Model.Entries().index(0, cEntryListModel::Amount));
-        QTest::keyClick(&scene.Tree(), Qt::Key_F2);
+        m_scene->Tree().setCurrentIndex(m_scene->Model.Entries().index(0, cEntryListModel::Amount));
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_F2);
         QPointer<QWidget> field = QApplication::focusWidget();
         QTest::keyClicks(field, u"zwei"_s);
         QTest::keyClick(field, Qt::Key_Return);
@@ -363,23 +351,21 @@ private Q_SLOTS:
     // It is stored, and what was clicked stays clicked.
     void ClickElsewhereStoresTheCell()
     {
-        cScene scene;
-        scene.Tree().setCurrentIndex(scene.Model.Entries().index(0, cEntryListModel::Description));
-        QTest::keyClick(&scene.Tree(), Qt::Key_F2);
+        m_scene->Tree().setCurrentIndex(m_scene->Model.Entries().index(0, cEntryListModel::Description));
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_F2);
         QTest::keyClicks(QApplication::focusWidget(), u"Markt"_s);
-        const QRect other = scene.Tree().visualRect(scene.Model.Entries().index(1, 0));
-        QTest::mouseClick(scene.Tree().viewport(), Qt::LeftButton, {}, other.center());
+        const QRect other = m_scene->Tree().visualRect(m_scene->Model.Entries().index(1, 0));
+        QTest::mouseClick(m_scene->Tree().viewport(), Qt::LeftButton, {}, other.center());
         QTest::qWait(5);
-        QCOMPARE(scene.Book.Data.LoadEntry(scene.First.ID)->EntryDescription, u"Markt"_s);
-        QCOMPARE(scene.Model.Selection().size(), 1);
-        QCOMPARE(scene.Model.Selection().first().ID, scene.Second.ID);
+        QCOMPARE(m_scene->Book.Data.LoadEntry(m_scene->First.ID)->EntryDescription, u"Markt"_s);
+        QCOMPARE(m_scene->Model.Selection().size(), 1);
+        QCOMPARE(m_scene->Model.Selection().first().ID, m_scene->Second.ID);
     }
 
     void RowsGoToTheClipboard()
     {
-        cScene scene;
-        scene.Tree().selectAll();
-        scene.Window.CopyRows();
+        m_scene->Tree().selectAll();
+        m_scene->Window.CopyRows();
         const QStringList lines = QGuiApplication::clipboard()->text().split(u'\n', Qt::SkipEmptyParts);
         QCOMPARE(lines.size(), 3);
         QVERIFY2(lines.at(1).contains(u"Wocheneinkauf\t"_s), qPrintable(lines.at(1)));
@@ -400,16 +386,17 @@ private Q_SLOTS:
         QFETCH(bool, isAccount);
         QFETCH(QString, grouping);
         QFETCH(QString, target);
-        cScene scene;
-        scene.Model.ChooseGrouping(grouping);
-        QTreeView& tree = isAccount ? *scene.Window.findChild<cAccountPanel*>()->findChild<QTreeView*>() : scene.Tree();
-        const QModelIndex index = isAccount ? scene.Model.AccountList().index(4, 0) // below the group of the same name
-                                            : scene.Model.Entries().index(0, 0);
-        const QList<cEntryListModel::cKey> rows{{scene.First.ID, scene.First.EntryDate}};
+        m_scene->Model.ChooseGrouping(grouping);
+        QTreeView& tree =
+            isAccount ? *m_scene->Window.findChild<cAccountPanel*>()->findChild<QTreeView*>() : m_scene->Tree();
+        const QModelIndex index = isAccount
+            ? m_scene->Model.AccountList().index(4, 0) // below the group of the same name
+            : m_scene->Model.Entries().index(0, 0);
+        const QList<cEntryListModel::cKey> rows{{m_scene->First.ID, m_scene->First.EntryDate}};
         QMimeData data;
         data.setData(modRowDrag::Format, modRowDrag::ToBytes(rows));
-        const auto dropped = isAccount ? std::make_unique<QSignalSpy>(&scene.Window, &frmMain::RowsDropped)
-                                       : std::make_unique<QSignalSpy>(&scene.Window, &frmMain::RowsRegrouped);
+        const auto dropped = isAccount ? std::make_unique<QSignalSpy>(&m_scene->Window, &frmMain::RowsDropped)
+                                       : std::make_unique<QSignalSpy>(&m_scene->Window, &frmMain::RowsRegrouped);
         const QPoint place = tree.visualRect(index).center();
         QCOMPARE(modWindowHands::Drop(*tree.viewport(), place, data), !target.isEmpty());
         QTest::qWait(5);
@@ -423,64 +410,60 @@ private Q_SLOTS:
 
     void AnotherAccountBeginsOnTheSameDay()
     {
-        cScene scene;
         for (int month = 0; month < 300; ++month) {
-            scene.Book.Add([month](cEntryItem& entry) { entry.EntryDate = QDate(2010, 1, 1).addMonths(month); });
-            scene.Book.Add([month](cEntryItem& entry) {
+            m_scene->Book.Add([month](cEntryItem& entry) { entry.EntryDate = QDate(2010, 1, 1).addMonths(month); });
+            m_scene->Book.Add([month](cEntryItem& entry) {
                 entry.EntryDate = QDate(2010, 1, 2).addMonths(month);
                 entry.EntryAccount = u"Bargeld"_s;
             });
         }
-        scene.Model.ChoosePeriod(modWord::AlleBuchungen);
-        scene.Tree().ScrollTo(QDate(2015, 6, 1));
-        const auto top = [&] { return scene.Model.Entries().KeyAt(scene.Tree().indexAt(QPoint())).Day; };
-        scene.Model.ChooseAccount(u"Girokonto"_s);
+        m_scene->Model.ChoosePeriod(modWord::AlleBuchungen);
+        m_scene->Tree().ScrollTo(QDate(2015, 6, 1));
+        const auto top = [&] { return m_scene->Model.Entries().KeyAt(m_scene->Tree().indexAt(QPoint())).Day; };
+        m_scene->Model.ChooseAccount(u"Girokonto"_s);
         const QDate before = top();
         QVERIFY2(before.year() == 2014 || before.year() == 2015, qPrintable(before.toString(Qt::ISODate)));
-        scene.Model.ChooseAccount(u"Bargeld"_s);
+        m_scene->Model.ChooseAccount(u"Bargeld"_s);
         QCOMPARE(top(), before.addDays(1));
     }
 
     void MessageStandsInPlaceOfTheReminder()
     {
-        cScene scene;
-        auto* reminder = scene.Window.findChild<QToolButton*>(u"cmdErinnerung"_s);
-        Q_EMIT scene.Model.Told(u"Dupliziert"_s);
-        scene.Window.ShowReminder(u"Heute fällig"_s);
+        auto* reminder = m_scene->Window.findChild<QToolButton*>(u"cmdErinnerung"_s);
+        Q_EMIT m_scene->Model.Told(u"Dupliziert"_s);
+        m_scene->Window.ShowReminder(u"Heute fällig"_s);
         QVERIFY(!reminder->isVisible());
-        scene.Window.statusBar()->clearMessage();
+        m_scene->Window.statusBar()->clearMessage();
         QVERIFY(reminder->isVisible());
     }
 
     void DayIsJumpedTo()
     {
-        cScene scene;
-        scene.Window.AskDay();
+        m_scene->Window.AskDay();
         QTest::keyClicks(QApplication::focusWidget(), u"12.3."_s);
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        QCOMPARE(scene.Model.Selection().size(), 1);
-        QCOMPARE(scene.Model.Selection().first().ID, scene.Second.ID);
-        QVERIFY(scene.Tree().hasFocus());
-        scene.Window.AskDay();
+        QCOMPARE(m_scene->Model.Selection().size(), 1);
+        QCOMPARE(m_scene->Model.Selection().first().ID, m_scene->Second.ID);
+        QVERIFY(m_scene->Tree().hasFocus());
+        m_scene->Window.AskDay();
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
-        QVERIFY(scene.Tree().hasFocus());
+        QVERIFY(m_scene->Tree().hasFocus());
     }
 
     void WayBackFromASelection()
     {
-        cScene scene;
-        auto& bar = *scene.Window.findChild<cBackBar*>();
-        QTest::keyClick(&scene.Tree(), Qt::Key_Left, Qt::AltModifier); // there is no way back yet
+        auto& bar = *m_scene->Window.findChild<cBackBar*>();
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_Left, Qt::AltModifier); // there is no way back yet
         QVERIFY(!bar.isVisible());
-        QCOMPARE(scene.Window.Page(), frmMain::ePage::Entries);
-        scene.Model.ShowEntries({u"Ausgaben"_s, modWord::Ausgabe, u"Bargeld"_s, {}});
+        QCOMPARE(m_scene->Window.Page(), frmMain::ePage::Entries);
+        m_scene->Model.ShowEntries({u"Ausgaben"_s, modWord::Ausgabe, u"Bargeld"_s, {}});
         QVERIFY(bar.isVisible());
         QCOMPARE(bar.findChild<cElidedText*>()->accessibleName(), u"Ausgaben"_s);
-        QCOMPARE(scene.Model.Entries().Sums().Count, 1);
-        QTest::keyClick(&scene.Tree(), Qt::Key_Left, Qt::AltModifier);
-        QCOMPARE(scene.Window.Page(), frmMain::ePage::Statistics);
+        QCOMPARE(m_scene->Model.Entries().Sums().Count, 1);
+        QTest::keyClick(&m_scene->Tree(), Qt::Key_Left, Qt::AltModifier);
+        QCOMPARE(m_scene->Window.Page(), frmMain::ePage::Statistics);
         QVERIFY(!bar.isVisible());
-        QCOMPARE(scene.Model.Entries().Sums().Count, 2);
+        QCOMPARE(m_scene->Model.Entries().Sums().Count, 2);
     }
 
     void PlaceIsInReach_data()
@@ -501,6 +484,9 @@ private Q_SLOTS:
         QFETCH(QRect, Shown);
         QCOMPARE(modPlace::Visible(Place, {QRect(0, 0, 1280, 1000), QRect(1280, 0, 1280, 1000)}), Shown);
     }
+
+private:
+    std::optional<cScene> m_scene;
 };
 
 TEST_CLASS(testFrmMain, QApplication)
