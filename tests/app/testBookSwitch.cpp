@@ -20,9 +20,8 @@ struct cMachine : cFakeMachine
 {
     cMachine()
     {
-        if (!StartUp.TryBook(Book, {File.Make(oneEntry), true}) || Lock.Take(Book.Path()) != eLockState::Held) {
-            qFatal("cannot open the book");
-        }
+        QVERIFY(StartUp.TryBook(Book, {File.Make(oneEntry), true}));
+        QCOMPARE(Lock.Take(Book.Path()), eLockState::Held);
     }
 
     [[nodiscard]] bool IsAsBefore()

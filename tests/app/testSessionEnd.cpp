@@ -43,9 +43,7 @@ struct cRun
     {
         QObject::connect(&Watch, &cSessionWatch::EndRequested, &Watch, [this] { Program.End(); });
         QObject::connect(&Watch, &cSessionWatch::SaveRequested, &Watch, [this] { Program.Save(); });
-        if (!Program.Start({.Book = machine.Book})) {
-            qFatal("no start");
-        }
+        QVERIFY(Program.Start({.Book = machine.Book}));
     }
 
     // Does this in the running program; its exit code.

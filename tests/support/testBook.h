@@ -78,14 +78,16 @@ public:
         }
     }
 
-    // Adds a row of the bank, which pays the entry with this ID; the stored row.
-    cImportEntry Stage(const QString& number, QDate day, qint64 cents, const QString& name = {}, int entry = -1)
+    // Adds a row of the bank, which pays the entry with this ID and may name the other account; the stored row.
+    cImportEntry Stage(const QString& number, QDate day, qint64 cents, const QString& name = {}, int entry = -1,
+                       const QString& otherNumber = {})
     {
         cImportEntry row;
         row.ImportAccount = number;
         row.ImportDate = day;
         row.ImportValue = cents;
         row.ImportBeneficiary = name;
+        row.ImportBeneficiaryAccount = otherNumber;
         row.ImportAssigned = entry > 0;
         row.ImportAssignedEntry = entry;
         if (!Data.AddNewImportEntry(row)) {

@@ -54,13 +54,11 @@ struct cScene : cTestBook
         Clock.Day = QDate(2026, 3, 15);
         Login(u"Lindenbank"_s, u"10020030"_s, {Account(u"0001234567"_s, u"Giro"_s), Account(u"777"_s, u"Sparen"_s)});
         Login(u"Tannenbank"_s, u"20030040"_s, {Account(u"888"_s, u"Karte"_s)});
-        if (!Access.SetProductId(u"PRODUKT"_s)) {
-            qFatal("identifier not kept");
-        }
-        Assign(u"1234567"_s, u"Girokonto"_s);
-        Assign(u"DE02100200300001234567"_s, u"Girokonto"_s);
-        Assign(u"777"_s, u"Sparkonto"_s);
-        Assign(u"888"_s, u"Bargeld"_s);
+        QVERIFY(Access.SetProductId(u"PRODUKT"_s));
+        QVERIFY(Accounts.Assign(u"1234567"_s, u"Girokonto"_s));
+        QVERIFY(Accounts.Assign(u"DE02100200300001234567"_s, u"Girokonto"_s));
+        QVERIFY(Accounts.Assign(u"777"_s, u"Sparkonto"_s));
+        QVERIFY(Accounts.Assign(u"888"_s, u"Bargeld"_s));
         Fetch.Load();
         Fetch.SetDialog([this](cBankState& state, const cSecret& /*pin*/, const QList<cFetchOrder>& orders,
                                QList<cFetchedAccount>& fetched) {
@@ -83,16 +81,7 @@ struct cScene : cTestBook
         state.BankCode = code;
         state.UserId = u"anna"_s;
         state.Accounts = accounts;
-        if (!Access.Save(state) || !Access.Choose(state, accounts)) {
-            qFatal("login not kept");
-        }
-    }
-
-    void Assign(const QString& number, const QString& account)
-    {
-        if (!Accounts.Assign(number, account)) {
-            qFatal("number not assigned");
-        }
+        QVERIFY(Access.Save(state) && Access.Choose(state, accounts));
     }
 
     void AnswerMt940(const QString& number, const cBankMonth& month)

@@ -20,9 +20,7 @@ struct cRound : cHousehold
     {
         cBankState state = *Access.Find(u"12345678"_s, u"testuser"_s);
         state.Accounts.first().Orders = {order, u"HKSAL"_s};
-        if (!Access.Save(state) || !Access.Choose(state, state.Accounts)) {
-            qFatal("login not kept");
-        }
+        QVERIFY(Access.Save(state) && Access.Choose(state, state.Accounts));
         Bank.Profile.Accounts.first().Orders = order.toLatin1() + ":1+HKSAL:1";
         Bank.Journal.clear();
         Fetch.Load();

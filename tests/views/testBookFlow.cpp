@@ -48,9 +48,7 @@ struct cMachine
 {
     cMachine()
     {
-        if (!Book.Open(File.Make(oneEntry))) {
-            qFatal("cannot open the book");
-        }
+        QVERIFY(Book.Open(File.Make(oneEntry)));
         cTestFile::Run(Shell.InstalledFile(u"template.dat"_s), cTestFile::Tables);
     }
 

@@ -26,9 +26,7 @@ struct cChartBook
         Add(modWord::Ausgabe, QDate(2025, 2, 12), u"Haushalt; Lebensmittel"_s, 15000);
         Add(modWord::Einnahme, QDate(2026, 1, 31), u"Arbeit; Gehalt"_s, 200000);
         Add(modWord::Umbuchung, QDate(2026, 1, 31), u"Sparen"_s, 50000);
-        if (!Book.Data.SetStartGuthaben(u"Girokonto"_s, 12345, QDate(2026, 1, 1))) {
-            qFatal("no start balance");
-        }
+        QVERIFY(Book.Data.SetStartGuthaben(u"Girokonto"_s, 12345, QDate(2026, 1, 1)));
     }
 
     void Add(const QString& type, QDate day, const QString& category, qint64 cents)

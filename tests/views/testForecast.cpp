@@ -16,22 +16,15 @@ struct cHousehold
 {
     cHousehold()
     {
-        Prepare(Book.Data.SetStartGuthaben(u"Girokonto"_s, 100000, QDate(2026, 1, 1)));
+        QVERIFY(Book.Data.SetStartGuthaben(u"Girokonto"_s, 100000, QDate(2026, 1, 1)));
         Rent = Book.Spend(QDate(2026, 3, 20), 30000, u"Miete"_s, u"Monatlich"_s);
-    }
-
-    static void Prepare(bool isDone)
-    {
-        if (!isDone) {
-            qFatal("book not prepared");
-        }
     }
 
     void SetLimit(const QString& account, const QString& amount)
     {
         cTemplateItem item = *Book.Data.FindAccount(account);
         item.TemplateDefaultValue = amount;
-        Prepare(Book.Data.ChangeTemplate(item));
+        QVERIFY(Book.Data.ChangeTemplate(item));
     }
 
     QList<cLimitWarning> Warnings() { return cForecast(Book.Data, today).Warnings(); }

@@ -43,15 +43,7 @@ struct cPage : cTestBook
     // A row of 200 euros to or from the other account, whose bank names the counterparty.
     void StageTransfer(const QString& own, const QString& other, qint64 cents)
     {
-        cImportEntry row;
-        row.ImportAccount = own;
-        row.ImportBeneficiary = u"Jana"_s;
-        row.ImportBeneficiaryAccount = other;
-        row.ImportValue = cents;
-        row.ImportDate = day;
-        if (!Data.AddNewImportEntry(row)) {
-            qFatal("row not added");
-        }
+        cTestBook::Stage(own, day, cents, u"Jana"_s, -1, other);
         Review.Refresh();
     }
 
@@ -278,21 +270,11 @@ private Q_SLOTS:
     void WhatIsNoTransferStandsOnItsOwnDay()
     {
         m_page->Settings->Set(modSettingKey::BankNumber.Of(u"222"_s), u"Sparkonto"_s);
-        (void)m_page->Add([](cEntryItem& entry) {
-            entry.EntryDate = day.addDays(-6);
-            entry.EntryValue = 19990;
-            entry.EntryType = modWord::Umbuchung;
-            entry.EntryDescription = u"Jana"_s;
-            entry.EntryAccountMove = u"Sparkonto"_s;
-        });
+        cEntryItem transfer = m_page->Move(u"Girokonto"_s, u"Sparkonto"_s, 19990, day.addDays(-6));
+        transfer.EntryDescription = u"Jana"_s;
+        QVERIFY(m_page->Data.ChangeEntry(transfer));
         (void)m_page->Stage(-200, u"Jana"_s);
-        cImportEntry row;
-        row.ImportAccount = u"222"_s;
-        row.ImportBeneficiary = u"Jana"_s;
-        row.ImportBeneficiaryAccount = u"1234567"_s;
-        row.ImportValue = 20000;
-        row.ImportDate = day.addDays(5);
-        QVERIFY(m_page->Data.AddNewImportEntry(row));
+        const cImportEntry row = m_page->cTestBook::Stage(u"222"_s, day.addDays(5), 20000, u"Jana"_s, -1, u"1234567"_s);
         m_page->Review.Refresh();
         QVERIFY(m_page->Review.Choose({row.ID}, u"Freizeit; Geschenke"_s, {}));
         QVERIFY(m_page->Review.Book({row.ID}, m_page->Progress));

@@ -112,10 +112,10 @@ struct cScene
         fixMod.EntryModType = modWord::Betrag;
         fixMod.EntryStartDate = QDate(2026, 4, 1);
         fixMod.EntryEndDate = QDate(2026, 4, 30);
-        Prepare(Book.Data.AddNewEntryMod(fixMod));
+        QVERIFY(Book.Data.AddNewEntryMod(fixMod));
         Part = Book.Add([](cEntryItem& entry) { entry.EntryValue = 500; });
         Part.EntryFlags = u"split=%1"_s.arg(Part.ID);
-        Prepare(Book.Data.ChangeEntry(Part));
+        QVERIFY(Book.Data.ChangeEntry(Part));
         (void)Book.Add([this](cEntryItem& entry) { entry.EntryFlags = Part.EntryFlags; });
         (void)Book.Add([](cEntryItem& entry) { entry.EntryValue = 12345678; });
         cImportEntry row;
@@ -124,15 +124,8 @@ struct cScene
         row.ImportPurpose = u"Einkauf"_s;
         row.ImportValue = -1250;
         Book.Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
-        Prepare(Book.Data.AddNewImportEntry(row));
+        QVERIFY(Book.Data.AddNewImportEntry(row));
         Row = row.ID;
-    }
-
-    static void Prepare(bool isDone)
-    {
-        if (!isDone) {
-            qFatal("the book was not filled");
-        }
     }
 
     cTestBook Book;
@@ -203,7 +196,7 @@ struct cScene
         Setup.SetUserId(QStringLiteral("testuser"));
         Setup.SetProductId(QStringLiteral("PRODUKTID0123456789012345"));
         while (Setup.Page() != page) {
-            Prepare(Setup.Next());
+            QVERIFY(Setup.Next());
         }
     }
 };

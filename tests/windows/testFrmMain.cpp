@@ -23,6 +23,7 @@
 #include <QMimeData>
 #include <QPointer>
 #include <QSignalSpy>
+#include <QSplitter>
 #include <QStatusBar>
 #include <QToolButton>
 #include <QTreeView>
@@ -481,8 +482,28 @@ private Q_SLOTS:
     void PlaceIsInReach()
     {
         QFETCH(QRect, Place);
-        QFETCH(QRect, Shown);
-        QCOMPARE(modPlace::Visible(Place, {QRect(0, 0, 1280, 1000), QRect(1280, 0, 1280, 1000)}), Shown);
+        QTEST(modPlace::Visible(Place, {QRect(0, 0, 1280, 1000), QRect(1280, 0, 1280, 1000)}), "Shown");
+    }
+
+    // What must not be lost where the window is small and its type large.
+    void FilterAndBalancesStayInSight()
+    {
+        m_scene->Book.Add([](cEntryItem& entry) { entry.EntryValue = 1234567890; });
+        m_scene->Model.BookChanged();
+        frmMain& window = m_scene->Window;
+        const QFontMetrics metrics = window.fontMetrics();
+        window.resize(metrics.averageCharWidth() * 85, metrics.height() * 31);
+        window.findChild<QSplitter*>()->setSizes({metrics.averageCharWidth() * 10, 1000});
+        QTest::qWait(5);
+        const auto& accounts = *window.findChild<cAccountPanel*>()->findChild<QTreeView*>();
+        const int last = accounts.model()->rowCount() - 1;
+        const QModelIndex total = accounts.model()->index(last, cAccountListModel::Balance);
+        QVERIFY(accounts.visualRect(total).width() >= accounts.sizeHintForIndex(total).width());
+        QVERIFY(accounts.viewport()->rect().contains(accounts.visualRect(total)));
+        const auto& bar = *window.findChild<cViewBar*>();
+        for (const QWidget* field : bar.findChildren<QLineEdit*>()) {
+            QVERIFY(bar.rect().contains(QRect(field->mapTo(&bar, QPoint()), field->size())));
+        }
     }
 
 private:

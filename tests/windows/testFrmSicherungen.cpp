@@ -23,9 +23,7 @@ struct cMachine : cFakeMachine
 {
     cMachine()
     {
-        if (!Book.Open(File.Make("INSERT INTO data (EntryDate) VALUES ('2026-01-31')"))) {
-            qFatal("cannot open the book");
-        }
+        QVERIFY(Book.Open(File.Make("INSERT INTO data (EntryDate) VALUES ('2026-01-31')")));
         Configuration.SetDatabase(&Book.Settings());
         Plan.RunIfDue();
     }

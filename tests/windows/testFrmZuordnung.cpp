@@ -1,4 +1,3 @@
-#include "base/modAmount.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
@@ -31,35 +30,14 @@ struct cScene : cTestBook
         Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
         Review.View().SetOpenOnly(false);
         Review.View().SetGrouping(0);
-        Spend(2310, u"REWE"_s);
-        Spend(5000, u"Schuhe"_s);
-        Stage(-23.1, u"REWE"_s);
-        Stage(-50, u"Jana"_s);
-        Stage(-99, u"Unbekannt"_s);
+        Spend(day, 2310, u"REWE"_s);
+        Spend(day, 5000, u"Schuhe"_s);
+        Stage(u"1234567"_s, day, -2310, u"REWE"_s);
+        Stage(u"1234567"_s, day, -5000, u"Jana"_s);
+        Stage(u"1234567"_s, day, -9900, u"Unbekannt"_s);
         Page.resize(1200, 600);
         modWindowHands::Bring(Page);
         Tree.setFocus();
-    }
-
-    void Spend(qint64 cents, const QString& text)
-    {
-        Add([&](cEntryItem& entry) {
-            entry.EntryDate = day;
-            entry.EntryValue = cents;
-            entry.EntryDescription = text;
-        });
-    }
-
-    void Stage(double value, const QString& name)
-    {
-        cImportEntry row;
-        row.ImportAccount = u"1234567"_s;
-        row.ImportDate = day;
-        row.ImportBeneficiary = name;
-        row.ImportValue = modAmount::ToCents(value);
-        if (!Data.AddNewImportEntry(row)) {
-            qFatal("row not added");
-        }
     }
 
     void Select(int row) { Tree.setCurrentIndex(Review.Rows().index(row, 0)); }

@@ -1,4 +1,5 @@
 #include "app/cAppearance.h"
+#include "app/machine/cDesktopNotifier.h"
 #include "cTestBus.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
@@ -7,9 +8,12 @@
 #include "windows/look/modTone.h"
 
 #include <QApplication>
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusVariant>
 #include <QLabel>
+#include <QStringList>
+#include <QVariantMap>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -47,9 +51,30 @@ void Choose(cFakeRegistry& registry, const QString& word)
     cConfiguration(registry).SaveSetting(modSettingKey::Appearance, word, eSettingPlace::Registry);
 }
 
+// What stands for the notes of the desktop on the bus.
+class cFakeNotes final : public QObject
+{
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
+
+public:
+    QStringList Texts;
+
+public Q_SLOTS:
+    // The signature is the interface's.
+    // NOLINTNEXTLINE(readability-function-size)
+    uint Notify(const QString& program, uint /*replaces*/, const QString& /*icon*/, const QString& title,
+                const QString& text, const QStringList& /*actions*/, const QVariantMap& /*hints*/, int /*timeout*/)
+    {
+        Texts += {program, title, text};
+        return 1;
+    }
+};
+
 } // namespace
 
-class testAppearance final : public QObject
+// The colours of the desktop are followed, and notes arrive there.
+class testDesktop final : public QObject
 {
     Q_OBJECT
 
@@ -118,7 +143,26 @@ private Q_SLOTS:
         QDBusConnection::disconnectFromBus(u"portal"_s);
         QDBusConnection::disconnectFromBus(u"program"_s);
     }
+
+    void HandsNotesOver()
+    {
+        const cTestBus bus;
+        QVERIFY(!bus.Address.isEmpty());
+        QDBusConnection desktop = QDBusConnection::connectToBus(bus.Address, u"desktop"_s);
+        const QDBusConnection client = QDBusConnection::connectToBus(bus.Address, u"notifier"_s);
+        cDesktopNotifier notifier(client);
+        QVERIFY(!notifier.Notify(u"Kontorelle"_s, u"niemand da"_s));
+        QVERIFY(!cDesktopNotifier(QDBusConnection(u"kein Bus"_s)).Notify(u"Kontorelle"_s, u"kein Bus"_s));
+        cFakeNotes notes;
+        QVERIFY(desktop.registerObject(u"/org/freedesktop/Notifications"_s, &notes, QDBusConnection::ExportAllSlots));
+        QVERIFY(desktop.registerService(u"org.freedesktop.Notifications"_s));
+        QVERIFY(notifier.Notify(u"Das steht an"_s, u"Miete & Strom <heute>"_s));
+        const QStringList expected{u"Kontorelle"_s, u"Das steht an"_s, u"Miete &amp; Strom &lt;heute&gt;"_s};
+        QTRY_COMPARE(notes.Texts, expected);
+        QDBusConnection::disconnectFromBus(u"desktop"_s);
+        QDBusConnection::disconnectFromBus(u"notifier"_s);
+    }
 };
 
-TEST_CLASS(testAppearance, QApplication)
-#include "testAppearance.moc"
+TEST_CLASS(testDesktop, QApplication)
+#include "testDesktop.moc"
