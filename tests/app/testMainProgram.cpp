@@ -45,23 +45,6 @@ struct cMachine : cFakeMachine
     const cMainProgram::cPorts Ports{Shell, Registry, User, Rescue, Clock};
 };
 
-// An environment variable for a while.
-class cVariable
-{
-public:
-    cVariable(const char* name, const QByteArray& value) : m_name(name), m_former(qgetenv(name))
-    {
-        qputenv(name, value);
-    }
-    cVariable(const cVariable&) = delete;
-    cVariable& operator=(const cVariable&) = delete;
-    ~cVariable() { qputenv(m_name, m_former); }
-
-private:
-    const char* m_name;
-    QByteArray m_former;
-};
-
 QString FirstMenu(cMainProgram& program)
 {
     return program.Window().menuBar()->actions().constFirst()->text().remove(u'&');
@@ -206,7 +189,9 @@ private Q_SLOTS:
     {
         QVERIFY(QFile::copy(QStringLiteral(ENGLISH), m_machine->Shell.Folder(u"program"_s) + u"/kontorelle_en.qm"_s));
         const QString path = m_machine->File.Make(oneEntry);
-        const cVariable system("LC_ALL", "en_GB.UTF-8");
+        const QByteArray before = qgetenv("LC_ALL");
+        qputenv("LC_ALL", "en_GB.UTF-8");
+        const auto restore = qScopeGuard([&] { qputenv("LC_ALL", before); });
         {
             cMainProgram program(m_machine->Ports, u"0.1.0"_s);
             QVERIFY(program.Start({.Book = path}));

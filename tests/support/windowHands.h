@@ -8,6 +8,8 @@
 #include <QTest>
 #include <QUrl>
 
+#include <algorithm>
+
 // What the hands of a user do in a window.
 namespace modWindowHands {
 
@@ -51,6 +53,15 @@ tField& Labelled(const QWidget& window, const QString& text)
     const auto& label = Find<QLabel>(
         window, text, [&](const QLabel& each) { return each.buddy() != nullptr && each.text().remove(u'&') == text; });
     return *qobject_cast<tField*>(label.buddy());
+}
+
+// Whether a label in sight says this.
+inline bool Shows(const QWidget& window, const QString& text)
+{
+    const QList<QLabel*> labels = window.findChildren<QLabel*>();
+    return std::any_of(labels.begin(), labels.end(), [&](const QLabel* label) {
+        return label->isVisibleTo(&window) && label->text().contains(text);
+    });
 }
 
 // Lets data fall on a place of a widget, as far as that lets it come; whether it was taken.

@@ -252,20 +252,6 @@ private Q_SLOTS:
         QCOMPARE(access.Chosen(state), QList({state.Accounts[0]}));
         QCOMPARE(access.LastFetch(state, state.Accounts[0]), QDate()); // else the days would be missing for ever
     }
-
-    void NumbersLeadToTheBook()
-    {
-        cTestBook book;
-        cBankAccess access(book.Tools);
-        cBankState state = State(u"erika"_s);
-        QVERIFY(access.Assign(state, state.Accounts[0], u"Girokonto"_s));
-        QVERIFY(access.Assign(state, state.Accounts[1], u"Urlaubskasse"_s)); // a new one
-        QCOMPARE(access.BookAccountOf(state, state.Accounts[0]), u"Girokonto"_s);
-        QCOMPARE(access.BookAccountOf(state, state.Accounts[1]), u"Urlaubskasse"_s);
-        QCOMPARE(book.Settings->Get(modSettingKey::BankNumber.Of(u"77"_s)), u"Urlaubskasse"_s);
-        QCOMPARE(book.Settings->Get(modSettingKey::BankNumber.Of(state.Accounts[1].Iban)), u"Urlaubskasse"_s);
-        QVERIFY(book.Data.FindAccount(u"Urlaubskasse"_s));
-    }
 };
 
 TEST_CLASS(testBankAccess, QCoreApplication)

@@ -12,6 +12,7 @@
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "support/windowTexts.h"
+#include "tanQuestion.h"
 #include "testbank/cTestBank.h"
 #include "testbank/cTestBankUser.h"
 #include "testbank/cTestHttps.h"
@@ -79,12 +80,15 @@
 
 #include <QApplication>
 #include <QBoxLayout>
-#include <QBuffer>
 #include <QCheckBox>
 #include <QFile>
 #include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
 #include <QRegularExpression>
 #include <QTabWidget>
+#include <QTreeWidget>
 
 #include <algorithm>
 #include <functional>
@@ -220,21 +224,10 @@ std::unique_ptr<QWidget> MakeAssistant(cScene& scene, const QString& file)
     return scene.Assistant ? std::make_unique<frmImportAssistent>(*scene.Assistant) : nullptr;
 }
 
-// With everything that a bank may send.
 std::unique_ptr<QWidget> MakeTan(cScene& scene, eTanDisplay display)
 {
-    cTanQuestion question;
-    question.Bank = u"Volksbank Raiffeisenbank Ahornstadt-Hohenfels eG"_s;
-    question.Procedure = u"Smart-TAN plus optisch"_s;
-    question.Medium = u"Karte 1234567890"_s;
-    question.Label = u"TAN-Eingabe:"_s;
+    cTanQuestion question = TanQuestion(display);
     question.Challenge = u"Umsatzabfrage\r\n"_s + bankWords;
-    question.Display = display;
-    question.Flicker = QByteArray("\x1f\x1e", 2);
-    QImage image(10, 10, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QBuffer file(&question.Picture);
-    image.save(&file, "PNG");
     scene.Book.Settings->Set(modSettingKey::FlickerWidth, u"90"_s);
     scene.Tan = std::make_unique<cTanEntry>(question, *scene.Book.Settings);
     return std::make_unique<frmTan>(*scene.Tan);
@@ -244,22 +237,10 @@ std::unique_ptr<QWidget> MakeTan(cScene& scene, eTanDisplay display)
 // of their layouts, what banks say, the names of languages and of the program, and the months of the toolkit.
 QStringList Untranslatable(cScene& scene)
 {
-    QStringList texts{u"Kontorelle"_s,
-                      u"Deutsch"_s,
-                      u"English"_s,
-                      u"Miete"_s,
-                      u"Einkauf"_s,
-                      scene.Book.Path(),
-                      QFileInfo(scene.Book.Path()).completeBaseName(),
-                      u"Volksbank Raiffeisenbank Ahornstadt-Hohenfels eG"_s,
-                      u"Sparkasse Ahornstadt"_s,
-                      u"chipTAN optisch (Flickercode am Bildschirm)"_s,
-                      u"Smart-TAN plus optisch, Karte 1234567890"_s,
-                      u"SMS"_s,
-                      u"Anmeldename"_s, // as a bank calls it
-                      u"TAN-Eingabe:"_s,
-                      u"Umsatzabfrage"_s,
-                      bankWords};
+    QStringList texts = u"Kontorelle|Deutsch|English|Miete|Einkauf|Volksbank Raiffeisenbank Ahornstadt-Hohenfels eG|"
+                        "Sparkasse Ahornstadt|chipTAN optisch (Flickercode am Bildschirm)|SMS|TAN-Eingabe:|"
+                        "Smart-TAN plus optisch, Karte 1234567890|Anmeldename|Umsatzabfrage"_s.split(u'|');
+    texts << bankWords << scene.Book.Path() << QFileInfo(scene.Book.Path()).completeBaseName();
     const cBankProfile profile = cScene::BankProfile();
     for (const cOfferedAccount& account : profile.Accounts) {
         texts << QString::fromUtf8(account.Product).replace(u'&', u"&&"_s);
@@ -499,6 +480,39 @@ class testEveryWindow final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // What the others look for is found in a window that has it.
+    void FaultsAreFound()
+    {
+        QWidget window;
+        auto* layout = new QVBoxLayout(&window);
+        auto* first = new QPushButton(u"&Speichern"_s);
+        auto* second = new QPushButton(u"&Suchen"_s);
+        auto* nameless = new QLineEdit;
+        auto* label = new QLabel(u"Ein Text, der nicht hineinpasst"_s);
+        label->setFixedWidth(20);
+        auto* day = new QTreeWidget;
+        day->setAccessibleName(u"Tage"_s);
+        day->setHeaderLabels({u"Tag"_s, u"Bis"_s});
+        day->addTopLevelItem(new QTreeWidgetItem({u"01.01.2026"_s, u"31.01.2026"_s}));
+        day->setColumnWidth(0, 30);
+        for (QWidget* widget : QWidgetList{first, second, nameless, label, day, new QCheckBox(u"b&is"_s)}) {
+            layout->addWidget(widget);
+        }
+        window.show();
+        QCOMPARE(modWindowFaults::DoubleMnemonics(window).size(), 1);
+        QCOMPARE(modWindowFaults::Nameless(window).size(), 1);
+        QCOMPARE(modWindowFaults::Clipped(window).size(), 1);
+        QCOMPARE(modWindowFaults::MisreadMnemonics(window).size(), 1);
+        QCOMPARE(modWindowFaults::CutValues(window).size(), 1);
+        window.setMinimumWidth(smallScreen.width() + 1);
+        QCOMPARE(modWindowFaults::TooLarge(window, smallScreen).size(), 1);
+        const QString pseudo = cPseudoLanguage::Of(u"{0} &Einträge von <b>Konten</b>"_s);
+        QVERIFY2(pseudo.contains(u"{0}"_s) && pseudo.contains(u"<b>"_s) && pseudo.size() > 39, qPrintable(pseudo));
+        QVERIFY(!modWindowTexts::IsUntranslated(u"1.234,50 € "_s + pseudo + u" (Ctrl+N)"_s, {}));
+        QVERIFY(!modWindowTexts::IsUntranslated(u"Miete: [Sáldóó]"_s, {u"Miete"_s}));
+        QVERIFY(modWindowTexts::IsUntranslated(pseudo + u" Saldo"_s, {u"Miete"_s}));
+    }
+
     void CanBeReadAndOperated_data()
     {
         QTest::addColumn<fnMake>("Make");

@@ -534,10 +534,7 @@ private Q_SLOTS:
             QVERIFY(!m_scene->Box(hidden).isVisible());
         }
         QVERIFY(!m_scene->Form->findChild<QWidget*>(u"txtBeschreibung"_s)->isVisible()); // it would be lost
-        const QList<QLabel*> labels = m_scene->Form->findChildren<QLabel*>();
-        QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
-            return label->isVisible() && label->text() == u"Bisher wurde noch kein Startguthaben festgelegt:"_s;
-        }));
+        QVERIFY(modWindowHands::Shows(*m_scene->Form, u"Bisher wurde noch kein Startguthaben festgelegt:"_s));
         QCOMPARE(FocusName(), u"txtBetrag"_s);
         Type(u"1.250,5"_s);
         Key(Qt::Key_Return);

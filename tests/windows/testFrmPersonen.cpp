@@ -69,14 +69,13 @@ private Q_SLOTS:
         QVERIFY(cPeople(book.Tools).Add(u"Änne; & Söhne"_s));
         const cEntryItem entry = book.Add([](cEntryItem& item) { item.EntryFlags = u"andere=1"_s; });
         cEntryEditor editor(book.Tools);
-        std::optional<cEntryFields> fields = editor.Load(entry.ID);
-        QVERIFY(fields);
-        frmBuchung form(editor, *fields);
+        cEntryFields fields = editor.Load(entry.ID).value();
+        frmBuchung form(editor, fields);
         form.show();
         auto& payer = *form.findChild<QComboBox*>(u"cboBezahltVon"_s);
         QVERIFY(payer.isVisible());
-        fields->Payer = payer.itemData(1).toString();
-        QCOMPARE(editor.Save(*fields), eEntrySaved::Saved);
+        fields.Payer = payer.itemData(1).toString();
+        QCOMPARE(editor.Save(fields), eEntrySaved::Saved);
         const cEntryItem stored = *book.Data.LoadEntry(entry.ID);
         QCOMPARE(modPeople::Payer(stored), u"Änne; & Söhne"_s);
         QVERIFY(stored.EntryFlags.startsWith(u"andere=1;"));

@@ -1,8 +1,12 @@
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
+#include "support/fakes.h"
 #include "support/testFormat.h"
+#include "support/windowHands.h"
+#include "views/help/cManualBrowser.h"
 #include "views/report/cReportTreeModel.h"
 #include "views/report/modReportHtml.h"
+#include "windows/help/frmHandbuch.h"
 #include "windows/report/cReportDocument.h"
 #include "windows/report/cReportPane.h"
 #include "windows/report/cReportPrinter.h"
@@ -17,6 +21,9 @@
 #include <QLineEdit>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QTimer>
+#include <QTreeWidget>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -98,13 +105,52 @@ struct cScene
 
 const QString rentLink = u"SHOWENTRIES://Ausgaben|01.01.2026|31.12.2026|Alle Konten|Wohnung; Miete"_s;
 
+struct cManualScene
+{
+    cManualScene()
+    {
+        QFile::link(QStringLiteral(MANUAL), Shell.InstalledFile(u"handbuch"_s));
+        Browser = std::make_unique<cManualBrowser>(Shell, User);
+        Window = std::make_unique<frmHandbuch>(*Browser);
+        Window->Present();
+        QVERIFY(QTest::qWaitForWindowActive(Window.get()));
+        View = Window->findChild<cReportView*>();
+        const QList<QTreeWidget*> trees = Window->findChildren<QTreeWidget*>();
+        for (QTreeWidget* tree : trees) {
+            (tree->accessibleName() == u"Inhalt" ? Contents : Hits) = tree;
+        }
+    }
+
+    // A text of the page, in pixels of the viewport.
+    [[nodiscard]] QRect PlaceOf(const QString& text) const
+    {
+        const int at = static_cast<int>(View->PlainText().indexOf(text));
+        return at < 0 ? QRect() : View->PlaceOf(at).translated(-View->viewport()->pos());
+    }
+
+    cFakeShell Shell;
+    cFakeUser User;
+    std::unique_ptr<cManualBrowser> Browser;
+    std::unique_ptr<frmHandbuch> Window;
+    cReportView* View = nullptr;
+    QTreeWidget* Contents = nullptr;
+    QTreeWidget* Hits = nullptr;
+};
+
+// Where a real click of the mouse would land: a window that a dialog blocks gets none.
+void Click(QWidget& widget)
+{
+    QWidget* window = widget.window();
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, widget.mapTo(window, widget.rect().center()));
+}
+
 } // namespace
 
 using cLine = cReportPrinter::cLine;
 using cLines = std::vector<cLine>;
 Q_DECLARE_METATYPE(cLines)
 
-// What a report looks like is told by where its words and areas stand.
+// What a report and the manual look like is told by where their words and areas stand.
 class testReportView final : public QObject
 {
     Q_OBJECT
@@ -348,6 +394,103 @@ private Q_SLOTS:
         QVERIFY(tree.isExpanded(at(u"Wohnung"_s)));
         model.SetFigures(Figures(eReport::Average, {flat})); // another report opens as it always does
         QVERIFY(!tree.isExpanded(at(u"Wohnung"_s)));
+    }
+
+    void GoesToTheHeading()
+    {
+        const cManualScene manual;
+        manual.Browser->Open(u"02-kontoauszug.html#buchen"_s);
+        const QRect heading = manual.PlaceOf(u"Mit der Eingabetaste allein"_s);
+        QVERIFY2(heading.top() > 0 && heading.top() < 100, qPrintable(QString::number(heading.top())));
+        QCOMPARE(manual.Contents->currentItem()->text(0), u"Buchen"_s);
+    }
+
+    void FollowsLinksAndGoesBackToThePlace()
+    {
+        const cManualScene manual;
+        manual.Browser->Open(u"02-kontoauszug.html#buchen"_s);
+        const int left = manual.View->verticalScrollBar()->value();
+        QVERIFY(left > 0);
+        Q_EMIT manual.View->LinkClicked(u"03-eintraege.html"_s, u"Eintrag"_s);
+        QVERIFY(manual.View->PlainText().startsWith(u"Einträge erfassen"_s));
+        QCOMPARE(manual.View->verticalScrollBar()->value(), 0);
+        QTest::keyClick(manual.Window.get(), Qt::Key_Left, Qt::AltModifier);
+        QCOMPARE(manual.View->verticalScrollBar()->value(), left);
+        QVERIFY(modWindowHands::Button(*manual.Window, u"Vor"_s).isEnabled());
+    }
+
+    void SearchListsPlacesAndEnterOpensThem()
+    {
+        const cManualScene manual;
+        auto* field = manual.Window->findChild<QLineEdit*>();
+        field->setFocus();
+        QTest::keyClicks(field, u"photoTAN"_s);
+        QVERIFY(manual.Hits->isVisible());
+        QVERIFY(manual.Hits->topLevelItemCount() > 1);
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(manual.Browser->Place().Page, u"faq.html"_s); // the question has the word in its heading
+        QVERIFY(manual.View->FoundCount() > 0);
+        field->clear();
+        QVERIFY(manual.Contents->isVisible());
+    }
+
+    void PicturesAreShown()
+    {
+        const cManualScene manual;
+        manual.Browser->Open(u"01-start.html"_s);
+        const int above = manual.PlaceOf(u"Fast alles geht ohne Maus"_s).bottom();
+        const int below = manual.PlaceOf(u"Ein anderer Ordner"_s).top();
+        QVERIFY2(below - above > 200, qPrintable(QStringLiteral("%1 to %2").arg(above).arg(below)));
+    }
+
+    void HeadsOfTablesStandAboveTheirRows()
+    {
+        const cManualScene manual;
+        manual.Browser->Open(u"02-kontoauszug.html"_s);
+        const QRect head = manual.PlaceOf(u"gut zu wissen"_s);
+        QVERIFY(head.isValid());
+        QVERIFY(head.bottom() < manual.PlaceOf(u".sta"_s).top());
+    }
+
+    void ListsAreNumbered()
+    {
+        const cManualScene manual;
+        manual.Browser->Open(u"faq.html"_s);
+        const QRect second = manual.PlaceOf(u"2."_s);
+        const QRect words = manual.PlaceOf(u"Auf dem neuen Rechner"_s);
+        QVERIFY(second.isValid());
+        QVERIFY(second.right() < words.left() && std::abs(second.top() - words.top()) <= 3);
+    }
+
+    // Whoever fills in a form reads beside it how, one dialog above another too.
+    void CanBeUsedBesideADialog()
+    {
+        const cManualScene manual;
+        manual.Browser->Open(u"05-serien.html"_s);
+        manual.Browser->Open(u"08-suchen.html"_s);
+        QDialog first;
+        QDialog second(&first);
+        QStringList pages; // where the button led beside each dialog
+        const auto goBack = [&](const QDialog& dialog) {
+            const bool isBeside = QTest::qWaitFor(
+                [&] { return manual.Window->windowHandle()->transientParent() == dialog.windowHandle(); });
+            Click(modWindowHands::Button(*manual.Window, u"Zurück"_s));
+            pages.append(isBeside ? manual.Browser->Place().Page : QString());
+        };
+        QTimer::singleShot(0, &first, [&] {
+            goBack(first);
+            QTimer::singleShot(0, &second, [&] {
+                goBack(second);
+                second.reject();
+            });
+            second.exec();
+            first.reject();
+        });
+        first.exec();
+        QCOMPARE(pages, QStringList({u"05-serien.html"_s, u"index.html"_s}));
+        QVERIFY(manual.Window->isVisible());
+        Click(modWindowHands::Button(*manual.Window, u"Vor"_s));
+        QCOMPARE(manual.Browser->Place().Page, u"05-serien.html"_s);
     }
 };
 

@@ -3,17 +3,22 @@
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "support/windowHands.h"
+#include "tanQuestion.h"
+#include "testbank/cBankHousehold.h"
 #include "views/bank/cApprovalWait.h"
+#include "views/bank/cBankFetch.h"
 #include "views/bank/cBankLogView.h"
 #include "views/bank/cTanEntry.h"
+#include "views/statement/cStatementDesk.h"
+#include "windows/bank/cFetchTree.h"
 #include "windows/bank/cFlickerView.h"
 #include "windows/bank/cTanPictureView.h"
+#include "windows/bank/frmAbruf.h"
 #include "windows/bank/frmPin.h"
 #include "windows/bank/frmProtokoll.h"
 #include "windows/bank/frmTan.h"
 
 #include <QApplication>
-#include <QBuffer>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QLabel>
@@ -28,29 +33,19 @@ using namespace modWindowHands;
 
 namespace {
 
-cTanQuestion Question(eTanDisplay display)
+struct cScene : cHousehold
 {
-    cTanQuestion question;
-    question.Bank = u"Sparkasse Ahornstadt"_s;
-    question.Procedure = u"chipTAN"_s;
-    question.Label = u"TAN-Eingabe:"_s;
-    question.Challenge = u"<u>Umsatzabfrage</u>\r\nKonto 4711"_s;
-    question.Display = display;
-    question.Flicker = QByteArray("\x1f\x1e\x01", 3);
-    question.MostCharacters = 6;
-    question.IsNumber = true;
-    return question;
-}
+    cScene() { Tell(cBankMonth::Example()); }
 
-QByteArray Picture()
-{
-    QImage image(10, 10, QImage::Format_RGB32);
-    image.fill(Qt::red);
-    QByteArray file;
-    QBuffer buffer(&file);
-    image.save(&buffer, "PNG");
-    return file;
-}
+    [[nodiscard]] QString Cell(int column) const
+    {
+        return Window.findChild<cFetchTree*>()->topLevelItem(0)->child(0)->text(column);
+    }
+
+    cStatementDesk Desk{Tools};
+    cBankFetch Fetch{Tools, Desk.Files(), {Https, Customer, u"1.0.0"_s}};
+    frmAbruf Window{Fetch};
+};
 
 QLineEdit& Field(const QDialog& window)
 {
@@ -79,15 +74,71 @@ QString NextFrame(cFlickerView& view)
 
 } // namespace
 
-class testFrmTan final : public QObject
+// The forms of online banking: fetch, TAN and approval, PIN, log.
+class testBankForms final : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void EnterFetchesAndEnterGoesToTheReview()
+    {
+        cScene scene;
+        scene.Window.show();
+        QVERIFY(QTest::qWaitForWindowExposed(&scene.Window));
+        QCOMPARE(scene.Cell(2), u"noch nie abgerufen"_s);
+
+        QTest::keyClick(&scene.Window, Qt::Key_Return);
+        QVERIFY2(scene.Cell(2).startsWith(u"7 neu"), qPrintable(scene.Cell(2)));
+        QVERIFY(scene.Cell(3).contains(u"am 31.03.2026") || !scene.Cell(3).isEmpty());
+        QVERIFY(scene.Window.isVisible());
+
+        QTest::keyClick(&scene.Window, Qt::Key_Return);
+        QCOMPARE(scene.Window.result(), int(QDialog::Accepted));
+    }
+
+    void SaysWhyNotAndStays()
+    {
+        cScene scene;
+        scene.Bank.Profile.Accounts.first().Refusal = "9210::Konto gesperrt.";
+        scene.Window.show();
+        QTest::keyClick(&scene.Window, Qt::Key_Return);
+        QVERIFY(modWindowHands::Shows(scene.Window, u"Konto gesperrt."_s));
+        QVERIFY(scene.Window.isVisible());
+    }
+
+    void CancelEndsTheRun()
+    {
+        cScene scene;
+        scene.Window.show();
+        connect(&scene.Fetch, &cBankFetch::StepShown, &scene.Window, [&] { scene.Window.reject(); });
+        QTest::keyClick(&scene.Window, Qt::Key_Return);
+        QCOMPARE(scene.Fetch.Lines().constFirst().Failure.Fault, eBankFault::Cancelled);
+        QCOMPARE(scene.Desk.Rows().size(), 0);
+        QVERIFY(scene.Window.isVisible());
+        scene.Window.reject();
+        QVERIFY(!scene.Window.isVisible());
+    }
+
+    void AsksForALoginWhereThereIsNone()
+    {
+        cTestBook book;
+        cTestBank bank{cBankProfile()};
+        cTestHttps https(bank);
+        cTestBankUser customer(bank);
+        cStatementDesk desk(book.Tools);
+        cBankFetch fetch(book.Tools, desk.Files(), {https, customer, u"1.0.0"_s});
+        frmAbruf window(fetch);
+        QSignalSpy banks(&window, &frmAbruf::BanksRequested);
+        window.show();
+        QTest::keyClick(&window, Qt::Key_Return);
+        QCOMPARE(banks.size(), 1);
+        QCOMPARE(https.Posts, 0);
+    }
+
     void TanGoesByKeyboard()
     {
         cTestBook book;
-        cTanEntry entry(Question(eTanDisplay::Flicker), *book.Settings);
+        cTanEntry entry(TanQuestion(eTanDisplay::Flicker), *book.Settings);
         frmTan window(entry);
         Bring(window);
         QCOMPARE(QApplication::focusWidget(), &Field(window));
@@ -116,7 +167,7 @@ private Q_SLOTS:
     {
         QFETCH(int, way);
         cTestBook book;
-        cTanEntry entry(Question(eTanDisplay::Text), *book.Settings);
+        cTanEntry entry(TanQuestion(eTanDisplay::Text), *book.Settings);
         frmTan window(entry);
         window.show();
         QTest::keyClicks(&Field(window), u"123456"_s);
@@ -136,7 +187,7 @@ private Q_SLOTS:
     void WordsOfTheBankAreNoMarkup()
     {
         cTestBook book;
-        cTanEntry entry(Question(eTanDisplay::Text), *book.Settings);
+        cTanEntry entry(TanQuestion(eTanDisplay::Text), *book.Settings);
         const frmTan window(entry);
         const auto* words = window.findChild<QLabel*>(u"words"_s);
         QCOMPARE(words->text(), u"<u>Umsatzabfrage</u>\nKonto 4711"_s);
@@ -176,7 +227,7 @@ private Q_SLOTS:
     void DialsChangeBarsAndAreKept()
     {
         cTestBook book;
-        cTanEntry entry(Question(eTanDisplay::Flicker), *book.Settings);
+        cTanEntry entry(TanQuestion(eTanDisplay::Flicker), *book.Settings);
         frmTan window(entry);
         window.show();
         auto* bars = window.findChild<cFlickerView*>();
@@ -195,8 +246,7 @@ private Q_SLOTS:
     void PictureIsShownInItsWidth()
     {
         cTestBook book;
-        cTanQuestion question = Question(eTanDisplay::Picture);
-        question.Picture = Picture();
+        cTanQuestion question = TanQuestion(eTanDisplay::Picture);
         cTanEntry entry(question, *book.Settings);
         frmTan window(entry);
         window.show();
@@ -211,16 +261,12 @@ private Q_SLOTS:
     void BrokenPictureIsSaid()
     {
         cTestBook book;
-        cTanQuestion question = Question(eTanDisplay::Picture);
+        cTanQuestion question = TanQuestion(eTanDisplay::Picture);
         question.Picture = "abcde";
         cTanEntry entry(question, *book.Settings);
         const frmTan window(entry);
         QVERIFY(window.findChild<cTanPictureView*>() == nullptr);
-        QStringList texts;
-        for (const QLabel* label : window.findChildren<QLabel*>()) {
-            texts.append(label->text());
-        }
-        QVERIFY(texts.contains(u"Das Bild der Bank lässt sich nicht anzeigen."_s));
+        QVERIFY(Shows(window, u"Das Bild der Bank lässt sich nicht anzeigen."_s));
     }
 
     void ApprovalAsksInTime()
@@ -292,5 +338,5 @@ private Q_SLOTS:
     }
 };
 
-TEST_CLASS(testFrmTan, QApplication)
-#include "testFrmTan.moc"
+TEST_CLASS(testBankForms, QApplication)
+#include "testBankForms.moc"
