@@ -31,9 +31,6 @@ namespace {
 
 constexpr const char* oneEntry = "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2026-01-31', 'Giro');";
 
-constexpr const char* oneTransaction =
-    "INSERT INTO import (ImportDate, ImportAccount, ImportValue) VALUES ('2026-03-01', '4711', '1.00');";
-
 // The window program on a book of a temporary folder.
 struct cMachine : cFakeMachine
 {
@@ -42,6 +39,16 @@ struct cMachine : cFakeMachine
         return QDir(File.Path(u"Sicherungen"_s)).entryList(QDir::Files, QDir::Name);
     }
 
+    [[nodiscard]] std::unique_ptr<cMainProgram> Start() const
+    {
+        auto program = std::make_unique<cMainProgram>(Ports, u"0.1.0"_s);
+        if (!program->Start({.Book = Book})) {
+            qFatal("no start");
+        }
+        return program;
+    }
+
+    const QString Book = File.Make(oneEntry);
     const cMainProgram::cPorts Ports{Shell, Registry, User, Rescue, Clock};
 };
 
@@ -74,12 +81,10 @@ private Q_SLOTS:
     // Closed, a changed book is copied; opened and closed again it is not, although the window has stored its view.
     void CopyAtClosing()
     {
-        const QString path = m_machine->File.Make(oneEntry);
         for (const QString& day : {u"15"_s, u"16"_s}) {
-            cMainProgram program(m_machine->Ports, u"0.1.0"_s);
             m_machine->Clock.Day = QDate(2026, 3, day.toInt());
-            QVERIFY(program.Start({.Book = path}));
-            QVERIFY(program.Window().close());
+            const auto program = m_machine->Start();
+            QVERIFY(program->Window().close());
             QCOMPARE(m_machine->Copies(), QStringList(u"data-auto-2026-03-15.backup"_s));
         }
         QCOMPARE(m_machine->User.Shown, QStringList());
@@ -88,59 +93,53 @@ private Q_SLOTS:
     // What is due today stands in the status bar a moment after the start, and goes when another book has nothing.
     void ReminderInTheStatusBar()
     {
-        const QString path =
-            m_machine->File.Make("INSERT INTO data (EntryDate, EntryDateEnd, EntryType, EntryInterval, "
-                                 "EntryAccount, EntryCategory, EntryValue, "
-                                 "EntryDescription) VALUES ('2026-02-15', '2050-01-01', 'Ausgabe', "
-                                 "'Monatlich', 'Giro', 'Wohnung', '700.00', "
-                                 "'Miete & mehr');");
-        cMainProgram program(m_machine->Ports, u"0.1.0"_s);
-        QVERIFY(program.Start({.Book = path}));
-        const auto* line = program.Window().findChild<QToolButton*>(u"cmdErinnerung"_s);
+        cTestFile::Run(m_machine->Book,
+                       "INSERT INTO data (EntryDate, EntryDateEnd, EntryType, EntryInterval, EntryAccount, "
+                       "EntryCategory, EntryValue, EntryDescription) VALUES ('2026-02-15', '2050-01-01', 'Ausgabe', "
+                       "'Monatlich', 'Giro', 'Wohnung', '700.00', 'Miete & mehr');");
+        const auto program = m_machine->Start();
+        const auto* line = program->Window().findChild<QToolButton*>(u"cmdErinnerung"_s);
         QVERIFY(line != nullptr && !line->isVisible());
         QTRY_VERIFY(line->isVisible());
         QVERIFY2(line->accessibleName().startsWith(u"Heute fällig: Miete & mehr"_s), qPrintable(line->text()));
-        QVERIFY(program.Window().close());
+        QVERIFY(program->Window().close());
     }
 
     // Kept from the menu, shown again by its key, and still so at the next start.
     void KeptViewComesBackByItsKey()
     {
-        const QString path = m_machine->File.Make(oneEntry);
         for (const bool isFirst : {true, false}) {
-            cMainProgram program(m_machine->Ports, u"0.1.0"_s);
-            QVERIFY(program.Start({.Book = path}));
-            cMainModel& model = program.Model();
-            program.Window().ShowPage(frmMain::ePage::Entries);
+            const auto program = m_machine->Start();
+            cMainModel& model = program->Model();
+            program->Window().ShowPage(frmMain::ePage::Entries);
             if (isFirst) {
                 model.TypeFilter(u"miete"_s);
                 model.ChooseGrouping(u"Nach Monat"_s);
                 m_machine->User.Choices = {u"Wohnen"_s, u"Läden"_s};
                 model.Execute(modCommand::SaveView);
-                program.Window().ShowPage(frmMain::ePage::Statements); // which keeps its own
-                program.Review().View().SetFilter(u"rewe"_s);
+                program->Window().ShowPage(frmMain::ePage::Statements); // which keeps its own
+                program->Review().View().SetFilter(u"rewe"_s);
                 model.Execute(modCommand::SaveView);
-                program.Review().View().SetFilter({});
+                program->Review().View().SetFilter({});
             }
             model.TypeFilter({});
             model.ChooseGrouping(modWord::KeineGruppierung);
-            program.Window().show();
-            QVERIFY(QTest::qWaitForWindowActive(&program.Window()));
-            QTest::keyClick(&program.Window(), Qt::Key_1, Qt::ControlModifier);
+            program->Window().show();
+            QVERIFY(QTest::qWaitForWindowActive(&program->Window()));
+            QTest::keyClick(&program->Window(), Qt::Key_1, Qt::ControlModifier);
             QCOMPARE(model.View().Filter, u"miete"_s);
             QCOMPARE(model.View().Grouping, u"Nach Monat"_s);
-            QCOMPARE(program.Window().Page(), frmMain::ePage::Entries);
-            QTest::keyClick(&program.Window(), Qt::Key_2, Qt::ControlModifier);
-            QCOMPARE(program.Window().Page(), frmMain::ePage::Statements);
-            QCOMPARE(program.Review().View().Filter(), u"rewe"_s);
-            program.Window().close();
+            QCOMPARE(program->Window().Page(), frmMain::ePage::Entries);
+            QTest::keyClick(&program->Window(), Qt::Key_2, Qt::ControlModifier);
+            QCOMPARE(program->Window().Page(), frmMain::ePage::Statements);
+            QCOMPARE(program->Review().View().Filter(), u"rewe"_s);
+            program->Window().close();
         }
     }
 
     // From the menu to the colours of an open window, and still so at the next start.
     void AppearanceIsChosenLive()
     {
-        const QString path = m_machine->File.Make(oneEntry);
         const auto checked = [](const frmMain& window) {
             QStringList texts;
             for (const QAction* action : window.findChildren<QAction*>()) {
@@ -151,35 +150,30 @@ private Q_SLOTS:
             return texts;
         };
         {
-            cMainProgram program(m_machine->Ports, u"0.1.0"_s);
-            QVERIFY(program.Start({.Book = path}));
-            QCOMPARE(checked(program.Window()), QStringList(u"Wie das &System"_s));
-            QVERIFY(program.Model().Execute(modCommand::AppearanceDark));
-            QCOMPARE(checked(program.Window()), QStringList(u"&Dunkel"_s));
-            QTRY_VERIFY(modTone::IsDark(program.Window().palette()));
-            QVERIFY(program.Window().close());
+            const auto program = m_machine->Start();
+            QCOMPARE(checked(program->Window()), QStringList(u"Wie das &System"_s));
+            QVERIFY(program->Model().Execute(modCommand::AppearanceDark));
+            QCOMPARE(checked(program->Window()), QStringList(u"&Dunkel"_s));
+            QTRY_VERIFY(modTone::IsDark(program->Window().palette()));
+            QVERIFY(program->Window().close());
         }
-        cMainProgram program(m_machine->Ports, u"0.1.0"_s);
-        QVERIFY(program.Start({.Book = path}));
-        QVERIFY(modTone::IsDark(program.Window().palette()));
-        QVERIFY(program.Model().Execute(modCommand::AppearanceSystem));
-        QTRY_VERIFY(!modTone::IsDark(program.Window().palette()));
+        const auto program = m_machine->Start();
+        QVERIFY(modTone::IsDark(program->Window().palette()));
+        QVERIFY(program->Model().Execute(modCommand::AppearanceSystem));
+        QTRY_VERIFY(!modTone::IsDark(program->Window().palette()));
     }
 
     // Nothing that the window shows reads this table, so nothing else would come upon it.
     void DamageIsFoundAndSaidOnce()
     {
-        const QString path = m_machine->File.Make(oneEntry);
         {
-            cMainProgram program(m_machine->Ports, u"0.1.0"_s);
-            QVERIFY(program.Start({.Book = path})); // brings the file up to date
+            const auto program = m_machine->Start();
         }
-        cTestFile::Damage(path, "account");
-        cMainProgram program(m_machine->Ports, u"0.1.0"_s);
-        QVERIFY(program.Start({.Book = path}));
+        cTestFile::Damage(m_machine->Book, "account");
+        const auto program = m_machine->Start();
         QTRY_COMPARE(m_machine->User.Asked.size(), 1);
         QVERIFY(m_machine->User.Asked[0].contains(u"ist beschädigt"_s));
-        QVERIFY(program.Window().close());
+        QVERIFY(program->Window().close());
         QCOMPARE(m_machine->User.Asked.size(), 1);
         QCOMPARE(m_machine->Copies(), QStringList());
     }
@@ -188,58 +182,54 @@ private Q_SLOTS:
     void LanguageFollowsTheSystemUntilChosen()
     {
         QVERIFY(QFile::copy(QStringLiteral(ENGLISH), m_machine->Shell.Folder(u"program"_s) + u"/kontorelle_en.qm"_s));
-        const QString path = m_machine->File.Make(oneEntry);
         const QByteArray before = qgetenv("LC_ALL");
         qputenv("LC_ALL", "en_GB.UTF-8");
         const auto restore = qScopeGuard([&] { qputenv("LC_ALL", before); });
         {
-            cMainProgram program(m_machine->Ports, u"0.1.0"_s);
-            QVERIFY(program.Start({.Book = path}));
-            QCOMPARE(FirstMenu(program), u"File"_s);
-            QCOMPARE(program.Tools().Settings.Get(modSettingKey::LanguageName), QString());
+            const auto program = m_machine->Start();
+            QCOMPARE(FirstMenu(*program), u"File"_s);
+            QCOMPARE(program->Tools().Settings.Get(modSettingKey::LanguageName), QString());
 
-            program.Model().ChooseGrouping(u"Nach Sparte"_s);
-            auto* german = program.Window().findChild<QMenu*>(u"languages"_s)->actions().at(1);
+            program->Model().ChooseGrouping(u"Nach Sparte"_s);
+            auto* german = program->Window().findChild<QMenu*>(u"languages"_s)->actions().at(1);
             QCOMPARE(german->text(), u"&Deutsch"_s);
             german->trigger();
-            QTRY_COMPARE(FirstMenu(program), u"Datei"_s);
-            QVERIFY(program.Window().isVisible());
-            QCOMPARE(program.Model().View().Grouping, u"Nach Sparte"_s);
-            QVERIFY(program.Window().close());
+            QTRY_COMPARE(FirstMenu(*program), u"Datei"_s);
+            QVERIFY(program->Window().isVisible());
+            QCOMPARE(program->Model().View().Grouping, u"Nach Sparte"_s);
+            QVERIFY(program->Window().close());
         } // which holds the book
-        cMainProgram next(m_machine->Ports, u"0.1.0"_s);
-        QVERIFY(next.Start({.Book = path}));
-        QCOMPARE(FirstMenu(next), u"Datei"_s);
+        const auto next = m_machine->Start();
+        QCOMPARE(FirstMenu(*next), u"Datei"_s);
     }
 
     // By the command in the main window, and in a dialog that waits for an answer.
     void HelpOpensTheChapterOfTheWindowInFront()
     {
         QFile::link(QStringLiteral(MANUAL), m_machine->Shell.InstalledFile(u"handbuch"_s));
-        cMainProgram program(m_machine->Ports, u"0.1.0"_s);
-        QVERIFY(program.Start({.Book = m_machine->File.Make(oneEntry)}));
+        const auto program = m_machine->Start();
         const auto activate = [&] {
-            program.Window().activateWindow();
-            return QTest::qWaitForWindowActive(&program.Window());
+            program->Window().activateWindow();
+            return QTest::qWaitForWindowActive(&program->Window());
         };
         QVERIFY(activate());
-        QTest::keyClick(&program.Window(), Qt::Key_F1);
+        QTest::keyClick(&program->Window(), Qt::Key_F1);
         QCOMPARE(ShownChapter(), u"Übersicht"_s);
         QVERIFY(activate());
-        program.Window().ShowPage(frmMain::ePage::Statistics);
+        program->Window().ShowPage(frmMain::ePage::Statistics);
         QCoreApplication::processEvents(); // the page is shown with the next round
-        QTest::keyClick(&program.Window(), Qt::Key_F1);
+        QTest::keyClick(&program->Window(), Qt::Key_F1);
         QCOMPARE(ShownChapter(), u"Auswertungen"_s);
         QVERIFY(activate());
         QString shown;
-        QTimer::singleShot(0, &program.Window(), [&] {
+        QTimer::singleShot(0, &program->Window(), [&] {
             QWidget* form = QApplication::activeModalWidget();
             QVERIFY(QTest::qWaitForWindowActive(form));
             QTest::keyClick(form->focusWidget(), Qt::Key_F1);
             shown = ShownChapter();
             form->close();
         });
-        program.Navigation().OpenNewEntry();
+        program->Navigation().OpenNewEntry();
         QCOMPARE(shown, u"Einträge erfassen"_s);
     }
 
@@ -248,10 +238,12 @@ private Q_SLOTS:
     {
         const QString paper = m_machine->File.Path(u"Auszug 03-2026.pdf"_s);
         cTestFile::Write(paper, "%PDF-1.4");
-        cMainProgram program(m_machine->Ports, u"0.1.0"_s);
-        QVERIFY(program.Start({.Book = m_machine->File.Make(oneTransaction)}));
+        cTestFile::Run(m_machine->Book,
+                       "INSERT INTO import (ImportDate, ImportAccount, ImportValue) "
+                       "VALUES ('2026-03-01', '4711', '1.00');");
+        const auto program = m_machine->Start();
         QStringList seen;
-        QTimer::singleShot(0, &program.Window(), [&] {
+        QTimer::singleShot(0, &program->Window(), [&] {
             auto* form = qobject_cast<frmKontoauszug*>(QApplication::activeModalWidget());
             QVERIFY(form != nullptr);
             Q_EMIT form->PapersDropped({paper});
@@ -269,34 +261,31 @@ private Q_SLOTS:
             }
             form->close();
         });
-        program.Model().Execute(modCommand::AccountStatement);
+        program->Model().Execute(modCommand::AccountStatement);
         QCOMPARE(seen, (QStringList{u"PDF-Auszüge: 4711"_s, u"März 2026 (8 bytes)"_s}));
-        program.Model().Execute(modCommand::Undo);
-        const cStatementListModel statement(program.Tools());
+        program->Model().Execute(modCommand::Undo);
+        const cStatementListModel statement(program->Tools());
         QCOMPARE(statement.PapersText(), u"&PDF-Auszüge…"_s);
-        QVERIFY(program.Window().close());
+        QVERIFY(program->Window().close());
     }
 
     // A failure marks the status bar until the log was looked at. A run that was killed is told of at the next start
     // and never again, and a second program that is still alive is not taken for one.
     void FailuresAndBrokenRunsAreTold()
     {
-        const QString path = m_machine->File.Make(oneEntry);
         {
-            cMainProgram program(m_machine->Ports, u"0.1.0"_s);
-            QVERIFY(program.Start({.Book = path}));
-            const auto* mark = program.Window().statusBar()->findChild<QToolButton*>(u"cmdFehlerprotokoll"_s);
+            const auto program = m_machine->Start();
+            const auto* mark = program->Window().statusBar()->findChild<QToolButton*>(u"cmdFehlerprotokoll"_s);
             QTest::qWait(50);
             QCOMPARE(m_machine->User.Asked, QStringList());
             QVERIFY(!mark->isVisible());
-            program.Tools().User.Show(eTone::Critical, u"Der Name ist zu lang."_s);
+            program->Tools().User.Show(eTone::Critical, u"Der Name ist zu lang."_s);
             QVERIFY(mark->isVisible());
-            const QString log = program.Log().Files().value(0);
+            const QString log = program->Log().Files().value(0);
             QVERIFY(QFile::copy(log, QFileInfo(log).path() + u"/kontorelle-20260101-000000-1-0.log"_s));
         }
         for (int start = 0; start < 2; ++start) {
-            cMainProgram program(m_machine->Ports, u"0.1.0"_s);
-            QVERIFY(program.Start({.Book = path}));
+            const auto program = m_machine->Start();
             QTest::qWait(50);
             QCOMPARE(m_machine->User.Asked.size(), 1);
             QVERIFY(m_machine->User.Asked[0].contains(u"nicht ordentlich beendet"_s));

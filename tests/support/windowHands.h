@@ -5,6 +5,7 @@
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <QTabWidget>
 #include <QTest>
 #include <QUrl>
 
@@ -62,6 +63,23 @@ inline bool Shows(const QWidget& window, const QString& text)
     return std::any_of(labels.begin(), labels.end(), [&](const QLabel* label) {
         return label->isVisibleTo(&window) && label->text().contains(text);
     });
+}
+
+// Looks at the window with every page of every book of tabs in sight once.
+template <typename tLook>
+void ForEachPage(QWidget& window, tLook look)
+{
+    look();
+    const QList<QTabWidget*> books = window.findChildren<QTabWidget*>();
+    for (QTabWidget* tabs : books) {
+        const int shown = tabs->currentIndex();
+        for (int page = 0; page < tabs->count(); ++page) {
+            if (tabs->isVisible() && page != shown) {
+                tabs->setCurrentIndex(page);
+                look();
+            }
+        }
+    }
 }
 
 // Lets data fall on a place of a widget, as far as that lets it come; whether it was taken.

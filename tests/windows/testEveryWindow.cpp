@@ -11,6 +11,7 @@
 #include "support/modUpdateAnswer.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
+#include "support/windowHands.h"
 #include "support/windowTexts.h"
 #include "tanQuestion.h"
 #include "testbank/cTestBank.h"
@@ -87,7 +88,6 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
-#include <QTabWidget>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -281,18 +281,10 @@ QStringList FaultsOfAllPages(QWidget& window,
                              const std::function<QStringList(const QWidget&)>& find = modWindowFaults::All)
 {
     QStringList faults;
-    const auto look = [&] {
+    modWindowHands::ForEachPage(window, [&] {
         QTest::qWait(5);
         faults += find(window);
-    };
-    look();
-    const QList<QTabWidget*> books = window.findChildren<QTabWidget*>();
-    for (QTabWidget* tabs : books) {
-        for (int page = 0; page < tabs->count(); ++page) {
-            tabs->setCurrentIndex(page);
-            look();
-        }
-    }
+    });
     faults.removeDuplicates();
     return faults;
 }

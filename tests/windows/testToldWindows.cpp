@@ -1,6 +1,7 @@
 #include "cScreenReader.h"
 #include "everyWindow.h"
 #include "support/cTestClass.h"
+#include "support/windowHands.h"
 #include "toldFaults.h"
 #include "windows/widget/modChoiceAccess.h"
 
@@ -10,7 +11,6 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
-#include <QTabWidget>
 #include <QTreeWidget>
 
 using namespace Qt::Literals::StringLiterals;
@@ -101,17 +101,8 @@ private:
     // With every page of every book of tabs once.
     QStringList FaultsOfAllPages(QWidget& window) const
     {
-        QStringList faults = Faults(window);
-        const QList<QTabWidget*> books = window.findChildren<QTabWidget*>();
-        for (QTabWidget* tabs : books) {
-            const int shown = tabs->currentIndex();
-            for (int page = 0; page < tabs->count(); ++page) {
-                if (tabs->isVisible() && page != shown) {
-                    tabs->setCurrentIndex(page);
-                    faults += Faults(window);
-                }
-            }
-        }
+        QStringList faults;
+        modWindowHands::ForEachPage(window, [&] { faults += Faults(window); });
         faults.removeDuplicates();
         return faults;
     }
