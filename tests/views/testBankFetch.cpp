@@ -6,7 +6,6 @@
 #include "support/bankMonth.h"
 #include "support/cFakeHttps.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "testbank/cBankHousehold.h"
@@ -132,8 +131,7 @@ struct cRound : cHousehold
 
     int ReadFile(const QString& name, const QByteArray& bytes)
     {
-        cTestFile::Write(m_files.Path(name), bytes);
-        return Desk.ImportFile(m_files.Path(name), {}).Staged;
+        return Desk.ImportFile(WriteFile(name, bytes), {}).Staged;
     }
 
     // The new rows of a fetch that has to succeed; else -1.
@@ -146,9 +144,6 @@ struct cRound : cHousehold
 
     cStatementDesk Desk{Tools};
     cBankFetch Fetch{Tools, Desk.Files(), {Https, Customer, u"1.0.0"_s}};
-
-private:
-    cTestFile m_files;
 };
 
 } // namespace

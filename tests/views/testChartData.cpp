@@ -1,12 +1,16 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
 #include "views/chart/cChartMaker.h"
 #include "views/chart/cChartSave.h"
+#include "views/chart/cForecast.h"
 #include "views/chart/modChart.h"
 #include "views/chart/modChartTable.h"
 #include "views/look/cCategoryLooks.h"
+#include "views/main/cAccountListModel.h"
+#include "views/main/cLimitWatch.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -31,13 +35,8 @@ struct cChartBook
 
     void Add(const QString& type, QDate day, const QString& category, qint64 cents)
     {
-        (void)Book.Add([&](cEntryItem& entry) {
-            entry.EntryType = type;
-            entry.EntryDate = day;
-            entry.EntryCategory = category;
-            entry.EntryValue = cents;
-            entry.EntryAccountMove = type == modWord::Umbuchung ? u"Sparkonto"_s : QString();
-        });
+        const QString target = type == modWord::Umbuchung ? u"Sparkonto"_s : QString();
+        Book.Add({.Day = day, .Cents = cents, .Category = category, .Type = type, .Target = target});
     }
 
     cChartData Make(const cChartWish& wish) { return cChartMaker(Book.Data, Format.Format, today).Make(wish); }
@@ -57,8 +56,41 @@ QStringList Values(const cChartData& chart, int label)
     return values;
 }
 
+// A book with 1,000 euros on the current account and a monthly rent of 300 on the 20th.
+struct cRentBook
+{
+    cRentBook()
+    {
+        QVERIFY(Book.Data.SetStartGuthaben(u"Girokonto"_s, 100000, QDate(2026, 1, 1)));
+        Rent = Book.Spend(QDate(2026, 3, 20), 30000, u"Miete"_s, u"Monatlich"_s);
+    }
+
+    void SetLimit(const QString& account, const QString& amount)
+    {
+        cTemplateItem item = *Book.Data.FindAccount(account);
+        item.TemplateDefaultValue = amount;
+        QVERIFY(Book.Data.ChangeTemplate(item));
+    }
+
+    QList<cLimitWarning> Warnings() { return cForecast(Book.Data, today).Warnings(); }
+
+    cTestBook Book;
+    cEntryItem Rent;
+};
+
+qint64 At(const cBalanceDays& days, const QString& account, QDate day)
+{
+    for (const cBalanceLine& line : days.Accounts) {
+        if (line.Account == account) {
+            return line.Cents.value(days.IndexOf(day), -1);
+        }
+    }
+    return -1;
+}
+
 } // namespace
 
+// What charts show, and the balances to come.
 class testChartData final : public QObject
 {
     Q_OBJECT
@@ -191,12 +223,8 @@ private Q_SLOTS:
 
     void FollowsBalances()
     {
-        (void)m_book->Book.Add([](cEntryItem& entry) {
-            entry.EntryDate = QDate(2026, 3, 20);
-            entry.EntryDateEnd = QDate(2026, 5, 1);
-            entry.EntryInterval = u"Monatlich"_s;
-            entry.EntryValue = 70000;
-        });
+        m_book->Book.Add(
+            {.Day = QDate(2026, 3, 20), .Cents = 70000, .Interval = u"Monatlich"_s, .End = QDate(2026, 5, 1)});
         m_book->Add(modWord::Einnahme, QDate(2026, 4, 30), u"Arbeit; Gehalt"_s, 200000);
         const modPeriod::cRange month{QDate(2026, 2, 1), QDate(2026, 2, 28)};
         const cChartData chart = m_book->Make({.Kind = eChartKind::Balances, .Range = month, .ForecastMonths = 2});
@@ -326,6 +354,107 @@ private Q_SLOTS:
         QVERIFY(!save.Write({}, folder.filePath(u"bild.bmp"_s)));
         QVERIFY(!save.Write({}, folder.filePath(u"fehlt/bild.png"_s)));
         QCOMPARE(book.User.Shown.size(), 3); // also that it is done
+    }
+
+    void Foresees()
+    {
+        cRentBook household;
+        household.Book.Correct(household.Rent.ID, QDate(2026, 4, 1), QDate(2026, 4, 30), 45000); // the rent of April
+        household.Book.Add({.Day = QDate(2026, 2, 1), .Interval = u"Monatlich"_s, .End = QDate(2026, 4, 10)});
+        household.Book.Move(u"Girokonto"_s, u"Sparkonto"_s, 5000, QDate(2026, 5, 5));
+        const cBalanceDays days = cForecast(household.Book.Data, today).Ahead(12, cForecast::eAverage::Without);
+        const QString giro = u"Girokonto"_s;
+        QCOMPARE(days.First, today);
+        QCOMPARE(days.Day(days.Count() - 1), QDate(2027, 3, 15));
+        QCOMPARE(At(days, giro, today), 98000); // two payments of the short series are past
+        QCOMPARE(At(days, giro, QDate(2026, 3, 19)), 98000);
+        QCOMPARE(At(days, giro, QDate(2026, 3, 20)), 68000);
+        QCOMPARE(At(days, giro, QDate(2026, 4, 20)), 22000); // its last payment and the corrected rent
+        QCOMPARE(At(days, giro, QDate(2026, 5, 20)), 22000 - 5000 - 30000);
+        QCOMPARE(At(days, u"Sparkonto"_s, QDate(2026, 5, 20)), 5000);
+        QCOMPARE(days.Sum.Cents[days.IndexOf(QDate(2026, 5, 20))], 22000 - 30000); // the transfer stays in the family
+        QCOMPARE(cBalanceDays::Lowest(days.Sum, 0), days.IndexOf(QDate(2027, 2, 20)));
+    }
+
+    void TakesOffTheAverage()
+    {
+        cRentBook household;
+        for (const int day : {1, 8}) {
+            household.Book.Spend(QDate(2026, 2, day), 21500); // 430 euros in the 43 days from 1 February on
+        }
+        cForecast forecast(household.Book.Data, today);
+        const cBalanceDays without = forecast.Ahead(1, cForecast::eAverage::Without);
+        const cBalanceDays with = forecast.Ahead(1, cForecast::eAverage::With);
+        QCOMPARE(with.Sum.Cents.first(), without.Sum.Cents.first()); // today has happened
+        QCOMPARE(with.Sum.Cents[4], without.Sum.Cents[4] - 4000);
+        QCOMPARE(At(with, u"Girokonto"_s, today.addDays(4)), At(without, u"Girokonto"_s, today.addDays(4)) - 4000);
+    }
+
+    void Warns_data()
+    {
+        const cTestRows<QString, QDate, qint64, QString> row("limit", "day", "balance", "entry");
+        row("none", {}, {}, 0, {});
+        row("holds for 60 days", u"100.00"_s, {}, 0, {});
+        row("second rent", u"400.01"_s, QDate(2026, 4, 20), 40000, u"Miete"_s);
+        row("exactly at the limit", u"400.00"_s, {}, 0, {});
+        row("first rent", u"900.00"_s, QDate(2026, 3, 20), 70000, u"Miete"_s);
+        row("already below", u"1000.01"_s, today, 100000, {});
+        row("zero is a limit, and holds", u"0.00"_s, {}, 0, {});
+    }
+
+    void Warns()
+    {
+        QFETCH(QString, limit);
+        QFETCH(QDate, day);
+        cRentBook household;
+        household.SetLimit(u"Girokonto"_s, limit);
+        const QList<cLimitWarning> warnings = household.Warnings();
+        QCOMPARE(warnings.size(), day.isValid() ? 1 : 0);
+        if (day.isValid()) {
+            QCOMPARE(warnings.first().Day, day);
+            QTEST(warnings.first().Cents, "balance");
+            QTEST(warnings.first().Entry.EntryDescription, "entry");
+        }
+    }
+
+    // What comes in on a day counts first, so the blame is on the entry without which the limit would have held.
+    void NamesTheEntryOfTheDay()
+    {
+        cRentBook household;
+        household.SetLimit(u"Girokonto"_s, u"500.00"_s);
+        household.Book.Spend(QDate(2026, 3, 20), 10000, u"Strom"_s);
+        household.Book.Spend(QDate(2026, 3, 20), 20000, u"Werkstatt"_s);
+        household.Book.Add({.Day = QDate(2026, 3, 20), .Cents = 9000, .Type = modWord::Einnahme});
+        const QList<cLimitWarning> warnings = household.Warnings();
+        QCOMPARE(warnings.size(), 1);
+        QCOMPARE(warnings.first().Cents, 49000);
+        QCOMPARE(warnings.first().Entry.EntryDescription, u"Miete"_s); // listed last, after the one-off entries
+    }
+
+    void ShowsTheWarningInThePanel()
+    {
+        cRentBook household;
+        household.SetLimit(u"Girokonto"_s, u"900.00"_s);
+        cAccountListModel accounts(household.Book.Format);
+        cLimitWatch watch(household.Book.Tools, accounts);
+        accounts.SetAccounts(household.Book.Data.GetAccounts(), QHash<QString, qint64>{{u"Girokonto"_s, 100000}}, {});
+        const auto hint = [&](const QString& account) {
+            for (int row = 0; row < accounts.rowCount(); ++row) {
+                const QModelIndex index = accounts.index(row, cAccountListModel::Balance);
+                if (accounts.AccountAt(index) == account) {
+                    return accounts.data(index, Qt::ToolTipRole).toString().replace(QChar(QChar::Nbsp), u' ');
+                }
+            }
+            return QString();
+        };
+        QCOMPARE(hint(u"Girokonto"_s), u"Girokonto"_s); // later: the window is not to wait for it
+        QTRY_COMPARE(hint(u"Girokonto"_s),
+                     u"Am 20.03.2026 fällt das Konto 'Girokonto' mit 'Miete' (-300,00 €) auf 700,00 € und damit unter "
+                     "sein Limit von 900,00 €."_s);
+        QCOMPARE(hint(u"Sparkonto"_s), u"Sparkonto"_s);
+        household.SetLimit(u"Girokonto"_s, {});
+        watch.Look();
+        QCOMPARE(hint(u"Girokonto"_s), u"Girokonto"_s);
     }
 
 private:

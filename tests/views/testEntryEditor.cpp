@@ -250,11 +250,7 @@ private Q_SLOTS:
     void DescriptionBringsItsLatestUse()
     {
         const auto add = [&](const QString& description, const QString& category, const QString& account) {
-            (void)m_book->Add([&](cEntryItem& entry) {
-                entry.EntryDescription = description;
-                entry.EntryCategory = category;
-                entry.EntryAccount = account;
-            });
+            m_book->Add({.Text = description, .Category = category, .Account = account});
         };
         add(u"Bäcker"_s, u"Haushalt; Lebensmittel"_s, u"Girokonto"_s);
         add(u"Bäcker"_s, u"Haushalt; Lebensmittel"_s, u"Bargeld"_s);

@@ -2,6 +2,7 @@
 #include "model/modSplit.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestEntry.h"
 #include "support/cTestRows.h"
 #include "support/testFormat.h"
 #include "views/list/cEntryListModel.h"
@@ -16,15 +17,10 @@ namespace {
 
 cEntryItem Entry(int id, QDate day, const QString& category, qint64 cents, const QString& type = modWord::Ausgabe)
 {
-    cEntryItem entry;
+    const QString target = type == modWord::Umbuchung ? u"Sparkonto"_s : QString();
+    cEntryItem entry =
+        cTestEntry{.Day = day, .Cents = cents, .Category = category, .Type = type, .Target = target}.Make();
     entry.ID = id;
-    entry.EntryDate = day;
-    entry.EntryType = type;
-    entry.EntryInterval = modWord::Einmalig;
-    entry.EntryAccount = u"Girokonto"_s;
-    entry.EntryAccountMove = type == modWord::Umbuchung ? u"Sparkonto"_s : QString();
-    entry.EntryCategory = category;
-    entry.EntryValue = cents;
     return entry;
 }
 

@@ -4,6 +4,7 @@
 #include "store/cDataAccess.h"
 #include "support/cNoRoom.h"
 #include "support/cTestClass.h"
+#include "support/cTestEntry.h"
 #include "support/cTestFile.h"
 #include "support/cTestRows.h"
 #include "support/fakes.h"
@@ -33,16 +34,9 @@ namespace {
 
 cEntryItem Entry(QDate day, const QString& type, qint64 cents, const QString& category, const QString& text)
 {
-    cEntryItem entry;
-    entry.EntryDate = day;
-    entry.EntryType = type;
-    entry.EntryInterval = modWord::Einmalig;
-    entry.EntryAccount = u"Girokonto"_s;
-    entry.EntryAccountMove = type == modWord::Umbuchung ? u"Sparkonto"_s : QString();
-    entry.EntryCategory = category;
-    entry.EntryValue = cents;
-    entry.EntryDescription = text;
-    return entry;
+    const QString target = type == modWord::Umbuchung ? u"Sparkonto"_s : QString();
+    return cTestEntry{.Day = day, .Cents = cents, .Text = text, .Category = category, .Type = type, .Target = target}
+        .Make();
 }
 
 cEntryListModel::cContent Content(const QString& account = {})

@@ -35,13 +35,6 @@ struct cPage : cTestBook
         });
     }
 
-    QString Write(const QString& name, const QByteArray& content)
-    {
-        const QString path = Shell.Folder(u"data"_s) + u'/' + name;
-        cTestFile::Write(path, content);
-        return path;
-    }
-
     void Import(const QStringList& paths, cStatementFiles::eAssist assist = cStatementFiles::eAssist::WhereNeeded)
     {
         Review.Files().ImportFiles(paths, Progress, assist);
@@ -139,7 +132,7 @@ private Q_SLOTS:
             const cImportAssistant::cRow first = assistant.Rows().value(0);
             shown = QStringList{first.Day, first.Name, first.Purpose, first.Amount, first.Remark}.join(u'|');
         };
-        m_page->Import({m_page->Write(u"a.csv"_s, file)}, cStatementFiles::eAssist::Always);
+        m_page->Import({m_page->WriteFile(u"a.csv"_s, file)}, cStatementFiles::eAssist::Always);
         QTEST(shown.replace(u'\u00A0', u' '), "row");
         QCOMPARE(m_page->Data.GetImportEntries().size(), 0); // the user gave up
     }
@@ -158,7 +151,7 @@ private Q_SLOTS:
             Mean(0, u"nicht lesen"_s)(assistant);
             QVERIFY(assistant.Problem().startsWith(u"In der Datei sind keine Spalten"));
         };
-        m_page->Import({m_page->Write(u"a.csv"_s, plain)});
+        m_page->Import({m_page->WriteFile(u"a.csv"_s, plain)});
         QCOMPARE(m_page->Opened, 1);
         QVERIFY(m_page->User.Shown.isEmpty()); // giving up is no fault
         QVERIFY(m_page->Review.Summary().first().startsWith(u"a.csv: nicht eingelesen."));
@@ -180,11 +173,11 @@ private Q_SLOTS:
             QVERIFY(assistant.CanImport());
             QCOMPARE(assistant.Readings(), readings); // to change one's mind
         };
-        m_page->Import({m_page->Write(u"1.csv"_s, unsure)});
+        m_page->Import({m_page->WriteFile(u"1.csv"_s, unsure)});
         QCOMPARE(readings.join(u'/').replace(u'\u00A0', u' '),
                  u"03.02.2026  ·  Miete & Strom  ·  +500,00 €/03.02.2026  ·  Miete & Strom  ·  -500,00 €"_s);
         QCOMPARE(m_page->Data.GetImportEntries().first().ImportValue, -50000);
-        m_page->Import({m_page->Write(u"2.csv"_s, QByteArray(unsure).replace("2026", "2025"))});
+        m_page->Import({m_page->WriteFile(u"2.csv"_s, QByteArray(unsure).replace("2026", "2025"))});
         QCOMPARE(m_page->Opened, 1);
         QCOMPARE(m_page->Data.GetImportEntries().last().ImportValue, -900);
     }
@@ -197,17 +190,17 @@ private Q_SLOTS:
             assistant.SetAccount(u"4711"_s);
             assistant.SetBankCode(u"12030000"_s);
         };
-        const QString first = m_page->Write(u"1.csv"_s, plain);
-        const QString second = m_page->Write(u"2.csv"_s,
-                                             "Tag;Was;Preis;Wert;Stand\n06.02.2026;Bäcker;1,00;-2,00;gebucht\n"
-                                             "07.02.2026;Kino;1,00;-9,00;vorgemerkt\n");
+        const QString first = m_page->WriteFile(u"1.csv"_s, plain);
+        const QString second = m_page->WriteFile(u"2.csv"_s,
+                                                 "Tag;Was;Preis;Wert;Stand\n06.02.2026;Bäcker;1,00;-2,00;gebucht\n"
+                                                 "07.02.2026;Kino;1,00;-9,00;vorgemerkt\n");
         m_page->Import({first, second});
         QCOMPARE(m_page->Opened, 1);
         QCOMPARE(m_page->Purposes(), QStringList({u"Bräzeln am Markt"_s, u"Miete"_s, u"Bäcker"_s}));
         m_page->Import({second});
         QCOMPARE(m_page->Opened, 1);
         QCOMPARE(m_page->Data.GetImportEntries().size(), 3);
-        m_page->Import({m_page->Write(u"3.csv"_s, "Tag;Wert;Grund\n06.02.2026;-2,00;Bäcker\n")});
+        m_page->Import({m_page->WriteFile(u"3.csv"_s, "Tag;Wert;Grund\n06.02.2026;-2,00;Bäcker\n")});
         QCOMPARE(m_page->Opened, 2);
         m_page->Answer = [](cImportAssistant& assistant) { // what was chosen can be seen and changed again
             QVERIFY(assistant.FormatText().contains(u"wie beim letzten Mal"));
@@ -224,8 +217,8 @@ private Q_SLOTS:
         m_page->Answer = [&](cImportAssistant& assistant) {
             assistant.SetAccount(QString::number(4711 + m_page->Opened));
         };
-        const QString first = m_page->Write(u"1.csv"_s, plain);
-        const QString second = m_page->Write(u"2.csv"_s, QByteArray(plain).replace("2026", "2025"));
+        const QString first = m_page->WriteFile(u"1.csv"_s, plain);
+        const QString second = m_page->WriteFile(u"2.csv"_s, QByteArray(plain).replace("2026", "2025"));
         for (int account = 0; account < 2; ++account) {
             m_page->Import({first}, cStatementFiles::eAssist::Always);
         }
@@ -281,7 +274,7 @@ private Q_SLOTS:
         for (int i = 0; i < 20'000; ++i) {
             csv += "03.02.2026;Einkauf Nummer " + QByteArray::number(i) + " am Markt;-1,00\n";
         }
-        m_page->Import({m_page->Write(u"a.ofx"_s, ofx), m_page->Write(u"a.csv"_s, csv)},
+        m_page->Import({m_page->WriteFile(u"a.ofx"_s, ofx), m_page->WriteFile(u"a.csv"_s, csv)},
                        cStatementFiles::eAssist::Always);
         QCOMPARE(texts.value(0), u"2"_s);
         QVERIFY(texts.value(1).toInt() > 5'000 && texts.value(1).toInt() < 20'000);
@@ -289,7 +282,7 @@ private Q_SLOTS:
 
     void ReadsAgain()
     {
-        m_page->Import({m_page->Write(u"a.csv"_s, plain)});
+        m_page->Import({m_page->WriteFile(u"a.csv"_s, plain)});
         QCOMPARE(m_page->Purposes().size(), 3);
         const int booked = m_page->Data.GetImportEntries().first().ID;
         m_page->Review.Book({booked}, m_page->Progress);
@@ -327,7 +320,7 @@ private Q_SLOTS:
             Mean(4, u"Stand (vorgemerkt, gebucht)"_s)(assistant);
             QVERIFY(assistant.LeftOut().first().startsWith(u"Zeile 4: Der Umsatz ist noch vorgemerkt"));
         };
-        m_page->Import({m_page->Write(u"a.csv"_s, plain)});
+        m_page->Import({m_page->WriteFile(u"a.csv"_s, plain)});
         QCOMPARE(m_page->Review.Files().LeftOut().size(), 1);
         QVERIFY(m_page->Review.Files().LeftOut().first().endsWith(u"vorgemerkt"));
         m_page->Review.Files().StageLeftOut({0});
@@ -338,7 +331,7 @@ private Q_SLOTS:
     // What one household has found out, another one takes.
     void LayoutsAreShared()
     {
-        const QString shared = m_page->Write(u"aufbau.txt"_s, {});
+        const QString shared = m_page->WriteFile(u"aufbau.txt"_s, {});
         m_page->User.SavePath = shared;
         m_page->Answer = [](cImportAssistant& assistant) {
             assistant.SetAccount(u"4711"_s);
@@ -346,7 +339,7 @@ private Q_SLOTS:
             QVERIFY(assistant.CanSaveLayout());
             assistant.SaveLayout();
         };
-        m_page->Import({m_page->Write(u"a.csv"_s, plain)});
+        m_page->Import({m_page->WriteFile(u"a.csv"_s, plain)});
         cPage other;
         other.User.Files = {shared};
         other.Answer = [](cImportAssistant& assistant) {
@@ -354,7 +347,7 @@ private Q_SLOTS:
             assistant.LoadLayout();
             QCOMPARE(assistant.Rows().value(0).Amount.simplified(), u"2,00 €"_s);
         };
-        other.Import({other.Write(u"b.csv"_s, plain)});
+        other.Import({other.WriteFile(u"b.csv"_s, plain)});
         QCOMPARE(other.Opened, 1);
         QCOMPARE(other.Data.GetImportEntries().first().ImportValue, 200);
         QVERIFY(other.User.Shown.value(0).contains(u"gilt nun für diese Datei"_s));

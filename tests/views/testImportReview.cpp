@@ -2,7 +2,6 @@
 #include "model/modSettingKey.h"
 #include "model/modSplit.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
@@ -94,11 +93,10 @@ private Q_SLOTS:
     void AsksOnceForNamesOfAnotherBook()
     {
         QFETCH(const eAnswer, answer);
-        const cTestFile folder;
-        const QString path = folder.Path(u"a.qif"_s);
-        cTestFile::Write(path,
-                         "!Account\nNGirokonto\n^\n!Type:Bank\nD30.1.26\nT-5\nPHolle\nLHobby:Zug\n^\n"
-                         "D31.1.26\nT-7\nPHolle\nL[Depot]\n^\n");
+        const QString path =
+            m_page->WriteFile(u"a.qif"_s,
+                              "!Account\nNGirokonto\n^\n!Type:Bank\nD30.1.26\nT-5\nPHolle\nLHobby:Zug\n^\n"
+                              "D31.1.26\nT-7\nPHolle\nL[Depot]\n^\n");
         m_page->User.Answers = {answer, eAnswer::Yes};
         m_page->Review.Files().ImportFiles({path}, m_page->Progress);
         QCOMPARE(m_page->User.Asked.value(0),
@@ -115,23 +113,20 @@ private Q_SLOTS:
     // Older rows of an account that the book has under this name would count on top of its start balance.
     void AsksForTheStartOfAnotherBook()
     {
-        const cTestFile folder;
-        const QString path = folder.Path(u"a.qif"_s);
-        cTestFile::Write(path, "!Account\nNgirokonto\n^\n!Type:Bank\nD30.1.26\nT-5\nPHolle\nLAuto\n^\n");
+        const QString path =
+            m_page->WriteFile(u"a.qif"_s, "!Account\nNgirokonto\n^\n!Type:Bank\nD30.1.26\nT-5\nPHolle\nLAuto\n^\n");
         QVERIFY(m_page->Data.SetStartGuthaben(u"Girokonto"_s, 100000, QDate(2026, 3, 1)));
         m_page->User.Answers = {eAnswer::Yes};
         m_page->Review.Files().ImportFiles({path}, m_page->Progress);
-        QVERIFY2(m_page->User.Asked.join(u'|').contains(u"Als Stand vom 01.03.2026"),
-                 qPrintable(m_page->User.Asked.join(u'|')));
+        QVERIFY(m_page->User.Asked.join(u'|').contains(u"Als Stand vom 01.03.2026"));
         QCOMPARE(m_page->Data.GetStartGuthaben(u"Girokonto"_s).value_or(cEntryItem()).EntryValue, 100500);
     }
 
     // The user may have the rest of a statement that is refused for lines nobody needs.
     void OffersTheRestOfAStatement()
     {
-        const cTestFile folder;
-        const QString path = folder.Path(u"a.sta"_s);
-        cTestFile::Write(path, ":20:A\n:25:1\n:60F:C260101EUR0,00\n:86:Vorwort\n:61:260101D1,00NTRF\n:86:x\n-\n");
+        const QString path = m_page->WriteFile(
+            u"a.sta"_s, ":20:A\n:25:1\n:60F:C260101EUR0,00\n:86:Vorwort\n:61:260101D1,00NTRF\n:86:x\n-\n");
         m_page->User.Decisions = {1, 0};
         m_page->Review.Files().ImportFiles({path}, m_page->Progress);
         QCOMPARE(m_page->User.LastDecision.Options.value(0), u"&Ohne diese Zeilen lesen"_s);
@@ -178,9 +173,8 @@ private Q_SLOTS:
         QCOMPARE(m_page->Review.Files().LeftOut().size(), 5);
         // Older rows would count on top of the start balance.
         QVERIFY(m_page->Data.SetStartGuthaben(u"Girokonto"_s, 500000, QDate(2026, 1, 1)));
-        const cTestFile folder;
-        const QString older = folder.Path(u"older.sta"_s);
-        cTestFile::Write(older, ":20:A\n:25:10020030/1234567\n:60F:C251130EUR1,00\n:61:251215C9,00NTRF\n-\n");
+        const QString older = m_page->WriteFile(
+            u"older.sta"_s, ":20:A\n:25:10020030/1234567\n:60F:C251130EUR1,00\n:61:251215C9,00NTRF\n-\n");
         m_page->Review.Files().ImportFiles({older}, m_page->Progress);
         QCOMPARE(m_page->User.Asked.size(), 5);
         QVERIFY(m_page->User.Asked.constLast().contains(u"Startguthaben von 5.000,00"));
@@ -227,13 +221,9 @@ private Q_SLOTS:
     void AsksOnceAboutEqualRows()
     {
         QFETCH(const eAnswer, answer);
-        const cTestFile folder;
-        const QStringList files{folder.Path(u"a.csv"_s), folder.Path(u"b.csv"_s)};
-        for (const QString& file : files) {
-            cTestFile::Write(file,
-                             "IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag\n"
-                             "03.05.2026;Fahrkarte;-2,00\n03.05.2026;Fahrkarte;-2,00\n");
-        }
+        const QByteArray tickets = "IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag\n"
+                                   "03.05.2026;Fahrkarte;-2,00\n03.05.2026;Fahrkarte;-2,00\n";
+        const QStringList files{m_page->WriteFile(u"a.csv"_s, tickets), m_page->WriteFile(u"b.csv"_s, tickets)};
         m_page->User.Answers = {answer};
         m_page->User.Choices = {u"Girokonto"_s};
         m_page->Review.Files().ImportFiles(files, m_page->Progress);
@@ -561,9 +551,7 @@ private Q_SLOTS:
 
     void SaysWhyAFileIsRefused()
     {
-        const cTestFile folder;
-        cTestFile::Write(folder.Path(u"auszug.pdf"_s), "%PDF");
-        m_page->Review.Files().ImportFiles({folder.Path(u"auszug.pdf"_s)}, m_page->Progress);
+        m_page->Review.Files().ImportFiles({m_page->WriteFile(u"auszug.pdf"_s, "%PDF")}, m_page->Progress);
         QVERIFY(m_page->User.Shown.value(0).startsWith(u"auszug.pdf\nDieses Format kann nicht eingelesen werden"));
         QVERIFY(m_page->Review.Summary().first().startsWith(u"auszug.pdf: nicht eingelesen."));
     }

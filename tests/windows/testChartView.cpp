@@ -6,6 +6,7 @@
 #include "windows/chart/cChartView.h"
 #include "windows/chart/modChartColour.h"
 #include "windows/chart/modChartPainter.h"
+#include "windows/look/modPalette.h"
 
 #include <QApplication>
 #include <QSignalSpy>
@@ -166,8 +167,7 @@ private Q_SLOTS:
         const cChartLayout layout = modChartPainter::LayOut(chart, {}, style, {QPointF(), size * line});
         QCOMPARE(static_cast<int>(layout.Legend.size()) + layout.More.Count, 12);
         QVERIFY(layout.Legend.size() > 3);
-        QVERIFY2(layout.Circles.front().Outer > line * 2.5,
-                 qPrintable(QString::number(layout.Circles.front().Outer / line)));
+        QVERIFY(layout.Circles.front().Outer > line * 2.5);
     }
 
     // From side to side, from day to day and from week to week, and from a column to its limit.
@@ -325,9 +325,7 @@ private Q_SLOTS:
     void StaysApartForEveryEye()
     {
         constexpr double enough = 18; // CIELAB; 2 can be seen side by side, 10 at a glance
-        QPalette dark(QColor(45, 47, 51));
-        dark.setColor(QPalette::Base, QColor(30, 32, 35));
-        for (const QPalette& palette : {QPalette(Qt::white), dark}) {
+        for (const QPalette& palette : {QPalette(Qt::white), modPalette::Dark()}) {
             for (const cMatrix& eye : eyes) {
                 for (int a = 0; a < modChartColour::Count; ++a) {
                     const cColour seen = Seen(modChartColour::Series(a, palette), eye);

@@ -107,10 +107,7 @@ struct cScene
 {
     cScene()
     {
-        Series = Book.Add([](cEntryItem& entry) {
-            entry.EntryInterval = u"Monatlich"_s;
-            entry.EntryDescription = u"Miete"_s;
-        });
+        Series = Book.Add({.Text = u"Miete"_s, .Interval = u"Monatlich"_s});
         cEntryItemFixMod fixMod;
         fixMod.EntryRelation = Series.ID;
         fixMod.EntryModType = modWord::Betrag;

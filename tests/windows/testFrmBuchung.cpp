@@ -93,13 +93,7 @@ public:
 
 cEntryItem AddRent(cTestBook& book)
 {
-    return book.Add([](cEntryItem& entry) {
-        entry.EntryDate = QDate(2026, 1, 1);
-        entry.EntryInterval = u"Monatlich"_s;
-        entry.EntryCategory = u"Wohnung; Miete"_s;
-        entry.EntryDescription = u"Miete"_s;
-        entry.EntryValue = 75000;
-    });
+    return book.Spend(QDate(2026, 1, 1), 75000, u"Miete"_s, u"Monatlich"_s);
 }
 
 // Answers the next modal form, which blocks the caller.
@@ -136,17 +130,11 @@ private Q_SLOTS:
         QCOMPARE(FocusName(), u"EntryDate"_s);
         TypeAndTab(u"-7"_s);
         QCOMPARE(m_scene->Line(u"EntryDate"_s).text(), u"08.03.2026"_s);
-        QCOMPARE(FocusName(), u"cboKonto"_s);
-        Key(Qt::Key_Tab);
-        QCOMPARE(FocusName(), u"cboBuchungsart"_s);
         QCOMPARE(m_scene->Box(u"cboBuchungsart"_s).currentData().toString(), modWord::Ausgabe);
-        Key(Qt::Key_Tab);
-        QCOMPARE(FocusName(), u"cboInterval"_s);
-        Key(Qt::Key_Tab);
-        QCOMPARE(FocusName(), u"cmdBeleg"_s);
-        Key(Qt::Key_Tab);
-        QCOMPARE(FocusName(), u"chkCloseDialog"_s);
-        Key(Qt::Key_Tab);
+        for (const char* next : {"cboKonto", "cboBuchungsart", "cboInterval", "cmdBeleg", "chkCloseDialog"}) {
+            QCOMPARE(FocusName(), QString::fromLatin1(next));
+            Key(Qt::Key_Tab);
+        }
         auto* save = qobject_cast<QPushButton*>(QApplication::focusWidget());
         QVERIFY(save != nullptr && save->isDefault());
         Key(Qt::Key_Backtab, Qt::ShiftModifier);
@@ -204,10 +192,7 @@ private Q_SLOTS:
 
     void DescriptionBringsCategoryAndAccount()
     {
-        m_scene->Book.Add([](cEntryItem& entry) {
-            entry.EntryDescription = u"Bäckerei Krume"_s;
-            entry.EntryAccount = u"Bargeld"_s;
-        });
+        m_scene->Book.Add({.Text = u"Bäckerei Krume"_s, .Account = u"Bargeld"_s});
         m_scene->Line(u"txtBeschreibung"_s).setFocus();
         Type(u"krum"_s);
         Key(Qt::Key_Down);

@@ -13,19 +13,30 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+namespace {
+
+struct cBudgetScene
+{
+    cBudgetScene() { Form.show(); }
+
+    cTestBook Book;
+    cBudgetModel Budget{Book.Tools};
+    frmBudget Form{Budget};
+};
+
+} // namespace
+
 // The grid as it is worked on with the keys alone.
 class testFrmBudget final : public QObject
 {
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_scene.emplace(); }
+
     void TypesWithTheKeys()
     {
-        cTestBook book;
-        cBudgetModel budget(book.Tools);
-        frmBudget form(budget);
-        form.show();
-        auto* table = form.findChild<cBudgetTable*>();
+        auto* table = m_scene->Form.findChild<cBudgetTable*>();
         table->setCurrentIndex(table->model()->index(1, cBudgetModel::FirstMonth));
         const auto text = [&](int row, int column) {
             return table->model()->index(row, column).data().toString().replace(QChar::Nbsp, u' ');
@@ -61,25 +72,21 @@ private Q_SLOTS:
         QCOMPARE(text(1, cBudgetModel::FirstMonth), u"12,50 €"_s);
         table->setCurrentIndex(table->model()->index(1, cBudgetModel::Carry));
         QTest::keyClick(table, Qt::Key_Space);
-        QVERIFY(budget.Edit().CarriesOver(0));
+        QVERIFY(m_scene->Budget.Edit().CarriesOver(0));
     }
 
     // Below the lines, whatever is scrolled and however wide a column is.
     void TheSumStaysInStep()
     {
-        cTestBook book;
-        cBudgetModel budget(book.Tools);
-        frmBudget form(budget);
-        form.resize(800, 600);
-        form.show();
-        const QList<cBudgetTable*> tables = form.findChildren<cBudgetTable*>();
+        m_scene->Form.resize(800, 600);
+        const QList<cBudgetTable*> tables = m_scene->Form.findChildren<cBudgetTable*>();
         QCOMPARE(tables.size(), 2);
         const QTableView* lines = tables.first();
         const QTableView* sum = tables.last();
         tables.first()->setColumnWidth(cBudgetModel::Spent, 200);
         lines->verticalScrollBar()->setValue(lines->verticalScrollBar()->maximum());
         const auto left = [&](const QTableView* table, int column) {
-            return table->viewport()->mapTo(&form, QPoint(table->columnViewportPosition(column), 0)).x();
+            return table->viewport()->mapTo(&m_scene->Form, QPoint(table->columnViewportPosition(column), 0)).x();
         };
         for (const int place : {0, 77, lines->horizontalScrollBar()->maximum()}) {
             lines->horizontalScrollBar()->setValue(place);
@@ -89,27 +96,27 @@ private Q_SLOTS:
             }
         }
         QVERIFY(left(lines, 0) < 0); // there was something to scroll
-        QVERIFY(form.rect().contains(QRect(sum->mapTo(&form, QPoint()), sum->size())));
+        QVERIFY(m_scene->Form.rect().contains(QRect(sum->mapTo(&m_scene->Form, QPoint()), sum->size())));
         QCOMPARE(sum->model()->headerData(0, Qt::Vertical).toString(), u"Summe"_s);
-        budget.setData(budget.index(1, cBudgetModel::Plain), u"1234567890"_s, Qt::EditRole); // the year is longer still
+        m_scene->Budget.setData(m_scene->Budget.index(1, cBudgetModel::Plain), u"1234567890"_s,
+                                Qt::EditRole); // the year is longer still
         QVERIFY(sum->columnWidth(cBudgetModel::Year) >= tables.last()->ContentWidth(cBudgetModel::Year));
         QCOMPARE(lines->columnWidth(cBudgetModel::Spent), 200); // as it was drawn
     }
 
     void AsksBeforeItLosesAnything()
     {
-        cTestBook book;
-        cBudgetModel budget(book.Tools);
-        frmBudget form(budget);
-        form.show();
-        budget.setData(budget.index(1, cBudgetModel::FirstMonth), u"5"_s, Qt::EditRole);
-        form.close();
-        QVERIFY(form.isVisible()); // the user has not answered
-        book.User.Answers = {eAnswer::Yes};
-        form.close();
-        QVERIFY(!form.isVisible());
-        QCOMPARE(book.Data.Journal().UndoName().isEmpty(), false);
+        m_scene->Budget.setData(m_scene->Budget.index(1, cBudgetModel::FirstMonth), u"5"_s, Qt::EditRole);
+        m_scene->Form.close();
+        QVERIFY(m_scene->Form.isVisible()); // the user has not answered
+        m_scene->Book.User.Answers = {eAnswer::Yes};
+        m_scene->Form.close();
+        QVERIFY(!m_scene->Form.isVisible());
+        QCOMPARE(m_scene->Book.Data.Journal().UndoName().isEmpty(), false);
     }
+
+private:
+    std::optional<cBudgetScene> m_scene;
 };
 
 TEST_CLASS(testFrmBudget, QApplication)

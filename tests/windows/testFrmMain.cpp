@@ -5,12 +5,17 @@
 #include "support/testBook.h"
 #include "support/windowHands.h"
 #include "views/main/cMainModel.h"
+#include "views/overview/cOverviewModel.h"
 #include "views/sheet/modRowDrag.h"
 #include "windows/main/cAccountPanel.h"
 #include "windows/main/cBackBar.h"
 #include "windows/main/cEntryTree.h"
 #include "windows/main/cViewBar.h"
 #include "windows/main/frmMain.h"
+#include "windows/overview/cCardLine.h"
+#include "windows/overview/cFirstStepsView.h"
+#include "windows/overview/cOverviewCardView.h"
+#include "windows/overview/frmUebersicht.h"
 #include "windows/widget/cDayEdit.h"
 #include "windows/widget/cElidedText.h"
 #include "windows/widget/modBadField.h"
@@ -41,10 +46,7 @@ public:
     cScene()
     {
         First = Book.Add([](cEntryItem& entry) { entry.EntryDescription = u"Wocheneinkauf"_s; });
-        Second = Book.Add([](cEntryItem& entry) {
-            entry.EntryAccount = u"Bargeld"_s;
-            entry.EntryDate = QDate(2026, 3, 12);
-        });
+        Second = Book.Add({.Day = QDate(2026, 3, 12), .Account = u"Bargeld"_s});
         Window.RestoreLayout();
         Window.show();
         Model.RestoreView(false);
@@ -413,10 +415,7 @@ private Q_SLOTS:
     {
         for (int month = 0; month < 300; ++month) {
             m_scene->Book.Add([month](cEntryItem& entry) { entry.EntryDate = QDate(2010, 1, 1).addMonths(month); });
-            m_scene->Book.Add([month](cEntryItem& entry) {
-                entry.EntryDate = QDate(2010, 1, 2).addMonths(month);
-                entry.EntryAccount = u"Bargeld"_s;
-            });
+            m_scene->Book.Add({.Day = QDate(2010, 1, 2).addMonths(month), .Account = u"Bargeld"_s});
         }
         m_scene->Model.ChoosePeriod(modWord::AlleBuchungen);
         m_scene->Tree().ScrollTo(QDate(2015, 6, 1));
@@ -504,6 +503,45 @@ private Q_SLOTS:
         for (const QWidget* field : bar.findChildren<QLineEdit*>()) {
             QVERIFY(bar.rect().contains(QRect(field->mapTo(&bar, QPoint()), field->size())));
         }
+    }
+
+    void EmptyBookBeginsWithTheFirstSteps()
+    {
+        cTestBook book;
+        cFakeNavigator navigator;
+        cMainModel main{book.Tools, {book.Configuration, book.Shell, navigator, book.Path()}};
+        cOverviewModel model{book.Tools, {navigator, main}};
+        frmUebersicht page(model);
+        page.show();
+        page.activateWindow();
+        QVERIFY(QTest::qWaitForWindowActive(&page));
+        model.Read();
+        const auto& steps = *page.findChild<cFirstStepsView*>();
+        QVERIFY(steps.isAncestorOf(page.focusWidget()));
+        const QWidget* first = page.findChild<cOverviewCardView*>();
+        const QWidget* widget = page.focusWidget();
+        while (steps.isAncestorOf(widget)) {
+            widget = widget->nextInFocusChain();
+        }
+        while (widget->focusPolicy() == Qt::NoFocus) {
+            widget = widget->nextInFocusChain();
+        }
+        QVERIFY(first->isAncestorOf(widget));
+    }
+
+    // One figure that has no room beside its text puts all of them below.
+    void LimitsOfACardLookAlike()
+    {
+        const QList<cOverviewLine> card{{u"Benzin"_s, u"5,00"_s, eOverviewTone::Plain, {}, 10},
+                                        {u"Bücher und Zeitschriften"_s, u"30,00"_s, eOverviewTone::Plain, {}, 20},
+                                        {u"Summe"_s, u"35,00"_s}};
+        const cCardLine petrol(card.at(0), card);
+        const cCardLine books(card.at(1), card);
+        const cCardLine sum(card.at(2), card);
+        const int narrow = petrol.fontMetrics().horizontalAdvance(card.at(1).Text + u"30"_s);
+        QCOMPARE(petrol.heightForWidth(narrow), books.heightForWidth(narrow));
+        QVERIFY(petrol.heightForWidth(narrow) > petrol.heightForWidth(2 * narrow));
+        QCOMPARE(sum.heightForWidth(narrow), sum.heightForWidth(2 * narrow));
     }
 
 private:

@@ -1,5 +1,6 @@
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestEntry.h"
 #include "support/cTestRows.h"
 #include "support/cTextRecorder.h"
 #include "support/testFormat.h"
@@ -27,16 +28,11 @@ cEntryItemList Entries(int count)
 {
     cEntryItemList entries;
     for (int i = 0; i < count; ++i) {
-        cEntryItem entry;
-        entry.ID = i + 1;
-        entry.EntryDate = QDate(2026, 1, 1).addDays(i);
-        entry.EntryType = i % 7 == 0 ? modWord::Einnahme : modWord::Ausgabe;
-        entry.EntryInterval = modWord::Einmalig;
-        entry.EntryAccount = u"Girokonto"_s;
-        entry.EntryCategory = u"Haushalt; Lebensmittel"_s;
-        entry.EntryValue = 123456 + i;
-        entry.EntryDescription = u"Einkauf%1"_s.arg(i);
-        entries.append(entry);
+        const QString type = i % 7 == 0 ? modWord::Einnahme : modWord::Ausgabe;
+        const cTestEntry entry{
+            .Day = QDate(2026, 1, 1).addDays(i), .Cents = 123456 + i, .Text = u"Einkauf%1"_s.arg(i), .Type = type};
+        entries.append(entry.Make());
+        entries.last().ID = i + 1;
     }
     return entries;
 }

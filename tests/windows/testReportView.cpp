@@ -7,6 +7,7 @@
 #include "views/report/cReportTreeModel.h"
 #include "views/report/modReportHtml.h"
 #include "windows/help/frmHandbuch.h"
+#include "windows/look/modPalette.h"
 #include "windows/report/cReportDocument.h"
 #include "windows/report/cReportPane.h"
 #include "windows/report/cReportPrinter.h"
@@ -313,9 +314,7 @@ private Q_SLOTS:
 
     void DarkColoursStayReadable()
     {
-        QPalette dark(QColor(45, 47, 51));
-        dark.setColor(QPalette::Base, QColor(30, 32, 35));
-        dark.setColor(QPalette::Text, QColor(230, 232, 235));
+        const QPalette dark = modPalette::Dark();
         const QList<std::pair<QColor, QColor>> pairs{{0x006400, 0xF0FFF0}, {0x007400, 0xF8FAF8}, {0x880000, 0xFFF0F0},
                                                      {0x770000, 0xFFF6F6}, {0x444444, 0xF8F8F8}, {0x2E4513, 0xC2D4AE},
                                                      {0x450F10, 0xDBA1A3}, {0x000000, 0xFFFFFF}};
@@ -434,27 +433,17 @@ private Q_SLOTS:
         QVERIFY(manual.Contents->isVisible());
     }
 
-    void PicturesAreShown()
+    void PicturesTablesAndListsAreLaidOut()
     {
         const cManualScene manual;
         manual.Browser->Open(u"01-start.html"_s);
         const int above = manual.PlaceOf(u"Fast alles geht ohne Maus"_s).bottom();
         const int below = manual.PlaceOf(u"Ein anderer Ordner"_s).top();
         QVERIFY2(below - above > 200, qPrintable(QStringLiteral("%1 to %2").arg(above).arg(below)));
-    }
-
-    void HeadsOfTablesStandAboveTheirRows()
-    {
-        const cManualScene manual;
         manual.Browser->Open(u"02-kontoauszug.html"_s);
         const QRect head = manual.PlaceOf(u"gut zu wissen"_s);
         QVERIFY(head.isValid());
         QVERIFY(head.bottom() < manual.PlaceOf(u".sta"_s).top());
-    }
-
-    void ListsAreNumbered()
-    {
-        const cManualScene manual;
         manual.Browser->Open(u"faq.html"_s);
         const QRect second = manual.PlaceOf(u"2."_s);
         const QRect words = manual.PlaceOf(u"Auf dem neuen Rechner"_s);
