@@ -47,7 +47,6 @@ public:
     // Says nothing and closes the connection.
     static inline const QByteArray Hangup = "hang up";
 
-    // An answer in full, with a head that fits.
     [[nodiscard]] static QByteArray Redirect(const QByteArray& to)
     {
         return "HTTP/1.1 302 Found\r\nLocation: " + to + "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";

@@ -15,7 +15,6 @@ namespace {
 
 constexpr const char* oneEntry = "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2026-01-31', 'Giro');";
 
-// A running program on a book with one entry.
 struct cMachine : cFakeMachine
 {
     cMachine()
@@ -31,7 +30,6 @@ struct cMachine : cFakeMachine
             && Registry.Values.isEmpty();
     }
 
-    // A file with a password in it.
     [[nodiscard]] QString MakeProtected(const QString& name) const
     {
         const QString stored = modPassword::ToStored(u"geheim"_s);

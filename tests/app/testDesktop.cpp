@@ -19,7 +19,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// What stands for the desktop on the bus.
 class cFakePortal final : public QObject
 {
     Q_OBJECT

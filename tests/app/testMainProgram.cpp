@@ -44,7 +44,6 @@ constexpr const char* oneEntry =
     "EntryDescription) VALUES (5, '2026-03-10', 'Ausgabe', 'Einmalig', 'Girokonto', 'Haushalt; Lebensmittel', '10', "
     "'Markt');";
 
-// The window program on a book of a temporary folder.
 struct cMachine : cFakeMachine
 {
     [[nodiscard]] QStringList Copies() const

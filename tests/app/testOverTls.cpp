@@ -27,7 +27,6 @@ struct cOnlineHousehold : cHousehold
 {
     cOnlineHousehold() { Tell(cBankMonth::Example()); }
 
-    // All accounts, with what is proposed.
     [[nodiscard]] cBankFetch::cLine Fetch(cHttps& https)
     {
         cStatementDesk desk(Tools);

@@ -115,7 +115,6 @@ struct cScene : cTestBook
     cBankFetch Fetch{Tools, Files, {Https, Customer, u"1.0.0"_s}};
 };
 
-// The household with the program that fetches.
 struct cRound : cHousehold
 {
     // From now on only this order is allowed for the account.

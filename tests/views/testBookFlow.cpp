@@ -5,10 +5,10 @@
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/modBookFile.h"
+#include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/cTestRows.h"
-#include "support/fakes.h"
 #include "views/book/cBookCheck.h"
 #include "views/book/cBookFlow.h"
 #include "views/book/cBookHost.h"
@@ -22,7 +22,6 @@ namespace {
 
 constexpr const char* oneEntry = "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2026-01-31', 'Giro');";
 
-// The program: notes what it is asked for.
 class cFakeHost final : public cBookHost
 {
 public:
@@ -46,7 +45,7 @@ public:
     bool Works = true;
 };
 
-struct cMachine
+struct cMachine : cFakeMachine
 {
     cMachine()
     {
@@ -54,19 +53,12 @@ struct cMachine
         cTestFile::Run(Shell.InstalledFile(u"template.dat"_s), cTestFile::Tables);
     }
 
-    [[nodiscard]] QString Path(const QString& name) const { return File.Path(name); }
     [[nodiscard]] QString List() const { return Configuration.GetSetting(modSettingKey::DatabaseList); }
     void SetList(const QStringList& books)
     {
         Configuration.SaveSetting(modSettingKey::DatabaseList, books.join(u'|'), eSettingPlace::Registry);
     }
 
-    cTestFile File;
-    cFakeShell Shell;
-    cFakeUser User;
-    cFakeRescue Rescue;
-    cFakeClock Clock{QDate(2026, 3, 15)};
-    cFakeRegistry Registry;
     cConfiguration Configuration{Registry};
     cBook Book{User};
     cFakeHost Host;

@@ -37,7 +37,6 @@ struct cLogScene
     cErrorLog Log{{Shell.StateFolder(), u"kontorelle"_s, u"0.1.0"_s}, Clock};
 };
 
-// The manual as it was made of the chapters.
 struct cManualScene
 {
     cManualScene() { QFile::link(QStringLiteral(MANUAL), Shell.InstalledFile(modManual::Folder)); }

@@ -17,7 +17,6 @@ namespace {
 
 const QString fixture = QStringLiteral(TEST_DATA "/mt940/giro.sta");
 
-// A new book with the page over it.
 struct cPage : cTestBook
 {
     cPage() { Review.View().SetGrouping(0); } // most of it is about rows, whatever their group
@@ -29,7 +28,6 @@ struct cPage : cTestBook
         Review.Files().ImportFiles({fixture}, Progress);
     }
 
-    // A row of the giro account that came without a file.
     void AddRow(const QString& name)
     {
         Stage(u"1234567"_s, QDate(2026, 1, 20), -750, name);

@@ -18,9 +18,8 @@ namespace {
 
 // A book of January to March 2026 seen on 15 March: salary and shopping on the current account, one transfer to the
 // savings account, a start balance of the year before, rent every month, one purchase in the future.
-class cScene
+struct cScene
 {
-public:
     cScene()
     {
         Book.Add({.Day = QDate(2025, 12, 31),

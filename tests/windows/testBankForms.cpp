@@ -65,7 +65,6 @@ QString PaintedBars(cFlickerView& view)
     return bars;
 }
 
-// The same once the next frame is due.
 QString NextFrame(cFlickerView& view)
 {
     QMetaObject::invokeMethod(view.findChild<QTimer*>(), "timeout");

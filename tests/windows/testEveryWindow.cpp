@@ -189,7 +189,6 @@ struct cScene
         return profile;
     }
 
-    // Goes on in the assistant until the page is there.
     void SetUpTo(cBankSetup::ePage page)
     {
         Setup.ChooseCode(QStringLiteral("12345678"));
@@ -273,7 +272,6 @@ QStringList Untranslatable(cScene& scene)
     return texts;
 }
 
-// Shows every page of every book of tabs once and collects the faults of each.
 QStringList FaultsOfAllPages(QWidget& window,
                              const std::function<QStringList(const QWidget&)>& find = modWindowFaults::All)
 {

@@ -1,7 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cFakeDesk.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
@@ -61,12 +60,6 @@ struct cScene
         }
         return Path(u"foto.png"_s);
     }
-
-    QString Bytes(const QString& name, const QByteArray& bytes) const
-    {
-        cTestFile::Write(Path(name), bytes);
-        return Path(name);
-    }
 };
 
 } // namespace
@@ -114,7 +107,7 @@ private Q_SLOTS:
         QFETCH(const QString, name);
         QFETCH(const QByteArray, bytes);
         QFETCH(const QString, text);
-        m_scene->Receipts.Add({{m_scene->Bytes(name, bytes)}});
+        m_scene->Receipts.Add({{m_scene->Book.WriteFile(name, bytes)}});
         frmBelege window(m_scene->Receipts);
         window.show();
         auto* preview = window.findChild<cPreviewView*>();
@@ -155,7 +148,7 @@ private Q_SLOTS:
 
     void MissingFileOffersAnother()
     {
-        m_scene->Receipts.Add({{m_scene->Bytes(u"a.pdf"_s, "x")}});
+        m_scene->Receipts.Add({{m_scene->Book.WriteFile(u"a.pdf"_s, "x")}});
         QVERIFY(QFile::remove(m_scene->Receipts.PathAt(0)));
         cReceiptListModel receipts(m_scene->Book.Tools, m_scene->Desk, m_scene->Entry);
         frmBelege window(receipts);
@@ -191,7 +184,7 @@ private Q_SLOTS:
         fall(m_scene->Pdf(1), line);
         QCOMPARE(receipts.size(), 1);
         QCOMPARE(receipts.first().first().toInt(), 7);
-        fall(m_scene->Bytes(u"auszug.csv"_s, "x"), line);
+        fall(m_scene->Book.WriteFile(u"auszug.csv"_s, "x"), line);
         fall(m_scene->Pdf(1), QPoint(5, tree.viewport()->height() - 5));
         QCOMPARE(receipts.size(), 1);
         QCOMPARE(others.size(), 2);
@@ -207,7 +200,7 @@ private Q_SLOTS:
         const auto accepts = [&](const QString& path) {
             return DropFiles(window, QPoint(5, 5), {QUrl::fromLocalFile(path)});
         };
-        QVERIFY(!accepts(m_scene->Bytes(u"auszug.csv"_s, "x")));
+        QVERIFY(!accepts(m_scene->Book.WriteFile(u"auszug.csv"_s, "x")));
         QVERIFY(accepts(m_scene->Pdf(1)));
         QCOMPARE(papers.size(), 1);
         cStatementPapers shown(m_scene->Book.Tools, statement.Number());

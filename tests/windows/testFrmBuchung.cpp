@@ -48,10 +48,8 @@ QString FocusName()
     return QApplication::focusWidget() == nullptr ? QString() : QApplication::focusWidget()->objectName();
 }
 
-// The editor on a small book, with its window in front.
-class cScene
+struct cScene
 {
-public:
     explicit cScene(const cEntryFields& fields = {}) { Open(fields); }
 
     void Open(const cEntryFields& fields)
@@ -74,7 +72,6 @@ public:
     QLineEdit& Line(const QString& name) { return Find<QLineEdit>(name); }
     QComboBox& Box(const QString& name) { return Find<QComboBox>(name); }
 
-    // All entries of the book, oldest first.
     cEntryItemList Entries()
     {
         cEntryItemList entries;

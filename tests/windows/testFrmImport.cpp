@@ -32,9 +32,8 @@ namespace {
 
 const QString fixture = QStringLiteral(TEST_DATA "/mt940/giro.sta");
 
-class cScene
+struct cScene
 {
-public:
     cScene()
     {
         Review.View().SetGrouping(0);

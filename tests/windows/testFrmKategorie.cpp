@@ -26,9 +26,8 @@ namespace {
 const QString food = u"Haushalt; Lebensmittel"_s;
 const QString drinks = u"Haushalt; Getränke"_s;
 
-class cScene
+struct cScene
 {
-public:
     cScene()
     {
         Id = Book.Add([](cEntryItem&) {}).ID;
@@ -234,7 +233,6 @@ private Q_SLOTS:
         QVERIFY(!tree->isExpanded(m_scene->Manager.Categories().IndexOf(u"Haushalt"_s)));
     }
 
-    // On every kind of line.
     void EverybodyCanUseIt()
     {
         m_scene->Book.Add([](cEntryItem& entry) { entry.EntryCategory = u"Haushalt; Altes"_s; });

@@ -40,9 +40,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class cScene
+struct cScene
 {
-public:
     cScene()
     {
         First = Book.Add([](cEntryItem& entry) { entry.EntryDescription = u"Wocheneinkauf"_s; });

@@ -19,9 +19,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-class cScene
+struct cScene
 {
-public:
     cScene()
     {
         Book.Add([](cEntryItem& entry) { entry.EntryDescription = u"Rewe"_s; });

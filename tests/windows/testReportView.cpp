@@ -70,7 +70,6 @@ QString SumHtml()
                 {Group(u"Haushalt"_s, 10050, 0, {u"Lebensmittel"_s}), Group(u"Wohnung"_s, 70000, 0, {u"Miete"_s})});
 }
 
-// The place of a word on the page.
 QRect PlaceOf(const std::vector<cReportPiece>& pieces, const QString& word)
 {
     const auto found =
