@@ -51,5 +51,5 @@ int main(int argc, char* argv[])
     });
     std::printf("%s\n", qPrintable(server.Url()));
     std::fflush(stdout);
-    return server.IsListening() ? QCoreApplication::exec() : 1;
+    return QCoreApplication::exec();
 }

@@ -3,7 +3,6 @@
 #include <QProcess>
 #include <QString>
 
-// A session bus of its own.
 class cTestBus
 {
 public:

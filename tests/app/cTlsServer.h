@@ -27,10 +27,11 @@ public:
         m_server.setSslConfiguration(security);
         connect(&m_server, &QSslServer::pendingConnectionAvailable, this,
                 [this] { Serve(m_server.nextPendingConnection()); });
-        m_isListening = m_server.listen(QHostAddress::LocalHost);
+        if (!m_server.listen(QHostAddress::LocalHost)) {
+            qFatal("no port");
+        }
     }
 
-    [[nodiscard]] bool IsListening() const { return m_isListening; }
     [[nodiscard]] QString Url(const QString& host = QStringLiteral("localhost")) const
     {
         return QStringLiteral("https://%1:%2/fints").arg(host).arg(m_server.serverPort());
@@ -46,7 +47,6 @@ public:
     // Says nothing and closes the connection.
     static inline const QByteArray Hangup = "hang up";
 
-    // An answer in full, with a head that fits.
     [[nodiscard]] static QByteArray Redirect(const QByteArray& to)
     {
         return "HTTP/1.1 302 Found\r\nLocation: " + to + "\r\nContent-Length: 0\r\nConnection: close\r\n\r\n";
@@ -91,5 +91,4 @@ private:
 
     QSslServer m_server;
     fnAnswer m_answer;
-    bool m_isListening = false;
 };

@@ -2,7 +2,6 @@
 #include "app/machine/cFileLock.h"
 #include "core/cBook.h"
 #include "core/cConfiguration.h"
-#include "core/cSettings.h"
 #include "core/modPassword.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
@@ -10,22 +9,18 @@
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 
-#include <QTest>
-
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
 constexpr const char* oneEntry = "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2026-01-31', 'Giro');";
 
-// A running program on a book with one entry.
 struct cMachine : cFakeMachine
 {
     cMachine()
     {
-        if (!StartUp.TryBook(Book, {File.Make(oneEntry), true}) || Lock.Take(Book.Path()) != eLockState::Held) {
-            qFatal("cannot open the book");
-        }
+        QVERIFY(StartUp.TryBook(Book, {File.Make(oneEntry), true}));
+        QCOMPARE(Lock.Take(Book.Path()), eLockState::Held);
     }
 
     [[nodiscard]] bool IsAsBefore()
@@ -35,7 +30,6 @@ struct cMachine : cFakeMachine
             && Registry.Values.isEmpty();
     }
 
-    // A file with a password in it.
     [[nodiscard]] QString MakeProtected(const QString& name) const
     {
         const QString stored = modPassword::ToStored(u"geheim"_s);

@@ -1,15 +1,18 @@
 #include "app/cMainProgram.h"
 #include "app/cNavigation.h"
-#include "core/cBookTools.h"
+#include "app/machine/cSessionWatch.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
+#include "store/cDatabase.h"
 #include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
+#include "support/cTestRows.h"
 #include "views/ledger/cStatementListModel.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
 #include "views/statement/cImportReview.h"
+#include "windows/entry/frmBuchung.h"
 #include "windows/help/frmHandbuch.h"
 #include "windows/look/modTone.h"
 #include "windows/main/frmMain.h"
@@ -17,27 +20,30 @@
 #include "windows/statement/frmKontoauszug.h"
 
 #include <QAction>
-#include <QActionGroup>
 #include <QApplication>
 #include <QDir>
+#include <QLineEdit>
 #include <QListView>
 #include <QMenuBar>
+#include <QMessageBox>
+#include <QProcess>
 #include <QPushButton>
 #include <QStatusBar>
-#include <QTest>
 #include <QTimer>
 #include <QToolButton>
+
+#include <csignal>
+#include <functional>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr const char* oneEntry = "INSERT INTO data (EntryDate, EntryAccount) VALUES ('2026-01-31', 'Giro');";
+constexpr const char* oneEntry =
+    "INSERT INTO data (ID, EntryDate, EntryType, EntryInterval, EntryAccount, EntryCategory, EntryValue, "
+    "EntryDescription) VALUES (5, '2026-03-10', 'Ausgabe', 'Einmalig', 'Girokonto', 'Haushalt; Lebensmittel', '10', "
+    "'Markt');";
 
-constexpr const char* oneTransaction =
-    "INSERT INTO import (ImportDate, ImportAccount, ImportValue) VALUES ('2026-03-01', '4711', '1.00');";
-
-// The window program on a book of a temporary folder.
 struct cMachine : cFakeMachine
 {
     [[nodiscard]] QStringList Copies() const
@@ -45,24 +51,20 @@ struct cMachine : cFakeMachine
         return QDir(File.Path(u"Sicherungen"_s)).entryList(QDir::Files, QDir::Name);
     }
 
-    const cMainProgram::cPorts Ports{Shell, Registry, User, Rescue, Clock};
-};
+    [[nodiscard]] QStringList Drafts() const { return QDir(Shell.Folder(u"state"_s)).entryList({u"*.json"_s}); }
+    [[nodiscard]] bool IsLocked() const { return QFileInfo::exists(Book + u".lock"_s); }
 
-// An environment variable for a while.
-class cVariable
-{
-public:
-    cVariable(const char* name, const QByteArray& value) : m_name(name), m_former(qgetenv(name))
+    [[nodiscard]] std::unique_ptr<cMainProgram> Start() const
     {
-        qputenv(name, value);
+        auto program = std::make_unique<cMainProgram>(Ports, u"0.1.0"_s);
+        if (!program->Start({.Book = Book})) {
+            qFatal("no start");
+        }
+        return program;
     }
-    cVariable(const cVariable&) = delete;
-    cVariable& operator=(const cVariable&) = delete;
-    ~cVariable() { qputenv(m_name, m_former); }
 
-private:
-    const char* m_name;
-    QByteArray m_former;
+    const QString Book = File.Make(oneEntry);
+    const cMainProgram::cPorts Ports{Shell, Registry, User, Rescue, Clock};
 };
 
 QString FirstMenu(cMainProgram& program)
@@ -82,6 +84,46 @@ QString ShownChapter()
     return {};
 }
 
+// The program with its watch over the signals of this process.
+struct cRun
+{
+    explicit cRun(cMachine& machine) : Program(machine.Ports, u"0.1.0"_s)
+    {
+        QObject::connect(&Watch, &cSessionWatch::EndRequested, &Watch, [this] { Program.End(); });
+        QObject::connect(&Watch, &cSessionWatch::SaveRequested, &Watch, [this] { Program.Save(); });
+        QVERIFY(Program.Start({.Book = machine.Book}));
+    }
+
+    // Does this in the running program; its exit code.
+    [[nodiscard]] static int Exec(const std::function<void()>& work = [] {})
+    {
+        QTimer::singleShot(0, qApp, work);
+        return QApplication::exec();
+    }
+
+    cMainProgram Program;
+    cSessionWatch Watch;
+};
+
+// Waits for the entry form that is about to open, works on it, and leaves it open.
+void InForm(const std::function<void(frmBuchung&)>& work)
+{
+    auto* wait = new QTimer(qApp);
+    QObject::connect(wait, &QTimer::timeout, wait, [wait, work] {
+        if (auto* form = qobject_cast<frmBuchung*>(QApplication::activeModalWidget())) {
+            wait->deleteLater();
+            wait->stop();
+            work(*form);
+        }
+    });
+    wait->start();
+}
+
+QLineEdit& Line(const frmBuchung& form, const QString& name)
+{
+    return *form.findChild<QLineEdit*>(name);
+}
+
 } // namespace
 
 class testMainProgram final : public QObject
@@ -89,79 +131,70 @@ class testMainProgram final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_machine.emplace(); }
+
     // Closed, a changed book is copied; opened and closed again it is not, although the window has stored its view.
-    void CopyAtClosing() const
+    void CopyAtClosing()
     {
-        cMachine machine;
-        const QString path = machine.File.Make(oneEntry);
         for (const QString& day : {u"15"_s, u"16"_s}) {
-            cMainProgram program(machine.Ports, u"0.1.0"_s);
-            machine.Clock.Day = QDate(2026, 3, day.toInt());
-            QVERIFY(program.Start({.Book = path}));
-            QVERIFY(program.Window().close());
-            QCOMPARE(machine.Copies(), QStringList(u"data-auto-2026-03-15.backup"_s));
+            m_machine->Clock.Day = QDate(2026, 3, day.toInt());
+            const auto program = m_machine->Start();
+            QVERIFY(program->Window().close());
+            QCOMPARE(m_machine->Copies(), QStringList(u"data-auto-2026-03-15.backup"_s));
         }
-        QCOMPARE(machine.User.Shown, QStringList());
+        QCOMPARE(m_machine->User.Shown, QStringList());
     }
 
     // What is due today stands in the status bar a moment after the start, and goes when another book has nothing.
-    void ReminderInTheStatusBar() const
+    void ReminderInTheStatusBar()
     {
-        cMachine machine;
-        const QString path = machine.File.Make("INSERT INTO data (EntryDate, EntryDateEnd, EntryType, EntryInterval, "
-                                               "EntryAccount, EntryCategory, EntryValue, "
-                                               "EntryDescription) VALUES ('2026-02-15', '2050-01-01', 'Ausgabe', "
-                                               "'Monatlich', 'Giro', 'Wohnung', '700.00', "
-                                               "'Miete & mehr');");
-        cMainProgram program(machine.Ports, u"0.1.0"_s);
-        QVERIFY(program.Start({.Book = path}));
-        const auto* line = program.Window().findChild<QToolButton*>(u"cmdErinnerung"_s);
+        cTestFile::Run(m_machine->Book,
+                       "INSERT INTO data (EntryDate, EntryDateEnd, EntryType, EntryInterval, EntryAccount, "
+                       "EntryCategory, EntryValue, EntryDescription) VALUES ('2026-02-15', '2050-01-01', 'Ausgabe', "
+                       "'Monatlich', 'Giro', 'Wohnung', '700.00', 'Miete & mehr');");
+        const auto program = m_machine->Start();
+        const auto* line = program->Window().findChild<QToolButton*>(u"cmdErinnerung"_s);
         QVERIFY(line != nullptr && !line->isVisible());
         QTRY_VERIFY(line->isVisible());
         QVERIFY2(line->accessibleName().startsWith(u"Heute fällig: Miete & mehr"_s), qPrintable(line->text()));
-        QVERIFY(program.Window().close());
+        QVERIFY(program->Window().close());
     }
 
     // Kept from the menu, shown again by its key, and still so at the next start.
-    void KeptViewComesBackByItsKey() const
+    void KeptViewComesBackByItsKey()
     {
-        cMachine machine;
-        const QString path = machine.File.Make(oneEntry);
         for (const bool isFirst : {true, false}) {
-            cMainProgram program(machine.Ports, u"0.1.0"_s);
-            QVERIFY(program.Start({.Book = path}));
-            cMainModel& model = program.Model();
-            program.Window().ShowPage(frmMain::ePage::Entries);
+            const auto program = m_machine->Start();
+            cMainModel& model = program->Model();
+            program->Window().ShowPage(frmMain::ePage::Entries);
             if (isFirst) {
                 model.TypeFilter(u"miete"_s);
                 model.ChooseGrouping(u"Nach Monat"_s);
-                machine.User.Choices = {u"Wohnen"_s, u"Läden"_s};
+                m_machine->User.Choices = {u"Wohnen"_s, u"Läden"_s};
                 model.Execute(modCommand::SaveView);
-                program.Window().ShowPage(frmMain::ePage::Statements); // which keeps its own
-                program.Review().View().SetFilter(u"rewe"_s);
+                program->Window().ShowPage(frmMain::ePage::Statements); // which keeps its own
+                program->Review().View().SetFilter(u"rewe"_s);
                 model.Execute(modCommand::SaveView);
-                program.Review().View().SetFilter({});
+                program->Review().View().SetFilter({});
             }
             model.TypeFilter({});
             model.ChooseGrouping(modWord::KeineGruppierung);
-            program.Window().show();
-            QVERIFY(QTest::qWaitForWindowActive(&program.Window()));
-            QTest::keyClick(&program.Window(), Qt::Key_1, Qt::ControlModifier);
+            program->Window().show();
+            QVERIFY(QTest::qWaitForWindowActive(&program->Window()));
+            QTest::keyClick(&program->Window(), Qt::Key_1, Qt::ControlModifier);
             QCOMPARE(model.View().Filter, u"miete"_s);
             QCOMPARE(model.View().Grouping, u"Nach Monat"_s);
-            QCOMPARE(program.Window().Page(), frmMain::ePage::Entries);
-            QTest::keyClick(&program.Window(), Qt::Key_2, Qt::ControlModifier);
-            QCOMPARE(program.Window().Page(), frmMain::ePage::Statements);
-            QCOMPARE(program.Review().View().Filter(), u"rewe"_s);
-            program.Window().close();
+            QCOMPARE(program->Window().Page(), frmMain::ePage::Entries);
+            QTest::keyClick(&program->Window(), Qt::Key_2, Qt::ControlModifier);
+            QCOMPARE(program->Window().Page(), frmMain::ePage::Statements);
+            QCOMPARE(program->Review().View().Filter(), u"rewe"_s);
+            program->Window().close();
         }
     }
 
     // From the menu to the colours of an open window, and still so at the next start.
-    void AppearanceIsChosenLive() const
+    void AppearanceIsChosenLive()
     {
-        cMachine machine;
-        const QString path = machine.File.Make(oneEntry);
         const auto checked = [](const frmMain& window) {
             QStringList texts;
             for (const QAction* action : window.findChildren<QAction*>()) {
@@ -172,109 +205,100 @@ private Q_SLOTS:
             return texts;
         };
         {
-            cMainProgram program(machine.Ports, u"0.1.0"_s);
-            QVERIFY(program.Start({.Book = path}));
-            QCOMPARE(checked(program.Window()), QStringList(u"Wie das &System"_s));
-            QVERIFY(program.Model().Execute(modCommand::AppearanceDark));
-            QCOMPARE(checked(program.Window()), QStringList(u"&Dunkel"_s));
-            QTRY_VERIFY(modTone::IsDark(program.Window().palette()));
-            QVERIFY(program.Window().close());
+            const auto program = m_machine->Start();
+            QCOMPARE(checked(program->Window()), QStringList(u"Wie das &System"_s));
+            QVERIFY(program->Model().Execute(modCommand::AppearanceDark));
+            QCOMPARE(checked(program->Window()), QStringList(u"&Dunkel"_s));
+            QTRY_VERIFY(modTone::IsDark(program->Window().palette()));
+            QVERIFY(program->Window().close());
         }
-        cMainProgram program(machine.Ports, u"0.1.0"_s);
-        QVERIFY(program.Start({.Book = path}));
-        QVERIFY(modTone::IsDark(program.Window().palette()));
-        QVERIFY(program.Model().Execute(modCommand::AppearanceSystem));
-        QTRY_VERIFY(!modTone::IsDark(program.Window().palette()));
+        const auto program = m_machine->Start();
+        QVERIFY(modTone::IsDark(program->Window().palette()));
+        QVERIFY(program->Model().Execute(modCommand::AppearanceSystem));
+        QTRY_VERIFY(!modTone::IsDark(program->Window().palette()));
     }
 
     // Nothing that the window shows reads this table, so nothing else would come upon it.
-    void DamageIsFoundAndSaidOnce() const
+    void DamageIsFoundAndSaidOnce()
     {
-        cMachine machine;
-        const QString path = machine.File.Make(oneEntry);
         {
-            cMainProgram program(machine.Ports, u"0.1.0"_s);
-            QVERIFY(program.Start({.Book = path})); // brings the file up to date
+            const auto program = m_machine->Start();
         }
-        cTestFile::Damage(path, "account");
-        cMainProgram program(machine.Ports, u"0.1.0"_s);
-        QVERIFY(program.Start({.Book = path}));
-        QTRY_COMPARE(machine.User.Asked.size(), 1);
-        QVERIFY(machine.User.Asked[0].contains(u"ist beschädigt"_s));
-        QVERIFY(program.Window().close());
-        QCOMPARE(machine.User.Asked.size(), 1);
-        QCOMPARE(machine.Copies(), QStringList());
+        cTestFile::Damage(m_machine->Book, "account");
+        const auto program = m_machine->Start();
+        QTRY_COMPARE(m_machine->User.Asked.size(), 1);
+        QVERIFY(m_machine->User.Asked[0].contains(u"ist beschädigt"_s));
+        QVERIFY(program->Window().close());
+        QCOMPARE(m_machine->User.Asked.size(), 1);
+        QCOMPARE(m_machine->Copies(), QStringList());
     }
 
     // Who sees German words for the first time finds the language by its own name, and loses nothing by the change.
-    void LanguageFollowsTheSystemUntilChosen() const
+    void LanguageFollowsTheSystemUntilChosen()
     {
-        cMachine machine;
-        QVERIFY(QFile::copy(QStringLiteral(ENGLISH), machine.Shell.Folder(u"program"_s) + u"/kontorelle_en.qm"_s));
-        const QString path = machine.File.Make(oneEntry);
-        const cVariable system("LC_ALL", "en_GB.UTF-8");
+        QVERIFY(QFile::copy(QStringLiteral(ENGLISH), m_machine->Shell.Folder(u"program"_s) + u"/kontorelle_en.qm"_s));
+        const QByteArray before = qgetenv("LC_ALL");
+        qputenv("LC_ALL", "en_GB.UTF-8");
+        const auto restore = qScopeGuard([&] { qputenv("LC_ALL", before); });
         {
-            cMainProgram program(machine.Ports, u"0.1.0"_s);
-            QVERIFY(program.Start({.Book = path}));
-            QCOMPARE(FirstMenu(program), u"File"_s);
-            QCOMPARE(program.Tools().Settings.Get(modSettingKey::LanguageName), QString());
+            const auto program = m_machine->Start();
+            QCOMPARE(FirstMenu(*program), u"File"_s);
+            QCOMPARE(program->Tools().Settings.Get(modSettingKey::LanguageName), QString());
 
-            program.Model().ChooseGrouping(u"Nach Sparte"_s);
-            auto* german = program.Window().findChild<QMenu*>(u"languages"_s)->actions().at(1);
+            program->Model().ChooseGrouping(u"Nach Sparte"_s);
+            auto* german = program->Window().findChild<QMenu*>(u"languages"_s)->actions().at(1);
             QCOMPARE(german->text(), u"&Deutsch"_s);
             german->trigger();
-            QTRY_COMPARE(FirstMenu(program), u"Datei"_s);
-            QVERIFY(program.Window().isVisible());
-            QCOMPARE(program.Model().View().Grouping, u"Nach Sparte"_s);
-            QVERIFY(program.Window().close());
+            QTRY_COMPARE(FirstMenu(*program), u"Datei"_s);
+            QVERIFY(program->Window().isVisible());
+            QCOMPARE(program->Model().View().Grouping, u"Nach Sparte"_s);
+            QVERIFY(program->Window().close());
         } // which holds the book
-        cMainProgram next(machine.Ports, u"0.1.0"_s);
-        QVERIFY(next.Start({.Book = path}));
-        QCOMPARE(FirstMenu(next), u"Datei"_s);
+        const auto next = m_machine->Start();
+        QCOMPARE(FirstMenu(*next), u"Datei"_s);
     }
 
     // By the command in the main window, and in a dialog that waits for an answer.
-    void HelpOpensTheChapterOfTheWindowInFront() const
+    void HelpOpensTheChapterOfTheWindowInFront()
     {
-        cMachine machine;
-        QFile::link(QStringLiteral(MANUAL), machine.Shell.InstalledFile(u"handbuch"_s));
-        cMainProgram program(machine.Ports, u"0.1.0"_s);
-        QVERIFY(program.Start({.Book = machine.File.Make(oneEntry)}));
+        QFile::link(QStringLiteral(MANUAL), m_machine->Shell.InstalledFile(u"handbuch"_s));
+        const auto program = m_machine->Start();
         const auto activate = [&] {
-            program.Window().activateWindow();
-            return QTest::qWaitForWindowActive(&program.Window());
+            program->Window().activateWindow();
+            return QTest::qWaitForWindowActive(&program->Window());
         };
         QVERIFY(activate());
-        QTest::keyClick(&program.Window(), Qt::Key_F1);
+        QTest::keyClick(&program->Window(), Qt::Key_F1);
         QCOMPARE(ShownChapter(), u"Übersicht"_s);
         QVERIFY(activate());
-        program.Window().ShowPage(frmMain::ePage::Statistics);
+        program->Window().ShowPage(frmMain::ePage::Statistics);
         QCoreApplication::processEvents(); // the page is shown with the next round
-        QTest::keyClick(&program.Window(), Qt::Key_F1);
+        QTest::keyClick(&program->Window(), Qt::Key_F1);
         QCOMPARE(ShownChapter(), u"Auswertungen"_s);
         QVERIFY(activate());
         QString shown;
-        QTimer::singleShot(0, &program.Window(), [&] {
+        QTimer::singleShot(0, &program->Window(), [&] {
             QWidget* form = QApplication::activeModalWidget();
             QVERIFY(QTest::qWaitForWindowActive(form));
             QTest::keyClick(form->focusWidget(), Qt::Key_F1);
             shown = ShownChapter();
             form->close();
         });
-        program.Navigation().OpenNewEntry();
+        program->Navigation().OpenNewEntry();
         QCOMPARE(shown, u"Einträge erfassen"_s);
     }
 
     // Dropped on the account statement, listed in the window that its button opens, and taken back by the menu.
-    void PapersHangAtTheirAccount() const
+    void PapersHangAtTheirAccount()
     {
-        cMachine machine;
-        const QString paper = machine.File.Path(u"Auszug 03-2026.pdf"_s);
+        const QString paper = m_machine->File.Path(u"Auszug 03-2026.pdf"_s);
         cTestFile::Write(paper, "%PDF-1.4");
-        cMainProgram program(machine.Ports, u"0.1.0"_s);
-        QVERIFY(program.Start({.Book = machine.File.Make(oneTransaction)}));
+        cTestFile::Run(m_machine->Book,
+                       "INSERT INTO import (ImportDate, ImportAccount, ImportValue) "
+                       "VALUES ('2026-03-01', '4711', '1.00');");
+        const auto program = m_machine->Start();
         QStringList seen;
-        QTimer::singleShot(0, &program.Window(), [&] {
+        QTimer::singleShot(0, &program->Window(), [&] {
             auto* form = qobject_cast<frmKontoauszug*>(QApplication::activeModalWidget());
             QVERIFY(form != nullptr);
             Q_EMIT form->PapersDropped({paper});
@@ -292,40 +316,182 @@ private Q_SLOTS:
             }
             form->close();
         });
-        program.Model().Execute(modCommand::AccountStatement);
+        program->Model().Execute(modCommand::AccountStatement);
         QCOMPARE(seen, (QStringList{u"PDF-Auszüge: 4711"_s, u"März 2026 (8 bytes)"_s}));
-        program.Model().Execute(modCommand::Undo);
-        const cStatementListModel statement(program.Tools());
+        program->Model().Execute(modCommand::Undo);
+        const cStatementListModel statement(program->Tools());
         QCOMPARE(statement.PapersText(), u"&PDF-Auszüge…"_s);
-        QVERIFY(program.Window().close());
+        QVERIFY(program->Window().close());
     }
 
     // A failure marks the status bar until the log was looked at. A run that was killed is told of at the next start
     // and never again, and a second program that is still alive is not taken for one.
-    void FailuresAndBrokenRunsAreTold() const
+    void FailuresAndBrokenRunsAreTold()
     {
-        cMachine machine;
-        const QString path = machine.File.Make(oneEntry);
         {
-            cMainProgram program(machine.Ports, u"0.1.0"_s);
-            QVERIFY(program.Start({.Book = path}));
-            const auto* mark = program.Window().statusBar()->findChild<QToolButton*>(u"cmdFehlerprotokoll"_s);
+            const auto program = m_machine->Start();
+            const auto* mark = program->Window().statusBar()->findChild<QToolButton*>(u"cmdFehlerprotokoll"_s);
             QTest::qWait(50);
-            QCOMPARE(machine.User.Asked, QStringList());
+            QCOMPARE(m_machine->User.Asked, QStringList());
             QVERIFY(!mark->isVisible());
-            program.Tools().User.Show(eTone::Critical, u"Der Name ist zu lang."_s);
+            program->Tools().User.Show(eTone::Critical, u"Der Name ist zu lang."_s);
             QVERIFY(mark->isVisible());
-            const QString log = program.Log().Files().value(0);
+            const QString log = program->Log().Files().value(0);
             QVERIFY(QFile::copy(log, QFileInfo(log).path() + u"/kontorelle-20260101-000000-1-0.log"_s));
         }
         for (int start = 0; start < 2; ++start) {
-            cMainProgram program(machine.Ports, u"0.1.0"_s);
-            QVERIFY(program.Start({.Book = path}));
+            const auto program = m_machine->Start();
             QTest::qWait(50);
-            QCOMPARE(machine.User.Asked.size(), 1);
-            QVERIFY(machine.User.Asked[0].contains(u"nicht ordentlich beendet"_s));
+            QCOMPARE(m_machine->User.Asked.size(), 1);
+            QVERIFY(m_machine->User.Asked[0].contains(u"nicht ordentlich beendet"_s));
         }
     }
+
+    void TypedContentsOutliveTheEnd_data() const
+    {
+        const cTestRows<int, int> row("entry", "number");
+        row("new entry, SIGTERM", 0, SIGTERM);
+        row("changed entry, SIGHUP", 5, SIGHUP);
+        row("changed entry, SIGINT", 5, SIGINT);
+    }
+
+    // Typed and split, ended by a signal, offered and shown at the next start, ended once more, then saved.
+    void TypedContentsOutliveTheEnd() const
+    {
+        QFETCH(int, entry);
+        QFETCH(int, number);
+        cMachine machine;
+        const auto end = [&](bool isSplit) {
+            InForm([=](frmBuchung& form) {
+                QCOMPARE(form.windowTitle(), entry == 0 ? u"Neuer Eintrag"_s : u"Eintrag bearbeiten"_s);
+                Line(form, u"txtBetrag"_s).setText(u"47,11"_s);
+                if (isSplit) {
+                    form.findChild<QPushButton*>(u"cmdAufteilen"_s)->click();
+                }
+                ::raise(number);
+            });
+        };
+        {
+            cRun run(machine);
+            end(true);
+            cNavigation& windows = run.Program.Navigation();
+            const auto open = [&] {
+                entry == 0 ? windows.OpenNewEntry() : windows.OpenEntry(entry, QDate(2026, 3, 10));
+            };
+            QCOMPARE(cRun::Exec(open), 0);
+            QVERIFY(!run.Program.Window().isVisible());
+            QCOMPARE(machine.Drafts().size(), 1);
+        }
+        QVERIFY(!machine.IsLocked());
+        QCOMPARE(machine.User.Asked, QStringList());
+        {
+            machine.User.Decisions = {0};
+            cRun run(machine);
+            end(false);
+            QCOMPARE(cRun::Exec(), 0);
+            QCOMPARE(machine.Drafts().size(), 1); // the new one in place of the former
+        }
+        machine.User.Decisions = {0};
+        cRun run(machine);
+        bool isSplit = false;
+        QString amount;
+        InForm([&](frmBuchung& form) {
+            amount = Line(form, u"txtBetrag"_s).text();
+            isSplit = form.findChild<QPushButton*>(u"cmdAufteilen"_s)->text().startsWith(u"Nicht"_s);
+            machine.User.Answers = {eAnswer::Cancel, eAnswer::No};
+            form.reject(); // asks, because nothing of it is stored
+            QVERIFY(form.isVisible());
+            form.reject();
+        });
+        QTRY_COMPARE(machine.Drafts(), QStringList());
+        QCOMPARE(amount, u"47,11"_s);
+        QVERIFY(isSplit);
+        QVERIFY(machine.User.Asked.constLast().contains(u"noch nicht gespeichert"_s));
+        QVERIFY(run.Program.Window().isVisible());
+    }
+
+    // A question that waits above a form keeps nobody from logging out, and nothing is done in the user's name.
+    void QuestionsOnTopAreAnsweredNo() const
+    {
+        cMachine machine;
+        cRun run(machine);
+        bool isYes = true;
+        InForm([&](frmBuchung& form) {
+            Line(form, u"txtBetrag"_s).setText(u"47,11"_s);
+            QMessageBox box(QMessageBox::Question, u"Frage"_s, u"Löschen?"_s, QMessageBox::NoButton, &form);
+            const QPushButton* yes = box.addButton(u"Ja"_s, QMessageBox::YesRole);
+            box.setEscapeButton(box.addButton(u"Nein"_s, QMessageBox::NoRole));
+            QTimer::singleShot(0, &box, [] { ::raise(SIGTERM); });
+            box.exec();
+            isYes = box.clickedButton() == yes;
+        });
+        QCOMPARE(cRun::Exec([&] { run.Program.Navigation().OpenNewEntry(); }), 0);
+        QVERIFY(!isYes);
+        QCOMPARE(machine.Drafts().size(), 1);
+    }
+
+    // The user may cancel logging out. What was kept is no draft any more once it is saved or given up.
+    void CalledOffEndLeavesNoDraft() const
+    {
+        cMachine machine;
+        cRun run(machine);
+        qsizetype kept = 0;
+        InForm([&](frmBuchung& form) {
+            Line(form, u"txtBetrag"_s).setText(u"47,11"_s);
+            Q_EMIT run.Watch.SaveRequested();
+            kept = machine.Drafts().size();
+            machine.User.Answers = {eAnswer::No};
+            form.reject();
+        });
+        run.Program.Navigation().OpenNewEntry();
+        QCOMPARE(kept, 1);
+        QCOMPARE(machine.Drafts(), QStringList());
+        QVERIFY(run.Program.Window().isVisible());
+    }
+
+    void ProcessEndsCleanly_data() const
+    {
+        const cTestRows<QStringList> row("options");
+        row("with the window alone", {});
+        row("with a form above it", {u"--new-entry"_s});
+    }
+
+    void ProcessEndsCleanly() const
+    {
+        QFETCH(QStringList, options);
+        const cTestFile file;
+        const QString book = file.Make(oneEntry);
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(u"XDG_RUNTIME_DIR"_s, file.Folder());
+        environment.insert(u"LC_ALL"_s, u"de_DE.UTF-8"_s); // another currency would be asked about
+        environment.remove(u"DBUS_SESSION_BUS_ADDRESS"_s);
+        const QStringList arguments{u"--profile"_s, file.Path(u"profil"_s), book};
+        QProcess program;
+        program.setProcessEnvironment(environment);
+        program.setProcessChannelMode(QProcess::ForwardedChannels);
+        program.start(QStringLiteral(PROGRAM), arguments + options);
+        QVERIFY(program.waitForStarted());
+        QTRY_VERIFY_WITH_TIMEOUT(QFileInfo::exists(book + u".lock"_s), 20000);
+        // A second start ends when the first has answered it, and so has its window.
+        QProcess second;
+        second.setProcessEnvironment(environment);
+        second.start(QStringLiteral(PROGRAM), arguments);
+        QVERIFY(second.waitForFinished());
+        QCOMPARE(second.exitCode(), 0);
+
+        ::kill(static_cast<pid_t>(program.processId()), SIGTERM);
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+        QCOMPARE(program.exitCode(), 0);
+        QVERIFY(!QFileInfo::exists(book + u".lock"_s));
+        cDatabase database;
+        database.Open(book, eOpenMode::ReadOnly);
+        QVERIFY(cTestFile::Value(database, "SELECT SettingValue FROM setting WHERE SettingName = 'WindowSize'")
+                != u"(no row)"_s);
+    }
+
+private:
+    std::optional<cMachine> m_machine;
 };
 
 TEST_CLASS(testMainProgram, QApplication)

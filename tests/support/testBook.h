@@ -10,6 +10,7 @@
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
 #include "store/modSchema.h"
+#include "support/cTestEntry.h"
 #include "support/cTestFile.h"
 #include "support/fakes.h"
 
@@ -28,18 +29,11 @@ public:
     ~cTestBook() { modDate::UseForm({}); } // a test may have chosen another
     Q_DISABLE_COPY_MOVE(cTestBook)
 
-    // Adds a one-off expense of 10 euros on 2026-03-10 as `change` makes it; the stored entry.
+    // Adds the usual entry as `change` makes it; the stored entry.
     template <typename tChange>
     cEntryItem Add(tChange change)
     {
-        cEntryItem entry;
-        entry.EntryDate = QDate(2026, 3, 10);
-        entry.EntryDateEnd = modRecurrence::OpenEnd;
-        entry.EntryType = modWord::Ausgabe;
-        entry.EntryInterval = modWord::Einmalig;
-        entry.EntryAccount = QStringLiteral("Girokonto");
-        entry.EntryCategory = QStringLiteral("Haushalt; Lebensmittel");
-        entry.EntryValue = 1000;
+        cEntryItem entry = cTestEntry().Make();
         change(entry);
         if (!Data.AddNewEntry(entry)) {
             qFatal("entry not added");
@@ -47,27 +41,21 @@ public:
         return entry;
     }
 
+    cEntryItem Add(const cTestEntry& wanted)
+    {
+        return Add([&](cEntryItem& entry) { entry = wanted.Make(); });
+    }
+
     // Adds an expense as Add does, which comes again and again where an interval is named; the stored entry.
     cEntryItem Spend(QDate day, qint64 cents, const QString& text = {}, const QString& interval = modWord::Einmalig)
     {
-        return Add([&](cEntryItem& entry) {
-            entry.EntryDate = day;
-            entry.EntryValue = cents;
-            entry.EntryDescription = text;
-            entry.EntryInterval = interval;
-        });
+        return Add({.Day = day, .Cents = cents, .Text = text, .Interval = interval});
     }
 
     // Adds a transfer; the stored entry.
     cEntryItem Move(const QString& from, const QString& to, qint64 cents = 1000, QDate day = QDate(2026, 3, 10))
     {
-        return Add([&](cEntryItem& entry) {
-            entry.EntryDate = day;
-            entry.EntryType = modWord::Umbuchung;
-            entry.EntryAccount = from;
-            entry.EntryAccountMove = to;
-            entry.EntryValue = cents;
-        });
+        return Add({.Day = day, .Cents = cents, .Type = modWord::Umbuchung, .Account = from, .Target = to});
     }
 
     // Another amount for the occurrences of a series between two days.
@@ -78,14 +66,16 @@ public:
         }
     }
 
-    // Adds a row of the bank, which pays the entry with this ID; the stored row.
-    cImportEntry Stage(const QString& number, QDate day, qint64 cents, const QString& name = {}, int entry = -1)
+    // Adds a row of the bank, which pays the entry with this ID and may name the other account; the stored row.
+    cImportEntry Stage(const QString& number, QDate day, qint64 cents, const QString& name = {}, int entry = -1,
+                       const QString& otherNumber = {})
     {
         cImportEntry row;
         row.ImportAccount = number;
         row.ImportDate = day;
         row.ImportValue = cents;
         row.ImportBeneficiary = name;
+        row.ImportBeneficiaryAccount = otherNumber;
         row.ImportAssigned = entry > 0;
         row.ImportAssignedEntry = entry;
         if (!Data.AddNewImportEntry(row)) {
@@ -107,6 +97,13 @@ public:
             qFatal("category not added");
         }
         return path;
+    }
+
+    // Puts a file beside the book; its path.
+    [[nodiscard]] QString WriteFile(const QString& name, const QByteArray& bytes) const
+    {
+        cTestFile::Write(m_folder.filePath(name), bytes);
+        return m_folder.filePath(name);
     }
 
     // Makes a table unreadable and opens the book again.

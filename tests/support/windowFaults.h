@@ -232,11 +232,7 @@ inline QStringList CutValues(const QWidget& window)
                 const int right = view->columnViewportPosition(column) + width;
                 const bool isCut = NeededWidth(*view, text) > width || right > view->viewport()->width();
                 if (width > 0 && value.match(text).hasMatch() && isCut) {
-                    faults.append(QStringLiteral("cut: %1 in %2, %3 to %4 of %5")
-                                      .arg(text, Named(*view))
-                                      .arg(right - width)
-                                      .arg(right)
-                                      .arg(view->viewport()->width()));
+                    faults.append(QStringLiteral("cut: %1 in %2").arg(text, Named(*view)));
                 }
             }
         }

@@ -5,8 +5,11 @@
 #include <QDropEvent>
 #include <QLabel>
 #include <QMimeData>
+#include <QTabWidget>
 #include <QTest>
 #include <QUrl>
+
+#include <algorithm>
 
 // What the hands of a user do in a window.
 namespace modWindowHands {
@@ -51,6 +54,32 @@ tField& Labelled(const QWidget& window, const QString& text)
     const auto& label = Find<QLabel>(
         window, text, [&](const QLabel& each) { return each.buddy() != nullptr && each.text().remove(u'&') == text; });
     return *qobject_cast<tField*>(label.buddy());
+}
+
+// Whether a label in sight says this.
+inline bool Shows(const QWidget& window, const QString& text)
+{
+    const QList<QLabel*> labels = window.findChildren<QLabel*>();
+    return std::any_of(labels.begin(), labels.end(), [&](const QLabel* label) {
+        return label->isVisibleTo(&window) && label->text().contains(text);
+    });
+}
+
+// Looks at the window with every page of every book of tabs in sight once.
+template <typename tLook>
+void ForEachPage(QWidget& window, tLook look)
+{
+    look();
+    const QList<QTabWidget*> books = window.findChildren<QTabWidget*>();
+    for (QTabWidget* tabs : books) {
+        const int shown = tabs->currentIndex();
+        for (int page = 0; page < tabs->count(); ++page) {
+            if (tabs->isVisible() && page != shown) {
+                tabs->setCurrentIndex(page);
+                look();
+            }
+        }
+    }
 }
 
 // Lets data fall on a place of a widget, as far as that lets it come; whether it was taken.

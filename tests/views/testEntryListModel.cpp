@@ -2,13 +2,14 @@
 #include "model/modSplit.h"
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestEntry.h"
 #include "support/cTestRows.h"
 #include "support/testFormat.h"
 #include "views/list/cEntryListModel.h"
+#include "views/list/cListLayout.h"
 #include "views/list/modColumnWidth.h"
 
 #include <QAbstractItemModelTester>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -16,15 +17,10 @@ namespace {
 
 cEntryItem Entry(int id, QDate day, const QString& category, qint64 cents, const QString& type = modWord::Ausgabe)
 {
-    cEntryItem entry;
+    const QString target = type == modWord::Umbuchung ? u"Sparkonto"_s : QString();
+    cEntryItem entry =
+        cTestEntry{.Day = day, .Cents = cents, .Category = category, .Type = type, .Target = target}.Make();
     entry.ID = id;
-    entry.EntryDate = day;
-    entry.EntryType = type;
-    entry.EntryInterval = modWord::Einmalig;
-    entry.EntryAccount = u"Girokonto"_s;
-    entry.EntryAccountMove = type == modWord::Umbuchung ? u"Sparkonto"_s : QString();
-    entry.EntryCategory = category;
-    entry.EntryValue = cents;
     return entry;
 }
 
@@ -61,23 +57,23 @@ class testEntryListModel final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_model.emplace(m_format.Format); }
+
     // Two of a series may lie on one day: each is found again by the day that was planned for it.
-    void MovedOccurrences() const
+    void MovedOccurrences()
     {
-        const cTestFormat format;
-        cEntryListModel model(format.Format);
         cEntryListModel::cContent content;
         content.Entries = {Entry(4, QDate(2026, 4, 1), u"Miete"_s, 2000),
                            Entry(4, QDate(2026, 4, 1), u"Miete"_s, 2000)};
         content.Entries[0].PlannedDate = QDate(2026, 3, 1);
         content.Entries[0].CorrectionComment = u"Laut Kontoauszug"_s;
-        model.SetContent(content, {}, modWord::KeineGruppierung);
-        QCOMPARE(model.IndexesOf({{4, QDate(2026, 3, 1)}}), QModelIndexList{model.index(0, 0)});
-        QCOMPARE(model.IndexesOf({{4, QDate(2026, 4, 1)}}), QModelIndexList{model.index(1, 0)});
-        QCOMPARE(model.KeyAt(model.index(0, 0)).Day, QDate(2026, 3, 1));
-        QCOMPARE(model.index(0, 0).data(Qt::ToolTipRole).toString(),
+        m_model->SetContent(content, {}, modWord::KeineGruppierung);
+        QCOMPARE(m_model->IndexesOf({{4, QDate(2026, 3, 1)}}), QModelIndexList{m_model->index(0, 0)});
+        QCOMPARE(m_model->IndexesOf({{4, QDate(2026, 4, 1)}}), QModelIndexList{m_model->index(1, 0)});
+        QCOMPARE(m_model->KeyAt(m_model->index(0, 0)).Day, QDate(2026, 3, 1));
+        QCOMPARE(m_model->index(0, 0).data(Qt::ToolTipRole).toString(),
                  u"Verschoben; geplant war der 01.03.2026.\nLaut Kontoauszug"_s);
-        QVERIFY(!model.index(0, 0).data(cEntryListModel::CorrectedRole).toBool());
+        QVERIFY(!m_model->index(0, 0).data(cEntryListModel::CorrectedRole).toBool());
     }
 
     void Sorts_data()
@@ -97,11 +93,9 @@ private Q_SLOTS:
     {
         QFETCH(int, column);
         QFETCH(int, order);
-        const cTestFormat format;
-        cEntryListModel model(format.Format);
-        model.SetContent(Content(), {}, modWord::KeineGruppierung);
-        model.sort(column, static_cast<Qt::SortOrder>(order));
-        QTEST(Rows(model), "amounts");
+        m_model->SetContent(Content(), {}, modWord::KeineGruppierung);
+        m_model->sort(column, static_cast<Qt::SortOrder>(order));
+        QTEST(Rows(*m_model), "amounts");
     }
 
     void Groups_data()
@@ -130,10 +124,8 @@ private Q_SLOTS:
     void Groups()
     {
         QFETCH(QString, grouping);
-        const cTestFormat format;
-        cEntryListModel model(format.Format);
-        model.SetContent(Content(), {}, grouping);
-        QTEST(Rows(model), "groups");
+        m_model->SetContent(Content(), {}, grouping);
+        QTEST(Rows(*m_model), "groups");
     }
 
     void Finds_data()
@@ -161,25 +153,21 @@ private Q_SLOTS:
     {
         QFETCH(QString, filter);
         QFETCH(int, rows);
-        const cTestFormat format;
-        cEntryListModel model(format.Format);
-        model.SetContent(Content(), filter, modWord::KeineGruppierung);
-        QCOMPARE(model.rowCount(), rows);
-        QCOMPARE(model.Sums().Count, rows);
-        model.SetFilter({});
+        m_model->SetContent(Content(), filter, modWord::KeineGruppierung);
+        QCOMPARE(m_model->rowCount(), rows);
+        QCOMPARE(m_model->Sums().Count, rows);
+        m_model->SetFilter({});
         QString typed;
         for (const QChar c : filter) { // letter by letter it comes to the same
-            model.SetFilter(typed += c);
+            m_model->SetFilter(typed += c);
         }
-        QCOMPARE(model.rowCount(), rows);
+        QCOMPARE(m_model->rowCount(), rows);
     }
 
     // A whole tag finds its own entries, as a report counts them; the beginning of one is looked for like any other
     // word.
     void FiltersByTag()
     {
-        const cTestFormat format;
-        cEntryListModel model(format.Format);
         cEntryListModel::cContent content;
         for (const char* text : {"#Auto Reifen", "#autobahn Maut", "Auto gemietet", "#Müll"}) {
             cEntryItem entry;
@@ -189,41 +177,39 @@ private Q_SLOTS:
             entry.EntryDescription = QString::fromUtf8(text);
             content.Entries.append(entry);
         }
-        model.SetContent(content, {}, modWord::KeineGruppierung);
+        m_model->SetContent(content, {}, modWord::KeineGruppierung);
         QString typed;
         QList<int> rows;
         for (const QChar c : u"#AUTOB"_s) {
-            model.SetFilter(typed += c);
-            rows.append(model.rowCount());
+            m_model->SetFilter(typed += c);
+            rows.append(m_model->rowCount());
         }
         QCOMPARE(rows, QList<int>({3, 2, 2, 2, 1, 1}));
-        QCOMPARE(model.index(0, cEntryListModel::Tags).data().toString(), u"#autobahn"_s);
-        model.SetFilter(u"#muell"_s);
-        QCOMPARE(model.rowCount(), 1);
-        QCOMPARE(model.KnownTags(), QStringList({u"#Auto"_s, u"#autobahn"_s, u"#Müll"_s}));
+        QCOMPARE(m_model->index(0, cEntryListModel::Tags).data().toString(), u"#autobahn"_s);
+        m_model->SetFilter(u"#muell"_s);
+        QCOMPARE(m_model->rowCount(), 1);
+        QCOMPARE(m_model->KnownTags(), QStringList({u"#Auto"_s, u"#autobahn"_s, u"#Müll"_s}));
     }
 
     // What is typed narrows and widens the list again without a new sort.
     void FiltersInOrderAndGroups()
     {
-        const cTestFormat format;
-        cEntryListModel model(format.Format);
-        model.SetContent(Content(), {}, u"Nach Sparte"_s);
-        model.sort(cEntryListModel::Amount, Qt::DescendingOrder);
-        const QStringList groups = Rows(model);
-        model.SetFilter(u"haushalt"_s);
-        QCOMPARE(Rows(model), QStringList({u"Haushalt  (2)=-8,00"_s}));
-        QCOMPARE(model.Sums(), (cEntrySums{0, 800, 2}));
-        QCOMPARE(model.EntryAt(model.index(0, 0, model.index(0, 0)))->EntryValue, 300);
-        model.SetFilter(u"haushalt cafe"_s);
-        QCOMPARE(Rows(model), QStringList({u"Haushalt  (1)=-3,00"_s}));
-        model.SetFilter(u"x"_s);
-        QCOMPARE(model.rowCount(), 0);
-        model.SetGrouping(modWord::KeineGruppierung);
-        QCOMPARE(model.rowCount(), 0); // still filtered
-        model.SetGrouping(u"Nach Sparte"_s);
-        model.SetFilter({});
-        QCOMPARE(Rows(model), groups);
+        m_model->SetContent(Content(), {}, u"Nach Sparte"_s);
+        m_model->sort(cEntryListModel::Amount, Qt::DescendingOrder);
+        const QStringList groups = Rows(*m_model);
+        m_model->SetFilter(u"haushalt"_s);
+        QCOMPARE(Rows(*m_model), QStringList({u"Haushalt  (2)=-8,00"_s}));
+        QCOMPARE(m_model->Sums(), (cEntrySums{0, 800, 2}));
+        QCOMPARE(m_model->EntryAt(m_model->index(0, 0, m_model->index(0, 0)))->EntryValue, 300);
+        m_model->SetFilter(u"haushalt cafe"_s);
+        QCOMPARE(Rows(*m_model), QStringList({u"Haushalt  (1)=-3,00"_s}));
+        m_model->SetFilter(u"x"_s);
+        QCOMPARE(m_model->rowCount(), 0);
+        m_model->SetGrouping(modWord::KeineGruppierung);
+        QCOMPARE(m_model->rowCount(), 0); // still filtered
+        m_model->SetGrouping(u"Nach Sparte"_s);
+        m_model->SetFilter({});
+        QCOMPARE(Rows(*m_model), groups);
     }
 
     // The rules by which amounts are searched are learnt from the formatter, or asked where it has its own.
@@ -265,54 +251,88 @@ private Q_SLOTS:
 
     void FindsRowsAgainAfterRegrouping()
     {
-        const cTestFormat format;
-        cEntryListModel model(format.Format);
-        model.SetContent(Content(), {}, modWord::KeineGruppierung);
+        m_model->SetContent(Content(), {}, modWord::KeineGruppierung);
         const cEntryListModel::cKey key{3, QDate(2026, 3, 1)};
         for (const QString& grouping : modWord::Groupings().Stored()) {
-            model.SetGrouping(grouping);
-            const QModelIndexList found = model.IndexesOf({key, {99, QDate(2026, 3, 1)}});
+            m_model->SetGrouping(grouping);
+            const QModelIndexList found = m_model->IndexesOf({key, {99, QDate(2026, 3, 1)}});
             QCOMPARE(found.size(), 1);
-            QCOMPARE(model.KeyAt(found.constFirst()), key);
+            QCOMPARE(m_model->KeyAt(found.constFirst()), key);
         }
-        model.SetGrouping(modWord::KeineGruppierung);
-        QCOMPARE(model.KeyAt(model.IndexNear(QDate(2026, 3, 15))).ID, 4);
+        m_model->SetGrouping(modWord::KeineGruppierung);
+        QCOMPARE(m_model->KeyAt(m_model->IndexNear(QDate(2026, 3, 15))).ID, 4);
     }
 
     void MarksWhatIsSpecial()
     {
-        const cTestFormat format;
-        cEntryListModel model(format.Format);
-        model.SetContent(Content(), {}, modWord::KeineGruppierung);
-        QVERIFY(model.index(4, 0).data(cEntryListModel::FutureRole).toBool()); // 1 April
-        QVERIFY(!model.index(0, 0).data(cEntryListModel::FutureRole).toBool());
+        m_model->SetContent(Content(), {}, modWord::KeineGruppierung);
+        QVERIFY(m_model->index(4, 0).data(cEntryListModel::FutureRole).toBool()); // 1 April
+        QVERIFY(!m_model->index(0, 0).data(cEntryListModel::FutureRole).toBool());
         cEntryListModel::cContent parts = Content();
         modSplit::SetGroup(parts.Entries[0], 1);
         parts.Entries[1].PlannedDate = parts.Entries[3].PlannedDate = QDate(2026, 1, 1);
         parts.Entries[1].CorrectionComment = modSeries::BankComment(); // as nearly all that the bank paid
-        model.SetContent(parts, {}, modWord::KeineGruppierung);
-        QCOMPARE(Rows(model, cEntryListModel::Interval),
+        m_model->SetContent(parts, {}, modWord::KeineGruppierung);
+        QCOMPARE(Rows(*m_model, cEntryListModel::Interval),
                  QStringList({u"Einmalig"_s, u"Einmalig, korrigiert"_s, u"Einmalig, Teil"_s, u"Einmalig"_s,
                               u"Monatlich, verschoben"_s}));
-        QCOMPARE(model.headerData(cEntryListModel::Category, Qt::Horizontal, modColumnWidth::WidestRole).toString(),
+        QCOMPARE(m_model->headerData(cEntryListModel::Category, Qt::Horizontal, modColumnWidth::WidestRole).toString(),
                  u"Einkommen; Lohn / Gehalt"_s);
-        QCOMPARE(model.index(3, 0).data(cEntryListModel::ToneRole).toInt(), cEntryListModel::Income);
+        QCOMPARE(m_model->index(3, 0).data(cEntryListModel::ToneRole).toInt(), cEntryListModel::Income);
     }
 
     void KeepsTheContractOfItemModels()
     {
-        const cTestFormat format;
-        cEntryListModel model(format.Format);
-        const QAbstractItemModelTester tester(&model, QAbstractItemModelTester::FailureReportingMode::QtTest);
-        model.SetContent(Content(), {}, u"Nach Monat"_s);
-        model.sort(cEntryListModel::Amount, Qt::DescendingOrder);
-        model.SetFilter(u"haushalt"_s);
-        QCOMPARE(model.rowCount(), 2);
-        QCOMPARE(model.parent(model.index(0, 3, model.index(1, 0))), model.index(1, 0));
+        const QAbstractItemModelTester tester(&*m_model, QAbstractItemModelTester::FailureReportingMode::QtTest);
+        m_model->SetContent(Content(), {}, u"Nach Monat"_s);
+        m_model->sort(cEntryListModel::Amount, Qt::DescendingOrder);
+        m_model->SetFilter(u"haushalt"_s);
+        QCOMPARE(m_model->rowCount(), 2);
+        QCOMPARE(m_model->parent(m_model->index(0, 3, m_model->index(1, 0))), m_model->index(1, 0));
         // Else the mouse would only select, and heads of groups go nowhere.
-        QVERIFY(model.index(0, 0, model.index(1, 0)).flags() & Qt::ItemIsDragEnabled);
-        QVERIFY(!(model.index(1, 0).flags() & Qt::ItemIsDragEnabled));
+        QVERIFY(m_model->index(0, 0, m_model->index(1, 0)).flags() & Qt::ItemIsDragEnabled);
+        QVERIFY(!(m_model->index(1, 0).flags() & Qt::ItemIsDragEnabled));
     }
+
+    void ShareTheRoom_data()
+    {
+        const cTestRows<int, int, QList<int>> row("Rest", "Room", "Widths");
+        row("what is left goes to cut texts, then to one", 1, 500, {90, 330, 80});
+        row("no more than there is", 1, 365, {85, 200, 80});
+        row("or to none", -1, 500, {90, 200, 80});
+        row("the long text gives way first", 1, 250, {80, 97, 73});
+        row("then the amount keeps what it needs", 1, 160, {52, 38, 70});
+        row("below that the list scrolls", 1, 100, {30, 20, 70});
+    }
+
+    void ShareTheRoom()
+    {
+        QFETCH(int, Rest);
+        QFETCH(int, Room);
+        const QList<modColumnWidth::cColumn> columns{{80, 80, 30, 90}, {200, 60, 20}, {80, 60, 70}};
+        QTEST(modColumnWidth::Share(columns, Rest, Room), "Widths");
+    }
+
+    void StoredWidthsFollowTheTypeSize()
+    {
+        const std::optional<cListLayout> stored = cListLayout::FromText(u"0,60,1|1,0,1|sort,0,0|letter,6"_s, 2);
+        QVERIFY(stored);
+        const cListLayout larger = stored->ForLetter(8);
+        QCOMPARE(larger.ToText(), u"0,80,1|1,0,1|sort,0,0|letter,8"_s);
+        const std::optional<cListLayout> old = cListLayout::FromText(u"0,60,1|1,0,1|sort,0,0"_s, 2);
+        QVERIFY(old);
+        QCOMPARE(old->ForLetter(8).Columns.front().Width, 60); // nobody knows what it was measured in
+
+        // A column that came with a later version does not cost the user the layout.
+        const std::optional<cListLayout> grown = cListLayout::FromText(u"1,60,1|0,0,0|sort,0,0"_s, 4, {3});
+        QVERIFY(grown);
+        QCOMPARE(grown->ToText(), u"1,60,1|0,0,0|2,0,1|3,0,0|sort,0,0"_s);
+        QVERIFY(!cListLayout::FromText(u"1,60,1|2,0,1|sort,0,0"_s, 3));
+    }
+
+private:
+    cTestFormat m_format;
+    std::optional<cEntryListModel> m_model;
 };
 
 TEST_CLASS(testEntryListModel, QCoreApplication)

@@ -1,21 +1,32 @@
 #include "base/cProgress.h"
+#include "import/zip/modZip.h"
 #include "model/modWord.h"
+#include "store/cDataAccess.h"
 #include "support/cNoRoom.h"
 #include "support/cTestClass.h"
+#include "support/cTestEntry.h"
+#include "support/cTestFile.h"
 #include "support/cTestRows.h"
+#include "support/fakes.h"
 #include "support/testBook.h"
 #include "support/testFormat.h"
 #include "views/export/cEntryExport.h"
 #include "views/list/cEntryListModel.h"
+#include "views/list/modFileWrite.h"
 #include "views/main/cViewState.h"
 #include "views/main/modViewText.h"
 #include "views/people/modSettlementExport.h"
 
+#include <QDir>
 #include <QFile>
-#include <QTest>
 #include <QXmlStreamReader>
 
-#include <minizip/unzip.h>
+#include <sys/resource.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <csignal>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -23,16 +34,9 @@ namespace {
 
 cEntryItem Entry(QDate day, const QString& type, qint64 cents, const QString& category, const QString& text)
 {
-    cEntryItem entry;
-    entry.EntryDate = day;
-    entry.EntryType = type;
-    entry.EntryInterval = modWord::Einmalig;
-    entry.EntryAccount = u"Girokonto"_s;
-    entry.EntryAccountMove = type == modWord::Umbuchung ? u"Sparkonto"_s : QString();
-    entry.EntryCategory = category;
-    entry.EntryValue = cents;
-    entry.EntryDescription = text;
-    return entry;
+    const QString target = type == modWord::Umbuchung ? u"Sparkonto"_s : QString();
+    return cTestEntry{.Day = day, .Cents = cents, .Text = text, .Category = category, .Type = type, .Target = target}
+        .Make();
 }
 
 cEntryListModel::cContent Content(const QString& account = {})
@@ -55,18 +59,13 @@ cEntryListModel::cContent Content(const QString& account = {})
 class cTable
 {
 public:
-    explicit cTable(const QByteArray& bytes)
+    explicit cTable(QByteArray bytes) : m_bytes(std::move(bytes))
     {
-        const cTestFile folder;
-        const QString path = folder.Path(u"table.xlsx"_s);
-        cTestFile::Write(path, bytes);
-        m_zip = unzOpen(QFile::encodeName(path).constData());
         ReadTexts(Part("xl/sharedStrings.xml"));
         Sheet = Part("xl/worksheets/sheet1.xml");
         Core = Part("docProps/core.xml");
         Styles = Part("xl/styles.xml");
         ReadCells();
-        unzClose(m_zip);
     }
 
     [[nodiscard]] QString At(const QString& cell) const { return m_cells.value(cell); }
@@ -88,19 +87,9 @@ public:
     bool IsWellFormed = true; // all texts could be read
 
 private:
-    QByteArray Part(const char* name)
+    [[nodiscard]] QByteArray Part(const char* name) const
     {
-        QByteArray content;
-        if (m_zip == nullptr || unzLocateFile(m_zip, name, 1) != UNZ_OK || unzOpenCurrentFile(m_zip) != UNZ_OK) {
-            return content;
-        }
-        QByteArray buffer(65536, '\0');
-        int count = 0;
-        while ((count = unzReadCurrentFile(m_zip, buffer.data(), static_cast<unsigned>(buffer.size()))) > 0) {
-            content.append(buffer.constData(), count);
-        }
-        unzCloseCurrentFile(m_zip);
-        return content;
+        return modZip::Read(m_bytes, QString::fromLatin1(name)).value_or(QByteArray());
     }
 
     void ReadTexts(const QByteArray& xml)
@@ -135,13 +124,14 @@ private:
         }
     }
 
-    unzFile m_zip = nullptr;
+    QByteArray m_bytes;
     QStringList m_texts;
     QHash<QString, QString> m_cells;
 };
 
 } // namespace
 
+// What is written into files, and how.
 class testExport final : public QObject
 {
     Q_OBJECT
@@ -213,31 +203,12 @@ private Q_SLOTS:
                  u"01.03.2026;Ausgabe;Auto;Girokonto;"_s + field + u";Einmalig;-1,00\r"_s);
     }
 
-    void CsvNamesTheGroup()
-    {
-        m_model->SetGrouping(u"Nach Buchungsart"_s);
-        QStringList starts;
-        const QStringList lines = Lines(modExport::eFormat::Csv);
-        for (const QString& line : lines) {
-            starts.append(line.section(u';', 0, 1));
-        }
-        QCOMPARE(starts.mid(1, 2), QStringList({u"Ausgabe;01.03.2026"_s, u"Ausgabe;09.03.2026"_s}));
-        QVERIFY(starts.contains(u"Umbuchung;02.03.2026"_s));
-    }
-
     void XlsxHoldsDatesAndNumbers()
     {
         const cTable table(Bytes(modExport::eFormat::Xlsx));
         QCOMPARE(table.Row(1).size(), 8);
-        QCOMPARE(table.Row(3),
-                 QStringList({u"46082"_s,
-                              u"Ausgabe"_s,
-                              u"Wohnung; Miete"_s,
-                              u"Girokonto"_s,
-                              {},
-                              u"=1+1 <b>"_s,
-                              u"Monatlich, korrigiert"_s,
-                              u"-1234.56"_s}));
+        QCOMPARE(table.Row(3).join(u'|'),
+                 u"46082|Ausgabe|Wohnung; Miete|Girokonto||=1+1 <b>|Monatlich, korrigiert|-1234.56"_s);
         QVERIFY(table.Sheet.contains("state=\"frozen\""));
         QVERIFY(table.Sheet.contains("<autoFilter ref=\"A1:H5\"/>"));
         QVERIFY(table.Styles.contains("dd.mm.yyyy"));
@@ -458,6 +429,98 @@ private Q_SLOTS:
                  u"Zeitraum: Buchungen bis heute (15.03.2026)"_s);
     }
 
+    void cleanup()
+    {
+        for (const QString& name : Names()) {
+            QFile::remove(m_files.Path(name));
+            QDir().rmdir(m_files.Path(name));
+        }
+    }
+
+    // The last byte counts: a file that is cut there is not the new one.
+    void FullDiskKeepsTheOldFile()
+    {
+        const QString path = m_files.Path(u"a.csv"_s);
+        QCOMPARE(modFileWrite::Replace(path, "old"), QString());
+        QCOMPARE(QFile::permissions(path) & QFile::WriteOther, QFile::Permissions());
+        QVERIFY(QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner));
+        {
+            const cNoRoom room(9);
+            QCOMPARE(modFileWrite::Replace(path, "ten bytes."), u"Die Datei ist für diesen Datenträger zu groß."_s);
+        }
+        QCOMPARE(cTestFile::Bytes(path), QByteArray("old"));
+        QCOMPARE(Names(), QStringList(u"a.csv"_s));
+        QCOMPARE(modFileWrite::Replace(path, "ten bytes."), QString());
+        QCOMPARE(cTestFile::Bytes(path), QByteArray("ten bytes."));
+        const QFile::Permissions others = QFile::ReadGroup | QFile::ReadOther;
+        QCOMPARE(QFile::permissions(path) & others, QFile::Permissions()); // who kept it to himself still does
+    }
+
+    // A program that is killed has written some of the file beside the target.
+    void LeftoverOfAKillGoes()
+    {
+        const QString path = m_files.Path(u"Bericht.pdf"_s);
+        const pid_t child = fork();
+        if (child == 0) {
+            std::signal(SIGXFSZ, SIG_DFL); // ends the program in the middle of the write
+            const rlimit limit{3, 3};
+            setrlimit(RLIMIT_FSIZE, &limit);
+            (void)modFileWrite::Replace(path, "new and longer");
+            _exit(0);
+        }
+        int status = 0;
+        QCOMPARE(waitpid(child, &status, 0), child);
+        QVERIFY(WIFSIGNALED(status));
+        QVERIFY(!QFile::exists(path));
+        QCOMPARE(Names().size(), 1);
+        QCOMPARE(modFileWrite::Replace(path, "new"), QString());
+        QCOMPARE(Names(), QStringList(u"Bericht.pdf"_s));
+    }
+
+    void OnlyRegularFilesAreReplaced()
+    {
+        const QString pipe = m_files.Path(u"pipe"_s);
+        const QString folder = m_files.Path(u"folder"_s);
+        const QString dangling = m_files.Path(u"dangling"_s);
+        const QString link = m_files.Path(u"link"_s);
+        const QString target = m_files.Path(u"target"_s);
+        QVERIFY(mkfifo(qPrintable(pipe), 0600) == 0 && QDir().mkdir(folder) && QFile::link(u"nothing"_s, dangling));
+        cTestFile::Write(target, "old");
+        QVERIFY(QFile::link(target, link));
+        const QStringList before = Names();
+        QCOMPARE(modFileWrite::Replace(folder, "x"), u"Unter diesem Namen gibt es einen Ordner."_s);
+        QCOMPARE(modFileWrite::Replace(dangling, "x"),
+                 u"Sie ist eine Verknüpfung mit einer Datei, die es nicht gibt."_s);
+        for (const QString& path : {pipe, u"/dev/null"_s}) {
+            QVERIFY2(modFileWrite::Replace(path, "x").contains(u"Gerät"_s), qPrintable(path));
+        }
+        QCOMPARE(modFileWrite::Replace(m_files.Path(u"missing/a"_s), "x"),
+                 u"Den Ordner '%1' gibt es nicht."_s.arg(m_files.Path(u"missing"_s)));
+        QCOMPARE(modFileWrite::Replace(link, "new"), QString());
+        QCOMPARE(cTestFile::Bytes(target), QByteArray("new"));
+        QCOMPARE(Names(), before);
+    }
+
+    void BookThatCouldNotBeReadIsNotExported()
+    {
+        const QString path = m_files.Path(u"a.csv"_s);
+        cDatabase database(0); // waits for nobody
+        database.Open(m_files.Make(), eOpenMode::ReadWrite);
+        cFakeUser user;
+        cDataAccess data(database, user);
+        QCOMPARE(modFileWrite::Export(data, path, "yesterday"), QString());
+        {
+            cDatabase other;
+            other.Open(database.Path(), eOpenMode::ReadWrite);
+            other.Execute("BEGIN EXCLUSIVE");
+            QVERIFY(data.GetTemplates().isEmpty());
+        }
+        QVERIFY(modFileWrite::Export(data, path, "today").contains(u"nicht vollständig gelesen"_s));
+        QCOMPARE(cTestFile::Bytes(path), QByteArray("yesterday"));
+        QCOMPARE(data.GetTemplates().size(), 1);
+        QCOMPARE(modFileWrite::Export(data, path, "today"), QString());
+    }
+
 private:
     [[nodiscard]] cEntryExtract Extract() const
     {
@@ -478,6 +541,12 @@ private:
     cTestFormat m_format;
     cNoProgress m_progress;
     std::unique_ptr<cEntryListModel> m_model;
+    cTestFile m_files;
+
+    [[nodiscard]] QStringList Names() const
+    {
+        return QDir(m_files.Folder()).entryList(QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
+    }
 };
 
 TEST_CLASS(testExport, QCoreApplication)

@@ -7,8 +7,6 @@
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
 
-#include <QTest>
-
 #include <functional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -35,13 +33,6 @@ struct cPage : cTestBook
             Answer(assistant);
             return IsConfirmed;
         });
-    }
-
-    QString Write(const QString& name, const QByteArray& content)
-    {
-        const QString path = Shell.Folder(u"data"_s) + u'/' + name;
-        cTestFile::Write(path, content);
-        return path;
     }
 
     void Import(const QStringList& paths, cStatementFiles::eAssist assist = cStatementFiles::eAssist::WhereNeeded)
@@ -92,6 +83,8 @@ class testImportAssistant : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_page.emplace(); }
+
     void ShowsWhatAChoiceDoes_data()
     {
         const cTestRows<QByteArray, fnChange, QString> row("file", "change", "row");
@@ -132,24 +125,22 @@ private Q_SLOTS:
     {
         QFETCH(QByteArray, file);
         QFETCH(fnChange, change);
-        cPage page;
-        page.IsConfirmed = false;
+        m_page->IsConfirmed = false;
         QString shown;
-        page.Answer = [&](cImportAssistant& assistant) {
+        m_page->Answer = [&](cImportAssistant& assistant) {
             change(assistant);
             const cImportAssistant::cRow first = assistant.Rows().value(0);
             shown = QStringList{first.Day, first.Name, first.Purpose, first.Amount, first.Remark}.join(u'|');
         };
-        page.Import({page.Write(u"a.csv"_s, file)}, cStatementFiles::eAssist::Always);
+        m_page->Import({m_page->WriteFile(u"a.csv"_s, file)}, cStatementFiles::eAssist::Always);
         QTEST(shown.replace(u'\u00A0', u' '), "row");
-        QCOMPARE(page.Data.GetImportEntries().size(), 0); // the user gave up
+        QCOMPARE(m_page->Data.GetImportEntries().size(), 0); // the user gave up
     }
 
     void SaysWhatIsMissing()
     {
-        cPage page;
-        page.IsConfirmed = false;
-        page.Answer = [](cImportAssistant& assistant) {
+        m_page->IsConfirmed = false;
+        m_page->Answer = [](cImportAssistant& assistant) {
             QCOMPARE(assistant.Problem(),
                      u"Es muss eine Kontonummer eingegeben werden, um die Daten einem Konto zuzuordnen."_s);
             QCOMPARE(assistant.Accounts(), QStringList({u"4711"_s, u"Sparkonto"_s, u"Bargeld"_s}));
@@ -160,19 +151,18 @@ private Q_SLOTS:
             Mean(0, u"nicht lesen"_s)(assistant);
             QVERIFY(assistant.Problem().startsWith(u"In der Datei sind keine Spalten"));
         };
-        page.Import({page.Write(u"a.csv"_s, plain)});
-        QCOMPARE(page.Opened, 1);
-        QVERIFY(page.User.Shown.isEmpty()); // giving up is no fault
-        QVERIFY(page.Review.Summary().first().startsWith(u"a.csv: nicht eingelesen."));
+        m_page->Import({m_page->WriteFile(u"a.csv"_s, plain)});
+        QCOMPARE(m_page->Opened, 1);
+        QVERIFY(m_page->User.Shown.isEmpty()); // giving up is no fault
+        QVERIFY(m_page->Review.Summary().first().startsWith(u"a.csv: nicht eingelesen."));
     }
 
     // Nothing in the file says what the amounts are: one booking is shown in both readings, and the answer is kept.
     void AsksWhichReadingIsRight()
     {
         const char* const unsure = "Tag;Text;Betrag\n03.02.2026;Miete & Strom;500,00\n04.02.2026;Kino;9,00\n";
-        cPage page;
         QStringList readings;
-        page.Answer = [&](cImportAssistant& assistant) {
+        m_page->Answer = [&](cImportAssistant& assistant) {
             assistant.SetAccount(u"4711"_s);
             readings = assistant.Readings();
             QCOMPARE(assistant.Reading(), -1);
@@ -183,98 +173,95 @@ private Q_SLOTS:
             QVERIFY(assistant.CanImport());
             QCOMPARE(assistant.Readings(), readings); // to change one's mind
         };
-        page.Import({page.Write(u"1.csv"_s, unsure)});
+        m_page->Import({m_page->WriteFile(u"1.csv"_s, unsure)});
         QCOMPARE(readings.join(u'/').replace(u'\u00A0', u' '),
                  u"03.02.2026  ·  Miete & Strom  ·  +500,00 €/03.02.2026  ·  Miete & Strom  ·  -500,00 €"_s);
-        QCOMPARE(page.Data.GetImportEntries().first().ImportValue, -50000);
-        page.Import({page.Write(u"2.csv"_s, QByteArray(unsure).replace("2026", "2025"))});
-        QCOMPARE(page.Opened, 1);
-        QCOMPARE(page.Data.GetImportEntries().last().ImportValue, -900);
+        QCOMPARE(m_page->Data.GetImportEntries().first().ImportValue, -50000);
+        m_page->Import({m_page->WriteFile(u"2.csv"_s, QByteArray(unsure).replace("2026", "2025"))});
+        QCOMPARE(m_page->Opened, 1);
+        QCOMPARE(m_page->Data.GetImportEntries().last().ImportValue, -900);
     }
 
     // One answer holds for all files of the layout, now and later; another layout is asked about.
     void AsksOncePerLayout()
     {
-        cPage page;
-        page.Answer = [](cImportAssistant& assistant) {
+        m_page->Answer = [](cImportAssistant& assistant) {
             Mean(4, u"Stand (vorgemerkt, gebucht)"_s)(assistant);
             assistant.SetAccount(u"4711"_s);
             assistant.SetBankCode(u"12030000"_s);
         };
-        const QString first = page.Write(u"1.csv"_s, plain);
-        const QString second = page.Write(u"2.csv"_s,
-                                          "Tag;Was;Preis;Wert;Stand\n06.02.2026;Bäcker;1,00;-2,00;gebucht\n"
-                                          "07.02.2026;Kino;1,00;-9,00;vorgemerkt\n");
-        page.Import({first, second});
-        QCOMPARE(page.Opened, 1);
-        QCOMPARE(page.Purposes(), QStringList({u"Bräzeln am Markt"_s, u"Miete"_s, u"Bäcker"_s}));
-        page.Import({second});
-        QCOMPARE(page.Opened, 1);
-        QCOMPARE(page.Data.GetImportEntries().size(), 3);
-        page.Import({page.Write(u"3.csv"_s, "Tag;Wert;Grund\n06.02.2026;-2,00;Bäcker\n")});
-        QCOMPARE(page.Opened, 2);
-        page.Answer = [](cImportAssistant& assistant) { // what was chosen can be seen and changed again
+        const QString first = m_page->WriteFile(u"1.csv"_s, plain);
+        const QString second = m_page->WriteFile(u"2.csv"_s,
+                                                 "Tag;Was;Preis;Wert;Stand\n06.02.2026;Bäcker;1,00;-2,00;gebucht\n"
+                                                 "07.02.2026;Kino;1,00;-9,00;vorgemerkt\n");
+        m_page->Import({first, second});
+        QCOMPARE(m_page->Opened, 1);
+        QCOMPARE(m_page->Purposes(), QStringList({u"Bräzeln am Markt"_s, u"Miete"_s, u"Bäcker"_s}));
+        m_page->Import({second});
+        QCOMPARE(m_page->Opened, 1);
+        QCOMPARE(m_page->Data.GetImportEntries().size(), 3);
+        m_page->Import({m_page->WriteFile(u"3.csv"_s, "Tag;Wert;Grund\n06.02.2026;-2,00;Bäcker\n")});
+        QCOMPARE(m_page->Opened, 2);
+        m_page->Answer = [](cImportAssistant& assistant) { // what was chosen can be seen and changed again
             QVERIFY(assistant.FormatText().contains(u"wie beim letzten Mal"));
             QCOMPARE(assistant.Account(), u"4711"_s);
             QCOMPARE(assistant.BankCode(), u"12030000"_s);
         };
-        page.Import({first}, cStatementFiles::eAssist::Always);
-        QCOMPARE(page.Opened, 3);
+        m_page->Import({first}, cStatementFiles::eAssist::Always);
+        QCOMPARE(m_page->Opened, 3);
     }
 
     // Where files of one kind come from several accounts, the answer for one says nothing about the next.
     void AsksAboutEachFileOfSeveralAccounts()
     {
-        cPage page;
-        page.Answer = [&](cImportAssistant& assistant) { assistant.SetAccount(QString::number(4711 + page.Opened)); };
-        const QString first = page.Write(u"1.csv"_s, plain);
-        const QString second = page.Write(u"2.csv"_s, QByteArray(plain).replace("2026", "2025"));
+        m_page->Answer = [&](cImportAssistant& assistant) {
+            assistant.SetAccount(QString::number(4711 + m_page->Opened));
+        };
+        const QString first = m_page->WriteFile(u"1.csv"_s, plain);
+        const QString second = m_page->WriteFile(u"2.csv"_s, QByteArray(plain).replace("2026", "2025"));
         for (int account = 0; account < 2; ++account) {
-            page.Import({first}, cStatementFiles::eAssist::Always);
+            m_page->Import({first}, cStatementFiles::eAssist::Always);
         }
-        page.Import({first, second});
-        QCOMPARE(page.Opened, 4);
+        m_page->Import({first, second});
+        QCOMPARE(m_page->Opened, 4);
     }
 
     // A known layout with other columns stays a known layout in all else.
     void KnownLayoutsCanBeChanged()
     {
-        cPage page;
-        page.Answer = [](cImportAssistant& assistant) {
+        m_page->Answer = [](cImportAssistant& assistant) {
             QVERIFY2(assistant.FormatText().contains(u"PayPal"), qPrintable(assistant.FormatText()));
             Mean(3, u"Verwendungszweck"_s)(assistant);
             assistant.SetAccount(u"4711"_s);
         };
         const QString paypal = QStringLiteral(TEST_DATA "/csv/paypal.csv");
-        page.Import({paypal}, cStatementFiles::eAssist::Always);
-        const QStringList changed = page.Purposes();
+        m_page->Import({paypal}, cStatementFiles::eAssist::Always);
+        const QStringList changed = m_page->Purposes();
         QVERIFY(!changed.isEmpty());
-        page.Import({paypal}); // through the memory alone: also what the layout leaves out
-        QCOMPARE(page.Opened, 1);
-        QCOMPARE(page.Purposes(), changed);
+        m_page->Import({paypal}); // through the memory alone: also what the layout leaves out
+        QCOMPARE(m_page->Opened, 1);
+        QCOMPARE(m_page->Purposes(), changed);
     }
 
     void OptionsHold()
     {
-        cPage page;
-        page.Answer = [](cImportAssistant& assistant) {
+        m_page->Answer = [](cImportAssistant& assistant) {
             QVERIFY(!assistant.AsksAccount() && !assistant.IsTable());
             assistant.SetAvoidsDuplicates(false);
         };
         const QString file = QStringLiteral(TEST_DATA "/mt940/giro.sta");
         for (int run = 0; run < 2; ++run) {
-            page.Import({file}, cStatementFiles::eAssist::Always);
+            m_page->Import({file}, cStatementFiles::eAssist::Always);
         }
-        QCOMPARE(page.Data.GetImportEntries().size(), 10);
+        QCOMPARE(m_page->Data.GetImportEntries().size(), 10);
     }
 
     // Of a long table only the beginning is tried, of a statement with a beginning and an end all of it.
     void LongFilesCanBeTried()
     {
-        cPage page;
-        page.IsConfirmed = false;
+        m_page->IsConfirmed = false;
         QStringList texts;
-        page.Answer = [&](cImportAssistant& assistant) {
+        m_page->Answer = [&](cImportAssistant& assistant) {
             assistant.SetAccount(u"4711"_s);
             texts.append(assistant.Problem() + assistant.CountText().section(u' ', 0, 0));
         };
@@ -287,75 +274,72 @@ private Q_SLOTS:
         for (int i = 0; i < 20'000; ++i) {
             csv += "03.02.2026;Einkauf Nummer " + QByteArray::number(i) + " am Markt;-1,00\n";
         }
-        page.Import({page.Write(u"a.ofx"_s, ofx), page.Write(u"a.csv"_s, csv)}, cStatementFiles::eAssist::Always);
+        m_page->Import({m_page->WriteFile(u"a.ofx"_s, ofx), m_page->WriteFile(u"a.csv"_s, csv)},
+                       cStatementFiles::eAssist::Always);
         QCOMPARE(texts.value(0), u"2"_s);
         QVERIFY(texts.value(1).toInt() > 5'000 && texts.value(1).toInt() < 20'000);
     }
 
     void ReadsAgain()
     {
-        cPage page;
-        page.Import({page.Write(u"a.csv"_s, plain)});
-        QCOMPARE(page.Purposes().size(), 3);
-        const int booked = page.Data.GetImportEntries().first().ID;
-        page.Review.Book({booked}, page.Progress);
-        page.Answer = [](cImportAssistant& assistant) {
+        m_page->Import({m_page->WriteFile(u"a.csv"_s, plain)});
+        QCOMPARE(m_page->Purposes().size(), 3);
+        const int booked = m_page->Data.GetImportEntries().first().ID;
+        m_page->Review.Book({booked}, m_page->Progress);
+        m_page->Answer = [](cImportAssistant& assistant) {
             Mean(2, u"Betrag"_s)(assistant);
             assistant.ChooseReading(0);
         };
-        QVERIFY(page.Review.Files().CanReadAgain());
-        page.Review.Files().ReadAgain(page.Progress);
-        const cImportEntryList rows = page.Data.GetImportEntries();
+        QVERIFY(m_page->Review.Files().CanReadAgain());
+        m_page->Review.Files().ReadAgain(m_page->Progress);
+        const cImportEntryList rows = m_page->Data.GetImportEntries();
         QCOMPARE(rows.size(), 4); // the booked one stays
         QCOMPARE(rows.first().ID, booked);
         QCOMPARE(rows.last().ImportValue, 400);
-        QVERIFY(page.Data.Journal().Undo());
-        QCOMPARE(page.Data.GetImportEntries().size(), 3);
-        QCOMPARE(page.Data.GetImportEntries().last().ImportValue, -100);
-        page.IsConfirmed = false;
-        page.Review.Files().ReadAgain(page.Progress);
-        QCOMPARE(page.Data.GetImportEntries().size(), 3);
+        QVERIFY(m_page->Data.Journal().Undo());
+        QCOMPARE(m_page->Data.GetImportEntries().size(), 3);
+        QCOMPARE(m_page->Data.GetImportEntries().last().ImportValue, -100);
+        m_page->IsConfirmed = false;
+        m_page->Review.Files().ReadAgain(m_page->Progress);
+        QCOMPARE(m_page->Data.GetImportEntries().size(), 3);
     }
 
     void AStoppedFileBringsNothing()
     {
-        cPage page;
         cFakeStop progress(3);
-        page.Review.Files().ImportFiles({QStringLiteral(TEST_DATA "/mt940/giro.sta")}, progress);
-        QCOMPARE(page.Data.GetImportEntries().size(), 0);
-        QCOMPARE(page.Review.Summary(), QStringList(u"giro.sta: abgebrochen, nichts davon übernommen."_s));
-        QVERIFY(page.Data.Journal().UndoName().isEmpty());
+        m_page->Review.Files().ImportFiles({QStringLiteral(TEST_DATA "/mt940/giro.sta")}, progress);
+        QCOMPARE(m_page->Data.GetImportEntries().size(), 0);
+        QCOMPARE(m_page->Review.Summary(), QStringList(u"giro.sta: abgebrochen, nichts davon übernommen."_s));
+        QVERIFY(m_page->Data.Journal().UndoName().isEmpty());
     }
 
     void PendingRowsCanBeTaken()
     {
-        cPage page;
-        page.Answer = [](cImportAssistant& assistant) {
+        m_page->Answer = [](cImportAssistant& assistant) {
             assistant.SetAccount(u"4711"_s);
             Mean(4, u"Stand (vorgemerkt, gebucht)"_s)(assistant);
             QVERIFY(assistant.LeftOut().first().startsWith(u"Zeile 4: Der Umsatz ist noch vorgemerkt"));
         };
-        page.Import({page.Write(u"a.csv"_s, plain)});
-        QCOMPARE(page.Review.Files().LeftOut().size(), 1);
-        QVERIFY(page.Review.Files().LeftOut().first().endsWith(u"vorgemerkt"));
-        page.Review.Files().StageLeftOut({0});
-        QCOMPARE(page.Purposes().value(2), u"Kiosk am Bahnhof"_s);
-        QCOMPARE(page.Data.GetImportEntries().last().ImportAccount, u"4711"_s);
+        m_page->Import({m_page->WriteFile(u"a.csv"_s, plain)});
+        QCOMPARE(m_page->Review.Files().LeftOut().size(), 1);
+        QVERIFY(m_page->Review.Files().LeftOut().first().endsWith(u"vorgemerkt"));
+        m_page->Review.Files().StageLeftOut({0});
+        QCOMPARE(m_page->Purposes().value(2), u"Kiosk am Bahnhof"_s);
+        QCOMPARE(m_page->Data.GetImportEntries().last().ImportAccount, u"4711"_s);
     }
 
     // What one household has found out, another one takes.
     void LayoutsAreShared()
     {
-        cPage page;
-        const QString shared = page.Write(u"aufbau.txt"_s, {});
-        page.User.SavePath = shared;
-        page.Answer = [](cImportAssistant& assistant) {
+        const QString shared = m_page->WriteFile(u"aufbau.txt"_s, {});
+        m_page->User.SavePath = shared;
+        m_page->Answer = [](cImportAssistant& assistant) {
             assistant.SetAccount(u"4711"_s);
             Mean(2, u"Betrag"_s)(assistant);
             QVERIFY(assistant.CanSaveLayout());
             assistant.SaveLayout();
         };
-        page.Import({page.Write(u"a.csv"_s, plain)});
+        m_page->Import({m_page->WriteFile(u"a.csv"_s, plain)});
         cPage other;
         other.User.Files = {shared};
         other.Answer = [](cImportAssistant& assistant) {
@@ -363,7 +347,7 @@ private Q_SLOTS:
             assistant.LoadLayout();
             QCOMPARE(assistant.Rows().value(0).Amount.simplified(), u"2,00 €"_s);
         };
-        other.Import({other.Write(u"b.csv"_s, plain)});
+        other.Import({other.WriteFile(u"b.csv"_s, plain)});
         QCOMPARE(other.Opened, 1);
         QCOMPARE(other.Data.GetImportEntries().first().ImportValue, 200);
         QVERIFY(other.User.Shown.value(0).contains(u"gilt nun für diese Datei"_s));
@@ -371,14 +355,16 @@ private Q_SLOTS:
 
     void OffersAllStatements()
     {
-        cPage page;
-        page.Review.Files().ChooseFiles(page.Progress);
-        const QStringList filter = page.User.Asked.value(0).split(u'|');
+        m_page->Review.Files().ChooseFiles(m_page->Progress);
+        const QStringList filter = m_page->User.Asked.value(0).split(u'|');
         QVERIFY(filter.value(1).contains(u"*.sta;") && filter.value(1).contains(u"*.zip;")); // shown by default
         QCOMPARE(filter.value(2), u"CSV/XLS/MT940/MT942/OFX/QIF-Datei"_s);
         QCOMPARE(filter.value(3), u"*.csv;*.txt;*.mt940;*.mt942;*.xls;*.mt9;*.ofx;*.qif"_s);
         QCOMPARE(filter.last(), u"*.*"_s);
     }
+
+private:
+    std::optional<cPage> m_page;
 };
 
 TEST_CLASS(testImportAssistant, QCoreApplication)

@@ -9,7 +9,6 @@
 #include "views/statement/cImportReview.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 #include <deque>
 #include <functional>
@@ -44,15 +43,7 @@ struct cPage : cTestBook
     // A row of 200 euros to or from the other account, whose bank names the counterparty.
     void StageTransfer(const QString& own, const QString& other, qint64 cents)
     {
-        cImportEntry row;
-        row.ImportAccount = own;
-        row.ImportBeneficiary = u"Jana"_s;
-        row.ImportBeneficiaryAccount = other;
-        row.ImportValue = cents;
-        row.ImportDate = day;
-        if (!Data.AddNewImportEntry(row)) {
-            qFatal("row not added");
-        }
+        cTestBook::Stage(own, day, cents, u"Jana"_s, -1, other);
         Review.Refresh();
     }
 
@@ -90,40 +81,40 @@ class testImportMatch final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void MatchesInOneStep() const
+    void init() { m_page.emplace(); }
+
+    void MatchesInOneStep()
     {
-        cPage page;
-        const int entry = page.Spend(2310, u"REWE"_s);
-        (void)page.Stage(-23.1, u"REWE"_s);
-        (void)page.Stage(-99, u"Jana"_s);
-        QSignalSpy entries(&page.Review, &cImportReview::EntriesChanged);
-        page.Review.Match({}, page.Progress);
-        QCOMPARE(page.Assigned(), QList<int>({entry, -1}));
-        QCOMPARE(page.Review.Summary(),
+        const int entry = m_page->Spend(2310, u"REWE"_s);
+        (void)m_page->Stage(-23.1, u"REWE"_s);
+        (void)m_page->Stage(-99, u"Jana"_s);
+        QSignalSpy entries(&m_page->Review, &cImportReview::EntriesChanged);
+        m_page->Review.Match({}, m_page->Progress);
+        QCOMPARE(m_page->Assigned(), QList<int>({entry, -1}));
+        QCOMPARE(m_page->Review.Summary(),
                  QStringList({u"Zugeordnet: 1, vorgeschlagen: 0, offen: 1."_s,
                               u"03.03.2026  ·  -23,10"_s + space + u"€  ·  REWE → 'REWE' vom 03.03. (100 %)"_s}));
         QCOMPARE(entries.size(), 0); // the book is as it was
-        QCOMPARE(page.Review.View().CountText(), u"1 offen, 2 insgesamt"_s);
-        QCOMPARE(page.Data.Journal().UndoName(), u"2 Umsätze abgeglichen"_s);
-        QVERIFY(page.Data.Journal().Undo());
-        QCOMPARE(page.Assigned(), QList<int>({-1, -1}));
+        QCOMPARE(m_page->Review.View().CountText(), u"1 offen, 2 insgesamt"_s);
+        QCOMPARE(m_page->Data.Journal().UndoName(), u"2 Umsätze abgeglichen"_s);
+        QVERIFY(m_page->Data.Journal().Undo());
+        QCOMPARE(m_page->Assigned(), QList<int>({-1, -1}));
     }
 
-    void MatchesWhatIsSelected() const
+    void MatchesWhatIsSelected()
     {
-        cPage page;
         QList<int> rows;
         QList<int> entries;
         for (const QString& name : {u"Rewe"_s, u"Aldi"_s, u"Edeka"_s, u"Penny"_s}) {
             const int cents = 1000 * static_cast<int>(rows.size() + 1);
-            entries.append(page.Spend(cents, name));
-            rows.append(page.Stage(-cents / 100.0, name));
+            entries.append(m_page->Spend(cents, name));
+            rows.append(m_page->Stage(-cents / 100.0, name));
         }
-        page.Review.Match(rows.first(2), page.Progress);
-        QCOMPARE(page.Assigned(), QList<int>({entries.at(0), entries.at(1), -1, -1}));
-        page.Review.View().SetFilter(u"penny"_s);
-        page.Review.Match({rows.at(2)}, page.Progress); // a single one is where the user stands
-        QCOMPARE(page.Assigned(), QList<int>({entries.at(0), entries.at(1), -1, entries.at(3)}));
+        m_page->Review.Match(rows.first(2), m_page->Progress);
+        QCOMPARE(m_page->Assigned(), QList<int>({entries.at(0), entries.at(1), -1, -1}));
+        m_page->Review.View().SetFilter(u"penny"_s);
+        m_page->Review.Match({rows.at(2)}, m_page->Progress); // a single one is where the user stands
+        QCOMPARE(m_page->Assigned(), QList<int>({entries.at(0), entries.at(1), -1, entries.at(3)}));
     }
 
     void OffersToCorrectSeries_data() const
@@ -133,107 +124,103 @@ private Q_SLOTS:
         row("not at all", 2, 0);
     }
 
-    void OffersToCorrectSeries() const
+    void OffersToCorrectSeries()
     {
         QFETCH(const int, decision);
         QFETCH(const int, corrections);
-        cPage page;
-        const int rent = page.Spend(65000, u"Miete Tann"_s, u"Monatlich"_s);
-        (void)page.Stage(-660, u"Miete Tann"_s);
-        page.User.Decisions = {decision};
-        QSignalSpy entries(&page.Review, &cImportReview::EntriesChanged);
-        page.Review.Match({}, page.Progress);
-        QVERIFY(page.User.Asked.value(0).startsWith(u"Die Bank hat andere Beträge gebucht"));
-        QCOMPARE(page.Assigned(), QList<int>{rent});
-        QCOMPARE(page.Data.GetEntryMods(rent).size(), corrections);
+        const int rent = m_page->Spend(65000, u"Miete Tann"_s, u"Monatlich"_s);
+        (void)m_page->Stage(-660, u"Miete Tann"_s);
+        m_page->User.Decisions = {decision};
+        QSignalSpy entries(&m_page->Review, &cImportReview::EntriesChanged);
+        m_page->Review.Match({}, m_page->Progress);
+        QVERIFY(m_page->User.Asked.value(0).startsWith(u"Die Bank hat andere Beträge gebucht"));
+        QCOMPARE(m_page->Assigned(), QList<int>{rent});
+        QCOMPARE(m_page->Data.GetEntryMods(rent).size(), corrections);
         QCOMPARE(entries.size(), corrections);
-        QVERIFY(page.Data.Journal().Undo());
-        QCOMPARE(page.Assigned(), QList<int>{-1});
-        QCOMPARE(page.Data.GetEntryMods(rent).size(), 0);
+        QVERIFY(m_page->Data.Journal().Undo());
+        QCOMPARE(m_page->Assigned(), QList<int>{-1});
+        QCOMPARE(m_page->Data.GetEntryMods(rent).size(), 0);
     }
 
-    void RefusedCorrectionTakesAllBack() const
+    void RefusedCorrectionTakesAllBack()
     {
-        cPage page;
-        const int rent = page.Spend(65000, u"Miete Tann"_s, u"Monatlich"_s);
-        const int row = page.Stage(-660, u"Miete Tann"_s);
-        page.Database.ExecuteScript(
+        const int rent = m_page->Spend(65000, u"Miete Tann"_s, u"Monatlich"_s);
+        const int row = m_page->Stage(-660, u"Miete Tann"_s);
+        m_page->Database.ExecuteScript(
             "CREATE TRIGGER full BEFORE INSERT ON datamod BEGIN SELECT RAISE(ABORT, 'voll'); END;");
-        page.User.Decisions = {0, 0};
+        m_page->User.Decisions = {0, 0};
         const QStringList nothing(u"Es wurde nichts geändert, weil die Datenbank nicht schreibt."_s);
-        page.Review.Match({}, page.Progress);
-        QCOMPARE(page.Review.Summary(), nothing);
-        QCOMPARE(page.Assigned(), QList<int>{-1});
-        const auto list = page.Review.StartAssign({row});
+        m_page->Review.Match({}, m_page->Progress);
+        QCOMPARE(m_page->Review.Summary(), nothing);
+        QCOMPARE(m_page->Assigned(), QList<int>{-1});
+        const auto list = m_page->Review.StartAssign({row});
         QVERIFY(!list->Assign(0));
-        QCOMPARE(page.Review.Summary(), nothing);
-        QCOMPARE(page.Assigned(), QList<int>{-1});
-        QCOMPARE(page.User.Shown.size(), 2);
-        QVERIFY(page.Data.GetEntryMods(rent).isEmpty());
+        QCOMPARE(m_page->Review.Summary(), nothing);
+        QCOMPARE(m_page->Assigned(), QList<int>{-1});
+        QCOMPARE(m_page->User.Shown.size(), 2);
+        QVERIFY(m_page->Data.GetEntryMods(rent).isEmpty());
     }
 
-    void AsksForTheAccount() const
+    void AsksForTheAccount()
     {
-        cPage page;
-        const int entry = page.Spend(2310, u"REWE"_s);
-        (void)page.Stage(-23.1, u"REWE"_s, u"4711"_s);
-        page.Review.Match({}, page.Progress); // the user gives up
-        QCOMPARE(page.Review.Summary().last(),
+        const int entry = m_page->Spend(2310, u"REWE"_s);
+        (void)m_page->Stage(-23.1, u"REWE"_s, u"4711"_s);
+        m_page->Review.Match({}, m_page->Progress); // the user gives up
+        QCOMPARE(m_page->Review.Summary().last(),
                  u"Die Kontonummer 4711 hat noch kein Konto; ihre Umsätze bleiben offen."_s);
-        QVERIFY(page.Data.Journal().UndoName().isEmpty());
-        page.User.Choices = {u"Girokonto"_s};
-        page.Review.Match({}, page.Progress);
-        QCOMPARE(page.Assigned(), QList<int>{entry});
+        QVERIFY(m_page->Data.Journal().UndoName().isEmpty());
+        m_page->User.Choices = {u"Girokonto"_s};
+        m_page->Review.Match({}, m_page->Progress);
+        QCOMPARE(m_page->Assigned(), QList<int>{entry});
     }
 
-    void ShowsWhatItIsNotSureOf() const
+    void ShowsWhatItIsNotSureOf()
     {
-        cPage page;
-        const int entry = page.Spend(2310, {});
-        (void)page.Stage(-23.1, u"Jana"_s);
-        QCOMPARE(page.Reason(0), u"passt zu 'Haushalt; Lebensmittel' vom 03.03. (80 %)"_s);
-        page.Review.Match({}, page.Progress);
-        QCOMPARE(page.Assigned(), QList<int>{-1});
-        page.User.Answers = {eAnswer::Yes};
-        page.Review.AcceptProposals(page.Progress);
-        QVERIFY(page.User.Shown.last().contains(u"Offen bleiben: 1 wahrscheinlich schon im Haushaltsbuch."));
+        const int entry = m_page->Spend(2310, {});
+        (void)m_page->Stage(-23.1, u"Jana"_s);
+        QCOMPARE(m_page->Reason(0), u"passt zu 'Haushalt; Lebensmittel' vom 03.03. (80 %)"_s);
+        m_page->Review.Match({}, m_page->Progress);
+        QCOMPARE(m_page->Assigned(), QList<int>{-1});
+        m_page->User.Answers = {eAnswer::Yes};
+        m_page->Review.AcceptProposals(m_page->Progress);
+        QVERIFY(m_page->User.Shown.last().contains(u"Offen bleiben: 1 wahrscheinlich schon im Haushaltsbuch."));
         // It is no longer true when the entry is gone.
-        QVERIFY(page.Data.DeleteEntry(entry));
-        page.Review.Refresh();
-        QCOMPARE(page.Reason(0), u"keine Regel passt"_s);
+        QVERIFY(m_page->Data.DeleteEntry(entry));
+        m_page->Review.Refresh();
+        QCOMPARE(m_page->Reason(0), u"keine Regel passt"_s);
     }
 
     // Enter on everything books what is sure, and leads through the rest row by row.
-    void SeveralAreNotBookedUnseen() const
+    void SeveralAreNotBookedUnseen()
     {
-        cPage page;
-        page.Review.View().SetOpenOnly(true);
-        (void)page.Spend(2310, u"Markthalle"_s);
-        const QList<int> sure{page.Stage(-23.1, u"Markthalle"_s), page.Stage(-12.99, u"Netflix"_s)};
-        const QList<int> unknown{page.Stage(-5, u"Jana"_s), page.Stage(-6, u"Niemand KG"_s)};
+        m_page->Review.View().SetOpenOnly(true);
+        (void)m_page->Spend(2310, u"Markthalle"_s);
+        const QList<int> sure{m_page->Stage(-23.1, u"Markthalle"_s), m_page->Stage(-12.99, u"Netflix"_s)};
+        const QList<int> unknown{m_page->Stage(-5, u"Jana"_s), m_page->Stage(-6, u"Niemand KG"_s)};
         const QList<int> all = sure + unknown;
-        cStagedGuide& guide = page.Review.Guide();
+        cStagedGuide& guide = m_page->Review.Guide();
         QCOMPARE(guide.Staged(all).Rows, sure);
         QCOMPARE(guide.AcceptText(), u"&Vorschläge annehmen (2)"_s);
-        QVERIFY(!page.Review.Book(all, page.Progress)); // the user gives up
-        QCOMPARE(page.User.LastDecision.Text,
+        QVERIFY(!m_page->Review.Book(all, m_page->Progress)); // the user gives up
+        QCOMPARE(m_page->User.LastDecision.Text,
                  u"2 der Umsätze haben keinen sicheren Vorschlag:\n2 ohne bekannte Kategorie, also unter 'Allgemein'\n"
                  "Was soll geschehen?"_s);
-        QCOMPARE(page.User.LastDecision.Options, QStringList({u"Nur die 2 &sicheren buchen"_s, u"&Alle 4 buchen"_s}));
-        page.User.Decisions = {page.User.LastDecision.Default, 0};
+        QCOMPARE(m_page->User.LastDecision.Options,
+                 QStringList({u"Nur die 2 &sicheren buchen"_s, u"&Alle 4 buchen"_s}));
+        m_page->User.Decisions = {m_page->User.LastDecision.Default, 0};
         cStagedGuide::cBefore before = guide.Before(all);
-        QVERIFY(page.Review.Book(all, page.Progress));
-        QCOMPARE(page.Review.Rows().OpenIds(), unknown);
+        QVERIFY(m_page->Review.Book(all, m_page->Progress));
+        QCOMPARE(m_page->Review.Rows().OpenIds(), unknown);
         cStagedGuide::cStop stop = guide.After(before, unknown);
         QCOMPARE(stop.Rows, unknown.mid(0, 1));
         QVERIFY(stop.IsField);
         QVERIFY(guide.SelectionText(stop.Rows, true).startsWith(u"Bitte ansehen: Kategorie tippen"));
         QVERIFY(guide.SelectionText(stop.Rows, false).startsWith(u"Bitte ansehen: keine Regel passt."));
         before = guide.Before(stop.Rows);
-        page.User.Asked.clear();
-        QVERIFY(page.Review.Book(stop.Rows, page.Progress)); // one that is looked at is booked without a question
-        QCOMPARE(page.User.Asked, QStringList());
-        QVERIFY(page.Review.Summary().contains(
+        m_page->User.Asked.clear();
+        QVERIFY(m_page->Review.Book(stop.Rows, m_page->Progress)); // one that is looked at is booked without a question
+        QCOMPARE(m_page->User.Asked, QStringList());
+        QVERIFY(m_page->Review.Summary().contains(
             u"Der Eintrag steht unter 'Allgemein', weil keine Kategorie bekannt ist."_s));
         stop = guide.After(before, {});
         QCOMPARE(stop.Rows, unknown.mid(1));
@@ -241,70 +228,56 @@ private Q_SLOTS:
     }
 
     // All of them in one go is possible, but never by Enter alone.
-    void SeveralAreBookedWhenWanted() const
+    void SeveralAreBookedWhenWanted()
     {
-        cPage page;
-        const QList<int> rows{page.Stage(-5, u"Jana"_s), page.Stage(-6, u"Niemand KG"_s)};
-        page.User.Decisions = {0, 1};
-        QVERIFY(page.Review.Book(rows, page.Progress)); // to look at them one by one
-        QCOMPARE(page.User.LastDecision.Options.constFirst(), u"&Einzeln ansehen"_s);
-        QCOMPARE(page.Data.CountEntries(), 0);
-        QVERIFY(page.Review.Choose({rows.constFirst()}, u"Freizeit; Geschenke"_s, {}));
-        QVERIFY(page.Review.Book(rows, page.Progress));
-        QCOMPARE(page.User.LastDecision.Options.constFirst(), u"Nur den &sicheren buchen"_s);
-        QCOMPARE(page.Data.CountEntries(), 2);
-        QVERIFY(page.Data.Journal().Undo()); // as one step
-        QCOMPARE(page.Data.CountEntries(), 0);
+        const QList<int> rows{m_page->Stage(-5, u"Jana"_s), m_page->Stage(-6, u"Niemand KG"_s)};
+        m_page->User.Decisions = {0, 1};
+        QVERIFY(m_page->Review.Book(rows, m_page->Progress)); // to look at them one by one
+        QCOMPARE(m_page->User.LastDecision.Options.constFirst(), u"&Einzeln ansehen"_s);
+        QCOMPARE(m_page->Data.CountEntries(), 0);
+        QVERIFY(m_page->Review.Choose({rows.constFirst()}, u"Freizeit; Geschenke"_s, {}));
+        QVERIFY(m_page->Review.Book(rows, m_page->Progress));
+        QCOMPARE(m_page->User.LastDecision.Options.constFirst(), u"Nur den &sicheren buchen"_s);
+        QCOMPARE(m_page->Data.CountEntries(), 2);
+        QVERIFY(m_page->Data.Journal().Undo()); // as one step
+        QCOMPARE(m_page->Data.CountEntries(), 0);
     }
 
     // Two purses: the doubt is not the category, and who types one has spent the money.
-    void WhichPurseIsAsked() const
+    void WhichPurseIsAsked()
     {
-        cPage page;
-        cTemplateItem purse = page.Data.FindAccount(u"Bargeld"_s).value_or(cTemplateItem());
+        cTemplateItem purse = m_page->Data.FindAccount(u"Bargeld"_s).value_or(cTemplateItem());
         purse.TemplateName = u"Geldbörse"_s;
-        QVERIFY(page.Data.AddNewTemplate(purse));
-        const QList<int> rows{page.Stage(-50, u"Geldautomat"_s), page.Stage(-60, u"Geldautomat"_s)};
-        cStagedGuide& guide = page.Review.Guide();
+        QVERIFY(m_page->Data.AddNewTemplate(purse));
+        const QList<int> rows{m_page->Stage(-50, u"Geldautomat"_s), m_page->Stage(-60, u"Geldautomat"_s)};
+        cStagedGuide& guide = m_page->Review.Guide();
         QVERIFY(!guide.Staged(rows).IsField);
         QVERIFY(guide.SelectionText(rows.mid(0, 1), false).startsWith(u"Bitte ansehen: Bargeld: an "));
-        QVERIFY(!page.Review.Book(rows, page.Progress)); // the user gives up
-        QVERIFY2(page.User.LastDecision.Text.contains(u"\n2 vielleicht als Umbuchung Girokonto → "),
-                 qPrintable(page.User.LastDecision.Text));
-        QVERIFY(page.Review.Book(rows.mid(1), page.Progress)); // one that is looked at is taken as it stands
-        QVERIFY(!page.Review.Choose(rows.mid(1), u"Freizeit; Geschenke"_s, {}));
-        QVERIFY(page.Review.Summary().constFirst().startsWith(u"Umbuchungen und aufgeteilte Einträge behalten"));
-        QVERIFY(page.Review.Choose(rows.mid(0, 1), u"Freizeit; Geschenke"_s, {}));
-        QVERIFY(page.Review.Book(rows.mid(0, 1), page.Progress));
-        const cEntryItem entry = page.Data.GetEntries({}).value(1);
+        QVERIFY(!m_page->Review.Book(rows, m_page->Progress)); // the user gives up
+        QVERIFY(m_page->User.LastDecision.Text.contains(u"\n2 vielleicht als Umbuchung Girokonto → "));
+        QVERIFY(m_page->Review.Book(rows.mid(1), m_page->Progress)); // one that is looked at is taken as it stands
+        QVERIFY(!m_page->Review.Choose(rows.mid(1), u"Freizeit; Geschenke"_s, {}));
+        QVERIFY(m_page->Review.Summary().constFirst().startsWith(u"Umbuchungen und aufgeteilte Einträge behalten"));
+        QVERIFY(m_page->Review.Choose(rows.mid(0, 1), u"Freizeit; Geschenke"_s, {}));
+        QVERIFY(m_page->Review.Book(rows.mid(0, 1), m_page->Progress));
+        const cEntryItem entry = m_page->Data.GetEntries({}).value(1);
         QCOMPARE(QStringList({entry.EntryType, entry.EntryAccount, entry.EntryAccountMove, entry.EntryCategory}),
                  QStringList({modWord::Ausgabe, u"Girokonto"_s, {}, u"Freizeit; Geschenke"_s}));
     }
 
     // The transfer would have had the day of the other account's row, whose entry is only likely to be there.
-    void WhatIsNoTransferStandsOnItsOwnDay() const
+    void WhatIsNoTransferStandsOnItsOwnDay()
     {
-        cPage page;
-        page.Settings->Set(modSettingKey::BankNumber.Of(u"222"_s), u"Sparkonto"_s);
-        (void)page.Add([](cEntryItem& entry) {
-            entry.EntryDate = day.addDays(-6);
-            entry.EntryValue = 19990;
-            entry.EntryType = modWord::Umbuchung;
-            entry.EntryDescription = u"Jana"_s;
-            entry.EntryAccountMove = u"Sparkonto"_s;
-        });
-        (void)page.Stage(-200, u"Jana"_s);
-        cImportEntry row;
-        row.ImportAccount = u"222"_s;
-        row.ImportBeneficiary = u"Jana"_s;
-        row.ImportBeneficiaryAccount = u"1234567"_s;
-        row.ImportValue = 20000;
-        row.ImportDate = day.addDays(5);
-        QVERIFY(page.Data.AddNewImportEntry(row));
-        page.Review.Refresh();
-        QVERIFY(page.Review.Choose({row.ID}, u"Freizeit; Geschenke"_s, {}));
-        QVERIFY(page.Review.Book({row.ID}, page.Progress));
-        const cEntryItem entry = page.Data.GetEntries({}).value(1);
+        m_page->Settings->Set(modSettingKey::BankNumber.Of(u"222"_s), u"Sparkonto"_s);
+        cEntryItem transfer = m_page->Move(u"Girokonto"_s, u"Sparkonto"_s, 19990, day.addDays(-6));
+        transfer.EntryDescription = u"Jana"_s;
+        QVERIFY(m_page->Data.ChangeEntry(transfer));
+        (void)m_page->Stage(-200, u"Jana"_s);
+        const cImportEntry row = m_page->cTestBook::Stage(u"222"_s, day.addDays(5), 20000, u"Jana"_s, -1, u"1234567"_s);
+        m_page->Review.Refresh();
+        QVERIFY(m_page->Review.Choose({row.ID}, u"Freizeit; Geschenke"_s, {}));
+        QVERIFY(m_page->Review.Book({row.ID}, m_page->Progress));
+        const cEntryItem entry = m_page->Data.GetEntries({}).value(1);
         QCOMPARE(entry.EntryDate, row.ImportDate);
         QCOMPARE(QStringList({entry.EntryType, entry.EntryAccount, entry.EntryAccountMove}),
                  QStringList({modWord::Einnahme, u"Sparkonto"_s, {}}));
@@ -318,19 +291,18 @@ private Q_SLOTS:
     }
 
     // Whichever row brings the entry, and whichever the user said it for.
-    void ATransferKeepsWhatWasChosen() const
+    void ATransferKeepsWhatWasChosen()
     {
         QFETCH(const bool, isOneInBook);
-        cPage page;
-        page.StageTransfer(u"1234567"_s, u"222"_s, -20000);
+        m_page->StageTransfer(u"1234567"_s, u"222"_s, -20000);
         if (isOneInBook) {
-            QVERIFY(page.Review.Book({1}, page.Progress));
+            QVERIFY(m_page->Review.Book({1}, m_page->Progress));
         }
-        page.Settings->Set(modSettingKey::BankNumber.Of(u"222"_s), u"Sparkonto"_s);
-        page.StageTransfer(u"222"_s, u"1234567"_s, 20000);
-        QVERIFY(page.Review.Choose({2}, u"Freizeit; Geschenke"_s, {}, u"Für Jana"_s));
-        QVERIFY(page.Review.Book({1, 2}, page.Progress));
-        const cEntryItemList entries = page.Data.GetEntries({});
+        m_page->Settings->Set(modSettingKey::BankNumber.Of(u"222"_s), u"Sparkonto"_s);
+        m_page->StageTransfer(u"222"_s, u"1234567"_s, 20000);
+        QVERIFY(m_page->Review.Choose({2}, u"Freizeit; Geschenke"_s, {}, u"Für Jana"_s));
+        QVERIFY(m_page->Review.Book({1, 2}, m_page->Progress));
+        const cEntryItemList entries = m_page->Data.GetEntries({});
         QCOMPARE(entries.size(), 1);
         const cEntryItem& entry = entries.constFirst();
         QCOMPARE(QStringList({entry.EntryType, entry.EntryCategory, entry.EntryDescription}),
@@ -375,17 +347,16 @@ private Q_SLOTS:
     }
 
     // Wanted new beside the expense that it fits, while the other row comes first and is an income by itself.
-    void ATransferMovesItsMoneyOnce() const
+    void ATransferMovesItsMoneyOnce()
     {
-        cPage page;
-        page.Settings->Set(modSettingKey::BankNumber.Of(u"222"_s), u"Sparkonto"_s);
-        (void)page.Spend(20000, u"Jana"_s);
-        page.StageTransfer(u"222"_s, u"1234567"_s, 20000);
-        page.StageTransfer(u"1234567"_s, u"222"_s, -20000);
-        page.User.Decisions = {1, 1}; // all of them; new ones
-        QVERIFY(page.Review.Book({1, 2}, page.Progress));
+        m_page->Settings->Set(modSettingKey::BankNumber.Of(u"222"_s), u"Sparkonto"_s);
+        (void)m_page->Spend(20000, u"Jana"_s);
+        m_page->StageTransfer(u"222"_s, u"1234567"_s, 20000);
+        m_page->StageTransfer(u"1234567"_s, u"222"_s, -20000);
+        m_page->User.Decisions = {1, 1}; // all of them; new ones
+        QVERIFY(m_page->Review.Book({1, 2}, m_page->Progress));
         QStringList kinds;
-        const cEntryItemList entries = page.Data.GetEntries({});
+        const cEntryItemList entries = m_page->Data.GetEntries({});
         for (const cEntryItem& entry : entries) {
             kinds.append(entry.EntryType + u' ' + entry.EntryAccount);
         }
@@ -394,7 +365,7 @@ private Q_SLOTS:
     }
 
     // What the user has chosen is none of it, nor what was not booked any more.
-    void CountsWhatWasBookedWithoutCategory() const
+    void CountsWhatWasBookedWithoutCategory()
     {
         struct cGivenUp final : cProgress
         {
@@ -404,17 +375,16 @@ private Q_SLOTS:
             [[nodiscard]] bool IsCancelled() const override { return IsStopped; }
             bool IsStopped = false;
         };
-        cPage page;
         QList<int> rows;
         for (int i = 0; i < 40; ++i) {
-            rows.append(page.Stage(-5 - i, u"Niemand "_s + QChar(u'A' + i)));
+            rows.append(m_page->Stage(-5 - i, u"Niemand "_s + QChar(u'A' + i)));
         }
-        QVERIFY(page.Review.Choose(rows.mid(0, 2), u"Allgemein"_s, {}));
-        QCOMPARE(page.Reason(2), u"keine Regel passt"_s);
-        page.User.Decisions = {1};
+        QVERIFY(m_page->Review.Choose(rows.mid(0, 2), u"Allgemein"_s, {}));
+        QCOMPARE(m_page->Reason(2), u"keine Regel passt"_s);
+        m_page->User.Decisions = {1};
         cGivenUp progress;
-        QVERIFY(page.Review.Book(rows, progress));
-        QCOMPARE(page.Review.Summary(),
+        QVERIFY(m_page->Review.Book(rows, progress));
+        QCOMPARE(m_page->Review.Summary(),
                  QStringList({u"26 Umsätze gebucht, 26 neue Einträge."_s,
                               u"24 davon unter 'Allgemein', weil keine Kategorie bekannt ist."_s}));
     }
@@ -432,39 +402,37 @@ private Q_SLOTS:
         row("given up on the way", {3, 0, -1}, 2, {0, 0});
     }
 
-    void BookingAsksAboutMatches() const
+    void BookingAsksAboutMatches()
     {
         QFETCH(const std::deque<int>, decisions);
         QFETCH(const QList<int>, own);
-        cPage page;
-        const QList<int> entries{-1, page.Spend(2310, {}), page.Spend(4000, u"Schuhhaus"_s)};
-        const int likely = page.Stage(-23.1, u"Jana"_s);
-        const int certain = page.Stage(-40, u"Schuhhaus"_s);
-        page.User.Decisions = decisions;
-        page.Review.Book({likely, certain, page.Stage(-12.99, u"Netflix"_s)}, page.Progress);
-        QCOMPARE(page.User.LastDecision.Options.value(0), u"Den &vorhandenen zuordnen"_s);
-        QCOMPARE(page.User.LastDecision.Default, 0);
-        QTEST(page.Data.CountEntries(), "entries");
-        const QList<int> assigned = page.Assigned();
+        const QList<int> entries{-1, m_page->Spend(2310, {}), m_page->Spend(4000, u"Schuhhaus"_s)};
+        const int likely = m_page->Stage(-23.1, u"Jana"_s);
+        const int certain = m_page->Stage(-40, u"Schuhhaus"_s);
+        m_page->User.Decisions = decisions;
+        m_page->Review.Book({likely, certain, m_page->Stage(-12.99, u"Netflix"_s)}, m_page->Progress);
+        QCOMPARE(m_page->User.LastDecision.Options.value(0), u"Den &vorhandenen zuordnen"_s);
+        QCOMPARE(m_page->User.LastDecision.Default, 0);
+        QTEST(m_page->Data.CountEntries(), "entries");
+        const QList<int> assigned = m_page->Assigned();
         for (const int row : {0, 1}) {
             QCOMPARE(assigned.at(row) == entries.at(row + 1), own.at(row) != 0);
         }
-        QCOMPARE(page.User.Asked.size(), static_cast<qsizetype>(decisions.size()));
+        QCOMPARE(m_page->User.Asked.size(), static_cast<qsizetype>(decisions.size()));
     }
 
-    void AssignsByHand() const
+    void AssignsByHand()
     {
-        cPage page;
-        const int shop = page.Spend(5000, u"Schuhhaus"_s);
-        const int boots = page.Spend(5000, u"Stiefel"_s);
-        const int first = page.Stage(-50, u"Schuhhaus"_s);
-        const int second = page.Stage(-50, u"Schuhhaus"_s);
-        QVERIFY(page.Review.StartAssign({first})->Assign(0));
-        QCOMPARE(page.Assigned(), QList<int>({shop, -1}));
-        QVERIFY(!page.Review.StartAssign({first})); // booked
-        QVERIFY(!page.Review.StartAssign({first, second}));
+        const int shop = m_page->Spend(5000, u"Schuhhaus"_s);
+        const int boots = m_page->Spend(5000, u"Stiefel"_s);
+        const int first = m_page->Stage(-50, u"Schuhhaus"_s);
+        const int second = m_page->Stage(-50, u"Schuhhaus"_s);
+        QVERIFY(m_page->Review.StartAssign({first})->Assign(0));
+        QCOMPARE(m_page->Assigned(), QList<int>({shop, -1}));
+        QVERIFY(!m_page->Review.StartAssign({first})); // booked
+        QVERIFY(!m_page->Review.StartAssign({first, second}));
 
-        const std::unique_ptr<cAssignListModel> list = page.Review.StartAssign({second});
+        const std::unique_ptr<cAssignListModel> list = m_page->Review.StartAssign({second});
         QCOMPARE(list->RowText(), u"03.03.2026  ·  -50,00"_s + space + u"€  ·  Schuhhaus"_s);
         QCOMPARE(list->rowCount(), 2);
         const QStringList taken{u"03.03.2026"_s, u"Schuhhaus"_s, u"Haushalt; Lebensmittel"_s,
@@ -475,79 +443,66 @@ private Q_SLOTS:
         QVERIFY(Cell(*list, 0, cAssignListModel::Reason).startsWith(u"hat schon einen Umsatz; "));
         QCOMPARE(list->Proposed(), 1); // the free one
         QVERIFY(list->Assign(list->Proposed()));
-        QCOMPARE(page.Assigned(), QList<int>({shop, boots}));
-        QCOMPARE(page.Review.Summary(), QStringList(u"Umsatz zugeordnet: 'Stiefel' vom 03.03."_s));
-        QCOMPARE(page.Data.Journal().UndoName(), u"Umsatz zugeordnet"_s);
+        QCOMPARE(m_page->Assigned(), QList<int>({shop, boots}));
+        QCOMPARE(m_page->Review.Summary(), QStringList(u"Umsatz zugeordnet: 'Stiefel' vom 03.03."_s));
+        QCOMPARE(m_page->Data.Journal().UndoName(), u"Umsatz zugeordnet"_s);
     }
 
-    void AssignsParts() const
+    void AssignsParts()
     {
-        cPage page;
-        const int bill = page.Spend(10000, u"Werkstatt"_s);
-        for (const int row : {page.Stage(-30, u"Rate 1"_s), page.Stage(-70, u"Rate 2"_s)}) {
-            const std::unique_ptr<cAssignListModel> list = page.Review.StartAssign({row});
+        const int bill = m_page->Spend(10000, u"Werkstatt"_s);
+        for (const int row : {m_page->Stage(-30, u"Rate 1"_s), m_page->Stage(-70, u"Rate 2"_s)}) {
+            const std::unique_ptr<cAssignListModel> list = m_page->Review.StartAssign({row});
             QCOMPARE(list->rowCount(), 0); // nobody would guess it
             list->SetScope(cAssignListModel::eScope::All);
             QVERIFY(list->Assign(0));
         }
-        QCOMPARE(page.Assigned(), QList<int>({bill, bill}));
+        QCOMPARE(m_page->Assigned(), QList<int>({bill, bill}));
     }
 
-    void AsksBeforeASeriesIsCorrected() const
+    void SaysWhyThereIsNoEntry()
     {
-        cPage page;
-        const int rent = page.Spend(65000, u"Miete Tann"_s, u"Monatlich"_s);
-        const std::unique_ptr<cAssignListModel> list = page.Review.StartAssign({page.Stage(-660, u"Miete Tann"_s)});
-        page.User.Decisions = {0};
-        QVERIFY(list->Assign(0));
-        QCOMPARE(page.Assigned(), QList<int>{rent});
-        QCOMPARE(page.Data.GetEntryMods(rent).value(0).EntryValue, 66000);
-        QVERIFY(page.Data.Journal().Undo());
-        QCOMPARE(page.Data.GetEntryMods(rent).size(), 0);
-    }
-
-    void SaysWhyThereIsNoEntry() const
-    {
-        cPage page;
-        const std::unique_ptr<cAssignListModel> none = page.Review.StartAssign({page.Stage(-1, u"X"_s)});
+        const std::unique_ptr<cAssignListModel> none = m_page->Review.StartAssign({m_page->Stage(-1, u"X"_s)});
         QCOMPARE(none->Proposed(), -1);
         QVERIFY(!none->Assign(none->Proposed()));
         QVERIFY(none->EmptyHint().startsWith(u"Gesucht wurde im Konto Girokonto"));
-        const std::unique_ptr<cAssignListModel> unknown = page.Review.StartAssign({page.Stage(-1, u"X"_s, u"4711"_s)});
+        const std::unique_ptr<cAssignListModel> unknown =
+            m_page->Review.StartAssign({m_page->Stage(-1, u"X"_s, u"4711"_s)});
         QVERIFY(unknown->EmptyHint().startsWith(u"Die Kontonummer 4711 hat noch kein Konto"));
     }
 
-    void Releases() const
+    void Releases()
     {
-        cPage page;
-        const int entry = page.Spend(2310, u"REWE"_s);
-        const int booked = page.Stage(-23.1, u"REWE"_s);
-        const int open = page.Stage(-99, u"Jana"_s);
-        page.Review.Match({}, page.Progress);
-        QVERIFY(page.Review.ActionsFor({booked}).Release && !page.Review.ActionsFor({booked}).Assign);
-        QVERIFY(page.Review.ActionsFor({open}).Assign && !page.Review.ActionsFor({open}).Release);
-        QVERIFY(page.Review.ActionsFor({open, booked}).Book && !page.Review.ActionsFor({booked}).Book);
-        page.Review.View().SetFilter(u"REWE"_s); // leaves nothing open
-        QVERIFY(!page.Review.ActionsFor({booked}).Accept);
-        page.Review.View().SetFilter({});
-        page.Review.Release({open, booked});
-        QCOMPARE(page.Assigned(), QList<int>({-1, -1}));
-        QCOMPARE(page.Review.Summary(),
+        const int entry = m_page->Spend(2310, u"REWE"_s);
+        const int booked = m_page->Stage(-23.1, u"REWE"_s);
+        const int open = m_page->Stage(-99, u"Jana"_s);
+        m_page->Review.Match({}, m_page->Progress);
+        QVERIFY(m_page->Review.ActionsFor({booked}).Release && !m_page->Review.ActionsFor({booked}).Assign);
+        QVERIFY(m_page->Review.ActionsFor({open}).Assign && !m_page->Review.ActionsFor({open}).Release);
+        QVERIFY(m_page->Review.ActionsFor({open, booked}).Book && !m_page->Review.ActionsFor({booked}).Book);
+        m_page->Review.View().SetFilter(u"REWE"_s); // leaves nothing open
+        QVERIFY(!m_page->Review.ActionsFor({booked}).Accept);
+        m_page->Review.View().SetFilter({});
+        m_page->Review.Release({open, booked});
+        QCOMPARE(m_page->Assigned(), QList<int>({-1, -1}));
+        QCOMPARE(m_page->Review.Summary(),
                  QStringList(u"Ein Umsatz gelöst und wieder offen. Einträge bleiben im Haushaltsbuch."_s));
-        QVERIFY(page.Data.LoadEntry(entry));
-        QVERIFY(page.Data.Journal().Undo());
-        QCOMPARE(page.Assigned(), QList<int>({entry, -1}));
+        QVERIFY(m_page->Data.LoadEntry(entry));
+        QVERIFY(m_page->Data.Journal().Undo());
+        QCOMPARE(m_page->Assigned(), QList<int>({entry, -1}));
     }
 
-    void WhatNobodySeesIsReadWhenItIsShown() const
+    void WhatNobodySeesIsReadWhenItIsShown()
     {
-        cPage page;
-        page.Review.SetShown(false);
-        (void)page.Stage(-23.1, u"REWE"_s);
-        QCOMPARE(page.Review.Rows().rowCount(), 0);
-        page.Review.SetShown(true);
-        QTRY_COMPARE(page.Review.Rows().rowCount(), 1);
+        m_page->Review.SetShown(false);
+        (void)m_page->Stage(-23.1, u"REWE"_s);
+        QCOMPARE(m_page->Review.Rows().rowCount(), 0);
+        m_page->Review.SetShown(true);
+        QTRY_COMPARE(m_page->Review.Rows().rowCount(), 1);
     }
+
+private:
+    std::optional<cPage> m_page;
 };
 
 TEST_CLASS(testImportMatch, QCoreApplication)

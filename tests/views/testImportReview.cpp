@@ -2,7 +2,6 @@
 #include "model/modSettingKey.h"
 #include "model/modSplit.h"
 #include "support/cTestClass.h"
-#include "support/cTestFile.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
@@ -11,7 +10,6 @@
 #include "views/statement/cStatementFiles.h"
 
 #include <QSignalSpy>
-#include <QTest>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -19,7 +17,6 @@ namespace {
 
 const QString fixture = QStringLiteral(TEST_DATA "/mt940/giro.sta");
 
-// A new book with the page over it.
 struct cPage : cTestBook
 {
     cPage() { Review.View().SetGrouping(0); } // most of it is about rows, whatever their group
@@ -31,7 +28,6 @@ struct cPage : cTestBook
         Review.Files().ImportFiles({fixture}, Progress);
     }
 
-    // A row of the giro account that came without a file.
     void AddRow(const QString& name)
     {
         Stage(u"1234567"_s, QDate(2026, 1, 20), -750, name);
@@ -62,24 +58,26 @@ class testImportReview : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    void init() { m_page.emplace(); }
+
     // A file in rows and columns that does not say whose it is.
     void AsksForTheNumberOnce()
     {
         const QString file = QStringLiteral(TEST_DATA "/csv/consors.csv");
-        cPage page;
-        page.User.Choices = {std::nullopt};
-        page.Review.Files().ImportFiles({file}, page.Progress);
-        QCOMPARE(page.User.Shown.size(), 1); // given up: nothing is read, and the reason is shown
-        QCOMPARE(page.Data.GetImportEntries().size(), 0);
-        page.User.Choices = {u" 4711 "_s, u"Girokonto"_s};
-        page.Review.Files().ImportFiles({file}, page.Progress);
-        QVERIFY(page.User.Asked.contains(u"consors.csv\nEs muss eine Kontonummer eingegeben werden, um die Daten einem "
-                                         "Konto zuzuordnen."_s));
-        QCOMPARE(page.Data.GetImportEntries().value(0).ImportAccount, u"4711"_s);
-        page.User.Asked.clear();
-        page.Review.Files().ImportFiles({file}, page.Progress);
-        QCOMPARE(page.User.Asked, QStringList());
-        QCOMPARE(page.Review.Files().LeftOut().size(), 1);
+        m_page->User.Choices = {std::nullopt};
+        m_page->Review.Files().ImportFiles({file}, m_page->Progress);
+        QCOMPARE(m_page->User.Shown.size(), 1); // given up: nothing is read, and the reason is shown
+        QCOMPARE(m_page->Data.GetImportEntries().size(), 0);
+        m_page->User.Choices = {u" 4711 "_s, u"Girokonto"_s};
+        m_page->Review.Files().ImportFiles({file}, m_page->Progress);
+        QVERIFY(
+            m_page->User.Asked.contains(u"consors.csv\nEs muss eine Kontonummer eingegeben werden, um die Daten einem "
+                                        "Konto zuzuordnen."_s));
+        QCOMPARE(m_page->Data.GetImportEntries().value(0).ImportAccount, u"4711"_s);
+        m_page->User.Asked.clear();
+        m_page->Review.Files().ImportFiles({file}, m_page->Progress);
+        QCOMPARE(m_page->User.Asked, QStringList());
+        QCOMPARE(m_page->Review.Files().LeftOut().size(), 1);
     }
 
     void AsksOnceForNamesOfAnotherBook_data()
@@ -93,20 +91,18 @@ private Q_SLOTS:
     void AsksOnceForNamesOfAnotherBook()
     {
         QFETCH(const eAnswer, answer);
-        const cTestFile folder;
-        const QString path = folder.Path(u"a.qif"_s);
-        cTestFile::Write(path,
-                         "!Account\nNGirokonto\n^\n!Type:Bank\nD30.1.26\nT-5\nPHolle\nLHobby:Zug\n^\n"
-                         "D31.1.26\nT-7\nPHolle\nL[Depot]\n^\n");
-        cPage page;
-        page.User.Answers = {answer, eAnswer::Yes};
-        page.Review.Files().ImportFiles({path}, page.Progress);
-        QCOMPARE(page.User.Asked.value(0),
+        const QString path =
+            m_page->WriteFile(u"a.qif"_s,
+                              "!Account\nNGirokonto\n^\n!Type:Bank\nD30.1.26\nT-5\nPHolle\nLHobby:Zug\n^\n"
+                              "D31.1.26\nT-7\nPHolle\nL[Depot]\n^\n");
+        m_page->User.Answers = {answer, eAnswer::Yes};
+        m_page->Review.Files().ImportFiles({path}, m_page->Progress);
+        QCOMPARE(m_page->User.Asked.value(0),
                  u"Noch nicht im Buch sind aus der Datei: 1 Kategorie, 1 Konto\n\nDepot\nHobby; Zug\n\n"
                  "Sollen sie angelegt werden?"_s);
-        page.Review.AcceptProposals(page.Progress);
+        m_page->Review.AcceptProposals(m_page->Progress);
         QStringList entries;
-        for (const cEntryItem& entry : page.Data.GetEntries({})) {
+        for (const cEntryItem& entry : m_page->Data.GetEntries({})) {
             entries.append(QStringList{entry.EntryType, entry.EntryCategory, entry.EntryAccountMove}.join(u' '));
         }
         QTEST(entries, "entries");
@@ -115,115 +111,100 @@ private Q_SLOTS:
     // Older rows of an account that the book has under this name would count on top of its start balance.
     void AsksForTheStartOfAnotherBook()
     {
-        const cTestFile folder;
-        const QString path = folder.Path(u"a.qif"_s);
-        cTestFile::Write(path, "!Account\nNgirokonto\n^\n!Type:Bank\nD30.1.26\nT-5\nPHolle\nLAuto\n^\n");
-        cPage page;
-        QVERIFY(page.Data.SetStartGuthaben(u"Girokonto"_s, 100000, QDate(2026, 3, 1)));
-        page.User.Answers = {eAnswer::Yes};
-        page.Review.Files().ImportFiles({path}, page.Progress);
-        QVERIFY2(page.User.Asked.join(u'|').contains(u"Als Stand vom 01.03.2026"),
-                 qPrintable(page.User.Asked.join(u'|')));
-        QCOMPARE(page.Data.GetStartGuthaben(u"Girokonto"_s).value_or(cEntryItem()).EntryValue, 100500);
+        const QString path =
+            m_page->WriteFile(u"a.qif"_s, "!Account\nNgirokonto\n^\n!Type:Bank\nD30.1.26\nT-5\nPHolle\nLAuto\n^\n");
+        QVERIFY(m_page->Data.SetStartGuthaben(u"Girokonto"_s, 100000, QDate(2026, 3, 1)));
+        m_page->User.Answers = {eAnswer::Yes};
+        m_page->Review.Files().ImportFiles({path}, m_page->Progress);
+        QVERIFY(m_page->User.Asked.join(u'|').contains(u"Als Stand vom 01.03.2026"));
+        QCOMPARE(m_page->Data.GetStartGuthaben(u"Girokonto"_s).value_or(cEntryItem()).EntryValue, 100500);
     }
 
     // The user may have the rest of a statement that is refused for lines nobody needs.
     void OffersTheRestOfAStatement()
     {
-        const cTestFile folder;
-        const QString path = folder.Path(u"a.sta"_s);
-        cTestFile::Write(path, ":20:A\n:25:1\n:60F:C260101EUR0,00\n:86:Vorwort\n:61:260101D1,00NTRF\n:86:x\n-\n");
-        cPage page;
-        page.User.Decisions = {1, 0};
-        page.Review.Files().ImportFiles({path}, page.Progress);
-        QCOMPARE(page.User.LastDecision.Options.value(0), u"&Ohne diese Zeilen lesen"_s);
-        QCOMPARE(page.Data.GetImportEntries().size(), 0);
-        QVERIFY(page.User.Shown.isEmpty()); // the question has said it
-        page.Review.Files().ImportFiles({path}, page.Progress);
-        QCOMPARE(page.Data.GetImportEntries().size(), 1);
-        QVERIFY(page.Review.Summary().join(u' ').contains(u"übergangen: Vorwort"));
+        const QString path = m_page->WriteFile(
+            u"a.sta"_s, ":20:A\n:25:1\n:60F:C260101EUR0,00\n:86:Vorwort\n:61:260101D1,00NTRF\n:86:x\n-\n");
+        m_page->User.Decisions = {1, 0};
+        m_page->Review.Files().ImportFiles({path}, m_page->Progress);
+        QCOMPARE(m_page->User.LastDecision.Options.value(0), u"&Ohne diese Zeilen lesen"_s);
+        QCOMPARE(m_page->Data.GetImportEntries().size(), 0);
+        QVERIFY(m_page->User.Shown.isEmpty()); // the question has said it
+        m_page->Review.Files().ImportFiles({path}, m_page->Progress);
+        QCOMPARE(m_page->Data.GetImportEntries().size(), 1);
+        QVERIFY(m_page->Review.Summary().join(u' ').contains(u"übergangen: Vorwort"));
     }
 
     // Files can be dropped while others are read, before the progress box stands in the way.
     void ReadsFilesThatComeMeanwhileAfterwards()
     {
-        cPage page;
-        cStatementFiles& files = page.Review.Files();
+        cStatementFiles& files = m_page->Review.Files();
         bool isFirst = true;
         connect(&files, &cStatementFiles::FileStaged, this, [&] {
             if (std::exchange(isFirst, false)) {
-                files.ImportFiles({fixture}, page.Progress);
-                QCOMPARE(page.Review.Summary(), QStringList());
+                files.ImportFiles({fixture}, m_page->Progress);
+                QCOMPARE(m_page->Review.Summary(), QStringList());
             }
         });
-        page.ImportFixture();
-        QCOMPARE(page.Data.GetImportEntries().size(), 5);
+        m_page->ImportFixture();
+        QCOMPARE(m_page->Data.GetImportEntries().size(), 5);
         QCOMPARE(files.LeftOut().size(), 5);
-        QVERIFY(page.Review.Summary().constFirst().contains(u"0 neu"_s));
+        QVERIFY(m_page->Review.Summary().constFirst().contains(u"0 neu"_s));
     }
 
     void ImportsWithItsQuestions()
     {
-        cPage page;
-        QVERIFY(page.Review.View().EmptyHint().startsWith(u"Ziehen Sie einen Kontoauszug"));
-        QSignalSpy rows(&page.Review, &cImportReview::RowsChanged);
-        page.ImportFixture();
+        QVERIFY(m_page->Review.View().EmptyHint().startsWith(u"Ziehen Sie einen Kontoauszug"));
+        QSignalSpy rows(&m_page->Review, &cImportReview::RowsChanged);
+        m_page->ImportFixture();
         QVERIFY(!rows.isEmpty());
-        QCOMPARE(page.User.Asked.first(2),
+        QCOMPARE(m_page->User.Asked.first(2),
                  (QStringList{u"Zu welchem Konto gehören die Umsätze der Kontonummer 1234567?\n"
                               "Ein neuer Name legt ein Konto an."_s,
                               u"Zu welchem Konto gehören die Umsätze der Kontonummer 7654321?\n"
                               "Ein neuer Name legt ein Konto an."_s}));
-        QCOMPARE(page.Review.Summary(),
+        QCOMPARE(m_page->Review.Summary(),
                  QStringList(u"giro.sta: 6 gelesen, 5 neu, 1 ohne Betrag, Schlusssaldo 5.200,00"_s + space + u'€'));
-        QCOMPARE(page.Review.View().CountText(), u"5 offen, 5 insgesamt"_s);
-        page.Review.Files().ImportFiles({fixture}, page.Progress);
-        QCOMPARE(page.User.Asked.size(), 4); // nothing more than the two start balances
-        QCOMPARE(page.Review.Files().LeftOut().size(), 5);
+        QCOMPARE(m_page->Review.View().CountText(), u"5 offen, 5 insgesamt"_s);
+        m_page->Review.Files().ImportFiles({fixture}, m_page->Progress);
+        QCOMPARE(m_page->User.Asked.size(), 4); // nothing more than the two start balances
+        QCOMPARE(m_page->Review.Files().LeftOut().size(), 5);
         // Older rows would count on top of the start balance.
-        QVERIFY(page.Data.SetStartGuthaben(u"Girokonto"_s, 500000, QDate(2026, 1, 1)));
-        const cTestFile folder;
-        const QString older = folder.Path(u"older.sta"_s);
-        cTestFile::Write(older, ":20:A\n:25:10020030/1234567\n:60F:C251130EUR1,00\n:61:251215C9,00NTRF\n-\n");
-        page.Review.Files().ImportFiles({older}, page.Progress);
-        QCOMPARE(page.User.Asked.size(), 5);
-        QVERIFY(page.User.Asked.constLast().contains(u"Startguthaben von 5.000,00"));
+        QVERIFY(m_page->Data.SetStartGuthaben(u"Girokonto"_s, 500000, QDate(2026, 1, 1)));
+        const QString older = m_page->WriteFile(
+            u"older.sta"_s, ":20:A\n:25:10020030/1234567\n:60F:C251130EUR1,00\n:61:251215C9,00NTRF\n-\n");
+        m_page->Review.Files().ImportFiles({older}, m_page->Progress);
+        QCOMPARE(m_page->User.Asked.size(), 5);
+        QVERIFY(m_page->User.Asked.constLast().contains(u"Startguthaben von 5.000,00"));
     }
 
     void ShowsRows()
     {
-        cPage page;
-        page.ImportFixture();
-        const QStringList groceries{u"offen"_s,
-                                    u"03.01.2026"_s,
-                                    u"REWE Markt Hohenfels"_s,
-                                    u"REWE SAGT DANKE"_s,
-                                    u"-23,10"_s + space + u'€',
-                                    u"Girokonto"_s,
-                                    u"Haushalt; Lebensmittel"_s,
-                                    u"Einmalig"_s,
-                                    u"Regel: rewe"_s};
+        m_page->ImportFixture();
+        QStringList groceries;
         for (int column = 0; column < cStagedListModel::ColumnCount; ++column) {
-            QCOMPARE(page.Cell(0, column), groceries.at(column));
+            groceries.append(m_page->Cell(0, column));
         }
-        QCOMPARE(page.Review.Rows().index(0, 0).data(cStagedListModel::ToneRole).toInt(), 2);
-        QCOMPARE(page.Review.Rows().index(2, 0).data(cStagedListModel::ToneRole).toInt(), 1);
-        QCOMPARE(page.Cell(3, cStagedListModel::Account), u"Girokonto → Sparkonto"_s);
+        QCOMPARE(groceries.join(u'|'),
+                 u"offen|03.01.2026|REWE Markt Hohenfels|REWE SAGT DANKE|-23,10\u00A0€|Girokonto|"
+                 "Haushalt; Lebensmittel|Einmalig|Regel: rewe"_s);
+        QCOMPARE(m_page->Review.Rows().index(0, 0).data(cStagedListModel::ToneRole).toInt(), 2);
+        QCOMPARE(m_page->Review.Rows().index(2, 0).data(cStagedListModel::ToneRole).toInt(), 1);
+        QCOMPARE(m_page->Cell(3, cStagedListModel::Account), u"Girokonto → Sparkonto"_s);
     }
 
     void TakesDuplicatesAllTheSame()
     {
-        cPage page;
-        page.ImportFixture();
-        page.Review.Files().ImportFiles({fixture}, page.Progress);
-        QVERIFY(page.Review.Files().LeftOut().at(1).startsWith(u"04.01.2026  ·  -650,00"));
-        page.Review.Files().StageLeftOut({1, 0, 99});
-        QCOMPARE(page.Review.Files().LeftOut().size(), 3);
-        QCOMPARE(page.Review.View().CountText(), u"7 offen, 7 insgesamt"_s);
-        page.Review.Files().StageLeftOut({0});
-        QCOMPARE(page.Review.StartImportReview(0)->View().CountText(), u"3 offen, 3 insgesamt"_s); // one import
-        page.Review.Files().DropLeftOut();
-        QVERIFY(page.Review.Files().LeftOut().isEmpty());
+        m_page->ImportFixture();
+        m_page->Review.Files().ImportFiles({fixture}, m_page->Progress);
+        QVERIFY(m_page->Review.Files().LeftOut().at(1).startsWith(u"04.01.2026  ·  -650,00"));
+        m_page->Review.Files().StageLeftOut({1, 0, 99});
+        QCOMPARE(m_page->Review.Files().LeftOut().size(), 3);
+        QCOMPARE(m_page->Review.View().CountText(), u"7 offen, 7 insgesamt"_s);
+        m_page->Review.Files().StageLeftOut({0});
+        QCOMPARE(m_page->Review.StartImportReview(0)->View().CountText(), u"3 offen, 3 insgesamt"_s); // one import
+        m_page->Review.Files().DropLeftOut();
+        QVERIFY(m_page->Review.Files().LeftOut().isEmpty());
     }
 
     void AsksOnceAboutEqualRows_data()
@@ -238,92 +219,84 @@ private Q_SLOTS:
     void AsksOnceAboutEqualRows()
     {
         QFETCH(const eAnswer, answer);
-        cPage page;
-        const cTestFile folder;
-        const QStringList files{folder.Path(u"a.csv"_s), folder.Path(u"b.csv"_s)};
-        for (const QString& file : files) {
-            cTestFile::Write(file,
-                             "IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag\n"
-                             "03.05.2026;Fahrkarte;-2,00\n03.05.2026;Fahrkarte;-2,00\n");
-        }
-        page.User.Answers = {answer};
-        page.User.Choices = {u"Girokonto"_s};
-        page.Review.Files().ImportFiles(files, page.Progress);
-        QVERIFY(page.User.Asked.constFirst().contains(u"03.05.2026  ·  -2,00"));
-        QTEST(static_cast<int>(page.Data.GetImportEntries().size()), "staged");
-        page.User.Asked.clear();
-        page.Review.Files().ImportFiles(files, page.Progress);
-        QCOMPARE(page.User.Asked, QStringList());
-        QTEST(static_cast<int>(page.Data.GetImportEntries().size()), "staged");
-        QTEST(static_cast<int>(page.Review.Files().LeftOut().size()), "leftOut");
+        const QByteArray tickets = "IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag\n"
+                                   "03.05.2026;Fahrkarte;-2,00\n03.05.2026;Fahrkarte;-2,00\n";
+        const QStringList files{m_page->WriteFile(u"a.csv"_s, tickets), m_page->WriteFile(u"b.csv"_s, tickets)};
+        m_page->User.Answers = {answer};
+        m_page->User.Choices = {u"Girokonto"_s};
+        m_page->Review.Files().ImportFiles(files, m_page->Progress);
+        QVERIFY(m_page->User.Asked.constFirst().contains(u"03.05.2026  ·  -2,00"));
+        QTEST(static_cast<int>(m_page->Data.GetImportEntries().size()), "staged");
+        m_page->User.Asked.clear();
+        m_page->Review.Files().ImportFiles(files, m_page->Progress);
+        QCOMPARE(m_page->User.Asked, QStringList());
+        QTEST(static_cast<int>(m_page->Data.GetImportEntries().size()), "staged");
+        QTEST(static_cast<int>(m_page->Review.Files().LeftOut().size()), "leftOut");
     }
 
     void BooksWhatTheUserChose()
     {
-        cPage page;
-        page.Review.View().SetOpenOnly(false);
-        page.ImportFixture();
-        cStagedListModel& rows = page.Review.Rows();
+        m_page->Review.View().SetOpenOnly(false);
+        m_page->ImportFixture();
+        cStagedListModel& rows = m_page->Review.Rows();
         const QList<int> first{rows.IdAt(rows.index(0, 0))};
-        QVERIFY(page.Review.Choose(first, u"freizeit; geschenke"_s, {}));
-        QVERIFY(!page.Review.Choose(first, u"Unbekannt"_s, {}));
-        QVERIFY(!page.Review.Choose(first, {}, u"manchmal"_s));
-        QCOMPARE(page.Cell(0, cStagedListModel::Reason), u"von Hand gewählt"_s);
-        QSignalSpy entries(&page.Review, &cImportReview::EntriesChanged);
-        page.Review.Book(page.AllIds(), page.Progress);
+        QVERIFY(m_page->Review.Choose(first, u"freizeit; geschenke"_s, {}));
+        QVERIFY(!m_page->Review.Choose(first, u"Unbekannt"_s, {}));
+        QVERIFY(!m_page->Review.Choose(first, {}, u"manchmal"_s));
+        QCOMPARE(m_page->Cell(0, cStagedListModel::Reason), u"von Hand gewählt"_s);
+        QSignalSpy entries(&m_page->Review, &cImportReview::EntriesChanged);
+        m_page->Review.Book(m_page->AllIds(), m_page->Progress);
         QCOMPARE(entries.size(), 1);
-        QCOMPARE(page.Review.Summary(), QStringList(u"5 Umsätze gebucht, 4 neue Einträge."_s)); // a transfer takes two
-        QCOMPARE(page.Data.CountEntries(), 4);
-        QCOMPARE(page.Cell(0, cStagedListModel::State), u"gebucht"_s);
-        QCOMPARE(page.Cell(0, cStagedListModel::Category), u"Freizeit; Geschenke"_s);
+        QCOMPARE(m_page->Review.Summary(),
+                 QStringList(u"5 Umsätze gebucht, 4 neue Einträge."_s)); // a transfer takes two
+        QCOMPARE(m_page->Data.CountEntries(), 4);
+        QCOMPARE(m_page->Cell(0, cStagedListModel::State), u"gebucht"_s);
+        QCOMPARE(m_page->Cell(0, cStagedListModel::Category), u"Freizeit; Geschenke"_s);
         QVERIFY(!rows.flags(rows.index(0, cStagedListModel::Interval)).testFlag(Qt::ItemIsEditable));
-        page.Review.View().SetOpenOnly(true);
+        m_page->Review.View().SetOpenOnly(true);
         QCOMPARE(rows.rowCount(), 0);
-        QVERIFY(page.Review.View().EmptyHint().startsWith(u"Alle Umsätze sind gebucht"));
-        QVERIFY(page.Settings->GetBool(modSettingKey::HideBooked));
+        QVERIFY(m_page->Review.View().EmptyHint().startsWith(u"Alle Umsätze sind gebucht"));
+        QVERIFY(m_page->Settings->GetBool(modSettingKey::HideBooked));
     }
 
     // The number of a row that is gone comes again.
     void ForgetsTheChoiceForARowThatIsAnotherOne()
     {
-        cPage page;
-        page.ImportFixture();
-        page.AddRow(u"Geschenk"_s);
-        const int last = page.AllIds().last();
-        QVERIFY(page.Review.Choose({last}, u"Freizeit; Geschenke"_s, {}));
-        QVERIFY(page.Data.DeleteImport(last));
-        page.AddRow(u"etwas ganz anderes"_s);
-        QCOMPARE(page.AllIds().last(), last);
-        QCOMPARE(page.Cell(5, cStagedListModel::Reason), u"keine Regel passt"_s);
+        m_page->ImportFixture();
+        m_page->AddRow(u"Geschenk"_s);
+        const int last = m_page->AllIds().last();
+        QVERIFY(m_page->Review.Choose({last}, u"Freizeit; Geschenke"_s, {}));
+        QVERIFY(m_page->Data.DeleteImport(last));
+        m_page->AddRow(u"etwas ganz anderes"_s);
+        QCOMPARE(m_page->AllIds().last(), last);
+        QCOMPARE(m_page->Cell(5, cStagedListModel::Reason), u"keine Regel passt"_s);
     }
 
     void AsksAgainBeforeBooking()
     {
-        cPage page;
-        page.Review.Files().ImportFiles({fixture}, page.Progress); // the user gives up on both questions
-        QCOMPARE(page.Cell(0, cStagedListModel::Account), u"1234567 (kein Konto)"_s);
-        page.User.Choices = {u"Girokonto"_s, std::nullopt};
-        page.User.Decisions = {1}; // without its account the other half of the transfer is not sure
-        page.Review.Book(page.AllIds(), page.Progress);
-        QCOMPARE(page.Data.CountEntries(), 4);
-        QCOMPARE(page.Review.Summary().last(),
+        m_page->Review.Files().ImportFiles({fixture}, m_page->Progress); // the user gives up on both questions
+        QCOMPARE(m_page->Cell(0, cStagedListModel::Account), u"1234567 (kein Konto)"_s);
+        m_page->User.Choices = {u"Girokonto"_s, std::nullopt};
+        m_page->User.Decisions = {1}; // without its account the other half of the transfer is not sure
+        m_page->Review.Book(m_page->AllIds(), m_page->Progress);
+        QCOMPARE(m_page->Data.CountEntries(), 4);
+        QCOMPARE(m_page->Review.Summary().last(),
                  u"Die Kontonummer 7654321 hat noch kein Konto; ihre Umsätze werden nicht gebucht."_s);
     }
 
     void DeletesAfterAQuestion()
     {
-        cPage page;
-        QVERIFY(page.Review.View().IsOpenOnly());
-        page.Review.View().SetOpenOnly(false);
-        page.ImportFixture();
-        page.Review.Book({page.AllIds().first()}, page.Progress);
-        page.Review.Delete(page.AllIds());
-        QCOMPARE(page.Review.Rows().rowCount(), 5);
-        page.User.Answers = {eAnswer::Yes};
-        page.Review.Delete(page.AllIds());
-        QVERIFY(page.User.Asked.last().contains(u"gebuchte Einträge bleiben bestehen"));
-        QCOMPARE(page.Review.Rows().rowCount(), 0);
-        QCOMPARE(page.Data.CountEntries(), 1);
+        QVERIFY(m_page->Review.View().IsOpenOnly());
+        m_page->Review.View().SetOpenOnly(false);
+        m_page->ImportFixture();
+        m_page->Review.Book({m_page->AllIds().first()}, m_page->Progress);
+        m_page->Review.Delete(m_page->AllIds());
+        QCOMPARE(m_page->Review.Rows().rowCount(), 5);
+        m_page->User.Answers = {eAnswer::Yes};
+        m_page->Review.Delete(m_page->AllIds());
+        QVERIFY(m_page->User.Asked.last().contains(u"gebuchte Einträge bleiben bestehen"));
+        QCOMPARE(m_page->Review.Rows().rowCount(), 0);
+        QCOMPARE(m_page->Data.CountEntries(), 1);
     }
 
     void FiltersAndSorts_data()
@@ -346,81 +319,76 @@ private Q_SLOTS:
     {
         QFETCH(QString, filter);
         QFETCH(int, column);
-        cPage page;
-        page.ImportFixture();
-        page.Review.View().SetFilter(filter);
-        page.Review.Rows().sort(column, Qt::AscendingOrder);
+        m_page->ImportFixture();
+        m_page->Review.View().SetFilter(filter);
+        m_page->Review.Rows().sort(column, Qt::AscendingOrder);
         QStringList names;
-        for (int row = 0; row < page.Review.Rows().rowCount(); ++row) {
-            names.append(page.Cell(row, cStagedListModel::Counterparty));
+        for (int row = 0; row < m_page->Review.Rows().rowCount(); ++row) {
+            names.append(m_page->Cell(row, cStagedListModel::Counterparty));
         }
         QTEST(names, "names");
     }
 
     void OneCategoryForMany()
     {
-        cPage page;
-        page.ImportFixture();
-        page.Review.Book({page.AllIds().first()}, page.Progress);
-        page.Review.View().SetOpenOnly(false);
-        const QList<int> ids = page.AllIds().first(3);
-        QCOMPARE(page.Review.ChoiceTitle(ids), u"Kategorie für 2 Umsätze"_s); // one of them is booked
-        QVERIFY(!page.Review.Choose(ids, u"Unbekannt"_s, {}));
-        QVERIFY(page.Review.Choose(ids, u"freizeit; geschenke"_s, u"Jährlich"_s));
-        QCOMPARE(page.Cell(0, cStagedListModel::Category), u"Haushalt; Lebensmittel"_s);
+        m_page->ImportFixture();
+        m_page->Review.Book({m_page->AllIds().first()}, m_page->Progress);
+        m_page->Review.View().SetOpenOnly(false);
+        const QList<int> ids = m_page->AllIds().first(3);
+        QCOMPARE(m_page->Review.ChoiceTitle(ids), u"Kategorie für 2 Umsätze"_s); // one of them is booked
+        QVERIFY(!m_page->Review.Choose(ids, u"Unbekannt"_s, {}));
+        QVERIFY(m_page->Review.Choose(ids, u"freizeit; geschenke"_s, u"Jährlich"_s));
+        QCOMPARE(m_page->Cell(0, cStagedListModel::Category), u"Haushalt; Lebensmittel"_s);
         for (const int row : {1, 2}) {
-            QCOMPARE(page.Cell(row, cStagedListModel::Category), u"Freizeit; Geschenke"_s);
-            QCOMPARE(page.Cell(row, cStagedListModel::Interval), u"Jährlich"_s);
+            QCOMPARE(m_page->Cell(row, cStagedListModel::Category), u"Freizeit; Geschenke"_s);
+            QCOMPARE(m_page->Cell(row, cStagedListModel::Interval), u"Jährlich"_s);
         }
     }
 
     // It would make the series begin earlier, but for the category.
     void OtherCategoryKeepsTheInterval()
     {
-        cPage page;
-        page.ImportFixture();
+        m_page->ImportFixture();
         for (const int month : {5, 4}) {
-            const int id = page.Stage(u"1234567"_s, QDate(2026, month, 2), -65000, u"Miete Tann"_s).ID;
-            page.Review.Refresh();
-            QVERIFY(page.Review.Choose({id}, month == 4 ? u"Freizeit; Geschenke"_s : u"Wohnung; Miete"_s, {}));
-            page.Review.Book({id}, page.Progress);
+            const int id = m_page->Stage(u"1234567"_s, QDate(2026, month, 2), -65000, u"Miete Tann"_s).ID;
+            m_page->Review.Refresh();
+            QVERIFY(m_page->Review.Choose({id}, month == 4 ? u"Freizeit; Geschenke"_s : u"Wohnung; Miete"_s, {}));
+            m_page->Review.Book({id}, m_page->Progress);
         }
-        QCOMPARE(page.Data.GetSeries().size(), 2);
+        QCOMPARE(m_page->Data.GetSeries().size(), 2);
     }
 
     void AcceptsWhatIsCertain()
     {
-        cPage page;
-        page.ImportFixture();
-        page.AddRow(u"Unbekannt GmbH"_s);
-        page.Review.AcceptProposals(page.Progress); // the user says no
-        QCOMPARE(page.User.Asked.last(),
+        m_page->ImportFixture();
+        m_page->AddRow(u"Unbekannt GmbH"_s);
+        m_page->Review.AcceptProposals(m_page->Progress); // the user says no
+        QCOMPARE(m_page->User.Asked.last(),
                  u"5 der gezeigten Umsätze haben einen sicheren Vorschlag und werden neu gebucht.\nOffen "
                  "bleiben: 1 ohne passenden Vorschlag.\nSoll das so geschehen?"_s);
-        QCOMPARE(page.Data.CountEntries(), 0);
-        page.Review.View().SetFilter(u"rewe"_s);
-        page.User.Answers = {eAnswer::Yes};
-        page.Review.AcceptProposals(page.Progress);
-        QCOMPARE(page.Data.CountEntries(), 1); // only what is shown
-        page.Review.View().SetFilter({});
-        page.User.Answers = {eAnswer::Yes};
-        page.Review.AcceptProposals(page.Progress);
-        QCOMPARE(page.Review.View().CountText(), u"1 offen, 6 insgesamt"_s);
-        QVERIFY(page.Data.Journal().Undo()); // all of it is one step
-        QCOMPARE(page.Data.CountEntries(), 1);
-        page.Review.Refresh();
-        page.Review.View().SetFilter(u"unbekannt"_s);
-        page.Review.AcceptProposals(page.Progress);
-        QVERIFY(page.User.Shown.last().startsWith(u"Keiner der gezeigten Umsätze hat einen sicheren Vorschlag."));
+        QCOMPARE(m_page->Data.CountEntries(), 0);
+        m_page->Review.View().SetFilter(u"rewe"_s);
+        m_page->User.Answers = {eAnswer::Yes};
+        m_page->Review.AcceptProposals(m_page->Progress);
+        QCOMPARE(m_page->Data.CountEntries(), 1); // only what is shown
+        m_page->Review.View().SetFilter({});
+        m_page->User.Answers = {eAnswer::Yes};
+        m_page->Review.AcceptProposals(m_page->Progress);
+        QCOMPARE(m_page->Review.View().CountText(), u"1 offen, 6 insgesamt"_s);
+        QVERIFY(m_page->Data.Journal().Undo()); // all of it is one step
+        QCOMPARE(m_page->Data.CountEntries(), 1);
+        m_page->Review.Refresh();
+        m_page->Review.View().SetFilter(u"unbekannt"_s);
+        m_page->Review.AcceptProposals(m_page->Progress);
+        QVERIFY(m_page->User.Shown.last().startsWith(u"Keiner der gezeigten Umsätze hat einen sicheren Vorschlag."));
     }
 
     void ShowsWhatIsToBeDone()
     {
-        cPage page;
-        page.ImportFixture();
-        page.AddRow(u"Unbekannt GmbH"_s);
-        page.Review.View().SetGrouping(static_cast<int>(modStagedGroup::eGrouping::Plan));
-        cStagedListModel& rows = page.Review.Rows();
+        m_page->ImportFixture();
+        m_page->AddRow(u"Unbekannt GmbH"_s);
+        m_page->Review.View().SetGrouping(static_cast<int>(modStagedGroup::eGrouping::Plan));
+        cStagedListModel& rows = m_page->Review.Rows();
         QStringList groups;
         for (int group = 0; group < rows.rowCount(); ++group) {
             groups.append(rows.index(group, 0).data().toString());
@@ -432,18 +400,17 @@ private Q_SLOTS:
     // What was chosen for a row takes it to another group; how the list is shown comes back under its name.
     void GroupsByCategoryAndKeepsThatUnderAName()
     {
-        cPage page;
-        page.ImportFixture();
-        cStagedChoice& view = page.Review.View();
-        cStagedListModel& rows = page.Review.Rows();
+        m_page->ImportFixture();
+        cStagedChoice& view = m_page->Review.View();
+        cStagedListModel& rows = m_page->Review.Rows();
         const int byCategory = static_cast<int>(modStagedGroup::eGrouping::Category);
         view.SetGrouping(byCategory);
         const QModelIndex first = rows.index(0, 0, rows.index(0, 0));
-        QVERIFY(page.Review.Choose({rows.IdAt(first)}, u"Freizeit; Geschenke"_s, {}));
+        QVERIFY(m_page->Review.Choose({rows.IdAt(first)}, u"Freizeit; Geschenke"_s, {}));
         const QModelIndex gifts = rows.HeadNamed(u"Freizeit; Geschenke"_s);
         QCOMPARE(rows.rowCount(gifts), 1);
         QCOMPARE(view.GroupCategory(rows.index(0, 0, gifts)), u"Freizeit; Geschenke"_s);
-        page.User.Choices = {u"Nach | Kategorie"_s};
+        m_page->User.Choices = {u"Nach | Kategorie"_s};
         view.SetOpenOnly(false);
         view.SetFilter(u"a|b"_s);
         view.SaveLayout(u"0,10,1|s"_s);
@@ -463,122 +430,117 @@ private Q_SLOTS:
     // What nobody knew can be found, before it was booked and after that.
     void FindsWhatHasNoCategory()
     {
-        cPage page;
-        page.ImportFixture();
-        page.AddRow(u"Unbekannt GmbH"_s);
-        const int id = page.AllIds().last();
-        page.Review.View().SetUncategorisedOnly(true);
-        QCOMPARE(page.AllIds(), QList<int>{id});
-        page.Review.Book({id}, page.Progress);
-        QCOMPARE(page.AllIds(), QList<int>{id}); // although booked rows are hidden
-        QSignalSpy entries(&page.Review, &cImportReview::EntriesChanged);
-        QVERIFY(!page.Review.Choose({id}, u"Unbekannt"_s, {}));
-        QVERIFY(page.Review.Summary().value(0).startsWith(u"Die Kategorie 'Unbekannt' gibt es nicht."_s));
-        QVERIFY(page.Review.Choose({id}, u"freizeit; geschenke"_s, {}));
+        m_page->ImportFixture();
+        m_page->AddRow(u"Unbekannt GmbH"_s);
+        const int id = m_page->AllIds().last();
+        m_page->Review.View().SetUncategorisedOnly(true);
+        QCOMPARE(m_page->AllIds(), QList<int>{id});
+        m_page->Review.Book({id}, m_page->Progress);
+        QCOMPARE(m_page->AllIds(), QList<int>{id}); // although booked rows are hidden
+        QSignalSpy entries(&m_page->Review, &cImportReview::EntriesChanged);
+        QVERIFY(!m_page->Review.Choose({id}, u"Unbekannt"_s, {}));
+        QVERIFY(m_page->Review.Summary().value(0).startsWith(u"Die Kategorie 'Unbekannt' gibt es nicht."_s));
+        QVERIFY(m_page->Review.Choose({id}, u"freizeit; geschenke"_s, {}));
         QCOMPARE(entries.size(), 1);
-        QCOMPARE(page.Data.GetEntries({}).value(0).EntryCategory, u"Freizeit; Geschenke"_s);
-        QVERIFY(page.AllIds().isEmpty());
-        QVERIFY(page.Data.Journal().Undo());
-        QCOMPARE(page.Data.GetEntries({}).value(0).EntryCategory, u"Allgemein"_s);
-        const std::unique_ptr<cManyChange> change = page.Review.StartChange({id});
+        QCOMPARE(m_page->Data.GetEntries({}).value(0).EntryCategory, u"Freizeit; Geschenke"_s);
+        QVERIFY(m_page->AllIds().isEmpty());
+        QVERIFY(m_page->Data.Journal().Undo());
+        QCOMPARE(m_page->Data.GetEntries({}).value(0).EntryCategory, u"Allgemein"_s);
+        const std::unique_ptr<cManyChange> change = m_page->Review.StartChange({id});
         QVERIFY(change != nullptr);
         QCOMPARE(change->Save({.Description = u"Nachgetragen"_s}), cManyChange::eSaved::Saved);
-        page.Review.FollowEntries();
+        m_page->Review.FollowEntries();
         QCOMPARE(entries.size(), 2);
-        QCOMPARE(page.Data.GetEntries({}).value(0).EntryDescription, u"Nachgetragen"_s);
-        cEntryItem part = page.Data.GetEntries({}).value(0);
+        QCOMPARE(m_page->Data.GetEntries({}).value(0).EntryDescription, u"Nachgetragen"_s);
+        cEntryItem part = m_page->Data.GetEntries({}).value(0);
         modSplit::SetGroup(part, part.ID);
-        QVERIFY(page.Data.ChangeEntry(part) && page.Data.AddNewEntry(part));
-        QCOMPARE(page.Review.StartChange({id})->Count(), 2); // the whole purchase
-        page.Review.View().SetUncategorisedOnly(false);
-        QVERIFY(page.Review.StartChange({id, page.AllIds().first()}) == nullptr); // one of them has no entry yet
+        QVERIFY(m_page->Data.ChangeEntry(part) && m_page->Data.AddNewEntry(part));
+        QCOMPARE(m_page->Review.StartChange({id})->Count(), 2); // the whole purchase
+        m_page->Review.View().SetUncategorisedOnly(false);
+        QVERIFY(m_page->Review.StartChange({id, m_page->AllIds().first()}) == nullptr); // one of them has no entry yet
     }
 
     void EditsAndBooks()
     {
-        cPage page;
-        page.ImportFixture();
-        const int id = page.AllIds().first();
+        m_page->ImportFixture();
+        const int id = m_page->AllIds().first();
         cEntryFields shown;
         bool isSaving = false;
-        connect(&page.Review, &cImportReview::EditorWanted, this,
+        connect(&m_page->Review, &cImportReview::EditorWanted, this,
                 [&](cEntryEditor& editor, const cEntryFields& fields) {
                     shown = fields;
                     cEntryFields changed = fields;
                     changed.Description = u"Wocheneinkauf"_s;
                     QCOMPARE(isSaving ? editor.Save(changed) : eEntrySaved::Saved, eEntrySaved::Saved);
                 });
-        page.Review.EditAndBook({id}); // the window is closed again
+        m_page->Review.EditAndBook({id}); // the window is closed again
         QCOMPARE(QStringList({shown.Amount, shown.Category, shown.Account, shown.Type}),
                  QStringList({u"23,10"_s, u"Haushalt; Lebensmittel"_s, u"Girokonto"_s, modWord::Ausgabe}));
-        QCOMPARE(page.Data.CountEntries(), 0);
+        QCOMPARE(m_page->Data.CountEntries(), 0);
         isSaving = true;
-        page.Review.EditAndBook({id});
-        const cEntryItem entry = page.Data.GetEntries({}).value(0);
+        m_page->Review.EditAndBook({id});
+        const cEntryItem entry = m_page->Data.GetEntries({}).value(0);
         QCOMPARE(entry.EntryDescription, u"Wocheneinkauf"_s);
-        QCOMPARE(page.Data.GetImportEntries().constFirst().ImportAssignedEntry, entry.ID);
-        QVERIFY(page.Data.Journal().Undo()); // entry and assignment are one step
-        QVERIFY(!page.Data.GetImportEntries().constFirst().ImportAssigned);
-        QCOMPARE(page.Data.CountEntries(), 0);
+        QCOMPARE(m_page->Data.GetImportEntries().constFirst().ImportAssignedEntry, entry.ID);
+        QVERIFY(m_page->Data.Journal().Undo()); // entry and assignment are one step
+        QVERIFY(!m_page->Data.GetImportEntries().constFirst().ImportAssigned);
+        QCOMPARE(m_page->Data.CountEntries(), 0);
     }
 
     void AsksBeforeBookingTwice()
     {
-        cPage page;
-        page.ImportFixture();
-        cImportEntry rewe = page.Data.GetImportEntries().constFirst();
+        m_page->ImportFixture();
+        cImportEntry rewe = m_page->Data.GetImportEntries().constFirst();
         const int first = rewe.ID;
         rewe.ImportPurpose = u"Kartenzahlung 4711"_s; // the same in another file
-        QVERIFY(page.Data.AddNewImportEntry(rewe));
-        page.Review.Refresh();
-        const int second = page.Data.GetImportEntries().constLast().ID;
-        QCOMPARE(page.Cell(0, cStagedListModel::State), u"doppelt?"_s);
-        QVERIFY(page.Cell(0, cStagedListModel::Reason).startsWith(u"gleicher Tag, Betrag und"));
-        page.User.Answers = {eAnswer::Cancel};
-        page.Review.Book({second}, page.Progress);
-        QVERIFY(page.User.Asked.last().contains(u"noch einen, der derselbe sein kann"));
-        QCOMPARE(page.Data.CountEntries(), 0);
-        page.User.Answers = {eAnswer::Yes};
-        page.Review.Book({first, second}, page.Progress);
-        QCOMPARE(page.Data.CountEntries(), 1); // one of the two
-        QCOMPARE(page.Cell(0, cStagedListModel::State), u"doppelt?"_s);
-        page.User.Answers = {eAnswer::No};
-        page.Review.Book({second}, page.Progress);
-        QCOMPARE(page.Data.CountEntries(), 2);
+        QVERIFY(m_page->Data.AddNewImportEntry(rewe));
+        m_page->Review.Refresh();
+        const int second = m_page->Data.GetImportEntries().constLast().ID;
+        QCOMPARE(m_page->Cell(0, cStagedListModel::State), u"doppelt?"_s);
+        QVERIFY(m_page->Cell(0, cStagedListModel::Reason).startsWith(u"gleicher Tag, Betrag und"));
+        m_page->User.Answers = {eAnswer::Cancel};
+        m_page->Review.Book({second}, m_page->Progress);
+        QVERIFY(m_page->User.Asked.last().contains(u"noch einen, der derselbe sein kann"));
+        QCOMPARE(m_page->Data.CountEntries(), 0);
+        m_page->User.Answers = {eAnswer::Yes};
+        m_page->Review.Book({first, second}, m_page->Progress);
+        QCOMPARE(m_page->Data.CountEntries(), 1); // one of the two
+        QCOMPARE(m_page->Cell(0, cStagedListModel::State), u"doppelt?"_s);
+        m_page->User.Answers = {eAnswer::No};
+        m_page->Review.Book({second}, m_page->Progress);
+        QCOMPARE(m_page->Data.CountEntries(), 2);
     }
 
     void AWindowForOneImport()
     {
-        cPage page;
-        QVERIFY(page.Review.StartImportReview() == nullptr);
-        page.AddRow(u"Von früher"_s);
-        page.ImportFixture();
-        QVERIFY(page.Review.StartImportReview(1) == nullptr); // nobody knows with which file it came
-        const std::unique_ptr<cImportReview> window = page.Review.StartImportReview();
+        QVERIFY(m_page->Review.StartImportReview() == nullptr);
+        m_page->AddRow(u"Von früher"_s);
+        m_page->ImportFixture();
+        QVERIFY(m_page->Review.StartImportReview(1) == nullptr); // nobody knows with which file it came
+        const std::unique_ptr<cImportReview> window = m_page->Review.StartImportReview();
         QCOMPARE(window->View().CountText(), u"5 offen, 5 insgesamt"_s);
         const int id = window->Rows().OpenIds().first();
         QVERIFY(window->Choose({id}, u"Freizeit; Geschenke"_s, {}));
-        page.Review.Refresh();
-        QCOMPARE(page.Review.Rows().IndexOf(id).siblingAtColumn(cStagedListModel::Category).data().toString(),
+        m_page->Review.Refresh();
+        QCOMPARE(m_page->Review.Rows().IndexOf(id).siblingAtColumn(cStagedListModel::Category).data().toString(),
                  u"Freizeit; Geschenke"_s);
-        QSignalSpy entries(&page.Review, &cImportReview::EntriesChanged);
-        window->Book({id}, page.Progress);
+        QSignalSpy entries(&m_page->Review, &cImportReview::EntriesChanged);
+        window->Book({id}, m_page->Progress);
         QCOMPARE(entries.size(), 1);
-        QCOMPARE(page.Review.View().CountText(), u"5 offen, 6 insgesamt"_s);
-        QCOMPARE(page.Review.Summary(), window->Summary());
+        QCOMPARE(m_page->Review.View().CountText(), u"5 offen, 6 insgesamt"_s);
+        QCOMPARE(m_page->Review.Summary(), window->Summary());
     }
 
     void KeepsWhatIsShown()
     {
-        cPage page;
-        page.ImportFixture();
-        cStagedChoice& view = page.Review.View();
+        m_page->ImportFixture();
+        cStagedChoice& view = m_page->Review.View();
         view.SetGrouping(1);
         view.SetOldHidden(true);
         view.SetTitleShown(false);
-        QVERIFY(page.Settings->GetBool(modSettingKey::HideOld));
-        QVERIFY(page.Settings->GetBool(modSettingKey::HideTitle));
-        cImportReview other(page.Tools);
+        QVERIFY(m_page->Settings->GetBool(modSettingKey::HideOld));
+        QVERIFY(m_page->Settings->GetBool(modSettingKey::HideTitle));
+        cImportReview other(m_page->Tools);
         QCOMPARE(other.View().Grouping(), 1);
         QVERIFY(other.View().IsOldHidden() && !other.View().IsTitleShown());
         view.SetGrouping(99);
@@ -587,13 +549,13 @@ private Q_SLOTS:
 
     void SaysWhyAFileIsRefused()
     {
-        cPage page;
-        const cTestFile folder;
-        cTestFile::Write(folder.Path(u"auszug.pdf"_s), "%PDF");
-        page.Review.Files().ImportFiles({folder.Path(u"auszug.pdf"_s)}, page.Progress);
-        QVERIFY(page.User.Shown.value(0).startsWith(u"auszug.pdf\nDieses Format kann nicht eingelesen werden"));
-        QVERIFY(page.Review.Summary().first().startsWith(u"auszug.pdf: nicht eingelesen."));
+        m_page->Review.Files().ImportFiles({m_page->WriteFile(u"auszug.pdf"_s, "%PDF")}, m_page->Progress);
+        QVERIFY(m_page->User.Shown.value(0).startsWith(u"auszug.pdf\nDieses Format kann nicht eingelesen werden"));
+        QVERIFY(m_page->Review.Summary().first().startsWith(u"auszug.pdf: nicht eingelesen."));
     }
+
+private:
+    std::optional<cPage> m_page;
 };
 
 TEST_CLASS(testImportReview, QCoreApplication)

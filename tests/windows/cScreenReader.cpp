@@ -1,7 +1,6 @@
 #include "cScreenReader.h"
 
 #include <QAccessible>
-#include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusObjectPath>

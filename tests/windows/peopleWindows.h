@@ -9,6 +9,7 @@
 #include "windows/people/frmPersonen.h"
 
 #include <QObject>
+#include <QTest>
 
 #include <memory>
 
@@ -39,16 +40,12 @@ inline void Fill(const cBookTools& tools)
 {
     cPeople people(tools);
     for (const QString& name : {QStringLiteral("Miete"), QStringLiteral("Einkauf")}) {
-        if (!people.Add(name)) {
-            qFatal("no people");
-        }
+        QVERIFY(people.Add(name));
     }
     (void)people.TakeShares(QStringLiteral("Girokonto"), {QStringLiteral("60"), QStringLiteral("40")});
     cEntryItemList entries = tools.Data.GetEntries({});
     modPeople::SetPayer(entries.first(), QStringLiteral("Einkauf"));
-    if (!tools.Data.ChangeEntry(entries.first())) {
-        qFatal("no payer");
-    }
+    QVERIFY(tools.Data.ChangeEntry(entries.first()));
 }
 
 inline std::unique_ptr<QWidget> People(const cBookTools& tools)

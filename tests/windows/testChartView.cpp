@@ -6,14 +6,11 @@
 #include "windows/chart/cChartView.h"
 #include "windows/chart/modChartColour.h"
 #include "windows/chart/modChartPainter.h"
+#include "windows/look/modPalette.h"
 
 #include <QApplication>
-#include <QClipboard>
-#include <QGuiApplication>
 #include <QSignalSpy>
 #include <QSvgRenderer>
-#include <QTest>
-#include <QToolButton>
 #include <QVariantList>
 
 #include <array>
@@ -170,8 +167,7 @@ private Q_SLOTS:
         const cChartLayout layout = modChartPainter::LayOut(chart, {}, style, {QPointF(), size * line});
         QCOMPARE(static_cast<int>(layout.Legend.size()) + layout.More.Count, 12);
         QVERIFY(layout.Legend.size() > 3);
-        QVERIFY2(layout.Circles.front().Outer > line * 2.5,
-                 qPrintable(QString::number(layout.Circles.front().Outer / line)));
+        QVERIFY(layout.Circles.front().Outer > line * 2.5);
     }
 
     // From side to side, from day to day and from week to week, and from a column to its limit.
@@ -281,14 +277,8 @@ private Q_SLOTS:
         box.show();
         box.ShowTable(true);
         const cChartTableModel& figures = box.findChild<cChartTable*>()->Figures();
-        QCOMPARE(figures.rowCount(), 4); // and the sum
-        for (int series = 0; series < 2; ++series) {
-            for (int index = 0; index < 3; ++index) {
-                const std::optional<qint64> cents = box.View().Data().Series[series].At(index);
-                QCOMPARE(figures.data(figures.index(index, series + 1), Qt::DisplayRole).toString(),
-                         cents ? box.View().Data().MoneyText(*cents) : QString());
-            }
-        }
+        QCOMPARE(figures.rowCount(), 4);                            // and the sum
+        QCOMPARE(figures.index(1, 2).data().toString(), QString()); // the gap
         QCOMPARE(figures.data(figures.index(3, 1), Qt::DisplayRole).toString(), u"1200,00"_s);
         Q_EMIT box.View().SeriesSwitched();
         QTest::mouseClick(&box.View(), Qt::LeftButton, {}, box.View().Layout().Legend.at(0).Area.center().toPoint());
@@ -335,9 +325,7 @@ private Q_SLOTS:
     void StaysApartForEveryEye()
     {
         constexpr double enough = 18; // CIELAB; 2 can be seen side by side, 10 at a glance
-        QPalette dark(QColor(45, 47, 51));
-        dark.setColor(QPalette::Base, QColor(30, 32, 35));
-        for (const QPalette& palette : {QPalette(Qt::white), dark}) {
+        for (const QPalette& palette : {QPalette(Qt::white), modPalette::Dark()}) {
             for (const cMatrix& eye : eyes) {
                 for (int a = 0; a < modChartColour::Count; ++a) {
                     const cColour seen = Seen(modChartColour::Series(a, palette), eye);

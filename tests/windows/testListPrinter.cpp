@@ -1,5 +1,6 @@
 #include "model/modWord.h"
 #include "support/cTestClass.h"
+#include "support/cTestEntry.h"
 #include "support/cTestRows.h"
 #include "support/cTextRecorder.h"
 #include "support/testFormat.h"
@@ -11,7 +12,6 @@
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPdfWriter>
-#include <QTest>
 
 #include <algorithm>
 
@@ -28,16 +28,11 @@ cEntryItemList Entries(int count)
 {
     cEntryItemList entries;
     for (int i = 0; i < count; ++i) {
-        cEntryItem entry;
-        entry.ID = i + 1;
-        entry.EntryDate = QDate(2026, 1, 1).addDays(i);
-        entry.EntryType = i % 7 == 0 ? modWord::Einnahme : modWord::Ausgabe;
-        entry.EntryInterval = modWord::Einmalig;
-        entry.EntryAccount = u"Girokonto"_s;
-        entry.EntryCategory = u"Haushalt; Lebensmittel"_s;
-        entry.EntryValue = 123456 + i;
-        entry.EntryDescription = u"Einkauf%1"_s.arg(i);
-        entries.append(entry);
+        const QString type = i % 7 == 0 ? modWord::Einnahme : modWord::Ausgabe;
+        const cTestEntry entry{
+            .Day = QDate(2026, 1, 1).addDays(i), .Cents = 123456 + i, .Text = u"Einkauf%1"_s.arg(i), .Type = type};
+        entries.append(entry.Make());
+        entries.last().ID = i + 1;
     }
     return entries;
 }
@@ -49,17 +44,133 @@ class testListPrinter final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
-    void EveryRowIsPrintedOnce_data();
-    void EveryRowIsPrintedOnce();
-    void NothingLeavesThePage_data();
-    void NothingLeavesThePage();
-    void HeadsAndNumbersOnEveryPage();
-    void GroupsGoOnWithTheirName();
-    void LongTextsBreakAndEnd();
-    void AmountsAreNeverCut();
-    void BlackWhateverTheProgramLooksLike();
-    void EmptyListIsOnePage();
-    void PdfHasTheSamePages();
+    void EveryRowIsPrintedOnce_data()
+    {
+        const cTestRows<int, QString> row("rows", "grouping");
+        row("one", 1, modWord::KeineGruppierung);
+        row("many pages", 300, modWord::KeineGruppierung);
+        row("groups of one row", 100, u"Nach Datum"_s);
+        row("groups over several pages", 300, u"Nach Monat"_s);
+    }
+
+    void EveryRowIsPrintedOnce()
+    {
+        QFETCH(const int, rows);
+        QFETCH(const QString, grouping);
+        Show(Entries(rows), grouping);
+        const std::vector<cSheet> sheets = Print(portrait);
+        QCOMPARE(sheets.size() > 1, rows > 50);
+        const QStringList texts = Texts(sheets);
+        qint64 sum = 0;
+        for (const cEntryItem& entry : Entries(rows)) {
+            QCOMPARE(texts.count(entry.EntryDescription), 1);
+            const qint64 cents = entry.EntryType == modWord::Einnahme ? entry.EntryValue : -entry.EntryValue;
+            QVERIFY2(texts.contains(m_format.Format.Cents(cents)), qPrintable(entry.EntryDescription));
+            sum += cents;
+        }
+        QVERIFY(Texts(sheets.back()).contains(m_format.Format.Cents(sum)));
+    }
+
+    void NothingLeavesThePage_data()
+    {
+        const cTestRows<QSize> row("size");
+        row("A4", portrait);
+        row("A4 across", portrait.transposed());
+        row("A5", portrait / 1.414);
+        row("A6, where even the smallest text is too wide", portrait / 2);
+    }
+
+    void NothingLeavesThePage()
+    {
+        QFETCH(const QSize, size);
+        Show(Entries(120), u"Nach Monat"_s);
+        const QRectF area = Area(size).adjusted(-1, -1, 1, 1);
+        const std::vector<cSheet> sheets = Print(size);
+        for (const cSheet& sheet : sheets) {
+            for (std::size_t i = 0; i < sheet.size(); ++i) {
+                QVERIFY2(area.contains(sheet[i].Place), qPrintable(sheet[i].Text));
+                for (std::size_t other = i + 1; other < sheet.size(); ++other) {
+                    const QRectF shared = sheet[i].Place.intersected(sheet[other].Place);
+                    QVERIFY2(shared.width() < 1 || shared.height() < 2,
+                             qPrintable(sheet[i].Text + u" / "_s + sheet[other].Text));
+                }
+            }
+        }
+    }
+
+    void HeadsAndNumbersOnEveryPage()
+    {
+        Show(Entries(300));
+        const std::vector<cSheet> sheets = Print(portrait);
+        for (std::size_t page = 0; page < sheets.size(); ++page) {
+            const QStringList texts = Texts(sheets[page]);
+            QCOMPARE(texts.count(u"Beschreibung"_s), 1);
+            QCOMPARE(texts.contains(u"Zeitraum: Aktuelles Jahr"_s), page == 0);
+            QVERIFY(texts.contains(u"Seite %1 von %2"_s.arg(page + 1).arg(sheets.size())));
+            QCOMPARE(texts.contains(u"Summe"_s), page + 1 == sheets.size());
+        }
+    }
+
+    void GroupsGoOnWithTheirName()
+    {
+        Show(Entries(300), u"Nach Buchungsart"_s);
+        const std::vector<cSheet> sheets = Print(portrait);
+        QVERIFY(sheets.size() > 2);
+        for (std::size_t page = 1; page < sheets.size(); ++page) {
+            const QString first = Texts(sheets[page]).at(m_columns.size());
+            QVERIFY2(first.contains("Fortsetzung"_L1) || first.startsWith("Einnahme"_L1), qPrintable(first));
+            // A group's head is never the last thing of a page.
+            const QString last = Texts(sheets[page - 1]).at(Texts(sheets[page - 1]).size() - 3);
+            QVERIFY2(last.contains(u'€'), qPrintable(last));
+        }
+    }
+
+    void LongTextsBreakAndEnd()
+    {
+        cEntryItemList entries = Entries(2);
+        entries[0].EntryDescription = u"Nachzahlung der Nebenkosten "_s.repeated(3).trimmed();
+        entries[1].EntryDescription = QString(2000, u'W');
+        Show(entries);
+        const QStringList texts = Texts(Print(portrait));
+        QVERIFY2(texts.join(u' ').contains(entries[0].EntryDescription), qPrintable(texts.join(u'|')));
+        QVERIFY(std::any_of(texts.begin(), texts.end(), [](const QString& text) { return text.endsWith(u'…'); }));
+    }
+
+    void AmountsAreNeverCut()
+    {
+        cEntryItemList entries = Entries(1);
+        entries[0].EntryValue = 123456789012;
+        entries[0].EntryCategory = u"Ein sehr langer Name; mit einer ebenso langen Unterkategorie"_s;
+        Show(entries);
+        QVERIFY(Texts(Print(portrait / 2)).contains(m_format.Format.Cents(123456789012)));
+    }
+
+    void BlackWhateverTheProgramLooksLike()
+    {
+        const QPalette before = QGuiApplication::palette();
+        QGuiApplication::setPalette(
+            QPalette(Qt::white, Qt::black, Qt::white, Qt::black, Qt::gray, Qt::white, Qt::black));
+        Show(Entries(20), u"Nach Monat"_s);
+        const std::vector<cSheet> sheets = Print(portrait);
+        QGuiApplication::setPalette(before);
+        for (const cWritten& written : sheets.front()) {
+            QCOMPARE(written.Pen.rgb(), QColor(Qt::black).rgb());
+        }
+    }
+
+    void EmptyListIsOnePage()
+    {
+        Show({});
+        const std::vector<cSheet> sheets = Print(portrait);
+        QCOMPARE(sheets.size(), 1U);
+        QVERIFY(Texts(sheets).contains(u"Keine Daten"_s));
+    }
+
+    void EveryDeviceHasTheSamePages()
+    {
+        Show(Entries(300), u"Nach Monat"_s);
+        QCOMPARE(Print(portrait * 8, dotsPerInch * 8).size(), Print(portrait).size());
+    }
 
 private:
     void Show(cEntryItemList entries, const QString& grouping = modWord::KeineGruppierung)
@@ -79,13 +190,13 @@ private:
                                 {{u"Summe"_s, m_format.Format.Cents(m_model.Sums().Total())}}});
     }
     // The list on paper of this size.
-    [[nodiscard]] std::vector<cSheet> Print(QSize size) const
+    [[nodiscard]] std::vector<cSheet> Print(QSize size, int dots = dotsPerInch) const
     {
         const std::unique_ptr<cListPrinter> printer = Printer();
         std::vector<cSheet> sheets;
         int count = 1;
         for (int page = 0; page < count; ++page) {
-            cTextRecorder recorder(size, dotsPerInch);
+            cTextRecorder recorder(size, dots);
             count = printer->LayOut(recorder, Area(size));
             QPainter painter(&recorder);
             printer->PaintPage(painter, page);
@@ -117,145 +228,6 @@ private:
     QList<int> m_columns{cEntryListModel::Date,        cEntryListModel::Category, cEntryListModel::Account,
                          cEntryListModel::Description, cEntryListModel::Interval, cEntryListModel::Amount};
 };
-
-void testListPrinter::EveryRowIsPrintedOnce_data()
-{
-    const cTestRows<int, QString> row("rows", "grouping");
-    row("one", 1, modWord::KeineGruppierung);
-    row("many pages", 300, modWord::KeineGruppierung);
-    row("groups of one row", 100, u"Nach Datum"_s);
-    row("groups over several pages", 300, u"Nach Monat"_s);
-}
-
-void testListPrinter::EveryRowIsPrintedOnce()
-{
-    QFETCH(const int, rows);
-    QFETCH(const QString, grouping);
-    Show(Entries(rows), grouping);
-    const std::vector<cSheet> sheets = Print(portrait);
-    QCOMPARE(sheets.size() > 1, rows > 50);
-    const QStringList texts = Texts(sheets);
-    qint64 sum = 0;
-    for (const cEntryItem& entry : Entries(rows)) {
-        QCOMPARE(texts.count(entry.EntryDescription), 1);
-        const qint64 cents = entry.EntryType == modWord::Einnahme ? entry.EntryValue : -entry.EntryValue;
-        QVERIFY2(texts.contains(m_format.Format.Cents(cents)), qPrintable(entry.EntryDescription));
-        sum += cents;
-    }
-    QVERIFY(Texts(sheets.back()).contains(m_format.Format.Cents(sum)));
-}
-
-void testListPrinter::NothingLeavesThePage_data()
-{
-    const cTestRows<QSize> row("size");
-    row("A4", portrait);
-    row("A4 across", portrait.transposed());
-    row("A5", portrait / 1.414);
-    row("A6, where even the smallest text is too wide", portrait / 2);
-}
-
-void testListPrinter::NothingLeavesThePage()
-{
-    QFETCH(const QSize, size);
-    Show(Entries(120), u"Nach Monat"_s);
-    const QRectF area = Area(size).adjusted(-1, -1, 1, 1);
-    const std::vector<cSheet> sheets = Print(size);
-    for (const cSheet& sheet : sheets) {
-        for (std::size_t i = 0; i < sheet.size(); ++i) {
-            QVERIFY2(area.contains(sheet[i].Place), qPrintable(sheet[i].Text));
-            for (std::size_t other = i + 1; other < sheet.size(); ++other) {
-                const QRectF shared = sheet[i].Place.intersected(sheet[other].Place);
-                QVERIFY2(shared.width() < 1 || shared.height() < 2,
-                         qPrintable(sheet[i].Text + u" / "_s + sheet[other].Text));
-            }
-        }
-    }
-}
-
-void testListPrinter::HeadsAndNumbersOnEveryPage()
-{
-    Show(Entries(300));
-    const std::vector<cSheet> sheets = Print(portrait);
-    for (std::size_t page = 0; page < sheets.size(); ++page) {
-        const QStringList texts = Texts(sheets[page]);
-        QCOMPARE(texts.count(u"Beschreibung"_s), 1);
-        QCOMPARE(texts.contains(u"Zeitraum: Aktuelles Jahr"_s), page == 0);
-        QVERIFY(texts.contains(u"Seite %1 von %2"_s.arg(page + 1).arg(sheets.size())));
-        QCOMPARE(texts.contains(u"Summe"_s), page + 1 == sheets.size());
-    }
-}
-
-void testListPrinter::GroupsGoOnWithTheirName()
-{
-    Show(Entries(300), u"Nach Buchungsart"_s);
-    const std::vector<cSheet> sheets = Print(portrait);
-    QVERIFY(sheets.size() > 2);
-    for (std::size_t page = 1; page < sheets.size(); ++page) {
-        const QString first = Texts(sheets[page]).at(m_columns.size());
-        QVERIFY2(first.contains("Fortsetzung"_L1) || first.startsWith("Einnahme"_L1), qPrintable(first));
-        // A group's head is never the last thing of a page.
-        const QString last = Texts(sheets[page - 1]).at(Texts(sheets[page - 1]).size() - 3);
-        QVERIFY2(last.contains(u'€'), qPrintable(last));
-    }
-}
-
-void testListPrinter::LongTextsBreakAndEnd()
-{
-    cEntryItemList entries = Entries(2);
-    entries[0].EntryDescription = u"Nachzahlung der Nebenkosten "_s.repeated(3).trimmed();
-    entries[1].EntryDescription = QString(2000, u'W');
-    Show(entries);
-    const QStringList texts = Texts(Print(portrait));
-    QVERIFY2(texts.join(u' ').contains(entries[0].EntryDescription), qPrintable(texts.join(u'|')));
-    QVERIFY(std::any_of(texts.begin(), texts.end(), [](const QString& text) { return text.endsWith(u'…'); }));
-}
-
-void testListPrinter::AmountsAreNeverCut()
-{
-    cEntryItemList entries = Entries(1);
-    entries[0].EntryValue = 123456789012;
-    entries[0].EntryCategory = u"Ein sehr langer Name; mit einer ebenso langen Unterkategorie"_s;
-    Show(entries);
-    QVERIFY(Texts(Print(portrait / 2)).contains(m_format.Format.Cents(123456789012)));
-}
-
-void testListPrinter::BlackWhateverTheProgramLooksLike()
-{
-    const QPalette before = QGuiApplication::palette();
-    QGuiApplication::setPalette(QPalette(Qt::white, Qt::black, Qt::white, Qt::black, Qt::gray, Qt::white, Qt::black));
-    Show(Entries(20), u"Nach Monat"_s);
-    const std::vector<cSheet> sheets = Print(portrait);
-    QGuiApplication::setPalette(before);
-    for (const cWritten& written : sheets.front()) {
-        QCOMPARE(written.Pen.rgb(), QColor(Qt::black).rgb());
-    }
-}
-
-void testListPrinter::EmptyListIsOnePage()
-{
-    Show({});
-    const std::vector<cSheet> sheets = Print(portrait);
-    QCOMPARE(sheets.size(), 1U);
-    QVERIFY(Texts(sheets).contains(u"Keine Daten"_s));
-}
-
-void testListPrinter::PdfHasTheSamePages()
-{
-    Show(Entries(300), u"Nach Monat"_s);
-    QBuffer buffer;
-    QVERIFY(buffer.open(QIODevice::WriteOnly));
-    QPdfWriter writer(&buffer);
-    QPainter painter(&writer);
-    const std::unique_ptr<cListPrinter> printer = Printer();
-    const int count = printer->LayOut(writer, QRectF(0, 0, writer.width(), writer.height()));
-    for (int page = 0; page < count; ++page) {
-        QVERIFY(page == 0 || writer.newPage());
-        printer->PaintPage(painter, page);
-    }
-    QVERIFY(painter.end());
-    QCOMPARE(buffer.data().count("/Type /Page\n"), count);
-    QVERIFY(qAbs(count - static_cast<int>(Print(portrait).size())) <= 1); // the same pages on every device
-}
 
 TEST_CLASS(testListPrinter, QApplication)
 #include "testListPrinter.moc"
