@@ -460,6 +460,18 @@ private Q_SLOTS:
         QCOMPARE(m_page->Assigned(), QList<int>({bill, bill}));
     }
 
+    void UndoTakesACorrectionBack()
+    {
+        const int rent = m_page->Spend(65000, u"Miete Tann"_s, u"Monatlich"_s);
+        const std::unique_ptr<cAssignListModel> list =
+            m_page->Review.StartAssign({m_page->Stage(-660, u"Miete Tann"_s)});
+        m_page->User.Decisions = {0};
+        QVERIFY(list->Assign(0));
+        QCOMPARE(m_page->Data.GetEntryMods(rent).value(0).EntryValue, 66000);
+        QVERIFY(m_page->Data.Journal().Undo());
+        QCOMPARE(m_page->Data.GetEntryMods(rent).size(), 0);
+    }
+
     void SaysWhyThereIsNoEntry()
     {
         const std::unique_ptr<cAssignListModel> none = m_page->Review.StartAssign({m_page->Stage(-1, u"X"_s)});
