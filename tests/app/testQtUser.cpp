@@ -10,6 +10,7 @@
 #include <QFileDialog>
 #include <QInputDialog>
 #include <QKeySequence>
+#include <QMessageBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -49,6 +50,7 @@ class testQtUser final : public QObject
 
 private Q_SLOTS:
     void OneEnterTakesWhatWasCompleted();
+    void OneCauseIsToldOnce();
     void KeysHaveGermanNames();
     void FileDialogsBeginWhereTheLastOneEnded();
 };
@@ -75,6 +77,27 @@ void testQtUser::OneEnterTakesWhatWasCompleted()
                                      .Proposal = u"Girokonto"_s,
                                      .AllowNew = true});
     QCOMPARE(answer.value_or(QString()), u"Sparkonto"_s);
+}
+
+void testQtUser::OneCauseIsToldOnce()
+{
+    cFakeRegistry registry;
+    cQtUser user(registry);
+    QStringList told;
+    QTimer reader;
+    connect(&reader, &QTimer::timeout, &reader, [&] {
+        if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            told.append(box->text());
+            box->accept();
+        }
+    });
+    reader.start(0);
+    for (const QString& text : {u"voll"_s, u"voll"_s, u"gesperrt"_s}) {
+        user.Show(eTone::Critical, text);
+    }
+    QCoreApplication::processEvents(); // the user's turn
+    user.Show(eTone::Critical, u"gesperrt"_s);
+    QCOMPARE(told, QStringList({u"voll"_s, u"gesperrt"_s, u"gesperrt"_s}));
 }
 
 void testQtUser::FileDialogsBeginWhereTheLastOneEnded()
