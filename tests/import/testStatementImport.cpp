@@ -108,6 +108,8 @@ private Q_SLOTS:
             u"Unbekanntes Dateiformat"_s);
         row("spreadsheet", u"a.xls"_s, QByteArray("\xD0\xCF\0", 3), u"ist beschädigt oder keine Arbeitsmappe"_s);
         row("text", u"a.txt"_s, "Hallo", u"keine Spalten mit Datum und Betrag"_s);
+        row("page to log in", u"umsaetze.csv"_s, "<!DOCTYPE html>\n<html><title>Anmelden, PIN</title></html>",
+            u"Internetseite"_s);
         row("PDF", u"a.pdf"_s, "%PDF", u"kann nicht eingelesen werden: Portable"_s);
     }
 
