@@ -122,3 +122,8 @@ bool modSeries::IsFromBank(const QString& comment)
                              u"Laut Kontoauszug nicht gebucht"_s};
     return IsBooked(comment) || others.contains(comment);
 }
+
+bool modSeries::IsMoved(const cEntryItem& occurrence)
+{
+    return occurrence.PlannedDate.isValid() && !IsFromBank(occurrence.CorrectionComment);
+}

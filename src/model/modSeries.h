@@ -42,6 +42,7 @@ namespace modSeries {
 [[nodiscard]] QString LateComment();   // the bank has not booked the occurrence yet
 [[nodiscard]] QString MissedComment(); // and never will
 [[nodiscard]] bool IsFromBank(const QString& comment);
-[[nodiscard]] bool IsBooked(const QString& comment); // the bank has booked the occurrence
+[[nodiscard]] bool IsBooked(const QString& comment);      // the bank has booked the occurrence
+[[nodiscard]] bool IsMoved(const cEntryItem& occurrence); // by the user to another day
 
 } // namespace modSeries

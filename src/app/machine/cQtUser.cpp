@@ -70,7 +70,8 @@ void cQtUser::Show(eTone tone, const QString& text, const QString& title)
     box.setTextFormat(Qt::PlainText); // names and file paths may look like markup
     box.addButton(cText::Tr("OK"), QMessageBox::AcceptRole);
     box.exec();
-    QMetaObject::invokeMethod(&m_turn, [this] { m_told.clear(); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        &m_turn, [this] { m_told.clear(); }, Qt::QueuedConnection);
 }
 
 eAnswer cQtUser::Ask(const cQuestion& question)

@@ -201,8 +201,8 @@ void cStagedTree::RestoreSelection()
     }
     const QModelIndex current = IndexOf(m_kept.Current);
     const QModelIndex next = selection.isEmpty() ? IndexOf(m_kept.Next) : QModelIndex();
-    m_isLost = selection.isEmpty() && !next.isValid()
-        && (m_isLost || m_kept.HasSelection() || m_model.OpenIds().isEmpty());
+    m_isLost =
+        selection.isEmpty() && !next.isValid() && (m_isLost || m_kept.HasSelection() || m_model.OpenIds().isEmpty());
     if (next.isValid()) {
         // Lines that were booked or deleted hand the selection on to one line, so that Enter works down the list.
         selectionModel()->setCurrentIndex(next.siblingAtColumn(m_kept.Column),
