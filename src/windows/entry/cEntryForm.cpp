@@ -154,7 +154,7 @@ void cEntryForm::BuildSeries()
     m_times->setRange(0, mostTimes);
     m_times->setPrefix(cText::Tr("nach "));
     m_times->setSuffix(cText::Tr(" Mal"));
-    m_times->setSpecialValueText(u"–"_s); // the preview says why there is no number
+    m_times->setSpecialValueText(cText::Tr("nach … Mal"));
     m_times->setAccessibleName(cText::Tr("Zahl der Termine"));
     m_times->setToolTip(cText::Tr("Wie oft die Serie stattfindet, zum Beispiel die Zahl der Raten"));
     EntryDateEnd->setAccessibleName(cText::Tr("Letzter Tag der Serie"));
