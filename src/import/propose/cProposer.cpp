@@ -7,6 +7,7 @@
 #include "import/propose/cSeriesFinder.h"
 #include "import/propose/cTransferFinder.h"
 #include "import/propose/modCash.h"
+#include "import/propose/modIntervalWord.h"
 #include "import/propose/modOwnRule.h"
 #include "import/read/modBookRow.h"
 #include "import/stage/cAccountMap.h"
@@ -80,6 +81,11 @@ struct cProposer::cKnowledge
     {
         cHint hint = modHint::Best(row);
         hint.IsSure = hint.IsSure && Categories.contains(hint.Category);
+        // A keyword knows how often such things are paid as a rule, the purpose may know it of this one.
+        if (modRecurrence::IsRecurring(hint.Interval)) {
+            const QString named = modIntervalWord::In(row.ImportPurpose);
+            hint.Interval = named.isEmpty() ? hint.Interval : named;
+        }
         return hint;
     }
 
