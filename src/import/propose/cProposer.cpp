@@ -30,6 +30,7 @@ struct cProposer::cKnowledge
 {
     cKnowledge(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts)
         : Data(data),
+          Hive(hive),
           Cash(modCash::Accounts(data.GetAccounts(), NumberedAccounts(accounts, {}, eLent::LeaveOut))),
           Numbered(NumberedAccounts(accounts, Cash, eLent::Take)),
           CashStart(Cash.isEmpty() ? QDate() : StartOf(data, Cash.constFirst())),
@@ -89,9 +90,18 @@ struct cProposer::cKnowledge
         return hint;
     }
 
-    [[nodiscard]] bool IsSecondStart(const QString& category, const QString& account) const
+    // The first one stands in the book, or waits before this row.
+    [[nodiscard]] bool IsSecondStart(const QString& category, const QString& account, const cImportEntry& row)
     {
-        return category == modWord::Startguthaben && Data.GetStartGuthaben(account).has_value();
+        if (category != modWord::Startguthaben) {
+            return false;
+        }
+        const cImportEntryList rows = Hive.GetImportHive(eKeepCache::Yes).getImportEntryList();
+        return Data.GetStartGuthaben(account).has_value()
+            || std::any_of(rows.begin(), rows.end(), [&](const cImportEntry& other) {
+                   return other.ID < row.ID && !other.ImportAssigned && CategoryOfFile(other) == category
+                       && Transfers.AccountOf(other.ImportAccount) == account;
+               });
     }
 
     // The category that the file itself names for the row; empty when it names none that the book has.
@@ -128,6 +138,7 @@ struct cProposer::cKnowledge
     }
 
     cDataAccess& Data;
+    cImportHiveCache& Hive;
     QStringList Cash;     // accounts for cash
     QStringList Numbered; // accounts that stand at a bank
     QDate CashStart;      // of the first of them
@@ -361,7 +372,7 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
     const QString category = m_knowledge->CategoryOfFile(row);
     const std::optional<cLearned::cChoice> choice = category.isEmpty() ? m_knowledge->Learned.Find(row) : std::nullopt;
     if (!category.isEmpty()) {
-        TakeCategoryOfFile(proposal, category, m_knowledge->IsSecondStart(category, proposal.Entry.EntryAccount));
+        TakeCategoryOfFile(proposal, category, m_knowledge->IsSecondStart(category, proposal.Entry.EntryAccount, row));
     } else if (choice) {
         TakeLesson(proposal, *choice, whole, m_knowledge->Numbered);
         TakeAgreement(proposal, *choice, knownHint);
