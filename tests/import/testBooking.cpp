@@ -89,17 +89,13 @@ private Q_SLOTS:
     void OneOfTwoStartsIsSure()
     {
         cBank bank;
-        QList<bool> sure;
         for (const int days : {0, 30}) {
             cImportEntry row = BankRow(u"111"_s, day.addDays(days), 50000, {}, {});
             row.ImportType = modBookRow::CategoryText(modWord::Startguthaben);
             (void)bank.cBankBook::Stage(row);
         }
-        const cImportEntryList rows = bank.Data.GetImportEntries();
-        for (const cImportEntry& row : rows) {
-            sure.append(bank.Propose(row.ID).IsSure);
-        }
-        QCOMPARE(sure, QList<bool>({true, false}));
+        QVERIFY(bank.Propose(1).IsSure);
+        QVERIFY(!bank.Propose(2).IsSure);
     }
 
     void ProposesByRule()
