@@ -2767,10 +2767,6 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
         <translation>this category and its subcategories</translation>
     </message>
     <message>
-        <source>nur von Hand korrigierte Vorkommen</source>
-        <translation>only occurrences corrected by hand</translation>
-    </message>
-    <message>
         <source>nur Einträge, zu denen ein Umsatz der Bank gehört</source>
         <translation>only entries with a bank transaction</translation>
     </message>
@@ -3081,10 +3077,6 @@ You can create the account or move the entries to another one.</translation>
     <message>
         <source>un&amp;d:</source>
         <translation>a&amp;nd:</translation>
-    </message>
-    <message>
-        <source>Nur ko&amp;rrigierte</source>
-        <translation>Co&amp;rrected only</translation>
     </message>
     <message>
         <source>Nur &amp;mit Bankumsatz</source>
@@ -11130,6 +11122,74 @@ Add them?</translation>
     <message>
         <source>Aus der Datei nicht angelegt, weil im Buch nichts so heißen kann: {0}</source>
         <translation>Not created from the file, because nothing in the book can be called that: {0}</translation>
+    </message>
+    <message>
+        <source>wie oft eine Serie stattfindet, statt --end, zum Beispiel 24 Raten</source>
+        <translation>how often a series takes place, instead of --end, for example 24 instalments</translation>
+    </message>
+    <message>
+        <source>--times ist eine Zahl ab 1.</source>
+        <translation>--times is a number from 1 on.</translation>
+    </message>
+    <message>
+        <source>Bitte entweder --end oder --times angeben.</source>
+        <translation>Please give either --end or --times.</translation>
+    </message>
+    <message>
+        <source>So oft kann die Serie nicht stattfinden.</source>
+        <translation>The series cannot take place so often.</translation>
+    </message>
+    <message>
+        <source>nur korrigierte und von Hand verschobene Vorkommen</source>
+        <translation>only occurrences that were corrected or moved by hand</translation>
+    </message>
+    <message>
+        <source>Das ist eine gespeicherte Internetseite und kein Kontoauszug. Melden Sie sich bei der Bank an, und laden Sie die Umsätze dort als Datei herunter (camt, MT940 oder CSV).</source>
+        <translation>This is a saved web page and not a bank statement. Log in at the bank and download the transactions there as a file (camt, MT940 or CSV).</translation>
+    </message>
+    <message>
+        <source>Die Datei nennt nur die Spalten und enthält keinen Umsatz. Wählen Sie bei der Bank einen längeren Zeitraum, und laden Sie sie noch einmal herunter.</source>
+        <translation>The file only names the columns and has no transaction. Choose a longer period at the bank and download it again.</translation>
+    </message>
+    <message>
+        <source>Im Ordner &apos;{0}&apos; lässt sich kein Haushaltsbuch anlegen: Sie dürfen dort nicht schreiben, oder es ist kein Platz mehr.
+
+Legen Sie es in einem anderen Ordner an, oder öffnen Sie eines, das es schon gibt.</source>
+        <translation>No household book can be created in the folder &apos;{0}&apos;: you may not write there, or there is no space left.
+
+Create it in another folder, or open one that is there already.</translation>
+    </message>
+    <message>
+        <source>&amp;Neu anlegen…</source>
+        <translation>&amp;Create…</translation>
+    </message>
+    <message>
+        <source>&amp;Vorhandenes öffnen…</source>
+        <translation>&amp;Open existing…</translation>
+    </message>
+    <message>
+        <source>nach </source>
+        <translation>after </translation>
+    </message>
+    <message>
+        <source> Mal</source>
+        <translation> times</translation>
+    </message>
+    <message>
+        <source>nach … Mal</source>
+        <translation>after … times</translation>
+    </message>
+    <message>
+        <source>Zahl der Termine</source>
+        <translation>Number of dates</translation>
+    </message>
+    <message>
+        <source>Wie oft die Serie stattfindet, zum Beispiel die Zahl der Raten</source>
+        <translation>How often the series takes place, for example the number of instalments</translation>
+    </message>
+    <message>
+        <source>Nur ko&amp;rrigierte, verschobene</source>
+        <translation>Only co&amp;rrected, moved</translation>
     </message>
 </context>
 </TS>

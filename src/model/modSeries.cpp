@@ -73,6 +73,13 @@ int modSeries::Count(const cEntryItem& series)
     return IsEndless(series) ? 0 : static_cast<int>(Occurrences(series, {}).size());
 }
 
+QDate modSeries::EndAfter(cEntryItem series, int count)
+{
+    series.EntryDateEnd = modRecurrence::OpenEnd;
+    const QList<QDate> days = Next(series, series.EntryDate, count);
+    return days.isEmpty() || days.size() < count ? QDate() : days.constLast();
+}
+
 bool modSeries::HasPeriod(const cEntryItem& series, const cEntryItemFixMod& fixMod)
 {
     const std::optional<cEntryItem> occurrence = OccurrenceAt(series, fixMod.EntryStartDate);
@@ -121,4 +128,9 @@ bool modSeries::IsFromBank(const QString& comment)
     const QStringList others{LateComment(), MissedComment(), u"Laut Kontoauszug noch nicht gebucht"_s,
                              u"Laut Kontoauszug nicht gebucht"_s};
     return IsBooked(comment) || others.contains(comment);
+}
+
+bool modSeries::IsMoved(const cEntryItem& occurrence)
+{
+    return occurrence.PlannedDate.isValid() && !IsFromBank(occurrence.CorrectionComment);
 }

@@ -30,6 +30,9 @@ namespace modSeries {
 // Number of occurrences up to the end of the series; 0 when it has no end.
 [[nodiscard]] int Count(const cEntryItem& series);
 
+// The end with which the series has so many occurrences; invalid when there cannot be so many.
+[[nodiscard]] QDate EndAfter(cEntryItem series, int count);
+
 // True when the correction's period is the period of one of the occurrences.
 [[nodiscard]] bool HasPeriod(const cEntryItem& series, const cEntryItemFixMod& fixMod);
 
@@ -42,6 +45,7 @@ namespace modSeries {
 [[nodiscard]] QString LateComment();   // the bank has not booked the occurrence yet
 [[nodiscard]] QString MissedComment(); // and never will
 [[nodiscard]] bool IsFromBank(const QString& comment);
-[[nodiscard]] bool IsBooked(const QString& comment); // the bank has booked the occurrence
+[[nodiscard]] bool IsBooked(const QString& comment);      // the bank has booked the occurrence
+[[nodiscard]] bool IsMoved(const cEntryItem& occurrence); // by the user to another day
 
 } // namespace modSeries

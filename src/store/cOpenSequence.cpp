@@ -73,10 +73,49 @@ cOpenSequence::eStep cOpenSequence::FindFile()
                           {m_path}))) {
             return EndForNow();
         }
+        if (m_origin == eOrigin::Fresh) {
+            return FindOtherPlace();
+        }
         m_path = m_ports.Rescue.ChooseDatabase(m_path).value_or(m_path);
-        m_origin = eOrigin::Existing;
     }
     return eStep::Continue;
+}
+
+// A new book could not be made where books usually are. What is chosen is not there because of that.
+cOpenSequence::eStep cOpenSequence::FindOtherPlace()
+{
+    const QString folder = QFileInfo(m_path).absolutePath();
+    const int chosen = m_ports.User.Decide(
+        {.Text = cText::Tr("Im Ordner '{0}' lässt sich kein Haushaltsbuch anlegen: Sie dürfen dort nicht schreiben, "
+                           "oder es ist kein Platz mehr.\n\nLegen Sie es in einem anderen Ordner an, oder öffnen Sie "
+                           "eines, das es schon gibt.",
+                           {folder}),
+         .Title = cText::Tr("Datenbank wählen"),
+         .Options = {cText::Tr("&Neu anlegen…"), cText::Tr("&Vorhandenes öffnen…")}});
+    const QString filter = cText::Tr("Datenbanken|*.db|Alle Dateien|*.*");
+    const QString path = chosen == 0
+        ? m_ports.User.ChooseSavePath(cText::Tr("Neue Datenbank"), filter, u"Kontorelle.db"_s)
+        : chosen == 1 ? m_ports.Rescue.ChooseDatabase(m_path).value_or(QString())
+                      : QString();
+    if (path.isEmpty()) {
+        return EndForNow();
+    }
+    if (chosen == 1 || m_ports.Shell.FileExists(path)) { // of a book that is there nothing is replaced
+        m_origin = eOrigin::Existing;
+    } else if (!m_ports.Shell.CopyFile(m_ports.Shell.InstalledFile(u"template.dat"_s), path)) {
+        ShowCannotCreate(path);
+    }
+    m_path = path;
+    return FindFile();
+}
+
+void cOpenSequence::ShowCannotCreate(const QString& path) const
+{
+    m_ports.User.Show(
+        eTone::Critical,
+        cText::Tr("Die Datenbank konnte nicht erstellt werden. Bitte prüfen Sie die Zugriffsrechte und den "
+                  "Speicherplatz: \n{0}",
+                  {QFileInfo(path).absolutePath()}));
 }
 
 cOpenSequence::eStep cOpenSequence::MakeUsable()
@@ -211,11 +250,7 @@ bool cOpenSequence::ReplaceFile(const QString& source)
         }
     }
     QFile::remove(working);
-    m_ports.User.Show(
-        eTone::Critical,
-        cText::Tr("Die Datenbank konnte nicht erstellt werden. Bitte prüfen Sie die Zugriffsrechte und den "
-                  "Speicherplatz: \n{0}",
-                  {QFileInfo(m_path).absolutePath()}));
+    ShowCannotCreate(m_path);
     return false;
 }
 

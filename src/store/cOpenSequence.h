@@ -54,6 +54,8 @@ private:
     [[nodiscard]] eStep EndForNow() const;
 
     [[nodiscard]] eStep FindFile();
+    [[nodiscard]] eStep FindOtherPlace();
+    void ShowCannotCreate(const QString& path) const;
     [[nodiscard]] eStep MakeUsable();
     [[nodiscard]] eDatabaseFault OpenPatiently();
     [[nodiscard]] eStep OfferOtherPath();

@@ -24,6 +24,7 @@
 #include <QInputDialog>
 #include <QKeySequence>
 #include <QLineEdit>
+#include <QMessageBox>
 #include <QPainter>
 #include <QPrinter>
 #include <QScopeGuard>
@@ -315,6 +316,27 @@ private Q_SLOTS:
         QCOMPARE(QKeySequence(Qt::CTRL | Qt::Key_Return).toString(QKeySequence::NativeText), u"Strg+Eingabe"_s);
         QCOMPARE(QKeySequence(Qt::Key_Delete).toString(QKeySequence::NativeText), u"Entf"_s);
         QCOMPARE(QCoreApplication::translate("QWizard", "Return"), u"Return"_s); // the names of keys alone
+    }
+
+    void OneCauseIsToldOnce()
+    {
+        cFakeRegistry registry;
+        cQtUser user(registry);
+        QStringList told;
+        QTimer reader;
+        connect(&reader, &QTimer::timeout, &reader, [&] {
+            if (auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+                told.append(box->text());
+                box->accept();
+            }
+        });
+        reader.start(0);
+        for (const QString& text : {u"voll"_s, u"voll"_s, u"gesperrt"_s}) {
+            user.Show(eTone::Critical, text);
+        }
+        QCoreApplication::processEvents(); // the user's turn
+        user.Show(eTone::Critical, u"gesperrt"_s);
+        QCOMPARE(told, QStringList({u"voll"_s, u"gesperrt"_s, u"gesperrt"_s}));
     }
 
     void FileDialogsBeginWhereTheLastOneEnded()

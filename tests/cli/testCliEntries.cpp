@@ -63,6 +63,8 @@ private Q_SLOTS:
         QCOMPARE(Stored(count).size(), 3);
         Do(u"change|%1|--end|ohne"_s.arg(id));
         QCOMPARE(Stored(count).size(), 10);
+        Do(u"change|%1|--times|4"_s.arg(id));
+        QCOMPARE(Stored(count).size(), 4);
     }
 
     void OneOccurrence()
@@ -372,6 +374,7 @@ private Q_SLOTS:
         row("end of a single entry", u"add|--amount|5|--category|Lebensmittel|--end|31.12.2026"_s, 2, u"--interval"_s);
         row("end before start", u"add|--amount|5|--category|Miete|--date|1.3.2026|--end|1.2.2026"_s, 2,
             u"01.03.2026"_s);
+        row("more often than there are days", u"add|--amount|5|--category|Miete|--times|999"_s, 2, u"So oft"_s);
         row("change of nothing", u"change|1"_s, 2, u"--amount"_s);
         row("change of an entry that is not there", u"change|77|--amount|5"_s, 1, u"77"_s);
         row("more than the amount of one occurrence", u"change|1|--only|3.3.2026|--text|x"_s, 2, u"nur der Betrag"_s);

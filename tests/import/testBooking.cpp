@@ -80,6 +80,18 @@ private Q_SLOTS:
         QCOMPARE(proposal.Entry.EntryDescription, u"Frau Holle"_s);
     }
 
+    void OneOfTwoStartsIsSure()
+    {
+        cBank bank;
+        for (const int days : {0, 30}) {
+            cImportEntry row = BankRow(u"111"_s, day.addDays(days), 50000, {}, {});
+            row.ImportType = modBookRow::CategoryText(modWord::Startguthaben);
+            (void)bank.cBankBook::Stage(row);
+        }
+        QVERIFY(bank.Propose(1).IsSure);
+        QVERIFY(!bank.Propose(2).IsSure);
+    }
+
     void ProposesByRule()
     {
         cBank bank;
@@ -93,6 +105,27 @@ private Q_SLOTS:
         QCOMPARE(proposal.Entry.EntryInterval, modWord::Einmalig);
         QCOMPARE(proposal.Entry.EntryDescription, u"REWE Markt - zu Nr. 1"_s);
         QCOMPARE(proposal.Reason, u"Regel: rewe"_s);
+    }
+
+    void PurposeNamesTheInterval_data()
+    {
+        const cTestRows<QString, QString> row("purpose", "interval");
+        row("nothing", u"Stellplatz 17"_s, u"Monatlich"_s);
+        row("quarter and year", u"Stellplatz Q4/2026"_s, u"Alle 3 Monate"_s);
+        row("a car", u"Stellplatz Audi Q3"_s, u"Monatlich"_s);
+        row("word with umlaut", u"Stellplatz, vierteljährlich"_s, u"Alle 3 Monate"_s);
+        row("number of quarter", u"Stellplatz 4. Quartal"_s, u"Alle 3 Monate"_s);
+        row("part of a year", u"Stellplatz 1/4-jährlich"_s, u"Alle 3 Monate"_s);
+        row("month instead of year", u"Haftpflicht monatlich"_s, u"Monatlich"_s);
+        row("of a purchase", u"Rewe Halbjahresbonus"_s, modWord::Einmalig);
+    }
+
+    void PurposeNamesTheInterval()
+    {
+        QFETCH(const QString, purpose);
+        cBank bank;
+        const int row = bank.Stage(day, -90, u"Tann"_s, u"DE05"_s, u"111"_s, purpose);
+        QTEST(bank.Propose(row).Entry.EntryInterval, "interval");
     }
 
     void ProposesDefault()

@@ -218,9 +218,8 @@ private Q_SLOTS:
         row("half an XML", sheetXml.left(800), u"beschädigt oder zu groß"_s);
         row("half an HTML table", "<table><tr><td>Datum<td>Betrag<tr><td>01.02.2026<td>-1"_ba,
             u"beschädigt oder unvollständig"_s);
-        row("no transactions", Xlsx({{"Daten", 0}}), u"keine Spalten mit Datum und Betrag"_s);
         row("endless rows", "<table>" + QByteArray("<tr><td colspan=255><td>x").repeated(16000), u"zu groß"_s);
-        row("HTML without rows", "<html><table></table></html>"_ba, u"keine Spalten"_s);
+        row("HTML without rows", "<html><table></table></html>"_ba, u"Internetseite"_s);
     }
 
     void RefusesBadFiles()

@@ -92,6 +92,19 @@ private Q_SLOTS:
         QCOMPARE(book.Data.GetImportEntries(), book.Hive.GetImportHive().getImportEntryList());
     }
 
+    // A split record that version 0.1.0 staged whole, and one that is new.
+    void SplitRecordIsKnownWhole()
+    {
+        cReadingBook book;
+        cImportEntry whole = BankRow(u"Giro"_s, QDate(2026, 1, 5), -6000, u"Markt"_s, u"Brot, Seife"_s);
+        QVERIFY(book.Data.AddNewImportEntry(whole));
+        const QString record = u"D05.01.2026\nT-60.00\nPMarkt\nSEssen\nEBrot\n$-40.00\nSHaus\nESeife\n$-20.00\n^\n"_s;
+        const cImportResult result =
+            book.Read(u"!Account\nNGiro\n^\n!Type:Bank\n"_s + record + QString(record).replace(u"D05"_s, u"D06"_s));
+        QCOMPARE(result.Duplicates.size(), 1);
+        QCOMPARE(result.Staged, 2);
+    }
+
     void RefusesWhatIsNoStatement_data()
     {
         const cTestRows<QString, QByteArray, QString> row("name", "bytes", "message");
@@ -104,6 +117,8 @@ private Q_SLOTS:
             u"Unbekanntes Dateiformat"_s);
         row("spreadsheet", u"a.xls"_s, QByteArray("\xD0\xCF\0", 3), u"ist beschädigt oder keine Arbeitsmappe"_s);
         row("text", u"a.txt"_s, "Hallo", u"keine Spalten mit Datum und Betrag"_s);
+        row("page to log in", u"umsaetze.csv"_s, "<!DOCTYPE html>\n<html><title>Anmelden, PIN</title></html>",
+            u"Internetseite"_s);
         row("PDF", u"a.pdf"_s, "%PDF", u"kann nicht eingelesen werden: Portable"_s);
     }
 

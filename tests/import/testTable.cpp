@@ -237,6 +237,7 @@ private Q_SLOTS:
         row("a sum without a day", u"03.02.2025;A;x;-1,00;EUR|Summe;;;-1,00;EUR"_s, u"-1.00 A x"_s, 1);
         row("a sum with a day", u"03.02.2025;A;x;-1,00;EUR|04.02.2025;B;y;-2,00;EUR|05.02.2025;Summe;;-3,00;EUR"_s,
             u"-1.00 A x, -2.00 B y"_s, 1);
+        row("no transaction at all", u""_s, u""_s, 1);
         row("a shop called like a sum",
             u"03.02.2025;A;x;-1,00;EUR|04.02.2025;B;y;-2,00;EUR|05.02.2025;Total;Diesel;-30,00;EUR"_s,
             u"-1.00 A x, -2.00 B y, -30.00 Total Diesel"_s, 0);

@@ -113,6 +113,17 @@ private Q_SLOTS:
         QCOMPARE(machine.Entries(), 1);
     }
 
+    void NewBookInAnotherPlace() const
+    {
+        cMachine machine;
+        machine.User.Answers = {eAnswer::Yes};
+        machine.User.Decisions = {0};
+        machine.User.SavePath = machine.file.Path(u"neu.db"_s);
+        QCOMPARE(machine.Run(eOrigin::Fresh), eOpenResult::Opened);
+        QCOMPARE(machine.Sequence.Path(), machine.User.SavePath);
+        QCOMPARE(machine.User.Shown, QStringList());
+    }
+
     void UserDeclinesEveryRemedy() const
     {
         cMachine machine;

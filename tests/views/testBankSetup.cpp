@@ -159,7 +159,9 @@ private Q_SLOTS:
         QVERIFY(!again.CanGoBack());
         QVERIFY2(again.Next(), qPrintable(again.Problem()));
         QCOMPARE(BookAccounts(again), QStringList({u"Girokonto"_s, u"-"_s}));
+        QVERIFY(again.MayClose()); // what the bank has told is no loss
         again.Accounts().Choose(1, true);
+        QVERIFY(!again.MayClose());
         again.Accounts().Choose(0, false);
         QVERIFY(again.Next());
         QCOMPARE(cBankListModel(m_scene->Book.Tools).Lines().constFirst().Account.Number, u"222"_s);

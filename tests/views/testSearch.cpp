@@ -94,12 +94,15 @@ private Q_SLOTS:
         row("kind", {.Type = modWord::Umbuchung}, {u"Sparen 01.02."_s});
         row("kind and text together", {.Text = u"giro"_s, .Type = modWord::Einnahme}, {u"Gehalt 30.01."_s});
         row("series up to today, later only corrected, to come with its first day", {.Category = u"Freizeit"_s},
-            {u"Zeitung 05.01."_s, u"Zeitung 05.02."_s, u"Zeitung 05.03."_s, u"Zeitung 05.06."_s, u"Fitness 20.04."_s});
+            {u"Zeitung 05.01."_s, u"Zeitung 05.02."_s, u"Zeitung 05.03."_s, u"Zeitung 05.06."_s, u"Zeitung 09.07."_s,
+             u"Fitness 20.04."_s});
         row("series within days", {.Days = Days({2026, 4, 1}, {2026, 5, 31}), .Category = u"Freizeit"_s},
             {u"Zeitung 05.04."_s, u"Zeitung 05.05."_s, u"Fitness 20.04."_s, u"Fitness 20.05."_s});
         row("days without end", {.Text = u"zeitung"_s, .Days = Days({2026, 2, 1}, {})},
-            {u"Zeitung 05.02."_s, u"Zeitung 05.03."_s, u"Zeitung 05.06."_s});
-        row("corrected, also those to come", {.IsCorrected = true}, {u"Zeitung 05.02."_s, u"Zeitung 05.06."_s});
+            {u"Zeitung 05.02."_s, u"Zeitung 05.03."_s, u"Zeitung 05.06."_s, u"Zeitung 09.07."_s});
+        row("comment of one occurrence", {.Text = u"urlaub"_s}, {u"Zeitung 09.07."_s});
+        row("corrected or moved, also those to come", {.IsCorrected = true},
+            {u"Zeitung 05.02."_s, u"Zeitung 05.06."_s, u"Zeitung 09.07."_s});
         row("from the bank", {.IsFromBank = true}, {u"Rewe 10.03."_s});
     }
 
@@ -109,6 +112,8 @@ private Q_SLOTS:
         cScene scene;
         scene.Book.Correct(scene.Series, QDate(2026, 2, 1), QDate(2026, 2, 28), 3500);
         scene.Book.Correct(scene.Series, QDate(2026, 6, 1), QDate(2026, 6, 30), 0);
+        QVERIFY(scene.Book.Data.AddNewEntryMod({0, scene.Series, modWord::Betrag, QDate(2026, 7, 1), QDate(2026, 7, 31),
+                                                3000, u"Urlaub"_s, QDate(2026, 7, 9)}));
         scene.Book.Stage({}, {}, 0, {}, 1);
         scene.Book.Stage({}, {}, 0);
         QTEST(cScene::Names(scene.Search.Find(query)), "found");

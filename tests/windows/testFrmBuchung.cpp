@@ -17,6 +17,7 @@
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalSpy>
+#include <QSpinBox>
 #include <QTimer>
 #include <QTreeWidget>
 
@@ -256,6 +257,15 @@ private Q_SLOTS:
         TypeAndTab({});
         m_scene->Line(u"EntryDateEnd"_s).setText(u"30.4.2026"_s);
         QVERIFY(preview.text().startsWith(u"2 Mal"_s));
+        auto& times = m_scene->Find<QSpinBox>(u"txtTermine"_s);
+        QCOMPARE(times.value(), 2);
+        m_scene->Find<QCheckBox>(u"EntryDateCheck"_s).setChecked(false);
+        QCOMPARE(times.value(), 0);
+        times.setFocus();
+        times.selectAll();
+        Type(u"24"_s);
+        QCOMPARE(m_scene->Line(u"EntryDateEnd"_s).text(), u"20.02.2028"_s);
+        QVERIFY(preview.text().startsWith(u"24 Mal"_s));
     }
 
     void TransferShowsTheTarget()

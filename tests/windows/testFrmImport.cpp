@@ -178,6 +178,22 @@ private Q_SLOTS:
         QCOMPARE(m_scene->Tree.SelectedIds(), QList<int>{m_scene->Review.Rows().OpenIds().constFirst()});
     }
 
+    void SeveralRowsHandOn()
+    {
+        cScene scene;
+        const QList<int> ids = scene.Review.Rows().OpenIds();
+        scene.Tree.SelectIds(ids.mid(1, 2));
+        QTest::keyClick(&scene.Tree, Qt::Key_Return);
+        QCOMPARE(scene.Tree.SelectedIds(), QList<int>{ids.at(3)});
+        // Those of an import that is taken back.
+        scene.Tree.SelectIds(ids.mid(3, 2));
+        for (const int id : ids.mid(3, 2)) {
+            QVERIFY(scene.Book.Data.DeleteImport(id));
+        }
+        scene.Review.Refresh();
+        QCOMPARE(scene.Tree.SelectedIds(), QList<int>{ids.at(0)});
+    }
+
     // Also in the window of one import, which the menu of the main window does not reach.
     void KeptViewHasAKey()
     {

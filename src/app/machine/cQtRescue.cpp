@@ -5,6 +5,7 @@
 #include "windows/book/frmPasswort.h"
 
 #include <QApplication>
+#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
 
@@ -14,8 +15,9 @@ namespace {
 
 std::optional<QString> ChooseFile(const QString& title, const QString& folder, const QString& filter)
 {
+    const QString begin = QFileInfo::exists(folder) ? folder : QDir::homePath(); // else its name would be the file's
     const QString path =
-        QFileDialog::getOpenFileName(QApplication::activeWindow(), title, folder, modQtFilter::FromPairs(filter));
+        QFileDialog::getOpenFileName(QApplication::activeWindow(), title, begin, modQtFilter::FromPairs(filter));
     return path.isEmpty() ? std::nullopt : std::optional(path);
 }
 

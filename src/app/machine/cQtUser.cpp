@@ -59,12 +59,19 @@ QString TitleOr(const QString& title)
 
 } // namespace
 
+// One cause may make many writes of one operation fail: what was just told is not told again before the user can act.
 void cQtUser::Show(eTone tone, const QString& text, const QString& title)
 {
+    if (tone == eTone::Critical && text == m_told) {
+        return;
+    }
+    m_told = text;
     QMessageBox box(Icon(tone), TitleOr(title), text, QMessageBox::NoButton, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText); // names and file paths may look like markup
     box.addButton(cText::Tr("OK"), QMessageBox::AcceptRole);
     box.exec();
+    QMetaObject::invokeMethod(
+        &m_turn, [this] { m_told.clear(); }, Qt::QueuedConnection);
 }
 
 eAnswer cQtUser::Ask(const cQuestion& question)

@@ -3,6 +3,9 @@
 #include "app/machine/cFileFolders.h"
 #include "base/cUser.h"
 
+#include <QObject>
+#include <QString>
+
 // The user in front of the windows: modal boxes over the active window.
 class cQtUser final : public cUser
 {
@@ -22,4 +25,6 @@ public:
 
 private:
     cFileFolders m_folders;
+    QString m_told; // the failure that has been told since the user could last do something
+    QObject m_turn; // gets the event that ends this
 };

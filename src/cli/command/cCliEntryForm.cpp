@@ -45,6 +45,7 @@ QList<cCliOption> cCliEntryForm::Options()
         {u"date"_s, u"DATUM"_s, cText::Tr("Tag, bei Serien der erste: 2026-01-31, 31.1., gestern, +7")},
         {u"interval"_s, u"INTERVALL"_s, cText::Tr("Einmalig, Monatlich, \"Alle 3 Monate\", Jährlich ...")},
         {u"end"_s, u"DATUM"_s, cText::Tr("letzter Tag einer Serie, oder \"ohne\"")},
+        {u"times"_s, u"ZAHL"_s, cText::Tr("wie oft eine Serie stattfindet, statt --end, zum Beispiel 24 Raten")},
         {u"cancel-by"_s, u"DATUM"_s, cText::Tr("Serie: Tag, bis zu dem der Vertrag kündbar ist, oder \"ohne\"")},
         {u"payer"_s, u"NAME"_s, cText::Tr("Person, die bezahlt hat, oder \"ohne\"")},
         {u"text"_s, u"TEXT"_s, cText::Tr("Beschreibung"), true},
@@ -79,10 +80,18 @@ void cCliEntryForm::Read()
 
 void cCliEntryForm::ReadEnd()
 {
-    const QString end = m_context.Call.Value(u"end"_s);
+    const cCliCall& call = m_context.Call;
+    const QString end = call.Value(u"end"_s);
     m_isOpen = end.compare(withoutEnd, Qt::CaseInsensitive) == 0;
     m_end = m_isOpen ? QDate() : m_reader.Day(end);
-    const QString cancelBy = m_context.Call.Value(u"cancel-by"_s);
+    m_times = call.Value(u"times"_s).toInt();
+    if (Has("times") && m_times <= 0) {
+        m_reader.Misused(cText::Tr("--times ist eine Zahl ab 1."));
+    }
+    if (Has("times") && Has("end")) {
+        m_reader.Misused(cText::Tr("Bitte entweder --end oder --times angeben."));
+    }
+    const QString cancelBy = call.Value(u"cancel-by"_s);
     m_cancelBy = cancelBy.compare(withoutEnd, Qt::CaseInsensitive) == 0 ? QDate() : m_reader.Day(cancelBy);
 }
 
@@ -115,6 +124,11 @@ void cCliEntryForm::Fill(cEntryFields& fields)
     if (Has("text")) {
         m_editor.ChooseDescription(call.Value(u"text"_s), fields);
     }
+    if (m_times > 0 && cEntryEditor::ShowsSeries(fields)) {
+        fields.End = m_editor.EndAfter(fields, m_times);
+        fields.HasEnd = true;
+        fields.EndText.clear();
+    }
 }
 
 // Of a split entry, amount, kind, category and text are those of the part; the rest belongs to all parts.
@@ -141,7 +155,7 @@ void cCliEntryForm::FillPart(int id, cEntryFields& fields)
 void cCliEntryForm::FillBalance(cEntryFields& fields)
 {
     const QStringList others{m_kind, m_account, m_target, m_category, m_interval};
-    if (!others.join(QString()).isEmpty() || Has("end") || Has("payer") || Has("text")) {
+    if (!others.join(QString()).isEmpty() || Has("end") || Has("times") || Has("payer") || Has("text")) {
         m_reader.Misused(cText::Tr("Ein Startguthaben hat nur einen Betrag und einen Tag."));
     }
     fields.Amount = Has("amount") ? modSum::ToText(m_cents, fields.Decimal) : fields.Amount;
@@ -193,13 +207,15 @@ int cCliEntryForm::ChangeLoaded(int id, cEntryFields fields)
 // What the editor would refuse without saying which option is meant.
 void cCliEntryForm::Check(const cEntryFields& fields)
 {
-    if (Has("end") && !cEntryEditor::ShowsSeries(fields)) {
+    if ((Has("end") || Has("times")) && !cEntryEditor::ShowsSeries(fields)) {
         m_reader.Misused(cText::Tr("Einen letzten Tag hat nur eine Serie. Bitte nennen Sie auch --interval."));
     }
     if (m_cancelBy.isValid() && !cEntryEditor::ShowsSeries(fields)) {
         m_reader.Misused(cText::Tr("Kündbar ist nur eine Serie. Bitte nennen Sie auch --interval."));
     }
-    if (cEntryEditor::ShowsSeries(fields) && fields.HasEnd && LastDay(fields) < fields.Date) {
+    if (cEntryEditor::ShowsSeries(fields) && m_times > 0 && !fields.End.isValid()) {
+        m_reader.Misused(cText::Tr("So oft kann die Serie nicht stattfinden."));
+    } else if (cEntryEditor::ShowsSeries(fields) && fields.HasEnd && LastDay(fields) < fields.Date) {
         m_reader.Misused(cText::Tr("Der letzte Tag liegt vor dem ersten ({0}).", {modDate::ToText(fields.Date)}));
     }
     if (m_from.isValid() && fields.Date < m_from) {

@@ -47,6 +47,7 @@ private:
     QDate m_day;
     QDate m_cancelBy;
     QDate m_end;
+    int m_times = 0;       // 0: not given
     bool m_isOpen = false; // without last day
     QDate m_from;          // the series is changed from here on
 };

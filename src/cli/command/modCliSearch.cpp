@@ -99,7 +99,7 @@ cCliCommand modCliCommands::SearchCommand()
                         {u"category"_s, u"PFAD"_s, cText::Tr("diese Kategorie und ihre Unterkategorien")},
                         {u"payer"_s, u"NAME"_s,
                          cText::Tr("nur was diese Person bezahlt hat; \"ohne\": wo niemand genannt ist")},
-                        {u"corrected"_s, {}, cText::Tr("nur von Hand korrigierte Vorkommen")},
+                        {u"corrected"_s, {}, cText::Tr("nur korrigierte und von Hand verschobene Vorkommen")},
                         {u"from-bank"_s, {}, cText::Tr("nur Einträge, zu denen ein Umsatz der Bank gehört")},
                         Json(),
                         {u"csv"_s, {}, cText::Tr("Ausgabe als CSV-Datei für Tabellenprogramme")}},

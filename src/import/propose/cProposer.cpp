@@ -7,6 +7,7 @@
 #include "import/propose/cSeriesFinder.h"
 #include "import/propose/cTransferFinder.h"
 #include "import/propose/modCash.h"
+#include "import/propose/modIntervalWord.h"
 #include "import/propose/modOwnRule.h"
 #include "import/read/modBookRow.h"
 #include "import/stage/cAccountMap.h"
@@ -29,6 +30,7 @@ struct cProposer::cKnowledge
 {
     cKnowledge(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts)
         : Data(data),
+          Hive(hive),
           Cash(modCash::Accounts(data.GetAccounts(), NumberedAccounts(accounts, {}, eLent::LeaveOut))),
           Numbered(NumberedAccounts(accounts, Cash, eLent::Take)),
           CashStart(Cash.isEmpty() ? QDate() : StartOf(data, Cash.constFirst())),
@@ -80,12 +82,26 @@ struct cProposer::cKnowledge
     {
         cHint hint = modHint::Best(row);
         hint.IsSure = hint.IsSure && Categories.contains(hint.Category);
+        // A keyword knows how often such things are paid as a rule, the purpose may know it of this one.
+        if (modRecurrence::IsRecurring(hint.Interval)) {
+            const QString named = modIntervalWord::In(row.ImportPurpose);
+            hint.Interval = named.isEmpty() ? hint.Interval : named;
+        }
         return hint;
     }
 
-    [[nodiscard]] bool IsSecondStart(const QString& category, const QString& account) const
+    // The first one stands in the book, or waits before this row.
+    [[nodiscard]] bool IsSecondStart(const QString& category, const QString& account, const cImportEntry& row)
     {
-        return category == modWord::Startguthaben && Data.GetStartGuthaben(account).has_value();
+        if (category != modWord::Startguthaben) {
+            return false;
+        }
+        const cImportEntryList rows = Hive.GetImportHive(eKeepCache::Yes).getImportEntryList();
+        return Data.GetStartGuthaben(account).has_value()
+            || std::any_of(rows.begin(), rows.end(), [&](const cImportEntry& other) {
+                   return other.ID < row.ID && !other.ImportAssigned && CategoryOfFile(other) == category
+                       && Transfers.AccountOf(other.ImportAccount) == account;
+               });
     }
 
     // The category that the file itself names for the row; empty when it names none that the book has.
@@ -122,6 +138,7 @@ struct cProposer::cKnowledge
     }
 
     cDataAccess& Data;
+    cImportHiveCache& Hive;
     QStringList Cash;     // accounts for cash
     QStringList Numbered; // accounts that stand at a bank
     QDate CashStart;      // of the first of them
@@ -355,7 +372,7 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
     const QString category = m_knowledge->CategoryOfFile(row);
     const std::optional<cLearned::cChoice> choice = category.isEmpty() ? m_knowledge->Learned.Find(row) : std::nullopt;
     if (!category.isEmpty()) {
-        TakeCategoryOfFile(proposal, category, m_knowledge->IsSecondStart(category, proposal.Entry.EntryAccount));
+        TakeCategoryOfFile(proposal, category, m_knowledge->IsSecondStart(category, proposal.Entry.EntryAccount, row));
     } else if (choice) {
         TakeLesson(proposal, *choice, whole, m_knowledge->Numbered);
         TakeAgreement(proposal, *choice, knownHint);

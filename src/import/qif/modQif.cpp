@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <array>
+#include <numeric>
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
@@ -393,6 +394,9 @@ private:
             return;
         }
         const QList<qint64> parts = CentsOfParts(record);
+        if (parts.size() > 1) {
+            NoteWhole(record, parts);
+        }
         for (qsizetype i = 0; i < parts.size(); ++i) {
             const cPart& part = record.Parts.at(i);
             Add(record, part.Category, part.Memo.isEmpty() ? record.Memo : part.Memo, parts.at(i));
@@ -403,6 +407,20 @@ private:
         if (m_read.Entries.constLast().ImportDate == noDate) {
             Report(record.Line, cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {record.Date.left(40)}));
         }
+    }
+
+    // As version 0.1.0 staged it.
+    void NoteWhole(const cRecord& record, const QList<qint64>& parts)
+    {
+        QStringList memos;
+        for (const cPart& part : record.Parts) {
+            memos.append(part.Memo);
+        }
+        memos.removeAll(QString());
+        Add(record, {}, record.Memo.isEmpty() ? memos.join(u", "_s) : record.Memo,
+            std::accumulate(parts.begin(), parts.end(), qint64{0}));
+        const cImportEntry whole = m_read.Entries.takeLast();
+        m_read.Wholes.append({m_read.Entries.size(), parts.size(), whole});
     }
 
     void TakeWhole(const cRecord& record)

@@ -23,6 +23,10 @@ std::optional<eStatementFormat> cStatementRead::FormatAt(qsizetype place) const
 void cStatementRead::Append(cStatementRead more)
 {
     Parts.append(Entries.size());
+    for (cWholeBooking& whole : more.Wholes) {
+        whole.First += Entries.size();
+    }
+    Wholes += std::move(more.Wholes);
     Entries += std::move(more.Entries);
     Problems += more.Problems;
     Skipped += more.Skipped;

@@ -43,6 +43,14 @@ struct cAccountBalance
     bool operator==(const cAccountBalance&) const = default;
 };
 
+// A booking in parts, and the row that would be all of it.
+struct cWholeBooking
+{
+    qsizetype First = 0; // place of the first part among the entries
+    qsizetype Count = 0;
+    cImportEntry Row;
+};
+
 enum class eStatementFormat;
 
 // What a reader makes of a statement file: records that are not staged yet. A file with several accounts is one list;
@@ -63,6 +71,8 @@ struct cStatementRead
     QList<qsizetype> Parts; // places of the entries with which further files of the source begin: these may overlap
     QList<eStatementFormat> Formats; // of these files, where they may differ
     QString AccountKey;              // under which the account of such files is remembered; empty: it cannot be
+
+    QList<cWholeBooking> Wholes; // in the order of the entries
 
     bool IsBook = false; // of another household book: its rows may name categories and accounts, see modBookRow
 

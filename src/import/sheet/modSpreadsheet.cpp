@@ -120,5 +120,16 @@ cStatementRead modSpreadsheet::Read(const cStatementSource& source, const cReadO
     if (!book.Refusal.isEmpty()) {
         return Refused(book.Refusal);
     }
-    return book.Sheets.isEmpty() ? modTable::Read(source, options) : ReadBest(book.Sheets, options).Read;
+    return book.Sheets.isEmpty() ? ReadText(source, options) : ReadBest(book.Sheets, options).Read;
+}
+
+cStatementRead modSpreadsheet::ReadText(const cStatementSource& source, const cReadOptions& options)
+{
+    cStatementRead read = modTable::Read(source, options);
+    if (!read.Refusal.isEmpty() && modHtmlTable::IsHtml(source.Text)) {
+        return Refused(cText::Tr("Das ist eine gespeicherte Internetseite und kein Kontoauszug. Melden Sie sich bei "
+                                 "der Bank an, und laden Sie die Umsätze dort als Datei herunter (camt, MT940 oder "
+                                 "CSV)."));
+    }
+    return read;
 }

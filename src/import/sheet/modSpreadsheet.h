@@ -26,7 +26,8 @@ namespace modSpreadsheet {
 // The same for sheets that were loaded before; there must be one.
 [[nodiscard]] modTable::cOpened Open(const cSpreadsheet& book, const cReadOptions& options);
 
-// The entry in the list of formats.
+// The entries in the list of formats: of workbooks, and of any text, which may be a web page.
 [[nodiscard]] cStatementRead Read(const cStatementSource& source, const cReadOptions& options);
+[[nodiscard]] cStatementRead ReadText(const cStatementSource& source, const cReadOptions& options);
 
 } // namespace modSpreadsheet

@@ -21,6 +21,7 @@
 #include "import/stage/modNamelessRows.h"
 #include "import/stage/modStatementCurrency.h"
 #include "import/stage/modStatementFormat.h"
+#include "import/stage/modWholeBookings.h"
 #include "import/table/cTableMemory.h"
 #include "import/xml/modCamt.h"
 #include "store/cDataAccess.h"
@@ -481,6 +482,7 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
     known.UseIn(read);
     if (options.Duplicates == eDuplicateTest::Test) {
         modNamelessRows::UseIn(read, staging);
+        modWholeBookings::UseIn(read, staging);
     }
     modCategoryClass::CutFrom(read, result.Kind, m_data);
     result.Read = static_cast<int>(read.Entries.size());

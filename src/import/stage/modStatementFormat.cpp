@@ -6,7 +6,6 @@
 #include "import/read/modStatementText.h"
 #include "import/sheet/modSpreadsheet.h"
 #include "import/stage/modStatementArchive.h"
-#include "import/table/modTable.h"
 #include "import/xml/modCamt.h"
 #include "import/xml/modOfx.h"
 
@@ -131,7 +130,7 @@ constexpr std::array formats = {
     cFormat{eStatementFormat::Qif, QT_TRANSLATE_NOOP("cText", "Quicken Interchange Format (QIF-Datei)"), IsQif,
             modQif::Read},
     cFormat{eStatementFormat::Csv, QT_TRANSLATE_NOOP("cText", "Character Separated Values (CSV-Datei)"), IsText,
-            modTable::Read},
+            modSpreadsheet::ReadText},
 };
 
 const cFormat* Find(eStatementFormat format)

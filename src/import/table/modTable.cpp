@@ -290,9 +290,7 @@ void ReadFurther(const cTable& table, modTableSections::cNext next, const cReadO
     }
 }
 
-} // namespace
-
-cStatementRead modTable::ReadRows(const cTable& table, const cTableLayout& layout, const cReadOptions& options)
+cStatementRead ReadParts(const cTable& table, const cTableLayout& layout, const cReadOptions& options)
 {
     if (modBookTable::IsBook(table, layout)) {
         return modBookTable::Read(table, layout);
@@ -302,6 +300,19 @@ cStatementRead modTable::ReadRows(const cTable& table, const cTableLayout& layou
     }
     cStatementRead read = ReadPart(table.Part(0, layout.EndRow), layout, options);
     ReadFurther(table, modTableSections::Find(table, layout, options), options, read);
+    return read;
+}
+
+} // namespace
+
+cStatementRead modTable::ReadRows(const cTable& table, const cTableLayout& layout, const cReadOptions& options)
+{
+    cStatementRead read = ReadParts(table, layout, options);
+    if (read.Refusal.isEmpty() && read.Entries.isEmpty() && read.Skipped.isEmpty() && read.Problems.isEmpty()) {
+        read.Problems.append({0,
+                              cText::Tr("Die Datei nennt nur die Spalten und enthält keinen Umsatz. Wählen Sie bei der "
+                                        "Bank einen längeren Zeitraum, und laden Sie sie noch einmal herunter.")});
+    }
     return read;
 }
 

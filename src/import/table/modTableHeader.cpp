@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
 
 namespace {
 
@@ -43,7 +44,14 @@ public:
         if (header < 0) {
             header = FirstHeader([this](int place) { return IsTold(place); });
         }
-        return header >= 0 ? At(header) : AboveData();
+        if (header >= 0) {
+            return At(header);
+        }
+        if (const std::optional<cFound> found = AboveData()) {
+            return *found;
+        }
+        header = FirstHeader([this](int place) { return IsAlone(place); });
+        return header >= 0 ? At(header) : Nothing();
     }
 
 private:
@@ -64,7 +72,7 @@ private:
         if (header >= 0 && header < m_probes.size()) {
             return At(header);
         }
-        cFound found = AboveData();
+        cFound found = AboveData().value_or(Nothing());
         found.Header = -1;
         return found;
     }
@@ -93,6 +101,16 @@ private:
     [[nodiscard]] bool IsTold(int place) const
     {
         return NamesColumns(Cells(place)) && HasDateBelow(place, SeparatorOf(place));
+    }
+
+    // Without a row below: a line that says so may follow.
+    [[nodiscard]] bool IsAlone(int place) const
+    {
+        const auto isRow = [this, separator = SeparatorOf(place)](const cProbe& probe) {
+            const QStringList cells = modTableHeader::CellsOf(probe, separator);
+            return cells.size() - cells.count(QString()) > 1;
+        };
+        return NamesColumns(Cells(place)) && std::none_of(m_probes.begin() + place + 1, m_probes.end(), isRow);
     }
 
     [[nodiscard]] static bool NamesColumns(const QStringList& cells)
@@ -149,18 +167,20 @@ private:
         return found == separators.end() ? QChar() : QChar(*found);
     }
 
-    [[nodiscard]] cFound AboveData() const
+    [[nodiscard]] std::optional<cFound> AboveData() const
     {
         for (const bool withWholes : {false, true}) { // "12" counts only where nothing has decimals
             for (int place = 0; place < m_probes.size(); ++place) {
                 const QChar separator = DataSeparator(place, withWholes);
                 if (!separator.isNull()) {
-                    return {HeaderAbove(place, separator), place, separator};
+                    return cFound{HeaderAbove(place, separator), place, separator};
                 }
             }
         }
-        return {-1, 0, m_probes.isEmpty() ? QChar(u';') : SeparatorOf(0)};
+        return std::nullopt;
     }
+
+    [[nodiscard]] cFound Nothing() const { return {-1, 0, m_probes.isEmpty() ? QChar(u';') : SeparatorOf(0)}; }
 
     // The next line above that is not empty, when it has names without a digit.
     [[nodiscard]] int HeaderAbove(int place, QChar separator) const

@@ -31,7 +31,8 @@ constexpr int searchedLines = 40;
 [[nodiscard]] QStringList CellsOf(const cProbe& probe, QChar separator);
 
 // A line that the user or a known layout names goes first; then the first one whose words give a date and an amount and
-// whose next line holds a date; then the line without digits above the first data; else there is none.
+// whose next line holds a date; then the line without digits above the first data; then one with such words and no row
+// below it; else there is none.
 [[nodiscard]] cFound Find(const QList<cProbe>& probes, const cTableChoice& choice, const cTableMemory* memory);
 
 } // namespace modTableHeader

@@ -64,6 +64,7 @@ cBankAccountChoice::cBankAccountChoice(const cBookTools& tools, const cBankState
             line.BookAccount = Proposal(line);
         }
     }
+    m_proposed = m_lines;
 }
 
 bool cBankAccountChoice::IsTaken(const QString& name) const

@@ -20,6 +20,8 @@ public:
         QString Reason;      // why it cannot be fetched; empty when it can
         QString BookAccount; // a name that the book does not have yet is added to it
         bool IsChosen = false;
+
+        bool operator==(const cLine&) const = default;
     };
 
     // Proposes for each account the one it is known to belong to, else a free one with a similar name, else a new one.
@@ -37,6 +39,7 @@ public:
     [[nodiscard]] QString Problem() const;
 
     [[nodiscard]] QList<cBankAccount> Chosen() const;
+    [[nodiscard]] bool IsChanged() const { return m_lines != m_proposed; } // by the user
 
 private:
     [[nodiscard]] QString Proposal(const cLine& line) const;
@@ -46,4 +49,5 @@ private:
     QStringList m_names;
     QStringList m_withNumber; // accounts of the book that belong to some account of a bank
     QList<cLine> m_lines;
+    QList<cLine> m_proposed; // the lines as they were
 };

@@ -19,6 +19,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <tuple>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -355,9 +356,15 @@ bool cBankSetup::LeaveMethod()
     return true;
 }
 
+// What the bank has told is no loss: it tells it again.
 bool cBankSetup::MayClose()
 {
-    const bool isTouched = m_state != m_before || m_productId != m_access.ProductId();
+    const auto typed = [](const cBankState& state) {
+        return std::tuple(state.BankCode, state.UserId, state.Url, state.HbciVersion,
+                          state.Method ? state.Method->SecurityFunction : QString(), state.Medium);
+    };
+    const bool isTouched = typed(m_state) != typed(m_before) || m_productId != m_access.ProductId()
+        || (m_accounts && m_accounts->IsChanged()) || m_firstDay != UsualFirstDay();
     return !isTouched
         || m_parts.Tools.User.Ask({.Text = cText::Tr("Der Bankzugang ist noch nicht gespeichert.\nMöchten Sie Ihre "
                                                      "Eingaben verwerfen?"),

@@ -331,6 +331,11 @@ QString cEntryEditor::EndedText(const cEntryItem& series, const QString& count)
                           : cText::Tr("Die Serie endet vor ihrem ersten Tag: Sie hat keinen Termin.");
 }
 
+QDate cEntryEditor::EndAfter(const cFields& fields, int count) const
+{
+    return modSeries::EndAfter(modEntryFields::Series(fields, m_tools.Clock.Today()), count);
+}
+
 cEntryEditor::cPreview cEntryEditor::Preview(const cFields& fields) const
 {
     constexpr int shownDays = 3;

@@ -124,6 +124,8 @@ public:
     [[nodiscard]] bool UseNormal(cFields& fields) const;
 
     [[nodiscard]] cPreview Preview(const cFields& fields) const;
+    // The last day with which the series takes place so often; invalid when it cannot.
+    [[nodiscard]] QDate EndAfter(const cFields& fields, int count) const;
 
     // Checks the fields in their order, shows the message of the first failure, and stores the entry. A text that names
     // no category yet becomes one if the user agrees.

@@ -2,6 +2,7 @@
 
 #include "base/modFold.h"
 #include "model/modPeople.h"
+#include "model/modSeries.h"
 #include "model/modWord.h"
 
 #include <QHash>
@@ -50,7 +51,13 @@ cEntryFilter::cEntryFilter(const cEntryItemList& entries, const cAmountFormat& f
         if (isNew) {
             words->second = m_filter.AddText(Words(entry));
         }
-        // The occurrences of a series follow each other with the same description.
+        // The occurrences of a series follow each other with the same description. What the user wrote to one of them
+        // is found as well; what the program wrote stands at nearly all of them.
+        if (!entry.CorrectionComment.isEmpty() && !modSeries::IsFromBank(entry.CorrectionComment)) {
+            const QString text = entry.EntryDescription + u'\n' + entry.CorrectionComment;
+            m_filter.AddRow(words->second, m_filter.AddText(text), entry.EntryDate);
+            continue;
+        }
         if (entry.EntryDescription.constData() != lastDescription) {
             lastDescription = entry.EntryDescription.constData();
             description = m_filter.AddText(entry.EntryDescription);

@@ -463,8 +463,7 @@ QString cEntryListModel::Text(int entry, int column) const
         const QString interval = modWord::Intervals().ToShown(item.EntryInterval);
         const QString split = modSplit::Group(item) == 0 ? interval : cText::Tr("{0}, Teil", {interval});
         const QString corrected = item.IsCorrected ? cText::Tr("{0}, korrigiert", {split}) : split;
-        const bool isMoved = item.PlannedDate.isValid() && !modSeries::IsFromBank(item.CorrectionComment);
-        return isMoved ? cText::Tr("{0}, verschoben", {corrected}) : corrected;
+        return modSeries::IsMoved(item) ? cText::Tr("{0}, verschoben", {corrected}) : corrected;
     }
     case Receipts: {
         const int count = modReceiptName::Count(item);

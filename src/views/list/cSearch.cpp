@@ -5,6 +5,7 @@
 #include "model/cTemplateItem.h"
 #include "model/modPeople.h"
 #include "model/modRecurrence.h"
+#include "model/modSeries.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/list/cEntryFilter.h"
@@ -20,6 +21,11 @@ namespace {
 bool IsOfAmount(qint64 cents, const cSearchQuery& query)
 {
     return cents >= query.Least.value_or(cents) && cents <= query.Most.value_or(cents);
+}
+
+bool IsCorrected(const cEntryItem& entry)
+{
+    return entry.IsCorrected || modSeries::IsMoved(entry);
 }
 
 } // namespace
@@ -63,7 +69,7 @@ void cSearch::DropFuture(cEntryItemList& entries) const
             return false;
         }
         const bool isFirst = entry.ID != std::exchange(series, entry.ID);
-        return entry.EntryDate > today && !isFirst && !entry.IsCorrected;
+        return entry.EntryDate > today && !isFirst && !IsCorrected(entry);
     });
 }
 
@@ -79,7 +85,7 @@ cEntryItemList cSearch::Narrow(const cEntryItemList& loaded, const cSearchQuery&
     }
     cEntryItemList entries;
     std::copy_if(loaded.begin(), loaded.end(), std::back_inserter(entries), [&](const cEntryItem& entry) {
-        return IsOfAmount(entry.EntryValue, query) && (!query.IsCorrected || entry.IsCorrected)
+        return IsOfAmount(entry.EntryValue, query) && (!query.IsCorrected || IsCorrected(entry))
             && (query.Category.isEmpty() || modTemplate::IsWithin(entry.EntryCategory, query.Category))
             && modPeople::IsPaidBy(entry, query.Payer) && (!query.IsFromBank || m_bankEntries.contains(entry.ID));
     });

@@ -21,7 +21,7 @@ struct cSearchQuery
     QString Type{};           // "Einnahme", "Ausgabe" or "Umbuchung"
     QString Payer{};          // a choice of modPeople
     QString Category{};       // a path; a main category finds its sub-categories too
-    bool IsCorrected = false; // only occurrences whose amount was corrected
+    bool IsCorrected = false; // only occurrences whose amount was corrected, or that the user moved
     bool IsFromBank = false;  // only entries that a bank transaction belongs to
 
     bool operator==(const cSearchQuery&) const = default;

@@ -357,8 +357,7 @@ bool cCorrectionFlow::WriteParts(const cChange& change)
     });
 }
 
-// Divides the series: what was corrected or assigned from the occurrence on goes along, and corrections that only moved
-// a day follow the new amount.
+// Divides the series: what was corrected or assigned from the occurrence on goes along.
 bool cCorrectionFlow::ChangeFrom(const cEntryItem& series, const cEntryItem& occurrence, qint64 cents)
 {
     const QDate from = occurrence.Planned();
@@ -366,10 +365,6 @@ bool cCorrectionFlow::ChangeFrom(const cEntryItem& series, const cEntryItem& occ
     cEntryItemFixModList fixMods = m_tools.Data.GetEntryMods(series.ID);
     const bool isWhole = from <= series.EntryDate;
     fixMods.removeIf([&](const cEntryItemFixMod& fixMod) { return !isWhole && fixMod.EntryStartDate < start; });
-    for (cEntryItemFixMod& fixMod : fixMods) {
-        const bool isDayOnly = fixMod.EntryDay.isValid() && fixMod.EntryValue == series.EntryValue;
-        fixMod.EntryValue = isDayOnly && modSeries::IsFromBank(fixMod.EntryComment) ? cents : fixMod.EntryValue;
-    }
     QList<cEntryWrite> rows{{series, fixMods}};
     rows.first().Entry.EntryValue = cents;
     rows.first().Entry.EntryDate = isWhole ? series.EntryDate : from;

@@ -22,11 +22,15 @@
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
+#include <QSignalBlocker>
+#include <QSpinBox>
 #include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
+
+constexpr int mostTimes = 9'999;
 
 void ShowDay(cDayEdit& edit, QDate day, const QString& typed)
 {
@@ -55,6 +59,7 @@ cEntryForm::cEntryForm(cEntryEditor& editor, const cEntryFields& fields, QWidget
       m_seriesRow(new QWidget(this)),
       EntryDateCheck(new QCheckBox(cText::Tr("endet a&m"), m_seriesRow)),
       EntryDateEnd(new cDayEdit(editor.Today(), m_seriesRow)),
+      m_times(new QSpinBox(m_seriesRow)),
       m_cancelBy(new cDayEdit(editor.Today(), this)),
       m_preview(new QLabel(this)),
       m_receipts(new cReceiptField(this)),
@@ -144,7 +149,14 @@ void cEntryForm::BuildSeries()
     row->setContentsMargins(0, 0, 0, 0);
     row->addWidget(EntryDateCheck);
     row->addWidget(EntryDateEnd);
+    row->addWidget(m_times);
     row->addStretch(1);
+    m_times->setRange(0, mostTimes);
+    m_times->setPrefix(cText::Tr("nach "));
+    m_times->setSuffix(cText::Tr(" Mal"));
+    m_times->setSpecialValueText(cText::Tr("nach … Mal"));
+    m_times->setAccessibleName(cText::Tr("Zahl der Termine"));
+    m_times->setToolTip(cText::Tr("Wie oft die Serie stattfindet, zum Beispiel die Zahl der Raten"));
     EntryDateEnd->setAccessibleName(cText::Tr("Letzter Tag der Serie"));
     m_cancelBy->setPlaceholderText(cText::Tr("kein Vertrag"));
     m_cancelBy->setToolTip(cText::Tr("Der letzte Tag, an dem Sie diesen Vertrag kündigen können; das Programm erinnert "
@@ -168,6 +180,7 @@ void cEntryForm::OrderTabs()
                                                     {cboInterval, u"cboInterval"_s},
                                                     {EntryDateCheck, u"EntryDateCheck"_s},
                                                     {EntryDateEnd, u"EntryDateEnd"_s},
+                                                    {m_times, u"txtTermine"_s},
                                                     {m_cancelBy, u"txtKuendbar"_s}};
     for (qsizetype i = 0; i < named.size(); ++i) {
         named.at(i).first->setObjectName(named.at(i).second);
@@ -175,7 +188,6 @@ void cEntryForm::OrderTabs()
             setTabOrder(named.at(i - 1).first, named.at(i).first);
         }
     }
-    setTabOrder(EntryDateEnd, m_cancelBy);
     setTabOrder(m_cancelBy, m_receipts);
     setTabOrder(m_receipts, m_split);
     if (m_fields.Face == eEntryFace::StartBalance) {
@@ -218,6 +230,7 @@ void cEntryForm::Connect()
     connect(cboInterval, &QComboBox::currentIndexChanged, this, &cEntryForm::ShowSeries);
     connect(EntryDate, &QLineEdit::textChanged, this, &cEntryForm::ShowSeries);
     connect(EntryDateEnd, &QLineEdit::textChanged, this, &cEntryForm::ShowSeries);
+    connect(m_times, &QSpinBox::valueChanged, this, &cEntryForm::EndAfter);
 }
 
 void cEntryForm::OfferPayers(const cEntryFields& fields)
@@ -346,7 +359,21 @@ void cEntryForm::ShowSeries()
     m_form->setRowVisible(m_seriesRow, isSeries);
     m_form->setRowVisible(m_preview, isSeries);
     m_form->setRowVisible(m_cancelBy, isSeries);
-    m_preview->setText(isSeries ? m_editor.Preview(fields).Text : QString());
+    const cEntryEditor::cPreview preview = m_editor.Preview(fields);
+    m_preview->setText(isSeries ? preview.Text : QString());
+    const QSignalBlocker quiet(m_times);
+    m_times->setValue(fields.HasEnd ? preview.Count : 0);
+}
+
+// The day tells, the number follows it: also back to what it was when there are not so many.
+void cEntryForm::EndAfter(int count)
+{
+    const QDate end = count == 0 ? QDate() : m_editor.EndAfter(Read(), count);
+    EntryDateCheck->setChecked(count > 0 && (end.isValid() || EntryDateCheck->isChecked()));
+    if (end.isValid()) {
+        EntryDateEnd->setText(modDate::ToText(end));
+    }
+    ShowSeries();
 }
 
 void cEntryForm::ChooseCategory(const QString& path)

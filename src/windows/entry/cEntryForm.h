@@ -14,6 +14,7 @@ class QComboBox;
 class QFormLayout;
 class QLabel;
 class QLineEdit;
+class QSpinBox;
 
 // The fields of an entry in the face that they call for.
 class cEntryForm final : public QWidget
@@ -59,6 +60,7 @@ private:
     void ShowTarget();
     void ShowAmount();
     void ShowSeries();
+    void EndAfter(int count);
     void ShowReceipts();
     void AddReceipts(const QList<cReceiptSource>& sources);
     void ChooseCategory(const QString& path);
@@ -85,6 +87,7 @@ private:
     QWidget* m_seriesRow;
     QCheckBox* EntryDateCheck;
     cDayEdit* EntryDateEnd;
+    QSpinBox* m_times;
     cDayEdit* m_cancelBy;
     QLabel* m_preview;
     cReceiptField* m_receipts;

@@ -87,7 +87,7 @@ cSearchFields::cSearchFields(const cSearchModel& model, QWidget* parent)
       m_category(new QComboBox(this)),
       m_payerLabel(new QLabel(cText::Tr("Bezahlt v&on:"), this)),
       m_payer(new QComboBox(this)),
-      m_isCorrected(new QCheckBox(cText::Tr("Nur ko&rrigierte"), this)),
+      m_isCorrected(new QCheckBox(cText::Tr("Nur ko&rrigierte, verschobene"), this)),
       m_isFromBank(new QCheckBox(cText::Tr("Nur &mit Bankumsatz"), this))
 {
     Build();

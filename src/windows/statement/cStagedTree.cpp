@@ -135,22 +135,20 @@ QModelIndex cStagedTree::IndexOf(const cLine& line) const
     return line.Id != 0 ? m_model.IndexOf(line.Id) : m_model.HeadNamed(line.Head);
 }
 
-// The line of the same kind below, else the one above: after a row comes a row, after a group the next group.
+// The line of the same kind below those that are selected, else the one above: after a row comes a row, after a group
+// the next group.
 QModelIndex cStagedTree::Neighbour(const QModelIndex& index) const
 {
-    if (!index.isValid()) {
-        return {};
-    }
-    if (m_model.IsHead(index)) {
-        const int next = index.row() + 1 < m_model.rowCount() ? index.row() + 1 : index.row() - 1;
-        return m_model.index(next, 0);
-    }
+    const bool isHead = m_model.IsHead(index);
+    const auto isPassed = [&](const QModelIndex& line) {
+        return line.isValid() && (m_model.IsHead(line) != isHead || selectionModel()->isSelected(line));
+    };
     QModelIndex below = indexBelow(index);
-    while (m_model.IsHead(below)) {
+    while (isPassed(below)) {
         below = indexBelow(below);
     }
     QModelIndex above = below.isValid() ? QModelIndex() : indexAbove(index);
-    while (m_model.IsHead(above)) {
+    while (isPassed(above)) {
         above = indexAbove(above);
     }
     return below.isValid() ? below : above;
@@ -173,7 +171,7 @@ void cStagedTree::KeepSelection()
     m_kept.Ids = m_model.IdsIn(rows);
     m_kept.Current = LineAt(currentIndex());
     m_kept.Column = qMax(0, currentIndex().column());
-    if (m_kept.Ids.size() + m_kept.Heads.size() == 1) {
+    if (m_kept.HasSelection()) {
         m_kept.Next = LineAt(Neighbour(currentIndex()));
     }
 }
@@ -194,7 +192,6 @@ void cStagedTree::OpenGroups()
 void cStagedTree::RestoreSelection()
 {
     OpenGroups();
-    const bool wasOne = m_kept.Ids.size() + m_kept.Heads.size() == 1;
     QItemSelection selection = m_model.SelectionOf(m_kept.Ids);
     for (const QString& name : std::as_const(m_kept.Heads)) {
         const QModelIndex head = m_model.HeadNamed(name);
@@ -203,11 +200,11 @@ void cStagedTree::RestoreSelection()
         }
     }
     const QModelIndex current = IndexOf(m_kept.Current);
-    const QModelIndex next = wasOne && selection.isEmpty() ? IndexOf(m_kept.Next) : QModelIndex();
-    // Of several that were booked none hands it on: a second Enter must not book what nobody chose.
-    m_isLost = selection.isEmpty() && !next.isValid() && (m_isLost || wasOne || m_model.OpenIds().isEmpty());
+    const QModelIndex next = selection.isEmpty() ? IndexOf(m_kept.Next) : QModelIndex();
+    m_isLost =
+        selection.isEmpty() && !next.isValid() && (m_isLost || m_kept.HasSelection() || m_model.OpenIds().isEmpty());
     if (next.isValid()) {
-        // A single line that was booked or deleted hands the selection on, so that Enter works down the list.
+        // Lines that were booked or deleted hand the selection on to one line, so that Enter works down the list.
         selectionModel()->setCurrentIndex(next.siblingAtColumn(m_kept.Column),
                                           QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
         return;

@@ -76,8 +76,10 @@ private:
         QList<int> Ids; // selected rows
         QStringList Heads;
         cLine Current;
-        cLine Next; // takes over when the only selected line is gone
+        cLine Next; // takes over when no selected line is left
         int Column = 0;
+
+        [[nodiscard]] bool HasSelection() const { return !Ids.isEmpty() || !Heads.isEmpty(); }
     };
 
     void ConnectGroups();

@@ -1,0 +1,60 @@
+#include "import/propose/modIntervalWord.h"
+
+#include "import/read/modTextWords.h"
+
+#include <algorithm>
+#include <array>
+
+using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+struct cWord
+{
+    QLatin1StringView Begin; // of the folded word
+    const char16_t* Interval;
+};
+
+constexpr const char16_t* quarterly = u"Alle 3 Monate";
+constexpr const char16_t* halfYearly = u"Alle 6 Monate";
+constexpr const char16_t* yearly = u"Jährlich";
+
+constexpr std::array words{cWord{"quartal"_L1, quarterly},      cWord{"vierteljaehrlich"_L1, quarterly},
+                           cWord{"vierteljahr"_L1, quarterly},  cWord{"halbjaehrlich"_L1, halfYearly},
+                           cWord{"halbjahr"_L1, halfYearly},    cWord{"jaehrlich"_L1, yearly},
+                           cWord{"jahresbeitrag"_L1, yearly},   cWord{"jahrespraemie"_L1, yearly},
+                           cWord{"monatlich"_L1, u"Monatlich"}, cWord{"monatsbeitrag"_L1, u"Monatlich"}};
+
+bool IsYear(QStringView word)
+{
+    return (word.size() == 2 || word.size() == 4) && modTextWords::HasDigits(word, static_cast<int>(word.size()));
+}
+
+// "Q4" is a quarter only beside its year: there are cars of that name.
+bool IsQuarter(QStringView word, QStringView before, QStringView after)
+{
+    return word.size() == 2 && word[0] == u'q' && word[1] >= u'1' && word[1] <= u'4'
+        && (IsYear(before) || IsYear(after));
+}
+
+} // namespace
+
+QString modIntervalWord::In(const QString& purpose)
+{
+    const QList<modTextWords::cWord> all = modTextWords::Of(purpose);
+    for (qsizetype i = 0; i < all.size(); ++i) {
+        const QString& word = all.at(i).Folded;
+        const QString before = i > 0 ? all.at(i - 1).Folded : QString();
+        const QString after = i + 1 < all.size() ? all.at(i + 1).Folded : QString();
+        if (IsQuarter(word, before, after)) {
+            return QString::fromUtf16(quarterly);
+        }
+        const auto* const known =
+            std::find_if(words.begin(), words.end(), [&](const cWord& each) { return word.startsWith(each.Begin); });
+        if (known != words.end()) {
+            const bool isPart = known->Interval == yearly && (before == u"4" || before == u"2"); // "1/4-jährlich"
+            return QString::fromUtf16(!isPart ? known->Interval : before == u"4" ? quarterly : halfYearly);
+        }
+    }
+    return {};
+}
