@@ -28,6 +28,7 @@
 #include <cstdio>
 #include <future>
 #include <optional>
+#include <system_error>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -79,6 +80,16 @@ void ReadArguments(QCommandLineParser& parser, const QApplication& application)
     parser.process(application);
 }
 
+// The system's fonts are looked up while the book is opened; who needs one earlier waits for the rest of it.
+std::future<bool> LookUpFonts()
+{
+    try {
+        return std::async(std::launch::async, [] { return QFontDatabase::hasFamily(QString()); });
+    } catch (const std::system_error&) {
+        return {}; // no thread is left: then they are looked up when they are needed
+    }
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -94,8 +105,7 @@ int main(int argc, char* argv[])
         return RefuseWithoutDisplay();
     }
     QApplication application(argc, argv);
-    // The system's fonts are looked up while the book is opened; who needs one earlier waits for the rest of it.
-    const auto fonts = std::async(std::launch::async, [] { return QFontDatabase::hasFamily(QString()); });
+    const std::future<bool> fonts = LookUpFonts();
     modChoiceAccess::Install();
     QApplication::setStyle(new cStyle); // over the desktop's own style, which only the application knows
     QApplication::setApplicationName(u"kontorelle"_s);

@@ -186,8 +186,10 @@ void cDataAccess::ReadAhead(const modPeriod::cRange& days)
     if (IsReadOnly()) {
         return; // tables of the connection may stand in for those of the file
     }
-    (void)Look("GetEntries",
-               [&] { m_ahead = std::make_unique<cWindowAhead>(m_database.Path(), days, m_database.ChangeMark()); });
+    // Whoever reads them when they are wanted tells why that fails.
+    (void)Try(
+        "GetEntries",
+        [&] { m_ahead = std::make_unique<cWindowAhead>(m_database.Path(), days, m_database.ChangeMark()); }, true);
 }
 
 cWindowRows cDataAccess::ReadWindow(const modPeriod::cRange& days, const std::array<qint64, 3>& mark)

@@ -76,7 +76,7 @@ private:
     sqlite3* m_connection;
 };
 
-// The one connection to the database file. All failures are thrown as cDatabaseError unless a comment says otherwise.
+// A connection to the database file. All failures are thrown as cDatabaseError unless a comment says otherwise.
 class cDatabase
 {
 public:

@@ -116,6 +116,8 @@ private Q_SLOTS:
         row("word with umlaut", u"Stellplatz, vierteljährlich"_s, u"Alle 3 Monate"_s);
         row("number of quarter", u"Stellplatz 4. Quartal"_s, u"Alle 3 Monate"_s);
         row("part of a year", u"Stellplatz 1/4-jährlich"_s, u"Alle 3 Monate"_s);
+        row("a day before a year", u"Stellplatz ab 1.4. jährlich"_s, u"Jährlich"_s);
+        row("months", u"Stellplatz 3-monatlich"_s, u"Alle 3 Monate"_s);
         row("month instead of year", u"Haftpflicht monatlich"_s, u"Monatlich"_s);
         row("of a purchase", u"Rewe Halbjahresbonus"_s, modWord::Einmalig);
     }
@@ -446,6 +448,7 @@ private Q_SLOTS:
         row("other words", {u"Miete Anna"_s, u"Mietzahlung"_s, flat}, nobody, 2); // the first may be the only one
         row("named later", {u"Miete Januar 2026"_s, u"Miete Februar 2026"_s, u"Miete März 2026"_s}, last, 1);
         row("somebody else", {flat, flat, u"Miete"_s}, last, 2);
+        row("account without a name", {flat, flat, u"Miete"_s}, {{}, {}, u"/DE05"_s}, 2);
         row("account later", {flat, flat, flat}, {u"Tann"_s, u"Tann"_s, u"Tann/DE05"_s}, 1);
         row("account before", {flat, flat, flat}, {u"Tann/DE05"_s, u"Tann/DE05"_s, u"Tann"_s}, 1);
     }

@@ -99,8 +99,9 @@ struct cProposer::cKnowledge
         const cImportEntryList rows = Hive.GetImportHive(eKeepCache::Yes).getImportEntryList();
         return Data.GetStartGuthaben(account).has_value()
             || std::any_of(rows.begin(), rows.end(), [&](const cImportEntry& other) {
-                   return other.ID < row.ID && !other.ImportAssigned && CategoryOfFile(other) == category
-                       && Transfers.AccountOf(other.ImportAccount) == account;
+                   const bool isSame = other.ImportAccount == row.ImportAccount
+                       || (!account.isEmpty() && Transfers.AccountOf(other.ImportAccount) == account);
+                   return isSame && other.ID < row.ID && !other.ImportAssigned && CategoryOfFile(other) == category;
                });
     }
 

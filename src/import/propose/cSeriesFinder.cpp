@@ -165,7 +165,8 @@ QSet<int> cSeriesFinder::SeriesOf(const cImportEntry& row) const
 {
     const QString key = modCounterparty::Key(row);
     const QString name = modCounterparty::NameKey(row);
-    return m_entries.value(key) + (name == key ? m_named : m_entries).value(name);
+    const QSet<int> others = (name == key ? m_named : m_entries).value(name);
+    return name.isEmpty() ? m_entries.value(key) : m_entries.value(key) + others; // nobody has no name of his own
 }
 
 // A row that names nobody may pay any of them, because its words change; one that does, those that rows without a name
@@ -174,7 +175,7 @@ QSet<int> cSeriesFinder::SeriesOf(const cImportEntry& row) const
 cEntryItemList cSeriesFinder::Alike(const cImportEntry& row, const cEntryItem& entry)
 {
     const bool isNamed = !modCounterparty::Key(row).isEmpty();
-    QList<int> ids = (isNamed ? SeriesOf(row) : m_entries.value({})).values();
+    QList<int> ids = SeriesOf(row).values();
     if (modRecurrence::IsRecurring(entry.EntryInterval)) {
         ids = isNamed ? (SeriesOf(row) + m_unnamed.value(WordsOf(row))).values() : m_series.keys();
     }

@@ -18,12 +18,13 @@ struct cWord
 constexpr const char16_t* quarterly = u"Alle 3 Monate";
 constexpr const char16_t* halfYearly = u"Alle 6 Monate";
 constexpr const char16_t* yearly = u"Jährlich";
+constexpr const char16_t* monthly = u"Monatlich";
 
 constexpr std::array words{cWord{"quartal"_L1, quarterly},      cWord{"vierteljaehrlich"_L1, quarterly},
                            cWord{"vierteljahr"_L1, quarterly},  cWord{"halbjaehrlich"_L1, halfYearly},
                            cWord{"halbjahr"_L1, halfYearly},    cWord{"jaehrlich"_L1, yearly},
                            cWord{"jahresbeitrag"_L1, yearly},   cWord{"jahrespraemie"_L1, yearly},
-                           cWord{"monatlich"_L1, u"Monatlich"}, cWord{"monatsbeitrag"_L1, u"Monatlich"}};
+                           cWord{"monatlich"_L1, monthly}, cWord{"monatsbeitrag"_L1, monthly}};
 
 bool IsYear(QStringView word)
 {
@@ -35,6 +36,34 @@ bool IsQuarter(QStringView word, QStringView before, QStringView after)
 {
     return word.size() == 2 && word[0] == u'q' && word[1] >= u'1' && word[1] <= u'4'
         && (IsYear(before) || IsYear(after));
+}
+
+// A number that divides a yearly word, as in "1/4-jährlich", or multiplies a monthly one, as in "3-monatlich". No text:
+// how often that would be is no interval of the program.
+QString Divided(const char16_t* interval, QStringView before)
+{
+    before = before.trimmed();
+    const bool isJoined = before.endsWith(u'-');
+    const QStringView number = isJoined ? before.chopped(1).trimmed() : before;
+    const auto ends = [&](QLatin1StringView fraction, QChar sign) {
+        return number.endsWith(fraction) || number.endsWith(sign);
+    };
+    if (interval == yearly && ends("1/4"_L1, u'\u00bc')) {
+        return QString::fromUtf16(quarterly);
+    }
+    if (interval == yearly && ends("1/2"_L1, u'\u00bd')) {
+        return QString::fromUtf16(halfYearly);
+    }
+    if (interval != monthly || !isJoined || number.isEmpty() || !number.back().isDigit()) {
+        return QString::fromUtf16(interval);
+    }
+    const bool isLong = number.size() > 1 && number[number.size() - 2].isDigit();
+    switch (isLong ? 0 : number.back().digitValue()) {
+    case 2: return u"Alle 2 Monate"_s;
+    case 3: return QString::fromUtf16(quarterly);
+    case 6: return QString::fromUtf16(halfYearly);
+    default: return {};
+    }
 }
 
 } // namespace
@@ -52,8 +81,7 @@ QString modIntervalWord::In(const QString& purpose)
         const auto* const known =
             std::find_if(words.begin(), words.end(), [&](const cWord& each) { return word.startsWith(each.Begin); });
         if (known != words.end()) {
-            const bool isPart = known->Interval == yearly && (before == u"4" || before == u"2"); // "1/4-jährlich"
-            return QString::fromUtf16(!isPart ? known->Interval : before == u"4" ? quarterly : halfYearly);
+            return Divided(known->Interval, QStringView(purpose).left(all.at(i).At));
         }
     }
     return {};

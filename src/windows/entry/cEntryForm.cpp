@@ -362,7 +362,7 @@ void cEntryForm::ShowSeries()
     const cEntryEditor::cPreview preview = m_editor.Preview(fields);
     m_preview->setText(isSeries ? preview.Text : QString());
     const QSignalBlocker quiet(m_times);
-    m_times->setValue(fields.HasEnd ? preview.Count : 0);
+    m_times->setValue(fields.HasEnd && preview.Count <= mostTimes ? preview.Count : 0);
 }
 
 // The day tells, the number follows it: also back to what it was when there are not so many.
