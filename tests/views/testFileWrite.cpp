@@ -2,6 +2,7 @@
 #include "support/cNoRoom.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/fakes.h"
 #include "views/list/modFileWrite.h"
 
@@ -100,6 +101,26 @@ private Q_SLOTS:
         QCOMPARE(modFileWrite::Replace(link, "new"), QString());
         QCOMPARE(cTestFile::Bytes(target), QByteArray("new"));
         QCOMPARE(Names(), before);
+    }
+
+    void NoDatabaseIsReplaced_data()
+    {
+        const cTestRows<QString> row("name");
+        row("itself", u"data.db"_s);
+        row("its link", u"link.pdf"_s);
+        row("its journal", u"data.db-journal"_s);
+        row("its lock", u"data.db.lock"_s);
+    }
+
+    void NoDatabaseIsReplaced()
+    {
+        QFETCH(const QString, name);
+        const QByteArray book("SQLite format 3\0 and more", 25);
+        cTestFile::Write(m_files.Path(u"data.db"_s), book);
+        QVERIFY(QFile::link(u"data.db"_s, m_files.Path(u"link.pdf"_s)));
+        QVERIFY(modFileWrite::Replace(m_files.Path(name), "%PDF").contains(u"Haushaltsbuch"_s));
+        QCOMPARE(cTestFile::Bytes(m_files.Path(u"data.db"_s)), book);
+        QCOMPARE(Names(), (QStringList{u"data.db"_s, u"link.pdf"_s}));
     }
 
     void BookThatCouldNotBeReadIsNotExported()
