@@ -67,7 +67,7 @@ cNavigation::cNavigation(const cParts& parts)
       m_books({parts.Book, parts.Configuration, parts.Tools.User, parts.Rescue, parts.Shell, parts.Tools.Clock,
                parts.Host}),
       m_logs({parts.Log, parts.Tools, parts.Shell, parts.Configuration, parts.Book}),
-      m_printer(parts.Tools.User),
+      m_printer(parts.Tools.User, parts.Tools.Data),
       m_help(parts.Shell, parts.Tools.User),
       m_national(std::make_unique<cNationalSettings>(parts.Tools, parts.Configuration, parts.Format))
 {

@@ -1,15 +1,21 @@
 #include "app/machine/cQtPrinter.h"
 #include "app/machine/modQtFilter.h"
+#include "store/cDataAccess.h"
+#include "store/cDatabase.h"
+#include "support/cNoRoom.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/cTestRows.h"
+#include "support/fakes.h"
 #include "windows/print/cPrintable.h"
 
 #include <QApplication>
 #include <QPainter>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -47,11 +53,19 @@ class testQtPrinter final : public QObject
 {
     Q_OBJECT
 
+private:
+    cFakeUser m_user;
+    cDatabase m_database;
+    cDataAccess m_book{m_database, m_user};
+    cQtPrinter m_way{m_user, m_book};
+
 private Q_SLOTS:
     void PrintsWhatTheDialogAskedFor_data();
     void PrintsWhatTheDialogAskedFor();
     void TurnedPaperIsLaidOutAnew();
-    void FileThatCannotBeWritten();
+    void FullDiskKeepsTheOldFile();
+    void NothingOfTheLastPrintIsLeft();
+    void PreviewPrintsByKey();
     void EndingFollowsTheChosenFilter_data();
     void EndingFollowsTheChosenFilter();
 };
@@ -81,7 +95,7 @@ void testQtPrinter::PrintsWhatTheDialogAskedFor()
     printer.setPageOrder(static_cast<QPrinter::PageOrder>(order));
     printer.setCopyCount(copies);
     cFivePages content;
-    QVERIFY(cQtPrinter::Spool(printer, content));
+    QCOMPARE(m_way.Spool(printer, content), QString());
     QCOMPARE(content.Painted, pages);
     QCOMPARE(cTestFile::Bytes(printer.outputFileName()).count("/Type /Page\n"), pages.size());
 }
@@ -92,21 +106,71 @@ void testQtPrinter::TurnedPaperIsLaidOutAnew()
     QPrinter printer;
     PrintTo(printer, folder.filePath(u"a.pdf"_s));
     cFivePages content;
-    QVERIFY(cQtPrinter::Spool(printer, content));
+    QCOMPARE(m_way.Spool(printer, content), QString());
     QVERIFY(content.Area.height() > content.Area.width());
     printer.setPageOrientation(QPageLayout::Landscape);
-    QVERIFY(cQtPrinter::Spool(printer, content));
+    QCOMPARE(m_way.Spool(printer, content), QString());
     QVERIFY(content.Area.width() > content.Area.height());
 }
 
-void testQtPrinter::FileThatCannotBeWritten()
+void testQtPrinter::FullDiskKeepsTheOldFile()
 {
     QTemporaryDir folder;
+    const QString path = folder.filePath(u"a.pdf"_s);
+    cTestFile::Write(path, "old");
     QPrinter printer;
-    PrintTo(printer, folder.filePath(u"missing/a.pdf"_s));
+    PrintTo(printer, path);
     cFivePages content;
-    QTest::ignoreMessage(QtWarningMsg, "QPainter::begin(): Returned false");
-    QVERIFY(!cQtPrinter::Spool(printer, content));
+    {
+        const cNoRoom room(100);
+        QVERIFY(m_way.Spool(printer, content).contains(u"zu groß"_s));
+    }
+    QCOMPARE(cTestFile::Bytes(path), QByteArray("old"));
+    QCOMPARE(m_way.Spool(printer, content), QString());
+    QVERIFY(cTestFile::Bytes(path).startsWith("%PDF"));
+}
+
+// The file of the second print is proposed beside that of the first, and it is all pages again, once.
+void testQtPrinter::NothingOfTheLastPrintIsLeft()
+{
+    QTemporaryDir folder;
+    cFivePages content;
+    QTimer::singleShot(0, this, [&] {
+        auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+        PrintTo(*dialog->printer(), folder.filePath(u"a.pdf"_s));
+        dialog->printer()->setFromTo(2, 2);
+        dialog->printer()->setCopyCount(2);
+        dialog->done(QDialog::Accepted);
+    });
+    m_way.Print(content, nullptr);
+    QString path;
+    QTimer::singleShot(0, this, [&] {
+        auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+        path = dialog->printer()->outputFileName();
+        dialog->done(QDialog::Accepted);
+    });
+    m_way.Print(content, nullptr);
+    QCOMPARE(path, folder.filePath(u"Fünf.pdf"_s));
+    QCOMPARE(content.Painted, (QList<int>{2, 2, 1, 2, 3, 4, 5}));
+}
+
+void testQtPrinter::PreviewPrintsByKey()
+{
+    cFivePages content;
+    QString asked;
+    QTimer::singleShot(0, this, [&] {
+        QWidget* preview = QApplication::activeModalWidget();
+        QVERIFY(QTest::qWaitForWindowActive(preview));
+        QTimer::singleShot(0, this, [&, preview] {
+            QDialog* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            asked = dialog == nullptr ? QString() : dialog->windowTitle();
+            (dialog == nullptr ? preview : dialog)->close();
+            preview->close();
+        });
+        QTest::keyClick(preview, Qt::Key_P, Qt::ControlModifier);
+    });
+    m_way.Preview(content, nullptr);
+    QCOMPARE(asked, u"Drucken"_s);
 }
 
 void testQtPrinter::EndingFollowsTheChosenFilter_data()

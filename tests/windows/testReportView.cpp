@@ -7,7 +7,7 @@
 #include "windows/report/cReportPane.h"
 #include "windows/report/cReportPrinter.h"
 #include "windows/report/cReportView.h"
-#include "windows/report/modReportPdf.h"
+#include "windows/print/modPages.h"
 #include "windows/report/modReportTone.h"
 #include "windows/statistics/cReportTree.h"
 
@@ -347,7 +347,7 @@ void testReportView::NothingIsLostBetweenPages()
     }
     cReportPrinter printer(html, family, u"Fuß"_s);
     QVERIFY(printer.Title().startsWith(u"Limit-Bericht für alle Konten"_s));
-    QVERIFY(modReportPdf::Bytes(printer).startsWith("%PDF-"));
+    QVERIFY(modPages::Pdf(printer).startsWith("%PDF-"));
 }
 
 // Also when its first group has gone meanwhile.

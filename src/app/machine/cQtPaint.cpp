@@ -3,14 +3,14 @@
 #include "views/chart/cChartData.h"
 #include "windows/chart/modChartPainter.h"
 #include "windows/report/cReportPrinter.h"
-#include "windows/report/modReportPdf.h"
+#include "windows/print/modPages.h"
 
 #include <QApplication>
 
 QByteArray cQtPaint::PaintReport(const QString& html)
 {
     cReportPrinter pages(html, QApplication::font().family(), QStringLiteral("Kontorelle"));
-    return modReportPdf::Bytes(pages);
+    return modPages::Pdf(pages);
 }
 
 QByteArray cQtPaint::PaintChart(const cChartData& chart, ePicture picture)

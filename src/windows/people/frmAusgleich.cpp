@@ -5,7 +5,7 @@
 #include "windows/report/cReportPane.h"
 #include "windows/report/cReportPrinter.h"
 #include "windows/report/cReportView.h"
-#include "windows/report/modReportPdf.h"
+#include "windows/print/modPages.h"
 #include "windows/widget/cPeriodPicker.h"
 #include "windows/widget/modPlace.h"
 
@@ -74,7 +74,7 @@ QLayout* frmAusgleich::BuildButtons()
     menu->addAction(cText::Tr("Als &PDF speichern…"), this, [this] {
         m_model.SavePdf([this](const QString& html) {
             cReportPrinter pages(html, font().family(), u"Kontorelle"_s);
-            return modReportPdf::Bytes(pages);
+            return modPages::Pdf(pages);
         });
     });
     menu->addAction(cText::Tr("Als &HTML-Seite oder Tabelle speichern…"), this, [this] { m_model.SaveFile(); });

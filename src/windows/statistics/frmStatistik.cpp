@@ -9,7 +9,7 @@
 #include "windows/report/cReportPane.h"
 #include "windows/report/cReportPrinter.h"
 #include "windows/report/cReportView.h"
-#include "windows/report/modReportPdf.h"
+#include "windows/print/modPages.h"
 #include "windows/statistics/cChartPane.h"
 #include "windows/statistics/cReportTree.h"
 #include "windows/widget/cFieldGrid.h"
@@ -109,7 +109,7 @@ void frmStatistik::BuildSaveMenu()
     menu->addAction(cText::Tr("Als &PDF speichern…"), this, [this] {
         m_model.SavePdf([this](const QString& html) {
             cReportPrinter pages(html, font().family(), u"Kontorelle"_s);
-            return modReportPdf::Bytes(pages);
+            return modPages::Pdf(pages);
         });
     });
     menu->addAction(cText::Tr("Als &HTML-Seite oder Tabelle speichern…"), this, [this] { m_model.SaveFile(); });
