@@ -155,8 +155,8 @@ QString Reason(int error, const QFileInfo& target)
     }
 }
 
-// True for a database and for what is kept beside one while it is open. A look into the file tells more than the path of
-// the open book would: safety copies, other books and second names of a book are as dear.
+// True for a database and for what is kept beside one while it is open. A look into the file tells more than the path
+// of the open book would: safety copies, other books and second names of a book are as dear.
 bool IsOfDatabase(const QFileInfo& target)
 {
     const QString path = target.absoluteFilePath();

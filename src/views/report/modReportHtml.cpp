@@ -285,8 +285,7 @@ QString cWriter::BudgetLine(const QString& label, const cReportAmount& amount, e
 }
 
 // The lists stand 60 pixels further in, so that the cells of all lines stand below each other.
-QString cWriter::BudgetFrame(const QString& name, const QStringList& cells, eWeight weight,
-                             const QString& tag)
+QString cWriter::BudgetFrame(const QString& name, const QStringList& cells, eWeight weight, const QString& tag)
 {
     const bool isBold = weight == eWeight::Bold;
     const QString width = isBold ? u"860px"_s : u"800px"_s;

@@ -15,10 +15,9 @@ constexpr qreal Margin = 15; // millimetres, room for holes
 [[nodiscard]] bool Paint(QPagedPaintDevice& device, cPrintable& content);
 
 // A whole PDF file; no bytes when it cannot be painted.
-[[nodiscard]] QByteArray Pdf(cPrintable& content,
-                             const QPageLayout& layout = {QPageSize(QPageSize::A4),
-                                                          QPageLayout::Portrait,
-                                                          {Margin, Margin, Margin, Margin},
-                                                          QPageLayout::Millimeter});
+[[nodiscard]] QByteArray
+Pdf(cPrintable& content,
+    const QPageLayout& layout = {
+        QPageSize(QPageSize::A4), QPageLayout::Portrait, {Margin, Margin, Margin, Margin}, QPageLayout::Millimeter});
 
 } // namespace modPages

@@ -61,8 +61,7 @@ litehtml::elements_vector LinkElements(litehtml::document& document)
 
 } // namespace
 
-cReportDocument::cReportDocument(const QString& html, const QString& family, const QString& folder,
-                                 int longestWord)
+cReportDocument::cReportDocument(const QString& html, const QString& family, const QString& folder, int longestWord)
     : m_container(std::make_unique<cReportContainer>(family, folder, longestWord)),
       m_context(std::make_unique<litehtml::context>())
 {
