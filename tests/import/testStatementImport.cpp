@@ -108,7 +108,7 @@ private Q_SLOTS:
             u"Unbekanntes Dateiformat"_s);
         row("spreadsheet", u"a.xls"_s, QByteArray("\xD0\xCF\0", 3), u"ist beschädigt oder keine Arbeitsmappe"_s);
         row("text", u"a.txt"_s, "Hallo", u"keine Spalten mit Datum und Betrag"_s);
-        row("PDF", u"a.pdf"_s, "%PDF", u"kann nicht eingelesen werden: Portable"_s);
+        row("PDF", u"a.pdf"_s, "%PDF", u"Portable Document Format (PDF-Datei)\nLaden Sie die Umsätze bei der Bank"_s);
     }
 
     void RefusesWhatIsNoStatement()
