@@ -501,6 +501,10 @@ void testFrmMain::AnotherAccountBeginsOnTheSameDay()
     QVERIFY2(before.year() == 2014 || before.year() == 2015, qPrintable(before.toString(Qt::ISODate)));
     scene.Model.ChooseAccount(u"Bargeld"_s);
     QCOMPARE(top(), before.addDays(1));
+    scene.Model.ChooseGrouping(u"Nach Monat"_s); // the day is in sight below its head, not the first line
+    QCOMPARE(top(), QDate());
+    const QModelIndex head = scene.Tree().indexAt(QPoint());
+    QCOMPARE(scene.Model.Entries().KeyAt(scene.Model.Entries().index(0, 0, head)).Day, before.addDays(1));
 }
 
 void testFrmMain::MessageStandsInPlaceOfTheReminder()
