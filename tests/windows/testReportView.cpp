@@ -349,7 +349,7 @@ void testReportView::NothingIsLostBetweenPages()
         QVERIFY(end > top);
         top = end;
     }
-    cReportPrinter printer(html, family, u"Fuß"_s);
+    cReportPrinter printer(html, family, QDate());
     QVERIFY(printer.Title().startsWith(u"Limit-Bericht für alle Konten"_s));
     QVERIFY(modPages::Pdf(printer).startsWith("%PDF-"));
 }

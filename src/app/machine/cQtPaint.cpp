@@ -2,14 +2,14 @@
 
 #include "views/chart/cChartData.h"
 #include "windows/chart/modChartPainter.h"
-#include "windows/report/cReportPrinter.h"
 #include "windows/print/modPages.h"
+#include "windows/report/cReportPrinter.h"
 
 #include <QApplication>
 
-QByteArray cQtPaint::PaintReport(const QString& html)
+QByteArray cQtPaint::PaintReport(const QString& html, QDate today)
 {
-    cReportPrinter pages(html, QApplication::font().family(), QStringLiteral("Kontorelle"));
+    cReportPrinter pages(html, QApplication::font().family(), today);
     return modPages::Pdf(pages);
 }
 

@@ -50,10 +50,10 @@ private:
 
 } // namespace
 
-cReportPrinter::cReportPrinter(const QString& html, const QString& family, const QString& foot)
+cReportPrinter::cReportPrinter(const QString& html, const QString& family, QDate today)
     : m_document(html, family, {}, longestWord),
       m_title(m_document.Heading()),
-      m_foot(foot)
+      m_foot(cPageText::Foot(today))
 {
 }
 
@@ -137,7 +137,8 @@ cReportPrinter::cLine cReportPrinter::ColumnsAt(const std::vector<cLine>& lines,
     if (line == lines.end() || !line->IsRow || line->IsHead) {
         return {};
     }
-    const auto head = std::find_if(std::reverse_iterator(line), lines.rend(), [](const cLine& each) { return each.IsHead; });
+    const auto head =
+        std::find_if(std::reverse_iterator(line), lines.rend(), [](const cLine& each) { return each.IsHead; });
     return head == lines.rend() ? cLine{} : *head;
 }
 

@@ -3,6 +3,7 @@
 #include "windows/print/cPrintable.h"
 #include "windows/report/cReportDocument.h"
 
+#include <QDate>
 #include <QRectF>
 #include <QString>
 
@@ -10,14 +11,14 @@
 
 class cPageText;
 
-// A report on paper: headline of the report at the head of every page but the first, there also the names of the columns
-// where a table goes on, foot with page numbers. Pages end between lines and between the rows of tables, and the line of
-// a group stays with what follows it.
+// A report on paper: headline of the report at the head of every page but the first, there also the names of the
+// columns where a table goes on, foot with page numbers. Pages end between lines and between the rows of tables, and
+// the line of a group stays with what follows it.
 class cReportPrinter final : public cPrintable
 {
 public:
-    // `html`: a report without links. `family`: the font of all text. `foot`: at the left of every page's end.
-    cReportPrinter(const QString& html, const QString& family, const QString& foot);
+    // `html`: a report without links. `family`: the font of all text. `today` stands at every page's end.
+    cReportPrinter(const QString& html, const QString& family, QDate today);
     ~cReportPrinter() override;
 
     [[nodiscard]] QString Title() const override { return m_title; }
