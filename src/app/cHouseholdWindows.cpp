@@ -47,7 +47,7 @@ void cHouseholdWindows::OpenSettlement(QWidget* parent)
         form.Refresh();
     });
     QObject::connect(&form, &frmAusgleich::PrintRequested, &form, [&] {
-        cReportPrinter pages(settlement.Html(), form.font().family(), QStringLiteral("Kontorelle"));
+        cReportPrinter pages(settlement.Html(), form.font().family(), m_tools.Clock.Today());
         m_printer.Print(pages, &form);
     });
     form.exec();

@@ -67,7 +67,7 @@ cNavigation::cNavigation(const cParts& parts)
       m_books({parts.Book, parts.Configuration, parts.Tools.User, parts.Rescue, parts.Shell, parts.Tools.Clock,
                parts.Host}),
       m_logs({parts.Log, parts.Tools, parts.Shell, parts.Configuration, parts.Book}),
-      m_printer(parts.Tools.User),
+      m_printer(parts.Tools.User, parts.Tools.Data),
       m_help(parts.Shell, parts.Tools.User),
       m_national(std::make_unique<cNationalSettings>(parts.Tools, parts.Configuration, parts.Format))
 {
@@ -507,13 +507,13 @@ void cNavigation::Export()
     extract.Title = modViewText::Title(m_model->View());
     extract.View = m_model->ViewLines();
     cProgressBox progress(Parent(), cText::Tr("Die Einträge werden geschrieben …"));
-    cEntryExport(m_parts.Tools, progress).Run(extract, m_parts.Tools.Clock.Today());
+    cEntryExport(m_parts.Tools, progress).Run(extract, cText::Tr("Einträge"), m_parts.Tools.Clock.Today());
 }
 
 void cNavigation::Export(const cStatementListModel& statement)
 {
     cProgressBox progress(Parent(), cText::Tr("Der Kontoauszug wird geschrieben …"));
-    cEntryExport(m_parts.Tools, progress).Run(statement.Extract(), m_parts.Tools.Clock.Today());
+    cEntryExport(m_parts.Tools, progress).Run(statement.Extract(), statement.Title(), m_parts.Tools.Clock.Today());
 }
 
 void cNavigation::Print(void (cQtPrinter::*way)(cPrintable&, QWidget*))
@@ -529,13 +529,13 @@ void cNavigation::Print(void (cQtPrinter::*way)(cPrintable&, QWidget*))
 void cNavigation::PrintStatistics(void (cQtPrinter::*way)(cPrintable&, QWidget*))
 {
     cStatisticsModel& statistics = Statistics();
-    const QString foot = QApplication::applicationDisplayName();
+    const QDate today = m_parts.Tools.Clock.Today();
     if (statistics.Page() == cStatisticsModel::ePage::Charts) {
-        cChartPrinter pages(m_statisticsPage->ShownCharts(), foot);
+        cChartPrinter pages(m_statisticsPage->ShownCharts(), today);
         (m_printer.*way)(pages, Parent());
         return;
     }
-    cReportPrinter pages(statistics.PrintHtml(), QApplication::font().family(), foot);
+    cReportPrinter pages(statistics.PrintHtml(), QApplication::font().family(), today);
     (m_printer.*way)(pages, Parent());
 }
 

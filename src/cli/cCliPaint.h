@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDate>
 #include <QString>
 
 struct cChartData;
@@ -17,6 +18,6 @@ public:
 
     // Both give a whole file, or no bytes when it cannot be painted.
     enum class ePicture { Png, Svg };
-    [[nodiscard]] virtual QByteArray PaintReport(const QString& html) = 0; // a PDF of a report without links
+    [[nodiscard]] virtual QByteArray PaintReport(const QString& html, QDate today) = 0; // a PDF, without links
     [[nodiscard]] virtual QByteArray PaintChart(const cChartData& chart, ePicture picture) = 0;
 };

@@ -53,14 +53,14 @@ std::optional<cStartRequest> cStartRequest::FromLine(const QByteArray& line)
 
 bool cStartRequest::IsBook(const QString& path)
 {
+    return IsDatabase(path) || HasBookName(path);
+}
+
+bool cStartRequest::IsDatabase(const QString& path)
+{
     QFile file(path);
-    if (!file.exists()) {
-        return HasBookName(path);
-    }
-    if (!file.open(QIODevice::ReadOnly)) {
-        return HasBookName(path);
-    }
-    return file.peek(15) == QByteArrayLiteral("SQLite format 3") || HasBookName(path);
+    return QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly)
+        && file.peek(15) == QByteArrayLiteral("SQLite format 3");
 }
 
 QString cStartRequest::TakeFiles(const QStringList& files)

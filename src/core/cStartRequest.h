@@ -30,4 +30,7 @@ struct cStartRequest
 
     // True for what begins like a database, or has nothing in it and the name of one.
     [[nodiscard]] static bool IsBook(const QString& path);
+
+    // True for what begins like a database: a book, a safety copy, or that of another program.
+    [[nodiscard]] static bool IsDatabase(const QString& path);
 };

@@ -7,6 +7,9 @@
 #include "app/machine/cQtUser.h"
 #include "app/machine/cSingleInstance.h"
 #include "app/machine/modQtFilter.h"
+#include "store/cDataAccess.h"
+#include "store/cDatabase.h"
+#include "support/cNoRoom.h"
 #include "support/cTestClass.h"
 #include "support/cTestFile.h"
 #include "support/cTestRows.h"
@@ -26,6 +29,7 @@
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPainter>
+#include <QPrintDialog>
 #include <QPrinter>
 #include <QScopeGuard>
 #include <QSignalSpy>
@@ -458,20 +462,70 @@ private Q_SLOTS:
         printer.setPageOrder(static_cast<QPrinter::PageOrder>(order));
         printer.setCopyCount(copies);
         cFivePages content;
-        QVERIFY(cQtPrinter::Spool(printer, content));
+        QCOMPARE(m_way.Spool(printer, content), QString());
         QCOMPARE(content.Painted, pages);
         QVERIFY(content.Area.height() > content.Area.width() && content.Area.width() > 0);
         QCOMPARE(cTestFile::Bytes(printer.outputFileName()).count("/Type /Page\n"), pages.size());
     }
 
-    void FileThatCannotBeWritten()
+    void FullDiskKeepsTheOldFile()
     {
         QTemporaryDir folder;
+        const QString path = folder.filePath(u"a.pdf"_s);
+        cTestFile::Write(path, "old");
         QPrinter printer;
-        PrintTo(printer, folder.filePath(u"missing/a.pdf"_s));
+        PrintTo(printer, path);
         cFivePages content;
-        QTest::ignoreMessage(QtWarningMsg, "QPainter::begin(): Returned false");
-        QVERIFY(!cQtPrinter::Spool(printer, content));
+        {
+            const cNoRoom room(100);
+            QVERIFY(m_way.Spool(printer, content).contains(u"zu groß"_s));
+        }
+        QCOMPARE(cTestFile::Bytes(path), QByteArray("old"));
+        QCOMPARE(m_way.Spool(printer, content), QString());
+        QVERIFY(cTestFile::Bytes(path).startsWith("%PDF"));
+    }
+
+    // The file of the second print is proposed beside that of the first, and it is all pages again, once.
+    void NothingOfTheLastPrintIsLeft()
+    {
+        QTemporaryDir folder;
+        cFivePages content;
+        QTimer::singleShot(0, this, [&] {
+            auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            PrintTo(*dialog->printer(), folder.filePath(u"a.pdf"_s));
+            dialog->printer()->setFromTo(2, 2);
+            dialog->printer()->setCopyCount(2);
+            dialog->done(QDialog::Accepted);
+        });
+        m_way.Print(content, nullptr);
+        QString path;
+        QTimer::singleShot(0, this, [&] {
+            auto* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+            path = dialog->printer()->outputFileName();
+            dialog->done(QDialog::Accepted);
+        });
+        m_way.Print(content, nullptr);
+        QCOMPARE(path, folder.filePath(u"Fünf.pdf"_s));
+        QCOMPARE(content.Painted, (QList<int>{2, 2, 1, 2, 3, 4, 5}));
+    }
+
+    void PreviewPrintsByKey()
+    {
+        cFivePages content;
+        QString asked;
+        QTimer::singleShot(0, this, [&] {
+            QWidget* preview = QApplication::activeModalWidget();
+            QVERIFY(QTest::qWaitForWindowActive(preview));
+            QTimer::singleShot(0, this, [&, preview] {
+                QDialog* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+                asked = dialog == nullptr ? QString() : dialog->windowTitle();
+                (dialog == nullptr ? preview : dialog)->close();
+                preview->close();
+            });
+            QTest::keyClick(preview, Qt::Key_P, Qt::ControlModifier);
+        });
+        m_way.Preview(content, nullptr);
+        QCOMPARE(asked, u"Drucken"_s);
     }
 
     void EndingFollowsTheChosenFilter_data()
@@ -496,6 +550,10 @@ private:
     }
 
     QTemporaryDir m_folder;
+    cFakeUser m_user;
+    cDatabase m_database;
+    cDataAccess m_book{m_database, m_user};
+    cQtPrinter m_way{m_user, m_book};
     const QString m_key = u"SOFTWARE\\Veltrino Kontorelle"_s;
     const QString m_legacyKey = u"SOFTWARE\\KontorelleFreeware"_s;
 };

@@ -317,7 +317,7 @@ private Q_SLOTS:
             form->close();
         });
         program->Model().Execute(modCommand::AccountStatement);
-        QCOMPARE(seen, (QStringList{u"PDF-Auszüge: 4711"_s, u"März 2026 (8 bytes)"_s}));
+        QCOMPARE(seen, (QStringList{u"PDF-Auszüge: 4711"_s, u"März 2026 (8 Byte)"_s}));
         program->Model().Execute(modCommand::Undo);
         const cStatementListModel statement(program->Tools());
         QCOMPARE(statement.PapersText(), u"&PDF-Auszüge…"_s);

@@ -16,7 +16,7 @@
 class cNoPaint final : public cCliPaint
 {
 public:
-    QByteArray PaintReport(const QString& /*html*/) override { return {}; }
+    QByteArray PaintReport(const QString& /*html*/, QDate /*today*/) override { return {}; }
     QByteArray PaintChart(const cChartData& /*chart*/, ePicture /*picture*/) override { return {}; }
 };
 

@@ -119,7 +119,7 @@ private Q_SLOTS:
         row("text", u"a.txt"_s, "Hallo", u"keine Spalten mit Datum und Betrag"_s);
         row("page to log in", u"umsaetze.csv"_s, "<!DOCTYPE html>\n<html><title>Anmelden, PIN</title></html>",
             u"Internetseite"_s);
-        row("PDF", u"a.pdf"_s, "%PDF", u"kann nicht eingelesen werden: Portable"_s);
+        row("PDF", u"a.pdf"_s, "%PDF", u"Portable Document Format (PDF-Datei)\nLaden Sie die Umsätze bei der Bank"_s);
     }
 
     void RefusesWhatIsNoStatement()

@@ -361,14 +361,15 @@ private Q_SLOTS:
         cTestBook book;
         cFakeUser& user = book.User;
         user.SavePath = folder.Path(name);
-        const cEntryExport::eDone done = cEntryExport(book.Tools, m_progress).Run(Extract(), QDate(2026, 3, 15));
+        const cEntryExport::eDone done =
+            cEntryExport(book.Tools, m_progress).Run(Extract(), u"Kontoauszug Giro/Tages"_s, QDate(2026, 3, 15));
         QCOMPARE(done, start.isEmpty() ? cEntryExport::eDone::Failed : cEntryExport::eDone::Written);
         QCOMPARE(QFile::exists(user.SavePath), !start.isEmpty());
         QVERIFY(cTestFile::Bytes(user.SavePath).startsWith(start));
         QCOMPARE(user.Asked,
                  QStringList(u"CSV-Datei|*.csv|Excel-Datei|*.xlsx|HTML-Datei|*.html|QIF-Datei|*.qif|"
                              "Alle Dateien|*.*"_s));
-        QCOMPARE(user.LastProposal, u"Kontorelle-Einträge-2026-03-15"_s);
+        QCOMPARE(user.LastProposal, u"Kontorelle-Kontoauszug Giro-Tages-2026-03-15"_s);
         QVERIFY2(user.Shown.value(0).contains(start.isEmpty()
                                                   ? u".csv, .xlsx, .html, .qif"_s
                                                   : u"4 Einträge wurden nach '%1' exportiert."_s.arg(user.SavePath)),
@@ -386,12 +387,14 @@ private Q_SLOTS:
         content.Entries = cEntryItemList(2000, Content().Entries.constFirst());
         m_model->SetContent(content, {}, modWord::KeineGruppierung);
         cFakeStop cancelled;
-        QCOMPARE(cEntryExport(book.Tools, cancelled).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::GivenUp);
+        QCOMPARE(cEntryExport(book.Tools, cancelled).Run(Extract(), u"Einträge"_s, QDate(2026, 3, 15)),
+                 cEntryExport::eDone::GivenUp);
         QVERIFY(user.Shown.isEmpty());
         QCOMPARE(cTestFile::Bytes(user.SavePath), QByteArray("old"));
 
         user.SavePath = folder.Path(u"missing/a.csv"_s);
-        QCOMPARE(cEntryExport(book.Tools, m_progress).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::Failed);
+        QCOMPARE(cEntryExport(book.Tools, m_progress).Run(Extract(), u"Einträge"_s, QDate(2026, 3, 15)),
+                 cEntryExport::eDone::Failed);
         QVERIFY2(user.Shown.value(0).contains(user.SavePath), qPrintable(user.Shown.value(0)));
     }
 
@@ -400,7 +403,8 @@ private Q_SLOTS:
         cTestBook book;
         cFakeUser& user = book.User;
         m_model->SetFilter(u"gibt es nicht"_s);
-        QCOMPARE(cEntryExport(book.Tools, m_progress).Run(Extract(), QDate(2026, 3, 15)), cEntryExport::eDone::Failed);
+        QCOMPARE(cEntryExport(book.Tools, m_progress).Run(Extract(), u"Einträge"_s, QDate(2026, 3, 15)),
+                 cEntryExport::eDone::Failed);
         QVERIFY(user.Asked.isEmpty());
         QCOMPARE(user.Shown.size(), 1);
     }
@@ -499,6 +503,26 @@ private Q_SLOTS:
         QCOMPARE(modFileWrite::Replace(link, "new"), QString());
         QCOMPARE(cTestFile::Bytes(target), QByteArray("new"));
         QCOMPARE(Names(), before);
+    }
+
+    void NoDatabaseIsReplaced_data()
+    {
+        const cTestRows<QString> row("name");
+        row("itself", u"data.db"_s);
+        row("its link", u"link.pdf"_s);
+        row("its journal", u"data.db-journal"_s);
+        row("its lock", u"data.db.lock"_s);
+    }
+
+    void NoDatabaseIsReplaced()
+    {
+        QFETCH(const QString, name);
+        const QByteArray book("SQLite format 3\0 and more", 25);
+        cTestFile::Write(m_files.Path(u"data.db"_s), book);
+        QVERIFY(QFile::link(u"data.db"_s, m_files.Path(u"link.pdf"_s)));
+        QVERIFY(modFileWrite::Replace(m_files.Path(name), "%PDF").contains(u"Haushaltsbuch"_s));
+        QCOMPARE(cTestFile::Bytes(m_files.Path(u"data.db"_s)), book);
+        QCOMPARE(Names(), (QStringList{u"data.db"_s, u"link.pdf"_s}));
     }
 
     void BookThatCouldNotBeReadIsNotExported()

@@ -266,6 +266,9 @@ private Q_SLOTS:
         statement.SetFilter(u"rewe"_s);
         QCOMPARE(Column(statement, cStatementListModel::Balance), u"-4,99 0,01"_s);
         QCOMPARE(statement.TotalText(), scene.Format.Cents(-2810));
+        statement.ChoosePeriod(u"Buchungen bis heute"_s);
+        const QString today = modDate::ToText(statement.Today());
+        QCOMPARE(statement.Lines().at(1), u"Zeitraum: Buchungen bis heute (%1)"_s.arg(today));
         statement.ChoosePeriod(modWord::FreierZeitraum);
         statement.ChooseFreeRange({QDate(2026, 5, 3), QDate(2026, 6, 4)});
         QCOMPARE(Column(statement, cStatementListModel::Day), u"04.06.2026"_s);

@@ -99,7 +99,8 @@ private Q_SLOTS:
         row("no PDF", u"a.pdf"_s, "%PDF-1.7 kaputt", u"Die Datei ist beschädigt"_s);
         row("half a picture", u"a.png"_s, QByteArray::fromHex("89504e470d0a1a0a0000000d49484452"),
             u"Die Datei ist beschädigt"_s);
-        row("no picture", u"a.odt"_s, "PK", u"Für diese Art von Datei"_s);
+        row("no picture", u"a.odt"_s, "PK", u"Für diese Art von Datei gibt es keine Vorschau. „Öffnen“"_s);
+        row("nothing to open", u"a.html"_s, "<p>", u"Für diese Art von Datei gibt es keine Vorschau. „Speichern"_s);
     }
 
     void FilesThatAreNoneAreSaid()

@@ -424,6 +424,10 @@ private Q_SLOTS:
         QVERIFY2(before.year() == 2014 || before.year() == 2015, qPrintable(before.toString(Qt::ISODate)));
         m_scene->Model.ChooseAccount(u"Bargeld"_s);
         QCOMPARE(top(), before.addDays(1));
+        m_scene->Model.ChooseGrouping(u"Nach Monat"_s); // the day is in sight below its head, not the first line
+        QCOMPARE(top(), QDate());
+        const QModelIndex head = m_scene->Tree().indexAt(QPoint());
+        QCOMPARE(m_scene->Model.Entries().KeyAt(m_scene->Model.Entries().index(0, 0, head)).Day, before.addDays(1));
     }
 
     void MessageStandsInPlaceOfTheReminder()

@@ -8,20 +8,23 @@
 #include "views/report/modReportHtml.h"
 #include "windows/help/frmHandbuch.h"
 #include "windows/look/modPalette.h"
+#include "windows/print/modPages.h"
 #include "windows/report/cReportDocument.h"
 #include "windows/report/cReportPane.h"
 #include "windows/report/cReportPrinter.h"
 #include "windows/report/cReportView.h"
-#include "windows/report/modReportPdf.h"
 #include "windows/report/modReportTone.h"
 #include "windows/statistics/cReportTree.h"
 
 #include <QAccessible>
 #include <QApplication>
+#include <QBuffer>
 #include <QClipboard>
 #include <QLineEdit>
+#include <QPainter>
 #include <QScrollBar>
 #include <QSignalSpy>
+#include <QSvgGenerator>
 #include <QTimer>
 #include <QTreeWidget>
 #include <QWindow>
@@ -358,7 +361,7 @@ private Q_SLOTS:
         cReportDocument report(html, family);
         report.LayOut(680);
         const std::vector<cReportPiece> pieces = report.Pieces();
-        const cLines lines = cReportPrinter::Lines(pieces);
+        const cLines lines = cReportPrinter::Lines(report, 350);
         QVERIFY(lines.size() >= 180);
         int top = 0;
         while (top < report.Size().height()) {
@@ -370,9 +373,43 @@ private Q_SLOTS:
             QVERIFY(end > top);
             top = end;
         }
-        cReportPrinter printer(html, family, u"Fuß"_s);
+        cReportPrinter printer(html, family, QDate());
         QVERIFY(printer.Title().startsWith(u"Limit-Bericht für alle Konten"_s));
-        QVERIFY(modReportPdf::Bytes(printer).startsWith("%PDF-"));
+        QVERIFY(modPages::Pdf(printer).startsWith("%PDF-"));
+    }
+
+    // Each row is whole on one page, once, below the names of its columns. A long word makes nothing smaller.
+    void TablesGoOnWithTheirColumns()
+    {
+        const auto pages = [](const QString& first) {
+            QString html = u"<h1>Titel</h1><table><tr><th>Kopf</th></tr><tr><td>%1</td></tr>"_s.arg(first);
+            for (int i = 100; i < 200; ++i) {
+                html += u"<tr><td>Eins%1 <br> Zwei%1 <br> Drei%1</td></tr>"_s.arg(i);
+            }
+            cReportPrinter printer(html + u"</table>"_s, family, {});
+            QStringList texts;
+            for (int page = 0, count = 1; page < count; ++page) {
+                QBuffer file;
+                QSvgGenerator svg;
+                svg.setOutputDevice(&file);
+                count = printer.LayOut(svg, QRectF(0, 0, 700, 1000));
+                QPainter painter(&svg);
+                printer.PaintPage(painter, page);
+                painter.end();
+                texts.append(QString::fromUtf8(file.data()));
+            }
+            return texts;
+        };
+        const QStringList texts = pages(u"kurz"_s);
+        for (const QString& text : texts) {
+            QCOMPARE(text.count(u">Kopf<"_s), 1);
+        }
+        for (int i = 100; i < 200; ++i) {
+            const QStringList own = texts.filter(u"Eins%1<"_s.arg(i));
+            QCOMPARE(own.size(), 1);
+            QVERIFY(own.constFirst().contains(u"Zwei%1<"_s.arg(i)) && own.constFirst().contains(u"Drei%1<"_s.arg(i)));
+        }
+        QVERIFY(pages(QString(300, u'x')).size() >= texts.size());
     }
 
     // Also when its first group has gone meanwhile.

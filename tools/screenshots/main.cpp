@@ -441,7 +441,7 @@ bool TakeStatistics(cCamera& camera)
                                      std::pair{eReport::Sum, u"summe"_s}, std::pair{eReport::Limit, u"limit"_s}}) {
         model.ChooseReport(type);
         camera.Take(window, u"bericht-"_s + name);
-        cReportPrinter pages(model.PrintHtml(), QApplication::font().family(), u"Kontorelle"_s);
+        cReportPrinter pages(model.PrintHtml(), QApplication::font().family(), sceneDay);
         TakePages(camera, pages, u"druck-"_s + name);
     }
     model.ChooseReport(eReport::Sum);
@@ -457,7 +457,7 @@ bool TakeStatistics(cCamera& camera)
     model.FirstChart().ChooseKind(eChartKind::ExpenseMonths);
     model.SecondChart().ChooseKind(eChartKind::Balances);
     camera.Take(window, u"diagramme-verlauf"_s);
-    cChartPrinter charts({model.FirstChart().Data(), model.SecondChart().Data()}, u"Kontorelle"_s);
+    cChartPrinter charts({model.FirstChart().Data(), model.SecondChart().Data()}, sceneDay);
     TakePages(camera, charts, u"druck-diagramme"_s);
     model.ShowNode({eReportKind::Expense, u"Wohnung"_s});
     camera.Take(window, u"bericht-eintraege"_s);

@@ -2,15 +2,15 @@
 
 #include "views/chart/cChartData.h"
 #include "windows/chart/modChartPainter.h"
+#include "windows/print/modPages.h"
 #include "windows/report/cReportPrinter.h"
-#include "windows/report/modReportPdf.h"
 
 #include <QApplication>
 
-QByteArray cQtPaint::PaintReport(const QString& html)
+QByteArray cQtPaint::PaintReport(const QString& html, QDate today)
 {
-    cReportPrinter pages(html, QApplication::font().family(), QStringLiteral("Kontorelle"));
-    return modReportPdf::Bytes(pages);
+    cReportPrinter pages(html, QApplication::font().family(), today);
+    return modPages::Pdf(pages);
 }
 
 QByteArray cQtPaint::PaintChart(const cChartData& chart, ePicture picture)

@@ -2,16 +2,24 @@
 
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "views/list/modFileWrite.h"
 #include "windows/print/cPrintable.h"
+#include "windows/print/modPages.h"
 
+#include <QAction>
 #include <QApplication>
-#include <QPainter>
+#include <QDir>
+#include <QFileInfo>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrintPreviewDialog>
+#include <QToolBar>
+#include <QToolButton>
 
 #include <algorithm>
 #include <vector>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -21,101 +29,146 @@ QString DocumentName(const cPrintable& content)
     return content.Title().replace(u'.', u'-');
 }
 
-// The pages of one copy in the order in which they are wanted, counted from 0.
-std::vector<int> Wanted(const QPrinter& printer, int count)
+// The pages that a printer is set to, as often and in the order in which they are wanted.
+class cWantedPages final : public cPrintable
 {
-    const int first = qBound(1, printer.fromPage(), count);
-    const int last = printer.toPage() == 0 ? count : qBound(first, printer.toPage(), count);
-    std::vector<int> pages;
-    for (int page = first; page <= last; ++page) {
-        pages.push_back(page - 1);
+public:
+    cWantedPages(cPrintable& content, const QPrinter& printer) : m_content(content), m_printer(printer) {}
+
+    [[nodiscard]] QString Title() const override { return m_content.Title(); }
+
+    int LayOut(QPaintDevice& device, const QRectF& area) override
+    {
+        const int count = m_content.LayOut(device, area);
+        const int first = qBound(1, m_printer.fromPage(), count);
+        const int last = m_printer.toPage() == 0 ? count : qBound(first, m_printer.toPage(), count);
+        m_pages.clear();
+        for (int page = first; page <= last; ++page) {
+            m_pages.push_back(page - 1);
+        }
+        if (m_printer.pageOrder() == QPrinter::LastPageFirst) {
+            std::reverse(m_pages.begin(), m_pages.end());
+        }
+        const int copies = m_printer.supportsMultipleCopies() ? 1 : m_printer.copyCount();
+        return static_cast<int>(m_pages.size()) * copies;
     }
-    if (printer.pageOrder() == QPrinter::LastPageFirst) {
-        std::reverse(pages.begin(), pages.end());
+
+    void PaintPage(QPainter& painter, int page) const override
+    {
+        m_content.PaintPage(painter, m_pages[static_cast<std::size_t>(page) % m_pages.size()]);
     }
-    return pages;
+
+private:
+    cPrintable& m_content;
+    const QPrinter& m_printer;
+    std::vector<int> m_pages; // of one copy, counted from 0
+};
+
+bool IsFile(const QPrinter& printer)
+{
+    return printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty();
+}
+
+// What only the mouse reaches in the toolkit's window: its buttons, and the last of them, which prints.
+QAction* OpenToKeys(QPrintPreviewDialog& dialog)
+{
+    const QList<QToolButton*> buttons = dialog.findChildren<QToolButton*>();
+    for (QToolButton* button : buttons) {
+        button->setFocusPolicy(Qt::TabFocus);
+    }
+    QAction* print = dialog.findChild<QToolBar*>()->actions().constLast();
+    print->setShortcut(QKeySequence::Print);
+    return print;
 }
 
 } // namespace
 
-cQtPrinter::cQtPrinter(cUser& user) : m_user(user)
+// Another one each time: a printer keeps the range and the copies of its last print, its file, and the failure of it.
+std::unique_ptr<QPrinter> cQtPrinter::Printer(const cPrintable& content) const
 {
+    QApplication::setOverrideCursor(Qt::WaitCursor); // looking for printers takes a moment
+    auto printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
+    if (!m_printer.isEmpty()) {
+        printer->setPrinterName(m_printer);
+    }
+    QApplication::restoreOverrideCursor();
+    if (m_layout) {
+        printer->setPageLayout(*m_layout);
+    } else {
+        constexpr qreal margin = modPages::Margin;
+        printer->setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
+    }
+    printer->setCreator(QApplication::applicationName());
+    printer->setDocName(DocumentName(content));
+    if (!m_folder.isEmpty()) {
+        printer->setOutputFileName(QDir(m_folder).filePath(DocumentName(content) + u".pdf"_s));
+    }
+    return printer;
 }
 
-cQtPrinter::~cQtPrinter() = default;
-
-QPrinter& cQtPrinter::Printer()
+void cQtPrinter::Remember(const QPrinter& printer)
 {
-    if (!m_printer) {
-        constexpr qreal margin = 15; // millimetres, room for holes
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        m_printer = std::make_unique<QPrinter>(QPrinter::HighResolution);
-        QApplication::restoreOverrideCursor();
-        m_printer->setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
-        m_printer->setCreator(QApplication::applicationName());
-    }
-    return *m_printer;
+    m_layout = printer.pageLayout();
+    m_printer = printer.printerName();
+    m_folder = IsFile(printer) ? QFileInfo(printer.outputFileName()).absolutePath() : QString();
 }
 
-bool cQtPrinter::Spool(QPrinter& printer, cPrintable& content)
+QString cQtPrinter::Spool(QPrinter& printer, cPrintable& content) const
 {
-    QPainter painter;
-    if (!painter.begin(&printer)) {
-        return false;
+    cWantedPages pages(content, printer);
+    if (IsFile(printer)) {
+        return modFileWrite::Export(m_book, printer.outputFileName(), modPages::Pdf(pages, printer.pageLayout()));
     }
-    const QRectF area(QPointF(), printer.pageRect(QPrinter::DevicePixel).size());
-    const std::vector<int> pages = Wanted(printer, content.LayOut(printer, area));
-    const int copies = printer.supportsMultipleCopies() ? 1 : printer.copyCount();
-    bool isFirst = true;
-    for (int copy = 0; copy < copies; ++copy) {
-        for (const int page : pages) {
-            if (!isFirst && !printer.newPage()) {
-                return false;
-            }
-            isFirst = false;
-            content.PaintPage(painter, page);
-        }
-    }
-    return painter.end() && printer.printerState() != QPrinter::Error;
+    return modPages::Paint(printer, pages) && printer.printerState() != QPrinter::Error
+        ? QString()
+        : cText::Tr("Der Druck ist fehlgeschlagen. Bitte prüfen Sie den Drucker.");
 }
 
-void cQtPrinter::Print(cPrintable& content, QWidget* parent)
+bool cQtPrinter::Ask(QPrinter& printer, cPrintable& content, QWidget* parent)
 {
-    QPrinter& printer = Printer();
-    printer.setDocName(DocumentName(content));
     QPrintDialog dialog(&printer, parent);
     dialog.setWindowTitle(cText::Tr("Drucken"));
     dialog.setOptions(QAbstractPrintDialog::PrintToFile | QAbstractPrintDialog::PrintPageRange
                       | QAbstractPrintDialog::PrintCollateCopies | QAbstractPrintDialog::PrintShowPageSize);
     if (dialog.exec() != QDialog::Accepted) {
-        return;
+        return false;
     }
+    Remember(printer);
     QApplication::setOverrideCursor(Qt::WaitCursor);
-    const bool isPrinted = Spool(printer, content);
+    const QString problem = Spool(printer, content);
     QApplication::restoreOverrideCursor();
-    if (!isPrinted) {
-        m_user.Show(eTone::Critical,
-                    cText::Tr("Der Druck ist fehlgeschlagen. Bitte prüfen Sie den Drucker oder den Namen der Datei."));
+    if (!problem.isEmpty()) {
+        m_user.Show(eTone::Critical, problem);
     }
+    return true;
+}
+
+void cQtPrinter::Print(cPrintable& content, QWidget* parent)
+{
+    (void)Ask(*Printer(content), content, parent);
 }
 
 void cQtPrinter::Preview(cPrintable& content, QWidget* parent)
 {
-    QPrinter& printer = Printer();
-    printer.setDocName(DocumentName(content));
-    // Range, order and copies were only meant for the last print.
-    printer.setFromTo(0, 0);
-    printer.setPageOrder(QPrinter::FirstPageFirst);
-    printer.setCopyCount(1);
-    QPrintPreviewDialog dialog(&printer, parent);
+    const std::unique_ptr<QPrinter> printer = Printer(content);
+    QPrintPreviewDialog dialog(printer.get(), parent);
     dialog.setWindowTitle(cText::Tr("Seitenansicht"));
     if (parent != nullptr) {
         dialog.resize(parent->size());
     }
     QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&content](QPrinter* target) {
         QApplication::setOverrideCursor(Qt::WaitCursor);
-        (void)Spool(*target, content);
+        (void)modPages::Paint(*target, content);
         QApplication::restoreOverrideCursor();
     });
+    // The window's own way of printing tells nothing about a failure.
+    QAction* print = OpenToKeys(dialog);
+    QObject::disconnect(print, nullptr, &dialog, nullptr);
+    QObject::connect(print, &QAction::triggered, &dialog, [&] {
+        if (Ask(*printer, content, &dialog)) {
+            dialog.accept();
+        }
+    });
     dialog.exec();
+    m_layout = printer->pageLayout();
 }

@@ -1,20 +1,24 @@
 #pragma once
 
+#include <QPageLayout>
+#include <QString>
+
 #include <memory>
+#include <optional>
 
 class QPrinter;
 class QWidget;
+class cDataAccess;
 class cPrintable;
 class cUser;
 
-// Printing with the system's dialogs. Paper and direction are kept until the program ends.
+// Printing with the system's dialogs. Paper and direction, and where the last print went, are kept until the program
+// ends.
 class cQtPrinter
 {
 public:
-    explicit cQtPrinter(cUser& user);
-    ~cQtPrinter();
-    cQtPrinter(const cQtPrinter&) = delete;
-    cQtPrinter& operator=(const cQtPrinter&) = delete;
+    // What is printed into a file comes from this book.
+    cQtPrinter(cUser& user, const cDataAccess& book) : m_user(user), m_book(book) {}
 
     // Asks for printer, pages and copies, and prints; a file (PDF) can be chosen there as well.
     void Print(cPrintable& content, QWidget* parent);
@@ -22,12 +26,18 @@ public:
     // Shows the pages as they will be printed; from there they can be printed too.
     void Preview(cPrintable& content, QWidget* parent);
 
-    // Paints the pages that the printer is set to: range, order and copies. False when it takes none.
-    [[nodiscard]] static bool Spool(QPrinter& printer, cPrintable& content);
+    // Paints the pages that the printer is set to: range, order and copies. What went wrong, in German; empty when
+    // nothing did.
+    [[nodiscard]] QString Spool(QPrinter& printer, cPrintable& content) const;
 
 private:
-    [[nodiscard]] QPrinter& Printer(); // looking for printers takes a moment, so only when one is needed
+    [[nodiscard]] std::unique_ptr<QPrinter> Printer(const cPrintable& content) const;
+    void Remember(const QPrinter& printer);
+    [[nodiscard]] bool Ask(QPrinter& printer, cPrintable& content, QWidget* parent);
 
     cUser& m_user;
-    std::unique_ptr<QPrinter> m_printer;
+    const cDataAccess& m_book;
+    std::optional<QPageLayout> m_layout;
+    QString m_printer; // its name; empty for the system's usual one
+    QString m_folder;  // of the last file; empty when the last print was none
 };

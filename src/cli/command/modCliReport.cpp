@@ -191,7 +191,7 @@ bool WritePdf(const cCliContext& context, cReportSource& source, cReportWish wis
 {
     wish.Links = eReportLinks::Off;
     return modCliFlow::WriteFile(context, context.Call.Value(u"pdf"_s),
-                                 {context.Ports.Paint->PaintReport(source.Html(wish))});
+                                 {context.Ports.Paint->PaintReport(source.Html(wish), wish.Today)});
 }
 
 // Writes the files that are asked for; their paths, or nothing after a message.

@@ -32,8 +32,8 @@ modFileWrite::cContent Content(const QString& option, const cSettlement& settlem
 {
     const cBookTools& tools = context.Book->Tools;
     if (option == u"pdf") {
-        return {
-            context.Ports.Paint->PaintReport(modSettlementText::Html(settlement, tools.Format, context.Clock.Today()))};
+        return {context.Ports.Paint->PaintReport(
+            modSettlementText::Html(settlement, tools.Format, context.Clock.Today()), context.Clock.Today())};
     }
     using enum cReportExport::eFormat;
     return modSettlementExport::Content(settlement, option == u"csv" ? Csv : option == u"xlsx" ? Xlsx : Html, tools);

@@ -50,7 +50,7 @@ cImportResult Refuse(cImportResult result, const QString& message)
 cImportResult RefuseFormat(cImportResult result, eStatementFormat format)
 {
     result.Format = modStatementFormat::Name(format);
-    return Refuse(std::move(result), modStatementFormat::Refusal(format));
+    return Refuse(std::move(result), modStatementFormat::Refusal(format) + modStatementFormat::WayOut(format));
 }
 
 cImportResult RefuseCurrency(cImportResult result, const modStatementCurrency::cOthers& others, qsizetype rows,

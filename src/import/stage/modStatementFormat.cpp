@@ -182,6 +182,17 @@ modStatementFormat::cReader modStatementFormat::Reader(eStatementFormat format)
     return known == nullptr ? nullptr : known->Read;
 }
 
+QString modStatementFormat::WayOut(eStatementFormat format)
+{
+    return u'\n'
+        + (format == eStatementFormat::Pdf
+               ? cText::Tr(
+                   "Laden Sie die Umsätze bei der Bank als CAMT-, MT940- oder CSV-Datei herunter. Den PDF-Auszug "
+                   "selbst können Sie aufheben: unter „Extras“, „Kontoauszug anzeigen“, „PDF-Auszüge…“. Eine "
+                   "Rechnung hängen Sie als Beleg an ihren Eintrag.")
+               : cText::Tr("Laden Sie die Umsätze bei der Bank als CAMT-, MT940- oder CSV-Datei herunter."));
+}
+
 QString modStatementFormat::Refusal(eStatementFormat format)
 {
     return cText::Tr("Dieses Format kann nicht eingelesen werden: {0}", {Name(format)});

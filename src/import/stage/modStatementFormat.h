@@ -35,4 +35,7 @@ using cReader = cStatementRead (*)(const cStatementSource& source, const cReadOp
 // Why a format without reader is refused.
 [[nodiscard]] QString Refusal(eStatementFormat format);
 
+// What whoever has such a file can do; a sentence in a line of its own.
+[[nodiscard]] QString WayOut(eStatementFormat format);
+
 } // namespace modStatementFormat

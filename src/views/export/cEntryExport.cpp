@@ -11,14 +11,14 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-cEntryExport::eDone cEntryExport::Run(const cEntryExtract& extract, QDate today)
+cEntryExport::eDone cEntryExport::Run(const cEntryExtract& extract, const QString& what, QDate today)
 {
     const QString title = cText::Tr("Daten exportieren");
     if (extract.Rows.empty()) {
         return Refuse(cText::Tr("Die Liste enthält keine Einträge, die exportiert werden könnten."));
     }
     // Without ending: the dialog adds the one of the kind of file that is chosen there.
-    const QString proposal = cText::Tr("Kontorelle-Einträge-{0}", {modDate::ToIso(today)});
+    const QString proposal = u"Kontorelle-%1-%2"_s.arg(QString(what).replace(u'/', u'-'), modDate::ToIso(today));
     const QString path = m_tools.User.ChooseSavePath(title, modExport::Filter(), proposal);
     if (path.isEmpty()) {
         return eDone::GivenUp;

@@ -15,8 +15,8 @@ public:
 
     cEntryExport(const cBookTools& tools, cProgress& progress) : m_tools(tools), m_progress(progress) {}
 
-    // Lets the user choose a file, whose ending decides the format. `today` becomes part of the proposed name.
-    eDone Run(const cEntryExtract& extract, QDate today);
+    // Lets the user choose a file, whose ending decides the format. `what` and `today` make the proposed name.
+    eDone Run(const cEntryExtract& extract, const QString& what, QDate today);
 
     // Writes the file and shows a message when that fails. A file that stands there already is replaced only once the
     // new one is complete.

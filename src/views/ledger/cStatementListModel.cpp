@@ -16,6 +16,7 @@
 #include "views/list/cListFilter.h"
 #include "views/list/modImportText.h"
 #include "views/list/modUnread.h"
+#include "views/main/modViewText.h"
 
 #include <algorithm>
 #include <array>
@@ -353,11 +354,7 @@ QString cStatementListModel::Title() const
 
 QStringList cStatementListModel::Lines() const
 {
-    const modPeriod::cRange range = Range();
-    QStringList lines{cText::Tr("Kontonummer: {0}", {Number()})};
-    if (range.Start.isValid() || range.End.isValid()) {
-        lines.append(cText::Tr("Zeitraum: {0} bis {1}", {modDate::ToText(range.Start), modDate::ToText(range.End)}));
-    }
+    QStringList lines{cText::Tr("Kontonummer: {0}", {Number()}), modViewText::Period(m_period, Range())};
     if (!m_words.isEmpty()) {
         lines.append(cText::Tr("Suchtext: {0}", {m_typed}));
     }

@@ -1,5 +1,6 @@
 #include "views/list/modFileSize.h"
 
+#include "base/cText.h"
 #include "base/modSum.h"
 #include "core/cAmountFormat.h"
 
@@ -7,6 +8,10 @@
 
 QString modFileSize::Text(qint64 bytes, const cAmountFormat& format)
 {
+    constexpr qint64 kilo = 1024;
+    if (bytes < kilo) {
+        return cText::Tr("{0} Byte", {QString::number(bytes)});
+    }
     const QString size = QLocale::c().formattedDataSize(bytes, 1, QLocale::DataSizeTraditionalFormat);
     return QString(size).replace(u'.', modSum::Sign(format.Decimal()));
 }

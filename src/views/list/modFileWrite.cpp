@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/modMD5.h"
+#include "core/cStartRequest.h"
 #include "store/cDataAccess.h"
 
 #include <QDir>
@@ -13,6 +14,8 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -152,6 +155,18 @@ QString Reason(int error, const QFileInfo& target)
     }
 }
 
+// True for a database and for what is kept beside one while it is open. A look into the file tells more than the path
+// of the open book would: safety copies, other books and second names of a book are as dear.
+bool IsOfDatabase(const QFileInfo& target)
+{
+    const QString path = target.absoluteFilePath();
+    const std::array<QLatin1StringView, 4> companions{"-journal"_L1, "-wal"_L1, "-shm"_L1, ".lock"_L1};
+    return cStartRequest::IsDatabase(path)
+        || std::any_of(companions.begin(), companions.end(), [&path](QLatin1StringView ending) {
+               return path.endsWith(ending) && cStartRequest::IsDatabase(path.chopped(ending.size()));
+           });
+}
+
 // Why nothing may take the place of what stands there; empty when something may.
 QString Obstacle(const QFileInfo& target)
 {
@@ -163,6 +178,10 @@ QString Obstacle(const QFileInfo& target)
     }
     if (target.exists() && !target.isFile()) {
         return cText::Tr("Unter diesem Namen gibt es etwas anderes als eine Datei, zum Beispiel ein Gerät.");
+    }
+    if (IsOfDatabase(target)) {
+        return cText::Tr("Sie gehört zu einer Datenbank, zum Beispiel zu Ihrem Haushaltsbuch oder zu einer "
+                         "Datensicherung. Bitte wählen Sie einen anderen Namen.");
     }
     return target.exists() && !target.isWritable() ? cText::Tr("Die Datei ist schreibgeschützt.") : QString();
 }

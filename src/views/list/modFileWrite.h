@@ -9,7 +9,8 @@ class cDataAccess;
 namespace modFileWrite {
 
 // Replaces the file once all bytes are on the disk; what stood there before stays when that fails, also when the
-// program is killed. Refuses what is no regular file. What went wrong, in German; empty when the file is complete.
+// program is killed. Refuses what is no regular file or belongs to a database. What went wrong, in German; empty when
+// the file is complete.
 [[nodiscard]] QString Replace(const QString& path, const QByteArray& bytes);
 
 // The same for what was made from a book: not as long as that could not be read whole, for the file would lack

@@ -21,13 +21,6 @@ QString Days(const modPeriod::cRange& range)
     return end.isEmpty() ? start : cText::Tr("{0} bis {1}", {start, end});
 }
 
-QString PeriodLine(const cViewState& view, const modPeriod::cRange& range)
-{
-    const QString name = modWord::Periods().ToShown(view.Period);
-    const QString days = Days(range);
-    return days.isEmpty() ? cText::Tr("Zeitraum: {0}", {name}) : cText::Tr("Zeitraum: {0} ({1})", {name, days});
-}
-
 QStringList Hidden(const cViewState& view)
 {
     QStringList hidden;
@@ -70,10 +63,17 @@ QString modViewText::Balances(const cViewState& view, QDate today)
                                          : cText::Tr("Kontostände bis {0}", {modDate::ToText(end)});
 }
 
+QString modViewText::Period(const QString& name, const modPeriod::cRange& range)
+{
+    const QString shown = modWord::Periods().ToShown(name);
+    const QString days = Days(range);
+    return days.isEmpty() ? cText::Tr("Zeitraum: {0}", {shown}) : cText::Tr("Zeitraum: {0} ({1})", {shown, days});
+}
+
 QStringList modViewText::Lines(const cViewState& view, const modPeriod::cRange& range)
 {
     const QString account = view.FilterAccount();
-    QStringList lines{PeriodLine(view, range),
+    QStringList lines{Period(view.Period, range),
                       cText::Tr("Konto: {0}", {account.isEmpty() ? cText::Tr("Alle Konten") : account})};
     if (view.Type != modWord::AlleBuchungsarten) {
         lines.append(cText::Tr("Buchungsart: {0}", {modWord::ViewTypes().ToShown(view.Type)}));

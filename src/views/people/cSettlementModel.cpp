@@ -98,7 +98,7 @@ void cSettlementModel::SavePdf(const fnPaintPdf& paint)
     const QString title = cText::Tr("Als PDF speichern");
     const QString path = AskPath(title, cText::Tr("PDF-Datei|*.pdf|Alle Dateien|*.*"));
     if (!path.isEmpty()) {
-        Save(title, path, {paint(m_html)});
+        Save(title, path, {paint(m_html, m_tools.Clock.Today())});
     }
 }
 

@@ -30,7 +30,7 @@ public:
     [[nodiscard]] QString Hint() const;         // what has to be done before there is anything to see; none: nothing
 
     // Ask for a file. `paint` makes a PDF of a report, no bytes on failure. The ending decides between page and tables.
-    using fnPaintPdf = std::function<QByteArray(const QString& html)>;
+    using fnPaintPdf = std::function<QByteArray(const QString& html, QDate today)>;
     void SavePdf(const fnPaintPdf& paint);
     void SaveFile();
 

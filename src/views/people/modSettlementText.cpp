@@ -83,7 +83,10 @@ QString Counted(const cSettlement& settlement, const cAmountFormat& format)
     cHtmlTable table(modSettlementText::EntryTitles(),
                      {eCell::Text, eCell::Text, eCell::Text, eCell::Text, eCell::Text, eCell::Money});
     for (const cCountedEntry& counted : settlement.Counted) {
-        table.Add(modSettlementText::EntryTexts(counted) << format.Cents(counted.Cents));
+        QStringList texts = modSettlementText::EntryTexts(counted);
+        // A line for each person at most.
+        texts.last().replace(u' ', u'\u00a0').replace(u",\u00a0"_s, u", "_s);
+        table.Add(texts << format.Cents(counted.Cents));
     }
     return table.Take();
 }

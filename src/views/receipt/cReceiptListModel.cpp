@@ -219,11 +219,10 @@ void cReceiptListModel::SaveAs(int row)
     QFile file(path);
     const bool isRead = file.open(QIODevice::ReadOnly);
     const QByteArray bytes = isRead ? file.readAll() : QByteArray();
-    const QString problem = !isRead || file.error() != QFileDevice::NoError
-        ? cText::Tr("Die Datei '{0}' kann nicht gelesen werden.", {NameAt(row)})
-        : modFileWrite::Replace(target, bytes);
-    if (!problem.isEmpty()) {
-        m_tools.User.Show(eTone::Critical, problem);
+    if (!isRead || file.error() != QFileDevice::NoError) {
+        m_tools.User.Show(eTone::Critical, cText::Tr("Die Datei '{0}' kann nicht gelesen werden.", {NameAt(row)}));
+    } else if (const QString reason = modFileWrite::Replace(target, bytes); !reason.isEmpty()) {
+        m_tools.User.Show(eTone::Critical, modFileWrite::Failed(target, reason));
     }
 }
 

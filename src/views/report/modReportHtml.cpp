@@ -156,7 +156,8 @@ private:
     [[nodiscard]] QString Line(eReportKind kind, const cReportGroup& group, const cReportCategory* category) const;
     [[nodiscard]] QString LimitLine(const QString& label, const cReportAmount& amount, eWeight weight) const;
     [[nodiscard]] QString BudgetLine(const QString& label, const cReportAmount& amount, eWeight weight) const;
-    [[nodiscard]] static QString BudgetFrame(const QString& name, const QStringList& cells, eWeight weight);
+    [[nodiscard]] static QString BudgetFrame(const QString& name, const QStringList& cells, eWeight weight,
+                                             const QString& tag = u"td"_s);
     [[nodiscard]] QString Money(qint64 cents) const { return m_format.Cents(cents).toHtmlEscaped(); }
 
     const cReportFigures& m_figures;
@@ -263,7 +264,7 @@ void cWriter::WriteBudget()
     m_html += u"<dir style=\"margin-left: 0px;\">"_s
         + BudgetFrame(cText::Tr("Kategorie"),
                       {cText::Tr("Budget"), cText::Tr("Übertrag"), cText::Tr("Ausgegeben"), cText::Tr("Übrig")},
-                      eWeight::Bold)
+                      eWeight::Bold, u"th"_s)
         + BudgetLine(cText::Tr("Summe"), m_figures.Expense.Amount, eWeight::Bold);
     for (const cReportGroup& group : m_figures.Expense.Groups) {
         m_html += BudgetLine(group.Label, group.Amount, eWeight::Bold) + u"<dir style=\"margin-left: 20px;\"><ul>"_s;
@@ -284,15 +285,15 @@ QString cWriter::BudgetLine(const QString& label, const cReportAmount& amount, e
 }
 
 // The lists stand 60 pixels further in, so that the cells of all lines stand below each other.
-QString cWriter::BudgetFrame(const QString& name, const QStringList& cells, eWeight weight)
+QString cWriter::BudgetFrame(const QString& name, const QStringList& cells, eWeight weight, const QString& tag)
 {
     const bool isBold = weight == eWeight::Bold;
     const QString width = isBold ? u"860px"_s : u"800px"_s;
     QString content = u"<table style=\"margin: 0px; border-collapse: collapse; width: "_s + width + u"; color: "_s
-        + LimitTone().Text + u";\"><tr><td style=\"text-align: left; width: "_s + (isBold ? u"400px"_s : u"340px"_s)
-        + u"\">"_s + Strong(name.toHtmlEscaped(), weight) + u"</td>"_s;
+        + LimitTone().Text + u";\"><tr><"_s + tag + u" style=\"text-align: left; width: "_s
+        + (isBold ? u"400px"_s : u"340px"_s) + u"\">"_s + Strong(name.toHtmlEscaped(), weight) + u"</"_s + tag + u'>';
     for (const QString& cell : cells) {
-        content += u"<td style=\"text-align: right; width: 115px;\">"_s + Strong(cell, weight) + u"</td>"_s;
+        content += u"<%1 style=\"text-align: right; width: 115px;\">%2</%1>"_s.arg(tag, Strong(cell, weight));
     }
     return Framed(content + u"</tr></table>"_s, LimitTone(), width);
 }

@@ -402,7 +402,7 @@ void cStatisticsModel::SavePdf(const fnPaintPdf& paint)
     if (path.isEmpty()) {
         return;
     }
-    const QString problem = modFileWrite::Export(m_tools.Data, path, paint(PrintHtml()));
+    const QString problem = modFileWrite::Export(m_tools.Data, path, paint(PrintHtml(), m_tools.Clock.Today()));
     const eTone tone = problem.isEmpty() ? eTone::Information : eTone::Critical;
     const QString done = cText::Tr("Der Bericht wurde nach '{0}' gespeichert.", {QDir::toNativeSeparators(path)});
     m_tools.User.Show(tone, problem.isEmpty() ? done : problem, title);

@@ -81,7 +81,7 @@ public:
 
     // Asks for a file and writes the report into it. `paint` makes a PDF of a report without links, no bytes on
     // failure.
-    using fnPaintPdf = std::function<QByteArray(const QString& html)>;
+    using fnPaintPdf = std::function<QByteArray(const QString& html, QDate today)>;
     void SavePdf(const fnPaintPdf& paint);
     void SaveFile(); // as HTML page, or the figures as table
     void SaveChart(const cChartData& chart, const cChartSave::cPictures& pictures);

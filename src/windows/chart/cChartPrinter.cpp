@@ -17,7 +17,9 @@ constexpr int perPage = 2;
 
 } // namespace
 
-cChartPrinter::cChartPrinter(const QList<cChartData>& charts, const QString& foot) : m_charts(charts), m_foot(foot)
+cChartPrinter::cChartPrinter(const QList<cChartData>& charts, QDate today)
+    : m_charts(charts),
+      m_foot(cPageText::Foot(today))
 {
 }
 

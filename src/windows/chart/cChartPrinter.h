@@ -3,6 +3,7 @@
 #include "views/chart/cChartData.h"
 #include "windows/print/cPrintable.h"
 
+#include <QDate>
 #include <QList>
 #include <QRectF>
 
@@ -14,8 +15,8 @@ class cPageText;
 class cChartPrinter final : public cPrintable
 {
 public:
-    // `foot`: at the left of every page's end.
-    cChartPrinter(const QList<cChartData>& charts, const QString& foot);
+    // `today` stands at every page's end.
+    cChartPrinter(const QList<cChartData>& charts, QDate today);
     ~cChartPrinter() override;
 
     [[nodiscard]] QString Title() const override;

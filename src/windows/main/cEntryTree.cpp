@@ -189,6 +189,7 @@ void cEntryTree::KeepSelection()
     m_isCurrentInSight = viewport()->rect().intersects(visualRect(currentIndex()));
     m_selected = SelectedKeys();
     QModelIndex top = indexAt(QPoint());
+    m_isBelowNothing = !top.parent().isValid();
     while (top.isValid() && m_model.EntryAt(top) == nullptr) {
         top = indexBelow(top); // the head of a group is not found again
     }
@@ -253,7 +254,8 @@ void cEntryTree::RestoreCurrent()
     current = current.isValid() ? current : top;
     selectionModel()->setCurrentIndex(current, QItemSelectionModel::NoUpdate);
     if (top.isValid()) {
-        scrollTo(top, PositionAtTop);
+        const bool isFirst = top.row() == 0 && top.parent().isValid();
+        scrollTo(isFirst && m_isBelowNothing ? top.parent() : top, PositionAtTop);
     }
     if (m_isCurrentInSight && current.isValid()) {
         scrollTo(current);

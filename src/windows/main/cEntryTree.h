@@ -67,6 +67,7 @@ private:
     cEntryListModel::cKey m_current;
     cEntryListModel::cKey m_next; // takes the place of the current line when that is gone
     cEntryListModel::cKey m_top;  // first line in sight before the list was rebuilt
+    bool m_isBelowNothing = true; // no head of a group was out of sight above it
     cGroupLayout m_groups;
     QString m_emptyTitle;
     QString m_emptyHint;

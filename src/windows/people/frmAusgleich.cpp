@@ -2,10 +2,10 @@
 
 #include "base/cText.h"
 #include "views/people/cSettlementModel.h"
+#include "windows/print/modPages.h"
 #include "windows/report/cReportPane.h"
 #include "windows/report/cReportPrinter.h"
 #include "windows/report/cReportView.h"
-#include "windows/report/modReportPdf.h"
 #include "windows/widget/cPeriodPicker.h"
 #include "windows/widget/modPlace.h"
 
@@ -72,9 +72,9 @@ QLayout* frmAusgleich::BuildButtons()
     people->setEnabled(m_model.CanChangePeople());
     auto* menu = new QMenu(save);
     menu->addAction(cText::Tr("Als &PDF speichern…"), this, [this] {
-        m_model.SavePdf([this](const QString& html) {
-            cReportPrinter pages(html, font().family(), u"Kontorelle"_s);
-            return modReportPdf::Bytes(pages);
+        m_model.SavePdf([this](const QString& html, QDate today) {
+            cReportPrinter pages(html, font().family(), today);
+            return modPages::Pdf(pages);
         });
     });
     menu->addAction(cText::Tr("Als &HTML-Seite oder Tabelle speichern…"), this, [this] { m_model.SaveFile(); });

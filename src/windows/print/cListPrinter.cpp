@@ -1,7 +1,6 @@
 #include "windows/print/cListPrinter.h"
 
 #include "base/cText.h"
-#include "base/modDate.h"
 #include "views/ledger/cStatementListModel.h"
 #include "views/list/cEntryListModel.h"
 #include "views/main/cMainModel.h"
@@ -80,7 +79,7 @@ cListPrinter::cHead cListPrinter::HeadOf(const cStatementListModel& statement)
 {
     return {statement.Title(),
             statement.Lines() + statement.Findings(),
-            cText::Tr("Kontorelle, {0}", {modDate::ToText(statement.Today())}),
+            cPageText::Foot(statement.Today()),
             {{cText::Tr("Einnahmen"), statement.IncomeText()},
              {cText::Tr("Ausgaben"), statement.ExpenseText()},
              {cText::Tr("Summe"), statement.TotalText()}}};
@@ -90,7 +89,7 @@ cListPrinter::cHead cListPrinter::HeadOf(const cMainModel& model)
 {
     cHead head{modViewText::Title(model.View()),
                model.ViewLines(),
-               cText::Tr("Kontorelle, {0}", {modDate::ToText(model.Today())}),
+               cPageText::Foot(model.Today()),
                {{cText::Tr("Einnahmen"), model.IncomeText()},
                 {cText::Tr("Ausgaben"), model.ExpenseText()},
                 {cText::Tr("Summe"), model.TotalText()}}};

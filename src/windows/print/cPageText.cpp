@@ -1,5 +1,8 @@
 #include "windows/print/cPageText.h"
 
+#include "base/cText.h"
+#include "base/modDate.h"
+
 #include <QPaintDevice>
 #include <QTextLayout>
 
@@ -50,6 +53,11 @@ QStringList cPageText::Wrap(const QString& text, qreal width) const
     }
     layout.endLayout();
     return lines;
+}
+
+QString cPageText::Foot(QDate today)
+{
+    return cText::Tr("Kontorelle, {0}", {modDate::ToText(today)});
 }
 
 QString cPageText::BoldElided(const QString& text, qreal width) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDate>
 #include <QFont>
 #include <QFontMetricsF>
 #include <QString>
@@ -14,6 +15,9 @@ class cPageText
 public:
     // `points` is the size of the text; titles and feet follow from it.
     cPageText(QPaintDevice& device, qreal points);
+
+    // At the left of every page's end.
+    [[nodiscard]] static QString Foot(QDate today);
 
     [[nodiscard]] const QFont& Text() const { return m_text; }
     [[nodiscard]] const QFont& Bold() const { return m_bold; }

@@ -1,6 +1,7 @@
 #include "windows/receipt/cPreviewView.h"
 
 #include "base/cText.h"
+#include "views/receipt/cReceipts.h"
 
 #include <QFileInfo>
 #include <QLabel>
@@ -15,13 +16,16 @@ namespace {
 
 constexpr std::array zoomSteps{1.0, 1.25, 1.5, 2.0, 3.0, 4.0, 6.0};
 
-QString Why(cPreview::eState state)
+QString Why(cPreview::eState state, const QString& path)
 {
     switch (state) {
     case cPreview::eState::Shown: break;
     case cPreview::eState::Unknown:
-        return cText::Tr("Für diese Art von Datei gibt es keine Vorschau. „Öffnen“ zeigt sie in einem anderen "
-                         "Programm.");
+        return cReceipts::IsDocument(path)
+            ? cText::Tr("Für diese Art von Datei gibt es keine Vorschau. „Öffnen“ zeigt sie in einem anderen "
+                        "Programm.")
+            : cText::Tr("Für diese Art von Datei gibt es keine Vorschau. „Speichern unter…“ legt eine Kopie von ihr "
+                        "ab.");
     case cPreview::eState::Damaged: return cText::Tr("Die Datei ist beschädigt oder kein Bild und kein PDF.");
     case cPreview::eState::TooLarge:
         return cText::Tr("Die Datei ist für eine Vorschau zu groß. „Öffnen“ zeigt sie in einem anderen Programm.");
@@ -136,7 +140,7 @@ void cPreviewView::Show(const cPreview& preview)
         m_label->setAccessibleName(text);
         setAccessibleDescription(text);
     } else {
-        Say(Why(preview.State));
+        Say(Why(preview.State, m_path));
     }
     Q_EMIT Shown();
 }

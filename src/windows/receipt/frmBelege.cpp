@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "views/receipt/cReceiptListModel.h"
+#include "views/receipt/cReceipts.h"
 #include "windows/receipt/cPreviewView.h"
 #include "windows/receipt/modReceiptMime.h"
 #include "windows/widget/cFlowLayout.h"
@@ -127,7 +128,7 @@ void frmBelege::Connect()
     connect(&m_receipts, &QAbstractItemModel::modelReset, this, &frmBelege::ShowList);
     connect(m_list->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &frmBelege::ShowReceipt);
     connect(m_preview, &cPreviewView::Shown, this, &frmBelege::ShowButtons);
-    connect(m_list, &QListView::activated, m_open, &QPushButton::click);
+    connect(m_list, &QListView::activated, this, [this] { m_receipts.Open(Row()); }); // says why it cannot
     connect(m_add, &QPushButton::clicked, &m_receipts, &cReceiptListModel::Choose);
     connect(m_paste, &QPushButton::clicked, this, &frmBelege::Paste);
     connect(m_again, &QPushButton::clicked, this, [this] { m_receipts.ChooseAgain(Row()); });
@@ -178,7 +179,7 @@ void frmBelege::ShowButtons()
     m_again->setVisible(m_receipts.IsMissing(Row()) && canWrite);
     m_add->setEnabled(canWrite);
     m_paste->setEnabled(canWrite);
-    m_open->setEnabled(isThere);
+    m_open->setEnabled(isThere && cReceipts::IsDocument(m_receipts.PathAt(Row())));
     m_save->setEnabled(isThere);
     m_remove->setEnabled(Row() >= 0 && canWrite);
     m_smaller->setEnabled(m_preview->CanZoom(-1));

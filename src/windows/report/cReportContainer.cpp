@@ -5,6 +5,7 @@
 #include <QDir>
 #include <QFontDatabase>
 #include <QFontMetricsF>
+#include <QTextBoundaryFinder>
 
 #include <algorithm>
 
@@ -36,9 +37,10 @@ cReportCanvas& Canvas(litehtml::uint_ptr handle)
 
 } // namespace
 
-cReportContainer::cReportContainer(const QString& family, const QString& folder)
+cReportContainer::cReportContainer(const QString& family, const QString& folder, int longestWord)
     : m_family(family),
       m_folder(folder),
+      m_longestWord(longestWord),
       m_familyBytes(family.toStdString())
 {
 }
@@ -198,6 +200,30 @@ void cReportContainer::get_language(litehtml::tstring& language, litehtml::tstri
 {
     language = "de";
     culture = "de-DE";
+}
+
+// The library breaks lines between its words, so a long one is handed to it in parts. None ends within a character.
+void cReportContainer::split_text(const char* text, const std::function<void(const char*)>& onWord,
+                                  const std::function<void(const char*)>& onSpace)
+{
+    const auto inParts = [&](const char* bytes) {
+        const QString word = QString::fromUtf8(bytes);
+        if (m_longestWord == 0 || word.size() <= m_longestWord) {
+            onWord(bytes);
+            return;
+        }
+        QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, word);
+        qsizetype start = 0;
+        while (start < word.size()) {
+            finder.setPosition(std::min<qsizetype>(start + m_longestWord / 2, word.size()));
+            if (!finder.isAtBoundary()) {
+                finder.toNextBoundary();
+            }
+            onWord(word.sliced(start, finder.position() - start).toUtf8().constData());
+            start = finder.position();
+        }
+    };
+    document_container::split_text(text, inParts, onSpace);
 }
 
 // A page holds no files of its own but pictures, which are read when they are needed; no forms and no transformed

@@ -16,7 +16,9 @@
 class cReportContainer final : public litehtml::document_container // NOLINT(cppcoreguidelines-virtual-class-destructor)
 {
 public:
-    cReportContainer(const QString& family, const QString& folder); // folder of the pictures; empty for none
+    // `folder`: of the pictures; empty for none. Words with more characters than `longestWord` may go on in the next
+    // line; 0: none does.
+    cReportContainer(const QString& family, const QString& folder, int longestWord);
 
     void SetWidth(int width) { m_width = width; }
     [[nodiscard]] litehtml::element::ptr TakeClicked(); // the link of the last click; then none
@@ -54,6 +56,8 @@ public:
                                                       const std::shared_ptr<litehtml::document>& document) override;
     void get_media_features(litehtml::media_features& media) const override;
     void get_language(litehtml::tstring& language, litehtml::tstring& culture) const override;
+    void split_text(const char* text, const std::function<void(const char*)>& onWord,
+                    const std::function<void(const char*)>& onSpace) override;
 
     // The canvas of the drawing that is going on: clipping comes without a handle.
     void SetCanvas(cReportCanvas* canvas) { m_canvas = canvas; }
@@ -69,6 +73,7 @@ private:
 
     QString m_family;
     QString m_folder;
+    int m_longestWord;
     QHash<QString, QImage> m_pictures; // by address; null for what could not be read
     std::string m_familyBytes;
     std::vector<std::unique_ptr<cFont>> m_fonts;

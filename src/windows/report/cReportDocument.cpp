@@ -61,8 +61,8 @@ litehtml::elements_vector LinkElements(litehtml::document& document)
 
 } // namespace
 
-cReportDocument::cReportDocument(const QString& html, const QString& family, const QString& folder)
-    : m_container(std::make_unique<cReportContainer>(family, folder)),
+cReportDocument::cReportDocument(const QString& html, const QString& family, const QString& folder, int longestWord)
+    : m_container(std::make_unique<cReportContainer>(family, folder, longestWord)),
       m_context(std::make_unique<litehtml::context>())
 {
     m_context->load_master_stylesheet(modReportStyle::MasterSheet());
@@ -109,6 +109,23 @@ std::vector<cReportPiece> cReportDocument::Pieces() const
     cRecorder recorder;
     Draw(recorder, QRect(QPoint(), Size()));
     return std::move(recorder.Pieces);
+}
+
+// The library places cells, not rows.
+std::vector<cReportDocument::cRow> cReportDocument::Rows() const
+{
+    std::vector<cRow> rows;
+    const litehtml::elements_vector elements = m_document->root()->select_all("tr");
+    for (const litehtml::element::ptr& element : elements) {
+        cRow row;
+        for (std::size_t i = 0; i < element->get_children_count(); ++i) {
+            const litehtml::element::ptr cell = element->get_child(static_cast<int>(i));
+            row.Place |= PlaceOf(*cell);
+            row.IsHead = row.IsHead || std::string_view(cell->get_tagName()) == "th";
+        }
+        rows.push_back(row);
+    }
+    return rows;
 }
 
 const cReportText& cReportDocument::Text() const

@@ -31,8 +31,16 @@ public:
         QList<QRect> Places; // one for each of its words
     };
 
-    // `family`: the font of all text. `folder`: where the pictures of the page lie; without it there are none.
-    cReportDocument(const QString& html, const QString& family, const QString& folder = {});
+    // A row of a table. One of column names (th) is a head.
+    struct cRow
+    {
+        QRect Place;
+        bool IsHead = false;
+    };
+
+    // `family`: the font of all text. `folder`: where the pictures of the page lie; without it there are none. Words
+    // with more characters than `longestWord` may be broken; 0: none is.
+    cReportDocument(const QString& html, const QString& family, const QString& folder = {}, int longestWord = 0);
     ~cReportDocument();
     cReportDocument(const cReportDocument&) = delete;
     cReportDocument& operator=(const cReportDocument&) = delete;
@@ -46,6 +54,7 @@ public:
 
     [[nodiscard]] QString Heading() const;                  // text of the first headline
     [[nodiscard]] std::vector<cReportPiece> Pieces() const; // in the order in which they are drawn
+    [[nodiscard]] std::vector<cRow> Rows() const;           // of all tables
     [[nodiscard]] const cReportText& Text() const;
     [[nodiscard]] const QList<cLink>& Links() const; // in their order on the page
     [[nodiscard]] QRect

@@ -4,6 +4,7 @@
 #include "model/modWord.h"
 #include "views/ledger/cStatementListModel.h"
 #include "views/receipt/cStatementPapers.h"
+#include "views/report/modReport.h"
 #include "windows/look/modTone.h"
 #include "windows/main/cSumBar.h"
 #include "windows/statement/cReconcilePanel.h"
@@ -192,7 +193,7 @@ void frmKontoauszug::ChoosePeriod()
 void frmKontoauszug::ShowDays()
 {
     const modPeriod::cRange range = m_statement.Range();
-    m_start->SetDay(range.Start);
+    m_start->SetDay(modReport::HasStart(range) ? range.Start : QDate());
     m_end->SetDay(range.End);
     m_start->setEnabled(m_statement.IsFreePeriod());
     m_end->setEnabled(m_statement.IsFreePeriod());

@@ -6,10 +6,10 @@
 #include "views/statistics/cStatisticsModel.h"
 #include "windows/chart/cChartBox.h"
 #include "windows/chart/modChartPainter.h"
+#include "windows/print/modPages.h"
 #include "windows/report/cReportPane.h"
 #include "windows/report/cReportPrinter.h"
 #include "windows/report/cReportView.h"
-#include "windows/report/modReportPdf.h"
 #include "windows/statistics/cChartPane.h"
 #include "windows/statistics/cReportTree.h"
 #include "windows/widget/cFieldGrid.h"
@@ -107,9 +107,9 @@ void frmStatistik::BuildSaveMenu()
 {
     auto* menu = new QMenu(m_save);
     menu->addAction(cText::Tr("Als &PDF speichern…"), this, [this] {
-        m_model.SavePdf([this](const QString& html) {
-            cReportPrinter pages(html, font().family(), u"Kontorelle"_s);
-            return modReportPdf::Bytes(pages);
+        m_model.SavePdf([this](const QString& html, QDate today) {
+            cReportPrinter pages(html, font().family(), today);
+            return modPages::Pdf(pages);
         });
     });
     menu->addAction(cText::Tr("Als &HTML-Seite oder Tabelle speichern…"), this, [this] { m_model.SaveFile(); });
