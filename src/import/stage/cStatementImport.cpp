@@ -579,7 +579,10 @@ void cStatementImport::KeepBalances(const cStatementRead& read, const cKnownAcco
         result.Problems.append({0, cText::Tr("Die Bankleitzahl des Kontos konnte nicht gespeichert werden.")});
     }
     for (const cAccountBalance& balance : read.Balances) {
-        if (!result.FirstBalances.contains(balance.Account) && m_balances->Of(balance.Account).isEmpty()) {
+        const cBankBalanceList before = m_balances->Of(balance.Account);
+        const cBankBalanceList all = m_balances->With(balance.Account, read.Balances, read.Entries);
+        const bool isEarlier = before.isEmpty() || all.constFirst().Day < before.constFirst().Day;
+        if (isEarlier && !result.FirstBalances.contains(balance.Account)) {
             result.FirstBalances.append(balance.Account);
         }
     }

@@ -117,7 +117,7 @@ struct cStatementFiles::cRun
     cRepeatList Repeats;
     cForeignNames Names;
     std::vector<std::unique_ptr<cImportAssistant>> Answered;
-    QStringList FirstBalances{}; // numbers of which the bank had named none before
+    QStringList FirstBalances{}; // as in cImportResult
 };
 
 void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssist assist)
