@@ -52,6 +52,12 @@ private Q_SLOTS:
         Do(u"import|%1|--account|4711"_s.arg(m_table));
         const QJsonObject known = Do(u"import|%1|--json"_s.arg(m_table)).Json().at(0).toObject();
         QCOMPARE(known.value(u"duplicates"_s).toInt(), 3);
+        // Other amounts of the same days are those of another account.
+        cTestFile::Write(m_table, QByteArray(table).replace("-660", "-670").replace("-1,", "-3,"));
+        QCOMPARE(Run(u"import|"_s + m_table).Code, 1);
+        cTestFile::Write(m_table, QByteArray(table).replace(".02.", ".03."));
+        const cCliRun next = Do(u"import|"_s + m_table);
+        QVERIFY2(next.Out.contains("wie zuletzt von Konto 4711"_L1), qPrintable(next.Text()));
     }
 
     void ColumnsAndCharsetAreChosen()

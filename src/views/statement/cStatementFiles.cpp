@@ -321,7 +321,9 @@ cImportResult cStatementFiles::AskForAccount(const QString& path, const cImportR
         m_tools.User.Choose({.Text = QFileInfo(path).fileName() + u'\n' + result.Message,
                              .Title = cText::Tr("Kontonummer"),
                              .Items = shown,
-                             .Proposal = numbers.size() > without.size() ? shown.value(0) : QString(),
+                             .Proposal = numbers.size() > without.size() && !result.IsAccountRemembered
+                                 ? shown.value(0)
+                                 : QString(),
                              .AllowNew = true});
     const QString typed = given ? given->simplified() : QString();
     const QString number = m_accounts.NumberMeant(numbers.value(shown.indexOf(typed), typed));
