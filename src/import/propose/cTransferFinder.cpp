@@ -88,8 +88,8 @@ std::optional<cTransferFinder::cTransfer> cTransferFinder::FindSettled(const cIm
             return std::nullopt;
         }
         transfer.Other = account;
-        const bool isNearer = nearest == nullptr || std::pair(distance(other), other.ID)
-                < std::pair(distance(*nearest), nearest->ID);
+        const bool isNearer =
+            nearest == nullptr || std::pair(distance(other), other.ID) < std::pair(distance(*nearest), nearest->ID);
         nearest = isNearer ? &other : nearest;
     }
     if (nearest == nullptr) {

@@ -32,16 +32,15 @@ bool IsCardBill(const cImportEntry& row)
     static const QStringList cards{u"kreditkart"_s, u"karte"_s, u"visa"_s, u"mastercard"_s, u"amex"_s};
     static const QStringList bills{u"abrechnung"_s, u"abr"_s, u"ausgleich"_s, u"einzug"_s};
     const QString text = TextOf(row);
-    return row.ImportValue < 0
-        && (BeginsOneOf(text, whole) || (BeginsOneOf(text, cards) && BeginsOneOf(text, bills)));
+    return row.ImportValue < 0 && (BeginsOneOf(text, whole) || (BeginsOneOf(text, cards) && BeginsOneOf(text, bills)));
 }
 
 // What comes back from a shop names the shop.
 bool IsPaymentToCard(const cImportEntry& row)
 {
-    static const QStringList words{u"ausgleich"_s,    u"abrechnung"_s,      u"einzug"_s,         u"lastschrift"_s,
-                                   u"einzahlung"_s,   u"kartenabr"_s,       u"kreditkartenabr"_s, u"saldoausgl"_s,
-                                   u"kontoausgl"_s,   u"rechnungsausgl"_s,  u"uebertrag"_s};
+    static const QStringList words{u"ausgleich"_s,  u"abrechnung"_s,     u"einzug"_s,          u"lastschrift"_s,
+                                   u"einzahlung"_s, u"kartenabr"_s,      u"kreditkartenabr"_s, u"saldoausgl"_s,
+                                   u"kontoausgl"_s, u"rechnungsausgl"_s, u"uebertrag"_s};
     return row.ImportValue > 0 && row.ImportBeneficiaryAccount.isEmpty() && BeginsOneOf(TextOf(row), words);
 }
 

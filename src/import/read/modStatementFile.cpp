@@ -101,9 +101,10 @@ QString modStatementFile::NoAccount()
 
 QString modStatementFile::OtherAccount(const QString& number)
 {
-    return cText::Tr("Dateien mit diesem Aufbau waren bisher von Konto {0}. In dieser fehlen dessen Umsätze von denselben "
-                     "Tagen: Geben Sie an, von welchem Konto sie ist.",
-                     {number});
+    return cText::Tr(
+        "Dateien mit diesem Aufbau waren bisher von Konto {0}. In dieser fehlen dessen Umsätze von denselben "
+        "Tagen: Geben Sie an, von welchem Konto sie ist.",
+        {number});
 }
 
 QString modStatementFile::OpenSign()

@@ -313,8 +313,8 @@ cImportResult cStatementImport::ReadAndStage(cStatementSource source, const cImp
     result.IsAccountRemembered = read.IsAccountRemembered;
     result.Layout = read.Layout;
     result.AccountKey = read.AccountKey;
-    const bool isOther = read.IsAccountRemembered
-        && modRememberedAccount::IsContradicted(read.Entries, StagingFor(options.Run).Rows());
+    const bool isOther =
+        read.IsAccountRemembered && modRememberedAccount::IsContradicted(read.Entries, StagingFor(options.Run).Rows());
     result.NeedsAccount = read.NeedsAccount || isOther;
     result.HasStrayDetails = read.HasStrayDetails;
     result.NeedsAssistant = options.Uncertain == eUncertain::Ask && read.IsTable

@@ -33,11 +33,12 @@ qsizetype CountIn(const cDays& others, const cImportEntryList& rows)
 // Those between the first and the last day of the others.
 cImportEntryList Within(cImportEntryList rows, const cImportEntryList& others)
 {
-    const auto [first, last] = std::minmax_element(
-        others.begin(), others.end(),
-        [](const cImportEntry& a, const cImportEntry& b) { return a.ImportDate < b.ImportDate; });
-    rows.removeIf(
-        [&](const cImportEntry& row) { return row.ImportDate < first->ImportDate || row.ImportDate > last->ImportDate; });
+    const auto [first, last] =
+        std::minmax_element(others.begin(), others.end(),
+                            [](const cImportEntry& a, const cImportEntry& b) { return a.ImportDate < b.ImportDate; });
+    rows.removeIf([&](const cImportEntry& row) {
+        return row.ImportDate < first->ImportDate || row.ImportDate > last->ImportDate;
+    });
     return rows;
 }
 

@@ -73,12 +73,13 @@ void cStatementLedger::LoadOnce(const QString& number)
     const cAccountMap accounts(m_data, m_settings);
     const QList<cImportRuns::cRange> files = cImportRuns(m_settings).Files();
     const QHash<int, cRowTwin> twins =
-        modStagedTwins::Find(rows, {.AccountOf = [&](const QString& other) { return accounts.AccountOf(other); },
-                                    .FileOf =
-                                        [&](int id) {
-                                            const cImportRuns::cRange file = cImportRuns::FileOf(files, id);
-                                            return modStagedTwins::cFile{file.First, file.Kind};
-                                        }});
+        modStagedTwins::Find(rows,
+                             {.AccountOf = [&](const QString& other) { return accounts.AccountOf(other); },
+                              .FileOf =
+                                  [&](int id) {
+                                      const cImportRuns::cRange file = cImportRuns::FileOf(files, id);
+                                      return modStagedTwins::cFile{file.First, file.Kind};
+                                  }});
     rows.removeIf([&](const cImportEntry& row) {
         const auto twin = twins.constFind(row.ID);
         return twin != twins.constEnd() && (twin->RowId < row.ID || !twins.contains(twin->RowId));

@@ -48,7 +48,7 @@ public:
 
     void Load(const QString& number);
     void LoadOnce(const QString& number); // without open rows that may be there twice
-    void LoadNewest(); // the number of the row that was staged last
+    void LoadNewest();                    // the number of the row that was staged last
 
     [[nodiscard]] const QString& Number() const { return m_number; }
     [[nodiscard]] const cImportEntryList& Rows() const { return m_rows; }

@@ -56,13 +56,11 @@ cImportPlan& cRowProposals::Plan()
 {
     if (!m_plan) {
         const QList<cRange> files = m_parts.Runs.Files();
-        m_plan = std::make_unique<cImportPlan>(cImportPlan::cParts{m_parts.Data, m_parts.Hive, m_parts.Accounts,
-                                                                   [files](int id) {
-                                                                       const cRange file =
-                                                                           cImportRuns::FileOf(files, id);
-                                                                       return modStagedTwins::cFile{file.First,
-                                                                                                    file.Kind};
-                                                                   }});
+        m_plan = std::make_unique<cImportPlan>(
+            cImportPlan::cParts{m_parts.Data, m_parts.Hive, m_parts.Accounts, [files](int id) {
+                                    const cRange file = cImportRuns::FileOf(files, id);
+                                    return modStagedTwins::cFile{file.First, file.Kind};
+                                }});
     }
     return *m_plan;
 }
