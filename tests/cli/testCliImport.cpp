@@ -46,6 +46,12 @@ private Q_SLOTS:
         QCOMPARE(Run(u"import|"_s + m_table).Code, 1);
         Do(u"import|%1|--account|4711"_s.arg(m_table));
         QCOMPARE(Do(u"import|%1|--json"_s.arg(m_table)).Column(u"duplicates"_s), QStringList(u"3"_s));
+        // Other amounts of the same days are those of another account.
+        cTestFile::Write(m_table, QByteArray(table).replace("-660", "-670").replace("-1,", "-3,"));
+        QCOMPARE(Run(u"import|"_s + m_table).Code, 1);
+        cTestFile::Write(m_table, QByteArray(table).replace(".02.", ".03."));
+        const cCliRun next = Do(u"import|"_s + m_table);
+        QVERIFY2(next.Out.contains("wie zuletzt von Konto 4711"_L1), qPrintable(next.Text()));
     }
 
     void ColumnsAndCharsetAreChosen()

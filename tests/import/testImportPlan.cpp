@@ -150,6 +150,47 @@ private Q_SLOTS:
         }
     }
 
+    void Settlements_data()
+    {
+        // texts: name and purpose at the bank; other: name, purpose and kind on the account with the number
+        const cTestRows<QString, QString, QString, int, bool> row("texts", "number", "other", "days", "isTransfer");
+        const QString bill = u"DKB AG|Kreditkartenabrechnung 07/2026 VISA"_s;
+        const QString paid = u"|Ausgleich Kreditkarte gem. Abrechnung|Einzahlung"_s;
+        const QString payPal = u"PayPal (Europe) S.a.r.l.|Ihr Einkauf bei Spotify"_s;
+        const QString refill = u"||Bankgutschrift auf PayPal-Konto"_s;
+        const QString card = u"4711********1234"_s;
+        row("card", bill, card, paid, 0, true);
+        row("too late", bill, card, paid, 6, false);
+        row("a purchase beside the bill", u"REWE|VISA Debitkartenumsatz"_s, card, paid, 0, false);
+        row("what a shop gave back", bill, card, u"Zalando|Erstattung 4711|Gutschrift"_s, 0, false);
+        row("no card", bill, u"222"_s, paid, 0, false);
+        row("PayPal", payPal, u"me@example.com"_s, refill, -2, true);
+        row("money of somebody by PayPal", payPal, u"PayPal"_s, u"Jana||Handyzahlung"_s, 0, false);
+        row("a purchase of the same amount", u"REWE|Einkauf"_s, u"PayPal"_s, refill, 0, false);
+    }
+
+    void Settlements()
+    {
+        QFETCH(const QString, number);
+        QFETCH(const bool, isTransfer);
+        cBank bank;
+        QVERIFY(bank.Accounts.Assign(number, number == u"222" ? u"Sparkonto"_s : u"Depot"_s));
+        const auto stage = [&](const QString& own, QDate date, qint64 cents, const QString& words) {
+            cImportEntry row = BankRow(own, date, cents, words.section(u'|', 0, 0), words.section(u'|', 1, 1));
+            row.ImportType = words.section(u'|', 2);
+            return bank.cBankBook::Stage(row);
+        };
+        QFETCH(const QString, texts);
+        QFETCH(const QString, other);
+        QFETCH(const int, days);
+        const int out = stage(u"111"_s, day, -1299, texts);
+        const int in = stage(number, day.addDays(days), 1299, other);
+        const QHash<int, cRowPlan> plans = bank.Make({out, in});
+        QCOMPARE(plans.value(out).Proposal.PartnerRow, isTransfer ? in : 0);
+        QCOMPARE(plans.value(in).Proposal.PartnerRow, isTransfer ? out : 0);
+        QCOMPARE(plans.value(in).Proposal.Entry.EntryType, isTransfer ? modWord::Umbuchung : modWord::Einnahme);
+    }
+
     void OtherSidesOfDebits_data()
     {
         // credit, rival: days behind the debit on which the other account got it, and on which it was sent again

@@ -90,6 +90,46 @@ private Q_SLOTS:
         QVERIFY(!cOpeningBalance(whole.Tools).For(number)); // what it began with in the morning
     }
 
+    void StartFollowsWhatIsReadLater_data()
+    {
+        // in the order in which they are read; a statement begins with its balance, a table names none
+        const cTestRows<QStringList> row("files");
+        row("newer first", {u"C260701EUR4806,62 260707D30,00"_s, u"C260301EUR2856,62 260310D50,00 260505C2000,00"_s});
+        row("a row between, without balance",
+            {u"C260601EUR846,62 260607D30,00"_s, u"10.01.2026;-10,00"_s, u"05.03.2026;-2000,00"_s});
+        row("a balance between",
+            {u"10.01.2026;-10,00"_s, u"C260601EUR4846,62 260607D30,00"_s, u"C260301EUR2846,62 260305C2000,00"_s});
+        row("a row that may be there twice", {u"C260101EUR2856,62 260102D12,34"_s, u"30.12.2025;-12,34"_s});
+    }
+
+    void StartFollowsWhatIsReadLater()
+    {
+        QFETCH(const QStringList, files);
+        cTestBook book;
+        book.Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
+        (void)book.Spend(QDate(2026, 3, 9), 5000, u"REWE"_s); // older than the oldest row, or in between
+        book.User.Answers = std::deque<eAnswer>(9, eAnswer::Yes);
+        cImportReview review(book.Tools);
+        cNoProgress progress;
+        const cTestFile folder;
+        for (const QString& file : files) {
+            const QString path = folder.Path(QString::number(files.indexOf(file)));
+            const QStringList parts = file.split(u' ');
+            QString text = u":20:A\n:25:10020030/1234567\n:60F:"_s + parts.constFirst() + u"\n";
+            for (const QString& row : parts.mid(1)) {
+                text += u":61:%1NMSCNONREF\n:86:005?20Einkauf?32REWE\n"_s.arg(row);
+            }
+            const bool isTable = file.contains(u';');
+            const QString head = u"Auftragskonto;Buchungstag;Betrag;Verwendungszweck;Name\n1234567;"_s;
+            text = isTable ? QString(head + file + u";Einkauf;REWE\n") : QString(text + u"-\n");
+            cTestFile::Write(path, text.toUtf8());
+            review.Files().ImportFiles({path}, progress);
+            review.AcceptProposals(progress);
+        }
+        const cEntryItem start = book.Data.GetStartGuthaben(u"Girokonto"_s).value_or(cEntryItem());
+        QVERIFY2(start.EntryValue == 285662, qPrintable(QString::number(start.EntryValue)));
+    }
+
     void HouseholdDiffersInOpenRows_data()
     {
         const cTestRows<QDate, int> row("today", "entries");

@@ -1,5 +1,6 @@
 #include "import/propose/cTransferFinder.h"
 
+#include "import/propose/modSettlement.h"
 #include "import/read/modAccountNumber.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
@@ -52,7 +53,7 @@ std::optional<cTransferFinder::cTransfer> cTransferFinder::Find(const cImportEnt
     cTransfer transfer;
     transfer.Other = OwnAccountOf(row.ImportBeneficiaryAccount, row.ImportBeneficiaryBLZ);
     if (transfer.Other.isEmpty()) {
-        return std::nullopt;
+        return FindSettled(row);
     }
     transfer.Own = AccountOf(row.ImportAccount);
     if (transfer.Own.isEmpty() || transfer.Own == transfer.Other) {
@@ -60,6 +61,56 @@ std::optional<cTransferFinder::cTransfer> cTransferFinder::Find(const cImportEnt
     }
     FindPartner(row, transfer);
     return transfer;
+}
+
+// The nearest row that is certainly the other side. What two accounts might have got is nobody's.
+std::optional<cTransferFinder::cTransfer> cTransferFinder::FindSettled(const cImportEntry& row)
+{
+    cTransfer transfer;
+    transfer.Own = AccountOf(row.ImportAccount);
+    if (transfer.Own.isEmpty() || !modSettlement::IsSide(row)) {
+        return std::nullopt;
+    }
+    if (!m_isBuilt) {
+        Build();
+    }
+    const cImportEntry* nearest = nullptr;
+    const auto distance = [&](const cImportEntry& other) { return std::abs(other.ImportDate.daysTo(row.ImportDate)); };
+    const QList<qsizetype> places = m_byCents.values(-row.ImportValue);
+    for (const qsizetype place : places) {
+        const cImportEntry& other = m_rows.at(place);
+        const QString account = AccountOf(other.ImportAccount);
+        if (IsTaken(row, other) || distance(other) > farthestDays || account.isEmpty() || account == transfer.Own
+            || !modSettlement::IsPair(row, transfer.Own, other, account)) {
+            continue;
+        }
+        if (!transfer.Other.isEmpty() && transfer.Other != account) {
+            return std::nullopt;
+        }
+        transfer.Other = account;
+        const bool isNearer =
+            nearest == nullptr || std::pair(distance(other), other.ID) < std::pair(distance(*nearest), nearest->ID);
+        nearest = isNearer ? &other : nearest;
+    }
+    if (nearest == nullptr) {
+        return std::nullopt;
+    }
+    if (HasTaken(*nearest, transfer)) {
+        Pair(row, *nearest);
+        return transfer;
+    }
+    return transfer.IsElsewhere ? std::optional(transfer) : std::nullopt;
+}
+
+bool cTransferFinder::IsTaken(const cImportEntry& row, const cImportEntry& other) const
+{
+    return m_partners.value(other.ID, row.ID) != row.ID || m_partners.value(row.ID, other.ID) != other.ID;
+}
+
+void cTransferFinder::Pair(const cImportEntry& row, const cImportEntry& other)
+{
+    m_partners.insert(row.ID, other.ID);
+    m_partners.insert(other.ID, row.ID);
 }
 
 void cTransferFinder::Build()
@@ -86,10 +137,7 @@ void cTransferFinder::FindPartner(const cImportEntry& row, cTransfer& transfer)
     QList<qsizetype> found = m_byCents.values(-row.ImportValue);
     const auto distance = [&](qsizetype i) { return std::abs(m_rows.at(i).ImportDate.daysTo(row.ImportDate)); };
     found.removeIf([&](qsizetype i) {
-        const int otherId = m_rows.at(i).ID;
-        const bool isTaken =
-            m_partners.value(otherId, row.ID) != row.ID || m_partners.value(row.ID, otherId) != otherId;
-        return isTaken || distance(i) > SlowestDays || !IsPartner(row, m_rows.at(i), transfer)
+        return IsTaken(row, m_rows.at(i)) || distance(i) > SlowestDays || !IsPartner(row, m_rows.at(i), transfer)
             || (distance(i) > farthestDays && !IsSlowPartner(row, m_rows.at(i), transfer));
     });
     const auto rank = [&](qsizetype i) {
@@ -102,8 +150,7 @@ void cTransferFinder::FindPartner(const cImportEntry& row, cTransfer& transfer)
     for (const qsizetype i : std::as_const(found)) {
         const cImportEntry& other = m_rows.at(i);
         if (HasTaken(other, transfer)) {
-            m_partners.insert(row.ID, other.ID);
-            m_partners.insert(other.ID, row.ID);
+            Pair(row, other);
             return;
         }
     }

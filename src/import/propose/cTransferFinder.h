@@ -42,6 +42,9 @@ public:
 
 private:
     [[nodiscard]] QString OwnAccountOf(const QString& number, const QString& bankCode) const;
+    [[nodiscard]] std::optional<cTransfer> FindSettled(const cImportEntry& row);
+    [[nodiscard]] bool IsTaken(const cImportEntry& row, const cImportEntry& other) const;
+    void Pair(const cImportEntry& row, const cImportEntry& other);
     void Build();
     void FindPartner(const cImportEntry& row, cTransfer& transfer);
     [[nodiscard]] bool IsPartner(const cImportEntry& row, const cImportEntry& other, const cTransfer& transfer);

@@ -64,6 +64,7 @@ struct cStatementRead
     QList<cAccountBalance> Balances;  // by account, where the format has them; the closing one comes last
     QString Refusal;                  // German; why nothing could be read at all. Empty when the file was read
     bool NeedsAccount = false;        // no account in the file and none was given: nothing may be staged
+    bool IsAccountRemembered = false; // the file names none: it is the one that such files were given before
     bool IsTable = false;             // made of rows and columns
     bool IsGuessed = false;           // nothing but the contents told the columns of the table
     std::optional<cTableDoubt> Doubt; // to be answered before anything is staged

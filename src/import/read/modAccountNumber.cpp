@@ -58,6 +58,14 @@ bool modAccountNumber::IsBankCode(const QString& code)
     return code.size() == 8 && IsDigits(code);
 }
 
+bool modAccountNumber::IsCard(const QString& number)
+{
+    constexpr qsizetype cardDigits = 16;
+    const QString compact = Compact(number);
+    const auto isDigit = [](QChar c) { return c.isDigit() || c == u'*' || c == u'X'; };
+    return compact.size() == cardDigits && std::all_of(compact.begin(), compact.end(), isDigit);
+}
+
 bool modAccountNumber::IsSame(const QString& number, const QString& bankCode, const QString& other,
                               const QString& otherBankCode)
 {

@@ -14,6 +14,9 @@ namespace modAccountNumber {
 // True for the eight digits of a German bank code.
 [[nodiscard]] bool IsBankCode(const QString& code);
 
+// Numbers of cards have sixteen digits, some of which the bank may hide.
+[[nodiscard]] bool IsCard(const QString& number);
+
 // True when both mean the same account: equal but for leading zeros, or a German IBAN and its account number. An empty
 // bank code is unknown and does not speak against it.
 [[nodiscard]] bool IsSame(const QString& number, const QString& bankCode, const QString& other,

@@ -99,6 +99,14 @@ QString modStatementFile::NoAccount()
     return cText::Tr("Es muss eine Kontonummer eingegeben werden, um die Daten einem Konto zuzuordnen.");
 }
 
+QString modStatementFile::OtherAccount(const QString& number)
+{
+    return cText::Tr(
+        "Dateien mit diesem Aufbau waren bisher von Konto {0}. In dieser fehlen dessen Umsätze von denselben "
+        "Tagen: Geben Sie an, von welchem Konto sie ist.",
+        {number});
+}
+
 QString modStatementFile::OpenSign()
 {
     return cText::Tr("Die Datei sagt nicht sicher, welche Beträge Ausgaben und welche Einnahmen sind.");

@@ -20,6 +20,8 @@ struct cContent
 
 // What the user is told where neither the file nor the user names the account.
 [[nodiscard]] QString NoAccount();
+// When the rows contradict the one that is remembered.
+[[nodiscard]] QString OtherAccount(const QString& number);
 // What the user is told where nothing but the contents told the columns of a table, and nobody was asked.
 [[nodiscard]] QString GuessedColumns();
 // What the user is told of a last booking that is not taken because the end of the file is missing, or may be.

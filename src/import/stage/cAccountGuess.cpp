@@ -40,21 +40,12 @@ eKind KindOfName(const cTemplateItem& account)
     return found == words.end() ? eKind::Unknown : found->Kind;
 }
 
-// Numbers of cards have sixteen digits, some of which the bank may hide.
-bool IsCard(const QString& number)
-{
-    constexpr qsizetype cardDigits = 16;
-    const QString compact = modAccountNumber::Compact(number);
-    const auto isDigit = [](QChar c) { return c.isDigit() || c == u'*' || c == u'X'; };
-    return compact.size() == cardDigits && std::all_of(compact.begin(), compact.end(), isDigit);
-}
-
 // Many different people are paid from a current account only. Formats without names leave the purposes to tell them
 // apart, where the same one of another month counts once.
 eKind KindOfRows(const QString& number, const cImportEntryList& rows)
 {
     constexpr qsizetype many = 4;
-    if (IsCard(number)) {
+    if (modAccountNumber::IsCard(number)) {
         return eKind::Card;
     }
     QSet<QString> names;
@@ -177,7 +168,7 @@ bool cAccountGuess::HasSameEntries(const QString& account, const cImportEntryLis
 QString cAccountGuess::NewName(const QString& number) const
 {
     const QString digits = modAccountNumber::Compact(number).right(lastDigits);
-    const QString kind = IsCard(number) ? cText::Tr("Kreditkarte") : cText::Tr("Bankkonto");
+    const QString kind = modAccountNumber::IsCard(number) ? cText::Tr("Kreditkarte") : cText::Tr("Bankkonto");
     const QString name = digits.isEmpty() ? kind : kind + u' ' + modTemplate::CleanName(digits);
     QString free = name;
     for (int i = 2; !modTemplate::AccountLike(m_accounts, free).isEmpty(); ++i) {

@@ -38,7 +38,7 @@ struct cImportResult
     cRepeatList Settled; // equal rows that were staged, or that the bank's balances rule out
     int Proven = 0;      // of the staged ones: equal to others, but the bank's balances need them
     std::optional<qint64> ClosingBalance; // cents, signed
-    QStringList FirstBalances;            // own account numbers whose balance no earlier file has named
+    QStringList FirstBalances;            // own account numbers with a balance earlier than all that files have named
     QList<cReadProblem> Problems;         // lines that could not be read
     QList<cSkippedRow> Skipped;           // rows of the file that are no bookings
     QStringList Accounts;             // own account numbers of the file in their order; "" for statements without one
@@ -46,6 +46,7 @@ struct cImportResult
     bool IsCancelled = false;         // the user stopped; nothing of the file was staged
     QString Message;                  // German; empty when all went well
     bool NeedsAccount = false;        // refused only because the file names no account and none was given
+    bool IsAccountRemembered = false; // as in cStatementRead
     bool NeedsAssistant = false;      // refused only because a table is not certain, see eUncertain
     bool HasStrayDetails = false;     // refused only because of details before a transaction, see eStrayDetails
     QStringList OtherCurrencies;      // refused only because of them: codes

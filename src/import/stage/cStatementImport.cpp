@@ -19,6 +19,7 @@
 #include "import/stage/modCategoryClass.h"
 #include "import/stage/modEqualRows.h"
 #include "import/stage/modNamelessRows.h"
+#include "import/stage/modRememberedAccount.h"
 #include "import/stage/modStatementCurrency.h"
 #include "import/stage/modStatementFormat.h"
 #include "import/stage/modWholeBookings.h"
@@ -310,20 +311,25 @@ cImportResult cStatementImport::ReadAndStage(cStatementSource source, const cImp
         result.IsCancelled = true;
         return result;
     }
+    result.IsAccountRemembered = read.IsAccountRemembered;
     result.Layout = read.Layout;
     result.AccountKey = read.AccountKey;
-    result.NeedsAccount = read.NeedsAccount;
+    const bool isOther =
+        read.IsAccountRemembered && modRememberedAccount::IsContradicted(read.Entries, StagingFor(options.Run).Rows());
+    result.NeedsAccount = read.NeedsAccount || isOther;
     result.HasStrayDetails = read.HasStrayDetails;
     result.NeedsAssistant = options.Uncertain == eUncertain::Ask && read.IsTable
         && (read.IsGuessed || read.NeedsAccount || read.Doubt || !read.Refusal.isEmpty());
-    if (!read.Refusal.isEmpty() || read.NeedsAccount || read.Doubt || result.NeedsAssistant) {
+    if (!read.Refusal.isEmpty() || result.NeedsAccount || read.Doubt || result.NeedsAssistant) {
         result.Problems = read.Problems;
         result.Skipped = read.Skipped;
-        if (read.Refusal.isEmpty() && read.Doubt && !read.NeedsAccount) {
+        if (read.Refusal.isEmpty() && read.Doubt && !result.NeedsAccount) {
             result.Doubt = read.Doubt;
             return Refuse(std::move(result), modStatementFile::OpenSign());
         }
-        return Refuse(std::move(result), read.Refusal.isEmpty() ? modStatementFile::NoAccount() : read.Refusal);
+        const QString reason = isOther ? modStatementFile::OtherAccount(read.Entries.constFirst().ImportAccount)
+                                       : modStatementFile::NoAccount();
+        return Refuse(std::move(result), read.Refusal.isEmpty() ? reason : read.Refusal);
     }
     const modStatementCurrency::cOthers others =
         modStatementCurrency::Others(read, options.BookCurrency, StagingFor(options.Run), m_balances);
@@ -581,7 +587,10 @@ void cStatementImport::KeepBalances(const cStatementRead& read, const cKnownAcco
         result.Problems.append({0, cText::Tr("Die Bankleitzahl des Kontos konnte nicht gespeichert werden.")});
     }
     for (const cAccountBalance& balance : read.Balances) {
-        if (!result.FirstBalances.contains(balance.Account) && m_balances->Of(balance.Account).isEmpty()) {
+        const cBankBalanceList before = m_balances->Of(balance.Account);
+        const cBankBalanceList all = m_balances->With(balance.Account, read.Balances, read.Entries);
+        const bool isEarlier = before.isEmpty() || all.constFirst().Day < before.constFirst().Day;
+        if (isEarlier && !result.FirstBalances.contains(balance.Account)) {
             result.FirstBalances.append(balance.Account);
         }
     }

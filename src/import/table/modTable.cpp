@@ -214,7 +214,11 @@ cStatementRead ReadPart(const cTable& table, const cTableLayout& layout, const c
     }
     const modTableAbove::cAbove above =
         modTableAbove::Read(table, layout.HeaderRow >= 0 ? layout.HeaderRow : layout.FirstRow);
-    cStatementRead read = modTableRows::Read(table, layout, AccountOf(above, layout, options), above.Balance);
+    const QString account = AccountOf(above, layout, options);
+    cStatementRead read = modTableRows::Read(table, layout, account, above.Balance);
+    read.IsAccountRemembered = options.Account.isEmpty() && options.Table.Account.isEmpty() && !account.isEmpty()
+        && account != above.Account && account != layout.OwnNumber && !read.Entries.isEmpty()
+        && read.Entries.constFirst().ImportAccount == account;
     read.IsTable = true;
     read.IsGuessed = layout.Origin == eMapOrigin::Contents;
     if (layout.IsDateGuess && !options.Table.Date) {

@@ -94,22 +94,28 @@ qint64 ErrorOn(const modBalanceCheck::cResult& check, QDate day)
 bool cOpeningBalance::IsDue(const QString& number, int newestBefore, const QStringList& balanced) const
 {
     cStatementLedger ledger(m_tools.Data, m_tools.Settings);
-    ledger.Load(number);
+    ledger.LoadOnce(number);
     const cImportEntryList& rows = ledger.Rows();
-    const auto known =
-        std::find_if(rows.begin(), rows.end(), [&](const cImportEntry& row) { return row.ID <= newestBefore; });
-    if (known == rows.end()) {
+    const auto isKnown = [&](const cImportEntry& row) { return row.ID <= newestBefore; };
+    const auto known = std::find_if(rows.begin(), rows.end(), isKnown);
+    if (known == rows.end() || balanced.contains(number)) {
         return true;
     }
-    const QDate first = rows.constFirst().ImportDate;
+    const auto fresh = std::find_if_not(rows.begin(), rows.end(), isKnown);
+    if (fresh == rows.end()) {
+        return false;
+    }
+    if (ledger.Check().IsAnchored) {
+        return fresh->ImportDate <= ledger.Check().Points.constFirst().Day;
+    }
     const std::optional<cEntryItem> start = m_tools.Data.GetStartGuthaben(ledger.AccountOf(number));
-    return start ? first < known->ImportDate && start->EntryDate >= first : balanced.contains(number);
+    return start && fresh->ImportDate < known->ImportDate && start->EntryDate >= fresh->ImportDate;
 }
 
 std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& number) const
 {
     cStatementLedger ledger(m_tools.Data, m_tools.Settings);
-    ledger.Load(number);
+    ledger.LoadOnce(number);
     cOffer offer;
     offer.Account = ledger.AccountOf(number);
     if (offer.Account.isEmpty() || ledger.Rows().isEmpty() || ledger.IsShared()) {

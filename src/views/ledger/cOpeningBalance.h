@@ -30,9 +30,10 @@ public:
 
     explicit cOpeningBalance(const cBookTools& tools) : m_tools(tools) {}
 
-    // Whether the rows with higher IDs are the first of the number, or begin before the others and no later than the
-    // start balance, which counts on top of them then; or whether there is no start balance and the number is one of
-    // `balanced`, whose balance the bank has now named for the first time.
+    // Whether the rows with higher IDs are the first of the number, or one of them lies before the first balance of the
+    // bank, from which the start balance was counted back; or whether the number is one of `balanced`, of which the
+    // bank has now named an earlier balance than before. Without any, whether they begin before the others and no later
+    // than the start balance, which counts on top of them then.
     [[nodiscard]] bool IsDue(const QString& number, int newestBefore, const QStringList& balanced) const;
     // Nothing where the book agrees already, where the bank's balance before the first row is not certain, or where the
     // number has no account or shares it with another.

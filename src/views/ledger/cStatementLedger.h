@@ -47,7 +47,8 @@ public:
     [[nodiscard]] QString AccountOf(const QString& number) const; // of the book; empty when the number is not assigned
 
     void Load(const QString& number);
-    void LoadNewest(); // the number of the row that was staged last
+    void LoadOnce(const QString& number); // without open rows that may be there twice
+    void LoadNewest();                    // the number of the row that was staged last
 
     [[nodiscard]] const QString& Number() const { return m_number; }
     [[nodiscard]] const cImportEntryList& Rows() const { return m_rows; }

@@ -50,6 +50,9 @@ QString modImportText::Numbers(const cImportResult& result, const cAmountFormat&
     if (result.ClosingBalance) {
         parts.append(cText::Tr("Schlusssaldo {0}", {format.Cents(*result.ClosingBalance)}));
     }
+    if (result.IsAccountRemembered && !result.Accounts.isEmpty()) {
+        parts.append(cText::Tr("wie zuletzt von Konto {0}", {result.Accounts.constFirst()}));
+    }
     return parts.join(u", "_s);
 }
 

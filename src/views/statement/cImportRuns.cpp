@@ -99,22 +99,27 @@ void cImportRuns::NoteFile(const QList<int>& ids, eStatementFormat format)
 {
     if (!ids.isEmpty()) {
         m_files.append(RangeOf(ids, KindOf(format)));
+        Keep(m_files);
     }
 }
 
 void cImportRuns::NoteImport(const QList<int>& ids)
 {
     const QList<cRange> files = std::exchange(m_files, {});
-    if (ids.isEmpty()) {
-        return;
+    if (!ids.isEmpty()) {
+        Keep(files.isEmpty() ? QList<cRange>{RangeOf(ids)} : files);
     }
-    const cRange whole = RangeOf(ids);
+}
+
+// Instead of what was kept of it while it was under way.
+void cImportRuns::Keep(const QList<cRange>& import)
+{
     QList<QList<cRange>> imports = Imports();
-    for (QList<cRange>& import : imports) {
-        CutAt(import, whole.First);
+    for (QList<cRange>& other : imports) {
+        CutAt(other, import.constFirst().First);
     }
-    imports.removeIf([](const QList<cRange>& import) { return import.isEmpty(); });
-    imports.append(files.isEmpty() ? QList<cRange>{whole} : files);
+    imports.removeIf([](const QList<cRange>& other) { return other.isEmpty(); });
+    imports.append(import);
     Store(imports);
 }
 
@@ -164,4 +169,11 @@ QList<cRange> cImportRuns::Files() const
         files.append(import);
     }
     return files;
+}
+
+cRange cImportRuns::FileOf(const QList<cRange>& files, int id)
+{
+    const auto file = std::lower_bound(files.begin(), files.end(), id,
+                                       [](const cRange& each, int wanted) { return each.Last < wanted; });
+    return file == files.end() || file->First > id ? cRange() : *file;
 }

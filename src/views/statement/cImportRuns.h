@@ -32,11 +32,14 @@ public:
     // The import that a row came with; empty for rows older than what is remembered.
     [[nodiscard]] cRange ImportOf(int id) const;
     [[nodiscard]] cRange Latest() const;
-    // All files, upwards.
+    // All files, upwards, those of the import that is under way among them.
     [[nodiscard]] QList<cRange> Files() const;
+    // That of the row among them; empty when it is not remembered.
+    [[nodiscard]] static cRange FileOf(const QList<cRange>& files, int id);
 
 private:
     [[nodiscard]] QList<QList<cRange>> Imports() const; // upwards, each with its files
+    void Keep(const QList<cRange>& import);
     void Store(const QList<QList<cRange>>& imports);
 
     cSettings& m_settings;

@@ -22,17 +22,6 @@ using cRange = cImportRuns::cRange;
 constexpr qsizetype planAtOnce = 600; // open rows; a month has 500 at most
 constexpr qsizetype slice = 150;      // of a higher pile: what a list shows, and some around it
 
-// The file that a row came with, counted from 1.
-modStagedTwins::cFile FileOf(const QList<cRange>& files, int id)
-{
-    const auto file = std::lower_bound(files.begin(), files.end(), id,
-                                       [](const cRange& each, int wanted) { return each.Last < wanted; });
-    if (file == files.end() || file->First > id) {
-        return {}; // it is not remembered
-    }
-    return {static_cast<int>(file - files.begin()) + 1, file->Kind};
-}
-
 } // namespace
 
 bool cRowProposals::HasCategory(const cEntryItem& entry)
@@ -67,8 +56,11 @@ cImportPlan& cRowProposals::Plan()
 {
     if (!m_plan) {
         const QList<cRange> files = m_parts.Runs.Files();
-        m_plan = std::make_unique<cImportPlan>(cImportPlan::cParts{m_parts.Data, m_parts.Hive, m_parts.Accounts,
-                                                                   [files](int id) { return FileOf(files, id); }});
+        m_plan = std::make_unique<cImportPlan>(
+            cImportPlan::cParts{m_parts.Data, m_parts.Hive, m_parts.Accounts, [files](int id) {
+                                    const cRange file = cImportRuns::FileOf(files, id);
+                                    return modStagedTwins::cFile{file.First, file.Kind};
+                                }});
     }
     return *m_plan;
 }

@@ -117,7 +117,7 @@ struct cStatementFiles::cRun
     cRepeatList Repeats;
     cForeignNames Names;
     std::vector<std::unique_ptr<cImportAssistant>> Answered;
-    QStringList FirstBalances{}; // numbers of which the bank had named none before
+    QStringList FirstBalances{}; // as in cImportResult
 };
 
 void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssist assist)
@@ -317,12 +317,12 @@ cImportResult cStatementFiles::AskForAccount(const QString& path, const cImportR
     }
     numbers += without; // an account without a number lends its name
     shown += without;
-    const std::optional<QString> given =
-        m_tools.User.Choose({.Text = QFileInfo(path).fileName() + u'\n' + result.Message,
-                             .Title = cText::Tr("Kontonummer"),
-                             .Items = shown,
-                             .Proposal = numbers.size() > without.size() ? shown.value(0) : QString(),
-                             .AllowNew = true});
+    const std::optional<QString> given = m_tools.User.Choose(
+        {.Text = QFileInfo(path).fileName() + u'\n' + result.Message,
+         .Title = cText::Tr("Kontonummer"),
+         .Items = shown,
+         .Proposal = numbers.size() > without.size() && !result.IsAccountRemembered ? shown.value(0) : QString(),
+         .AllowNew = true});
     const QString typed = given ? given->simplified() : QString();
     const QString number = m_accounts.NumberMeant(numbers.value(shown.indexOf(typed), typed));
     if (number.isEmpty()) {
