@@ -275,6 +275,57 @@ private Q_SLOTS:
         QCOMPARE(bank.Data.GetEntries({}).constFirst().EntryDate, day);
     }
 
+    void ADoubleIsNoSideOfATransfer_data()
+    {
+        // account: that the first of two equal debits names
+        const cTestRows<QString, bool, QString> row("account", "isBooked", "type");
+        row("nothing booked", {}, false, modWord::Umbuchung);
+        row("booked as an expense", {}, true, modWord::Einnahme);
+        row("booked as the transfer", u"222"_s, true, modWord::Umbuchung);
+    }
+
+    // The debit came in two formats: its transfer takes the row that is or will be booked, never the other one.
+    void ADoubleIsNoSideOfATransfer()
+    {
+        QFETCH(const QString, account);
+        QFETCH(const bool, isBooked);
+        cBank bank;
+        const int first = bank.Stage(day, -20000, u"Quirrlix"_s, account);
+        cNoProgress progress;
+        const int booked =
+            isBooked ? bank.Booking.Book({first}, bank.Booking.Propose({first}), progress).EntryIds.constFirst() : 0;
+        const int second = bank.Stage(day, -20000, u"Quirrlix GmbH"_s, u"222"_s);
+        const int in = bank.Stage(day, 20000, u"Quirrlix"_s, u"111"_s, u"222"_s);
+        const QHash<int, cRowPlan> plans = bank.Make({first, second, in});
+        QVERIFY(plans.value(isBooked ? second : first).IsSecond);
+        const cProposal proposal = plans.value(in).Proposal;
+        QTEST(proposal.Entry.EntryType, "type");
+        QCOMPARE(proposal.PartnerRow, isBooked ? 0 : second);
+        QCOMPARE(proposal.ExistingEntry, account.isEmpty() ? 0 : booked);
+    }
+
+    // The debit that was entered by hand came in two formats as well.
+    void AnEnteredTransferGoesBeforeADouble()
+    {
+        cBank bank;
+        const int first = bank.Stage(day, -20000, u"Quirrlix"_s);
+        const int second = bank.Stage(day, -20000, u"Quirrlix GmbH"_s, u"222"_s);
+        const int in = bank.Stage(day.addDays(1), 20000, u"Quirrlix"_s, u"111"_s, u"222"_s);
+        const int entry = bank.Add([&](cEntryItem& each) {
+                                  each.EntryDate = day;
+                                  each.EntryValue = 20000;
+                                  each.EntryType = modWord::Umbuchung;
+                                  each.EntryDescription = u"Quirrlix"_s;
+                                  each.EntryAccountMove = u"Sparkonto"_s;
+                              })
+                              .ID;
+        const QHash<int, cRowPlan> plans = bank.Make({first, second, in});
+        QCOMPARE(MatchOf(plans.value(first)), entry);
+        QVERIFY(plans.value(second).IsSecond);
+        const cRowPlan other = plans.value(in);
+        QCOMPARE(other.Match ? MatchOf(other) : other.Proposal.ExistingEntry, entry);
+    }
+
     // Of two rows that may be the same the one that has an entry goes first, whichever came first.
     void TwinsGoOneAfterTheOther()
     {

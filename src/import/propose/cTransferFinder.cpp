@@ -11,6 +11,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -18,10 +19,12 @@ constexpr qint64 farthestDays = 5; // between the booking days of the two banks
 
 } // namespace
 
-cTransferFinder::cTransferFinder(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts)
+cTransferFinder::cTransferFinder(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts,
+                                 std::function<bool(int)> isDouble)
     : m_data(data),
       m_hive(hive),
       m_accounts(accounts),
+      m_isDouble(std::move(isDouble)),
       m_mapping(accounts.Mapping())
 {
 }
@@ -90,7 +93,7 @@ void cTransferFinder::FindPartner(const cImportEntry& row, cTransfer& transfer)
         const bool isTaken =
             m_partners.value(otherId, row.ID) != row.ID || m_partners.value(row.ID, otherId) != otherId;
         return isTaken || distance(i) > SlowestDays || !IsPartner(row, m_rows.at(i), transfer)
-            || (distance(i) > farthestDays && !IsSlowPartner(row, m_rows.at(i), transfer));
+            || (distance(i) > farthestDays && !IsSlowPartner(row, m_rows.at(i), transfer)) || m_isDouble(otherId);
     });
     const auto rank = [&](qsizetype i) {
         const cImportEntry& other = m_rows.at(i);
@@ -102,8 +105,10 @@ void cTransferFinder::FindPartner(const cImportEntry& row, cTransfer& transfer)
     for (const qsizetype i : std::as_const(found)) {
         const cImportEntry& other = m_rows.at(i);
         if (HasTaken(other, transfer)) {
-            m_partners.insert(row.ID, other.ID);
-            m_partners.insert(other.ID, row.ID);
+            if (!m_isDouble(row.ID)) { // else the one that is booked has to find it
+                m_partners.insert(row.ID, other.ID);
+                m_partners.insert(other.ID, row.ID);
+            }
             return;
         }
     }
