@@ -305,7 +305,8 @@ void cImportPlan::TakeTwin(cRowPlan& plan, const cPass& pass)
         const bool hasSide = each.Proposal.PartnerRow != 0 || each.Proposal.ExistingEntry != 0;
         return each.Match ? 2 : IsTransfer(each.Proposal.Entry) && hasSide ? 1 : 0;
     };
-    const bool isBehind = rank(plan) != rank(other) ? rank(plan) < rank(other) : !plan.Match && twin->RowId < plan.RowId;
+    const bool isBehind =
+        rank(plan) != rank(other) ? rank(plan) < rank(other) : !plan.Match && twin->RowId < plan.RowId;
     plan.IsSecond = known.IsDouble(plan.RowId) || isBehind;
     if (plan.IsSecond) {
         plan.Group = eRowGroup::Look;

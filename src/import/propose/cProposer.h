@@ -18,7 +18,8 @@ class cImportHiveCache;
 class cProposer
 {
 public:
-    // `isDouble`: whether a row, by its ID, is booked already in the words of another file. It is no side of a transfer.
+    // `isDouble`: whether a row, by its ID, is booked already in the words of another file. It is no side of a
+    // transfer.
     cProposer(
         cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts,
         std::function<bool(int)> isDouble = [](int) { return false; });

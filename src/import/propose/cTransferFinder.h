@@ -34,8 +34,9 @@ public:
     };
 
     // `isDouble`: whether a row, by its ID, is booked already in the words of another file.
-    cTransferFinder(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts,
-                    std::function<bool(int)> isDouble = [](int) { return false; });
+    cTransferFinder(
+        cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts,
+        std::function<bool(int)> isDouble = [](int) { return false; });
 
     // Empty when the row's counterparty is somebody else.
     [[nodiscard]] std::optional<cTransfer> Find(const cImportEntry& row);
