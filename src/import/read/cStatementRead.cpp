@@ -23,6 +23,9 @@ std::optional<eStatementFormat> cStatementRead::FormatAt(qsizetype place) const
 void cStatementRead::Append(cStatementRead more)
 {
     Parts.append(Entries.size());
+    for (auto id = more.Ids.constBegin(); id != more.Ids.constEnd(); ++id) {
+        Ids.insert(Entries.size() + id.key(), id.value());
+    }
     Entries += std::move(more.Entries);
     Problems += more.Problems;
     Skipped += more.Skipped;
