@@ -305,6 +305,49 @@ private Q_SLOTS:
         QCOMPARE(bank.Data.GetEntries({}).constFirst().EntryDate, day);
     }
 
+    void ADoubleIsNoSideOfATransfer_data()
+    {
+        // account: that the first of two equal debits names
+        const cTestRows<QString, bool, QString> row("account", "isBooked", "type");
+        row("nothing booked", {}, false, modWord::Umbuchung);
+        row("booked as an expense", {}, true, modWord::Einnahme);
+        row("booked as the transfer", u"222"_s, true, modWord::Umbuchung);
+    }
+
+    // The debit came in two formats: its transfer takes the row that is or will be booked, never the other one.
+    void ADoubleIsNoSideOfATransfer()
+    {
+        QFETCH(const QString, account);
+        QFETCH(const bool, isBooked);
+        cBank bank;
+        const int first = bank.Stage(day, -20000, u"Quirrlix"_s, account);
+        cNoProgress progress;
+        const int booked =
+            isBooked ? bank.Booking.Book({first}, bank.Booking.Propose({first}), progress).EntryIds.constFirst() : 0;
+        const int second = bank.Stage(day, -20000, u"Quirrlix GmbH"_s, u"222"_s);
+        const int in = bank.Stage(day, 20000, u"Quirrlix"_s, u"111"_s, u"222"_s);
+        const QHash<int, cRowPlan> plans = bank.Make({first, second, in});
+        QVERIFY(plans.value(isBooked ? second : first).IsSecond);
+        const cProposal proposal = plans.value(in).Proposal;
+        QTEST(proposal.Entry.EntryType, "type");
+        QCOMPARE(proposal.PartnerRow, isBooked ? 0 : second);
+        QCOMPARE(proposal.ExistingEntry, account.isEmpty() ? 0 : booked);
+    }
+
+    // The debit was entered by hand and came in two formats: the other side of the transfer names the one too many.
+    void WhatWasEnteredGoesBeforeADouble()
+    {
+        cBank bank;
+        const int entry = bank.Enter(day, 20000, u"Quirrlix"_s);
+        const int first = bank.Stage(day, -20000, u"Quirrlix"_s);
+        const int second = bank.Stage(day, -20000, u"Quirrlix GmbH"_s, u"222"_s);
+        const int in = bank.Stage(day, 20000, u"Quirrlix"_s, u"111"_s, u"222"_s);
+        const QHash<int, cRowPlan> plans = bank.Make({first, second, in});
+        QCOMPARE(MatchOf(plans.value(first)), entry);
+        QVERIFY(plans.value(second).IsSecond);
+        QCOMPARE(plans.value(in).Proposal.Entry.EntryType, modWord::Einnahme);
+    }
+
     // Of two rows that may be the same the one that has an entry goes first, whichever came first.
     void TwinsGoOneAfterTheOther()
     {

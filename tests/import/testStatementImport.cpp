@@ -39,9 +39,9 @@ QString CardPayments(const QStringList& shops)
     QString text = u"OFXHEADER:100\n<OFX><BANKMSGSRSV1><STMTTRNRS><STMTRS><BANKACCTFROM><ACCTID>7</BANKACCTFROM>"
                    "<BANKTRANLIST>"_s;
     for (const QString& shop : shops) {
-        text += u"<STMTTRN><DTPOSTED>2026010%1<TRNAMT>-5<NAME>%2<MEMO>Kartenzahlung</STMTTRN>"_s
+        text += u"<STMTTRN><DTPOSTED>2026010%1<TRNAMT>-5<FITID>%2<NAME>%3<MEMO>Kartenzahlung</STMTTRN>"_s
                     .arg(shop.endsWith(u"+1"_s) ? 2 : 1)
-                    .arg(shop.section(u'+', 0, 0));
+                    .arg(shop.section(u'#', 1), shop.section(u'+', 0, 0).section(u'#', 0, 0));
     }
     return text + u"</BANKTRANLIST></STMTRS></STMTTRNRS></BANKMSGSRSV1></OFX>\n"_s;
 }
@@ -406,6 +406,8 @@ private Q_SLOTS:
         row("two shops, one of them known", u"Kiosk"_s, u"Kiosk, Bad"_s, u"Bad"_s);
         row("beside one without name", u"-"_s, u"Kiosk, -"_s, u"Kiosk"_s);
         row("twice in one shop", u"Kiosk"_s, u"Kiosk, Kiosk"_s, {}, 1);
+        row("twice, and the bank tells them apart", {}, u"Kiosk#1, Kiosk#2"_s, u"Kiosk, Kiosk"_s);
+        row("twice, the bank does not tell them apart", {}, u"Kiosk#1, Kiosk#1"_s, u"Kiosk"_s, 1);
         row("nothing to do with it", u"Kiosk+1"_s, u"Kiosk"_s, u"Kiosk"_s);
     }
 

@@ -29,7 +29,7 @@ cImportEntry First()
 
 cFile FileOf(int id)
 {
-    return id < 5 ? cFile{1, u'm'} : id < 20 ? cFile{2, u'c'} : cFile{3, u'm'};
+    return id < 5 ? cFile{1, u'm'} : id < 20 ? cFile{2, u'c'} : id < 40 ? cFile{3, u'm'} : cFile{};
 }
 
 } // namespace
@@ -64,6 +64,11 @@ private Q_SLOTS:
         });
         row("the same on another day in the same format", 0, [](auto& each) {
             each.ID = 30;
+            each.ImportDate = each.ImportDate.addDays(2);
+            each.ImportPurpose = First().ImportPurpose;
+        });
+        row("the same on another day in a file that is forgotten", 1, [](auto& each) {
+            each.ID = 40;
             each.ImportDate = each.ImportDate.addDays(2);
             each.ImportPurpose = First().ImportPurpose;
         });
@@ -133,6 +138,53 @@ private Q_SLOTS:
         QVERIFY(!twins.contains(next.ID));
     }
 
+    void OfSeveralTwinsTheFirstCounts_data()
+    {
+        QTest::addColumn<bool>("isBooked");
+        QTest::newRow("open") << false;
+        QTest::newRow("booked") << true;
+    }
+
+    // One format names the value day, two others that of the booking.
+    void OfSeveralTwinsTheFirstCounts()
+    {
+        QFETCH(const bool, isBooked);
+        cImportEntry value = First();
+        value.ID = isBooked ? 30 : 1;
+        value.ImportAssigned = isBooked;
+        cImportEntry table = First();
+        table.ID = 10;
+        table.ImportDate = table.ImportDate.addDays(2);
+        cImportEntry archive = table;
+        archive.ID = 50;
+        archive.ImportBeneficiary = u"SWT"_s;
+        const auto twins = modStagedTwins::Find({value, table, archive},
+                                                {.AccountOf = [](const QString& number) { return number; },
+                                                 .FileOf =
+                                                     [](int id) {
+                                                         return id == 50 ? cFile{4, u'z'} : FileOf(id);
+                                                     }});
+        QCOMPARE(twins.value(table.ID).RowId, value.ID);
+        QCOMPARE(twins.value(archive.ID).RowId, value.ID);
+    }
+
+    // Two equal purchases of a day: one format says so, the other names their value days.
+    void EachOfTwoEqualRowsHasItsTwin()
+    {
+        cImportEntry other = First();
+        other.ID = 10;
+        other.ImportBeneficiary = u"SWT"_s;
+        cImportEntry second = other;
+        second.ID = 11;
+        cImportEntry later = First();
+        later.ID = 2;
+        later.ImportDate = later.ImportDate.addDays(2);
+        const auto twins =
+            modStagedTwins::Find({First(), later, other, second},
+                                 {.AccountOf = [](const QString& number) { return number; }, .FileOf = FileOf});
+        QCOMPARE(twins.value(later.ID).RowId, second.ID);
+    }
+
     void ABookedRowIsNotMarkedButNamed()
     {
         cImportEntry open = First();
@@ -166,7 +218,12 @@ private Q_SLOTS:
         QVERIFY(runs.ImportOf(7).IsEmpty());
         runs.NoteImport({}); // nothing new came
         QCOMPARE(runs.Latest(), (cRange{4, 6}));
-        runs.NoteImport({4}); // after the last import was undone
+        for (int id = 7; id < 107; ++id) { // a year of weekly files of two accounts
+            runs.NoteFile({id}, eStatementFormat::Mt940);
+            runs.NoteImport({id});
+        }
+        QCOMPARE(runs.ImportOf(5), (cRange{4, 6}));
+        runs.NoteImport({4}); // after the last imports were undone
         QCOMPARE(runs.Files(), (QList<cRange>{{1, 3}, {4, 4}}));
     }
 };

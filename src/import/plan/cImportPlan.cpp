@@ -42,7 +42,9 @@ bool IsTransfer(const cEntryItem& entry)
 
 struct cImportPlan::cKnowledge
 {
-    explicit cKnowledge(const cParts& parts) : Parts(parts), Proposer(parts.Data, parts.Hive, parts.Accounts)
+    explicit cKnowledge(const cParts& parts)
+        : Parts(parts),
+          Proposer(parts.Data, parts.Hive, parts.Accounts, [this](int id) { return IsDouble(id); })
     {
         Open = parts.Hive.GetImportHive().GetImportEntriesByAssignedID(-1);
         std::sort(Open.begin(), Open.end(), [](const cImportEntry& a, const cImportEntry& b) {
@@ -68,13 +70,32 @@ struct cImportPlan::cKnowledge
                 || (Numbered.contains(entry.EntryAccount) && Numbered.contains(entry.EntryAccountMove)));
     }
 
+    [[nodiscard]] const QHash<int, modStagedTwins::cTwin>& Twins()
+    {
+        if (!m_twins) {
+            m_twins = modStagedTwins::Find(
+                Parts.Hive.GetImportHive().getImportEntryList(),
+                {.AccountOf = [this](const QString& number) { return Parts.Accounts.AccountOf(number); },
+                 .FileOf = Parts.FileOf});
+        }
+        return *m_twins;
+    }
+
+    [[nodiscard]] bool IsDouble(int id)
+    {
+        const auto twin = Twins().constFind(id);
+        return twin != Twins().constEnd() && !Places.contains(twin->RowId);
+    }
+
     cParts Parts;
     cProposer Proposer;
     cImportEntryList Open;  // by day
     QSet<QString> Numbered; // accounts that stand at a bank
     QHash<int, qsizetype> Places;
     QHash<int, cProposal> Proposals;
-    std::optional<QHash<int, modStagedTwins::cTwin>> Twins;
+
+private:
+    std::optional<QHash<int, modStagedTwins::cTwin>> m_twins;
 };
 
 // What is found on the way, neighbours among it.
@@ -179,10 +200,12 @@ QHash<int, cRowPlan> cImportPlan::Make(const QList<int>& rowIds, cProgress& prog
         const cImportEntry& row = m_knowledge->Open.at(m_knowledge->Places.value(id));
         cRowPlan& plan = pass.Plans[id];
         TakeSeries(row, plan, pass, matcher);
-        TakeTransfer(row, plan, pass);
     }
     for (const int id : ids) {
         TakeTwin(pass.Plans[id], pass);
+    }
+    for (const int id : ids) {
+        TakeTransfer(m_knowledge->Open.at(m_knowledge->Places.value(id)), pass.Plans[id], pass);
     }
     for (const int id : rowIds) {
         if (const auto plan = pass.Plans.constFind(id); plan != pass.Plans.constEnd()) {
@@ -248,42 +271,43 @@ void cImportPlan::TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cP
     plan.Reason = plan.Proposal.Reason;
     const bool isInBook = plan.Proposal.PartnerRow != 0 || plan.Proposal.ExistingEntry != 0;
     plan.Group = isInBook ? eRowGroup::InBook : m_knowledge->IsSure(plan.Proposal) ? eRowGroup::Sure : eRowGroup::Look;
+    plan.Group = plan.IsSecond ? eRowGroup::Look : plan.Group;
     const auto partner = pass.Plans.constFind(plan.Proposal.PartnerRow);
-    if (partner == pass.Plans.constEnd() || !partner->Match) {
+    if (partner == pass.Plans.constEnd() || plan.IsSecond || (!partner->Match && !partner->IsSecond)) {
         return;
     }
-    if (IsTransfer(partner->Match->Entry)) {
-        plan.Proposal.ExistingEntry = partner->Match->Entry.ID;
+    const cRowPlan other = partner->IsSecond ? pass.Plans.value(partner->Twin->RowId) : *partner;
+    if (other.Match && IsTransfer(other.Match->Entry)) {
+        plan.Proposal.ExistingEntry = other.Match->Entry.ID;
         plan.Proposal.PartnerRow = 0;
-        plan.Group = partner->Group;
+        plan.Group = other.Group;
         return;
     }
-    // The other side stands in the book as income or expense, so a transfer would move the money a second time.
+    // The other side is income or expense in the book, or will be, so a transfer would move the money a second time.
     plan.Proposal.MakeSpent(row, m_knowledge->Parts.Accounts.AccountOf(row.ImportAccount));
     plan.Group = eRowGroup::Look;
-    plan.Reason = cText::Tr("die Gegenbuchung steht nicht als Umbuchung im Buch");
+    plan.Reason = partner->IsSecond ? cText::Tr("die Gegenbuchung ist vielleicht doppelt")
+                                    : cText::Tr("die Gegenbuchung steht nicht als Umbuchung im Buch");
 }
 
-// Of two rows that may be the same the one whose entry is there goes first, else the one that came first; it is none
-// too many, unless the other one is booked.
+// Of two rows that may be the same the one whose entry is there goes first, then the one whose other side is, else the
+// one that came first; it is none too many, unless the other one is booked.
 void cImportPlan::TakeTwin(cRowPlan& plan, const cPass& pass)
 {
     cKnowledge& known = *m_knowledge;
-    if (!known.Twins) {
-        known.Twins = modStagedTwins::Find(
-            known.Parts.Hive.GetImportHive().getImportEntryList(),
-            {.AccountOf = [&](const QString& number) { return known.Parts.Accounts.AccountOf(number); },
-             .FileOf = known.Parts.FileOf});
-    }
-    const auto twin = known.Twins->constFind(plan.RowId);
-    if (twin == known.Twins->constEnd()) {
+    const auto twin = known.Twins().constFind(plan.RowId);
+    if (twin == known.Twins().constEnd()) {
         return;
     }
     plan.Twin = *twin;
-    const bool isOtherOpen = known.Places.contains(twin->RowId);
-    const bool hasOtherMatch = pass.Plans.value(twin->RowId).Match.has_value();
-    plan.IsSecond = !isOtherOpen
-        || (plan.Match.has_value() != hasOtherMatch ? hasOtherMatch : !plan.Match && twin->RowId < plan.RowId);
+    const cRowPlan other = pass.Plans.value(twin->RowId);
+    const auto rank = [](const cRowPlan& each) {
+        const bool hasSide = each.Proposal.PartnerRow != 0 || each.Proposal.ExistingEntry != 0;
+        return each.Match ? 2 : IsTransfer(each.Proposal.Entry) && hasSide ? 1 : 0;
+    };
+    const bool isBehind =
+        rank(plan) != rank(other) ? rank(plan) < rank(other) : !plan.Match && twin->RowId < plan.RowId;
+    plan.IsSecond = known.IsDouble(plan.RowId) || isBehind;
     if (plan.IsSecond) {
         plan.Group = eRowGroup::Look;
     }

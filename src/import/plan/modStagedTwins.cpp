@@ -244,7 +244,8 @@ private:
         const cImportEntry* Row = nullptr;
         qint64 Day = 0;
         QChar Kind;
-        std::optional<QString> Others; // kinds that tell it of the same day
+        std::optional<QString> Others; // the kinds of the rows that are alike on the same day
+        qsizetype Before = 0;          // of its own kind in front of it
     };
     struct cPair
     {
@@ -274,14 +275,14 @@ private:
     [[nodiscard]] std::optional<eSame> Same(cTold& a, cTold& b) const
     {
         const bool isOpen = !a.Row->ImportAssigned || !b.Row->ImportAssigned;
-        if (!isOpen || a.Day == b.Day || a.Kind.isNull() || b.Kind.isNull() || a.Kind == b.Kind || IsToldBy(a, b.Kind)
-            || IsToldBy(b, a.Kind)) {
+        if (!isOpen || a.Day == b.Day || a.Kind == b.Kind || IsToldBy(a, b.Kind) || IsToldBy(b, a.Kind)) {
             return std::nullopt;
         }
         const std::optional<eSame> same = Compare(*a.Row, *b.Row);
         return same && ArePurposesAlike(*a.Row, *b.Row) ? same : std::nullopt;
     }
 
+    // A row of the other kind tells of one only: of two equal purchases of a day the second may be told of another day.
     [[nodiscard]] bool IsToldBy(cTold& told, QChar kind) const
     {
         if (!told.Others) {
@@ -289,18 +290,30 @@ private:
             const auto [first, end] = std::equal_range(m_told.begin(), m_told.end(), told,
                                                        [](const cTold& a, const cTold& b) { return a.Day < b.Day; });
             for (auto other = first; other != end; ++other) {
-                if (other->Kind != told.Kind && !told.Others->contains(other->Kind)
-                    && Compare(*told.Row, *other->Row)) {
+                const bool isOwn = other->Kind == told.Kind;
+                if ((isOwn && &*other >= &told) || !Compare(*told.Row, *other->Row)) {
+                    continue;
+                }
+                if (isOwn) {
+                    ++told.Before;
+                } else {
                     told.Others->append(other->Kind);
                 }
             }
         }
-        return told.Others->contains(kind);
+        return told.Others->count(kind) > told.Before;
     }
 
-    static void Note(const cImportEntry& row, const cImportEntry& other, const cPair& pair, QHash<int, cTwin>& twins)
+    // Of several twins the one counts that will be booked first: one that is, else the one that came first.
+    void Note(const cImportEntry& row, const cImportEntry& other, const cPair& pair, QHash<int, cTwin>& twins) const
     {
-        if (!row.ImportAssigned && !twins.contains(row.ID)) {
+        const auto place = [](const cImportEntry& each) { return std::pair(!each.ImportAssigned, each.ID); };
+        const auto known = twins.constFind(row.ID);
+        const bool isBehind =
+            known != twins.constEnd() && std::any_of(m_told.begin(), m_told.end(), [&](const cTold& told) {
+                return told.Row->ID == known->RowId && place(*told.Row) < place(other);
+            });
+        if (!row.ImportAssigned && !isBehind) {
             twins.insert(row.ID, {other.ID, pair.Same, static_cast<int>(row.ImportDate.daysTo(other.ImportDate))});
         }
     }

@@ -28,14 +28,15 @@ using namespace Qt::Literals::StringLiterals;
 
 struct cProposer::cKnowledge
 {
-    cKnowledge(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts)
+    cKnowledge(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts,
+               std::function<bool(int)> isDouble)
         : Data(data),
           Hive(hive),
           Cash(modCash::Accounts(data.GetAccounts(), NumberedAccounts(accounts, {}, eLent::LeaveOut))),
           Numbered(NumberedAccounts(accounts, Cash, eLent::Take)),
           CashStart(Cash.isEmpty() ? QDate() : StartOf(data, Cash.constFirst())),
           Learned(data, hive, CashStart),
-          Transfers(data, hive, accounts),
+          Transfers(data, hive, accounts, std::move(isDouble)),
           Series(data, hive),
           Rules(cOwnRules(accounts.Settings()).Load()),
           Matcher(Rules),
@@ -344,8 +345,9 @@ void TakeDefault(cProposal& proposal, eRestriction restriction)
 
 } // namespace
 
-cProposer::cProposer(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts)
-    : m_knowledge(std::make_unique<cKnowledge>(data, hive, accounts))
+cProposer::cProposer(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts,
+                     std::function<bool(int)> isDouble)
+    : m_knowledge(std::make_unique<cKnowledge>(data, hive, accounts, std::move(isDouble)))
 {
 }
 

@@ -18,7 +18,11 @@ class cImportHiveCache;
 class cProposer
 {
 public:
-    cProposer(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts);
+    // `isDouble`: whether a row, by its ID, is booked already in the words of another file. It is no side of a
+    // transfer.
+    cProposer(
+        cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts,
+        std::function<bool(int)> isDouble = [](int) { return false; });
     ~cProposer();
     cProposer(const cProposer&) = delete;
     cProposer& operator=(const cProposer&) = delete;

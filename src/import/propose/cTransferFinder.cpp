@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <cstdlib>
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -19,10 +20,12 @@ constexpr qint64 farthestDays = 5; // between the booking days of the two banks
 
 } // namespace
 
-cTransferFinder::cTransferFinder(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts)
+cTransferFinder::cTransferFinder(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts,
+                                 std::function<bool(int)> isDouble)
     : m_data(data),
       m_hive(hive),
       m_accounts(accounts),
+      m_isDouble(std::move(isDouble)),
       m_mapping(accounts.Mapping())
 {
 }
@@ -81,7 +84,7 @@ std::optional<cTransferFinder::cTransfer> cTransferFinder::FindSettled(const cIm
         const cImportEntry& other = m_rows.at(place);
         const QString account = AccountOf(other.ImportAccount);
         if (IsTaken(row, other) || distance(other) > farthestDays || account.isEmpty() || account == transfer.Own
-            || !modSettlement::IsPair(row, transfer.Own, other, account)) {
+            || m_isDouble(other.ID) || !modSettlement::IsPair(row, transfer.Own, other, account)) {
             continue;
         }
         if (!transfer.Other.isEmpty() && transfer.Other != account) {
@@ -109,6 +112,9 @@ bool cTransferFinder::IsTaken(const cImportEntry& row, const cImportEntry& other
 
 void cTransferFinder::Pair(const cImportEntry& row, const cImportEntry& other)
 {
+    if (m_isDouble(row.ID)) {
+        return; // the one that is booked has to find it
+    }
     m_partners.insert(row.ID, other.ID);
     m_partners.insert(other.ID, row.ID);
 }
@@ -138,7 +144,8 @@ void cTransferFinder::FindPartner(const cImportEntry& row, cTransfer& transfer)
     const auto distance = [&](qsizetype i) { return std::abs(m_rows.at(i).ImportDate.daysTo(row.ImportDate)); };
     found.removeIf([&](qsizetype i) {
         return IsTaken(row, m_rows.at(i)) || distance(i) > SlowestDays || !IsPartner(row, m_rows.at(i), transfer)
-            || (distance(i) > farthestDays && !IsSlowPartner(row, m_rows.at(i), transfer));
+            || (distance(i) > farthestDays && !IsSlowPartner(row, m_rows.at(i), transfer))
+            || m_isDouble(m_rows.at(i).ID);
     });
     const auto rank = [&](qsizetype i) {
         const cImportEntry& other = m_rows.at(i);

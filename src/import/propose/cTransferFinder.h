@@ -6,6 +6,7 @@
 #include <QHash>
 #include <QString>
 
+#include <functional>
 #include <optional>
 #include <utility>
 
@@ -32,7 +33,10 @@ public:
         bool IsMissed = false;    // the other account's rows reach over these days, and none is the other side
     };
 
-    cTransferFinder(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts);
+    // `isDouble`: whether a row, by its ID, is booked already in the words of another file.
+    cTransferFinder(
+        cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts,
+        std::function<bool(int)> isDouble = [](int) { return false; });
 
     // Empty when the row's counterparty is somebody else.
     [[nodiscard]] std::optional<cTransfer> Find(const cImportEntry& row);
@@ -58,6 +62,7 @@ private:
     cDataAccess& m_data;
     cImportHiveCache& m_hive;
     const cAccountMap& m_accounts;
+    std::function<bool(int)> m_isDouble;
     QHash<QString, QString> m_known; // number to account, as asked for
     QList<std::pair<QString, QString>> m_mapping;
     bool m_isBuilt = false;

@@ -27,6 +27,9 @@ void cStatementRead::Append(cStatementRead more)
         whole.First += Entries.size();
     }
     Wholes += std::move(more.Wholes);
+    for (auto id = more.Ids.constBegin(); id != more.Ids.constEnd(); ++id) {
+        Ids.insert(Entries.size() + id.key(), id.value());
+    }
     Entries += std::move(more.Entries);
     Problems += more.Problems;
     Skipped += more.Skipped;

@@ -5,6 +5,7 @@
 #include "model/cImportEntry.h"
 
 #include <QDate>
+#include <QHash>
 #include <QList>
 #include <QMap>
 #include <QString>
@@ -71,6 +72,7 @@ struct cStatementRead
     QString Layout;                   // name of the table layout (a bank's) that was recognised
     QList<qsizetype> Parts; // places of the entries with which further files of the source begin: these may overlap
     QList<eStatementFormat> Formats; // of these files, where they may differ
+    QHash<qsizetype, QString> Ids;   // by the place of an entry, the bank's own mark of the transaction
     QString AccountKey;              // under which the account of such files is remembered; empty: it cannot be
 
     QList<cWholeBooking> Wholes; // in the order of the entries

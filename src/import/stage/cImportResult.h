@@ -37,6 +37,7 @@ struct cImportResult
     cRepeatList Repeats; // equal to others of the file and not staged, because nothing tells whether they are real
     cRepeatList Settled; // equal rows that were staged, or that the bank's balances rule out
     int Proven = 0;      // of the staged ones: equal to others, but the bank's balances need them
+    int Told = 0;        // likewise, but the bank marks each of them
     std::optional<qint64> ClosingBalance; // cents, signed
     QStringList FirstBalances;            // own account numbers with a balance earlier than all that files have named
     QList<cReadProblem> Problems;         // lines that could not be read

@@ -9,6 +9,7 @@ struct cRepeat
 {
     cImportEntry Entry;
     int Number = 2;          // it would be the so manieth of its kind in the book
+    bool IsTold = false;     // the bank has marks for so many of its kind
     bool WasLeftOut = false; // the user, or a command, left it out before
 };
 

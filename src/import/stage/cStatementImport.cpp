@@ -555,7 +555,8 @@ void cStatementImport::SettleEqual(const cStatementRead& read, const cImportOpti
         repeat.WasLeftOut = cLeftOutRows(settings).Has(repeat);
         // Parts of statements may overlap, a book has nothing twice. An archive may hold both.
         const bool isOfBook = read.IsBook && (read.Formats.isEmpty() || modBookRow::IsBook(repeat.Entry));
-        const bool isTaken = proofs.at(i) == eProof::Real || options.Equal == eEqualRows::Take || isOfBook;
+        const bool isTold = repeat.IsTold && proofs.at(i) == eProof::None;
+        const bool isTaken = proofs.at(i) == eProof::Real || isTold || options.Equal == eEqualRows::Take || isOfBook;
         if (!isTaken && proofs.at(i) == eProof::None) {
             open.append(repeat);
             continue;
@@ -567,6 +568,7 @@ void cStatementImport::SettleEqual(const cStatementRead& read, const cImportOpti
             const eStaged outcome = staging.StageImportEntry(repeat.Entry, eDuplicateTest::Skip);
             tally.Count(outcome, repeat.Entry, result.Kind);
             result.Proven += proofs.at(i) == eProof::Real ? 1 : 0;
+            result.Told += isTold ? 1 : 0;
             if (options.Run == eStagingRun::Try) {
                 result.Rows.append(repeat.Entry);
             }

@@ -25,6 +25,8 @@ public:
         QList<qsizetype> Places; // in the list of the rows that were left out
         int Most = 0;            // of all parts of the source
         int InPart = 0;
+        qsizetype Told = 0;  // by marks of the bank, of all parts
+        QSet<QString> Ids{}; // of the part
     };
 
     explicit cGroups(const cImportEntryList& leftOut) : m_leftOut(leftOut)
@@ -47,6 +49,9 @@ public:
             }
             if (cGroup* group = Find(read.Entries.at(i))) {
                 ++group->InPart;
+                if (const auto id = read.Ids.constFind(i); id != read.Ids.constEnd()) {
+                    group->Ids.insert(*id);
+                }
             }
         }
         EndPart();
@@ -69,6 +74,8 @@ private:
         for (cGroup& group : m_groups) {
             group.Most = std::max(group.Most, group.InPart);
             group.InPart = 0;
+            group.Told = std::max(group.Told, group.Ids.size());
+            group.Ids.clear();
         }
     }
 
@@ -121,7 +128,7 @@ void modEqualRows::Find(const cStatementRead& read, cStaging& staging, const cFe
             if (memory != nullptr && memory->HasBrought(entry, number)) {
                 result.Deleted.append(entry);
             } else {
-                result.Repeats.append({entry, number});
+                result.Repeats.append({entry, number, number <= group.Told});
             }
         }
     }

@@ -163,6 +163,9 @@ private:
     void Take(cSkippedRow row)
     {
         if (row.Reason.Text.isEmpty()) {
+            if (!m_id.isEmpty()) {
+                m_read.Ids.insert(m_read.Entries.size(), m_id);
+            }
             m_read.Entries.append(std::move(row.Entry));
         } else {
             m_read.Skipped.append(std::move(row));
@@ -178,6 +181,7 @@ private:
             return std::nullopt;
         }
         const pugi::xml_node node = document.first_child();
+        m_id = TextOf(node, "FITID");
         const QString day = TextOf(node, "DTPOSTED");
         const QString amount = TextOf(node, "TRNAMT");
         const std::optional<double> value = modAmount::TryReadGerman(modOfxText::ToGermanAmount(amount));
@@ -254,6 +258,7 @@ private:
     const cReadOptions& m_options;
     cStatementRead m_read;
     QString m_account; // of the statement at hand
+    QString m_id;      // of the transaction at hand
     QString m_currency;
     QHash<QString, QString> m_names; // the counterparty by what stands in NAME; the same names come again and again
     bool m_hasStatements = false;

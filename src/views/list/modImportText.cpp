@@ -35,6 +35,10 @@ QString modImportText::Numbers(const cImportResult& result, const cAmountFormat&
         parts.append(
             cText::Tr("{0} davon mehrfach gleich, durch den Kontostand belegt", {QString::number(result.Proven)}));
     }
+    if (result.Told > 0) {
+        parts.append(cText::Tr("{0} davon mehrfach gleich, von der Bank einzeln gekennzeichnet",
+                               {QString::number(result.Told)}));
+    }
     if (!result.Repeats.isEmpty()) {
         parts.append(cText::Tr("{0} mehrfach gleich", {QString::number(result.Repeats.size())}));
     }

@@ -15,7 +15,7 @@ namespace {
 
 using cRange = cImportRuns::cRange;
 
-constexpr qsizetype mostImports = 50;
+constexpr qsizetype mostImports = 1000; // ten years of two files a week: of older ones nobody knows the format
 
 cRange RangeOf(const QList<int>& ids, QChar kind = {})
 {
