@@ -1983,10 +1983,6 @@ Do you want to replace the open database with the backup? The previous file will
         <translation>The list contains no entries to export.</translation>
     </message>
     <message>
-        <source>Kontorelle-Einträge-{0}</source>
-        <translation>Kontorelle-entries-{0}</translation>
-    </message>
-    <message>
         <source>Am Ende des Dateinamens &apos;{0}&apos; ist nicht zu erkennen, in welchem Format exportiert werden soll.
 Möglich sind: {1}.</source>
         <translation>The end of the file name &apos;{0}&apos; does not tell which format to export to.
@@ -2773,10 +2769,6 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
     <message>
         <source>Die Einträge werden geschrieben …</source>
         <translation>Writing the entries…</translation>
-    </message>
-    <message>
-        <source>Der Druck ist fehlgeschlagen. Bitte prüfen Sie den Drucker oder den Namen der Datei.</source>
-        <translation>Printing failed. Please check the printer or the file name.</translation>
     </message>
     <message>
         <source>Ordner für automatische Datensicherungen</source>
@@ -4065,10 +4057,6 @@ You can create the account or move the entries to another one.</translation>
     <message>
         <source>Kontonummer: {0}</source>
         <translation>Account number: {0}</translation>
-    </message>
-    <message>
-        <source>Zeitraum: {0} bis {1}</source>
-        <translation>Period: {0} to {1}</translation>
     </message>
     <message>
         <source>Suchtext: {0}</source>
@@ -11190,6 +11178,46 @@ Create it in another folder, or open one that is there already.</translation>
     <message>
         <source>Nur ko&amp;rrigierte, verschobene</source>
         <translation>Only co&amp;rrected, moved</translation>
+    </message>
+    <message>
+        <source>Der Druck ist fehlgeschlagen. Bitte prüfen Sie den Drucker.</source>
+        <translation>Printing has failed. Please check the printer.</translation>
+    </message>
+    <message>
+        <source>die Gegenbuchung ist vielleicht doppelt</source>
+        <translation>the other side may be there twice</translation>
+    </message>
+    <message>
+        <source>Dateien mit diesem Aufbau waren bisher von Konto {0}. In dieser fehlen dessen Umsätze von denselben Tagen: Geben Sie an, von welchem Konto sie ist.</source>
+        <translation>Files of this layout were from account {0} so far. This one lacks its transactions of the same days: Please say which account it is from.</translation>
+    </message>
+    <message>
+        <source>Laden Sie die Umsätze bei der Bank als CAMT-, MT940- oder CSV-Datei herunter. Den PDF-Auszug selbst können Sie aufheben: unter „Extras“, „Kontoauszug anzeigen“, „PDF-Auszüge…“. Eine Rechnung hängen Sie als Beleg an ihren Eintrag.</source>
+        <translation>Download the transactions from the bank as a CAMT, MT940 or CSV file. The PDF statement itself can be kept: under “Tools”, “Show statement”, “PDF statements…”. Attach an invoice to its entry as a receipt.</translation>
+    </message>
+    <message>
+        <source>Laden Sie die Umsätze bei der Bank als CAMT-, MT940- oder CSV-Datei herunter.</source>
+        <translation>Download the transactions from the bank as a CAMT, MT940 or CSV file.</translation>
+    </message>
+    <message>
+        <source>{0} Byte</source>
+        <translation>{0} bytes</translation>
+    </message>
+    <message>
+        <source>Sie gehört zu einer Datenbank, zum Beispiel zu Ihrem Haushaltsbuch oder zu einer Datensicherung. Bitte wählen Sie einen anderen Namen.</source>
+        <translation>It belongs to a database, for example to your household book or to a backup. Please choose another name.</translation>
+    </message>
+    <message>
+        <source>{0} davon mehrfach gleich, von der Bank einzeln gekennzeichnet</source>
+        <translation>{0} of them equal to others, marked one by one by the bank</translation>
+    </message>
+    <message>
+        <source>wie zuletzt von Konto {0}</source>
+        <translation>as last time from account {0}</translation>
+    </message>
+    <message>
+        <source>Für diese Art von Datei gibt es keine Vorschau. „Speichern unter…“ legt eine Kopie von ihr ab.</source>
+        <translation>There is no preview for this kind of file. “Save as…” stores a copy of it.</translation>
     </message>
 </context>
 </TS>
