@@ -1,6 +1,6 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
-#include "store/cEntrySums.h"
+#include "store/cAccountSums.h"
 #include "store/cWindowAhead.h"
 #include "store/cWindowRows.h"
 #include "store/modEntryScan.h"
@@ -108,7 +108,7 @@ void ExpandInto(cDatabase& database, const cEntryQuery& before, const cEntryQuer
 
 QList<cAccountSum> cDataAccess::GetSums(const cEntryQuery& query, bool withStartBalance)
 {
-    cEntrySums sums;
+    cAccountSums sums;
     if (const auto known = KnownSums(query, withStartBalance)) {
         return *known;
     }

@@ -17,7 +17,7 @@ cWindowRows cWindowRows::Read(cDatabase& database, const modPeriod::cRange& rang
     cEntryReader reader;
     cRows rows(database,
                cEntryReader::Select + std::string(" WHERE CASE WHEN EntryInterval = 'Einmalig' THEN Taken(")
-                   + cEntrySums::Columns + ") ELSE EntryInterval <> 'Einmalig' END",
+                   + cAccountSums::Columns + ") ELSE EntryInterval <> 'Einmalig' END",
                {}, [&](const auto& values) {
                    const eDay day = days.Place(values[0]);
                    window.IsClear = window.IsClear && day != eDay::Unclear;

@@ -2,7 +2,7 @@
 
 #include "model/cEntryItem.h"
 #include "model/modPeriod.h"
-#include "store/cEntrySums.h"
+#include "store/cAccountSums.h"
 
 class cDatabase;
 
@@ -14,7 +14,7 @@ struct cWindowRows
 
     cEntryItemList Single;  // one-off entries of the days
     cEntryItemList Series;  // all of them
-    cEntrySums Before;      // one-off entries of earlier days
-    cEntrySums StartBefore; // start balances of earlier days, which are not among the others
+    cAccountSums Before;      // one-off entries of earlier days
+    cAccountSums StartBefore; // start balances of earlier days, which are not among the others
     bool IsClear = true;    // false when one of the days is no plain day, and then the rest is worth nothing
 };

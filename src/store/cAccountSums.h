@@ -55,7 +55,7 @@ private:
 };
 
 // Sums by kind, account and target.
-class cEntrySums
+class cAccountSums
 {
 public:
     static constexpr const char* Columns =
