@@ -287,7 +287,7 @@ private Q_SLOTS:
         QCOMPARE(scene.Fetch.Summary(), u"Keine neuen Umsätze."_s);
         const QStringList leftOut = scene.Files.LeftOut();
         QCOMPARE(leftOut.size(), 7);
-        QCOMPARE(leftOut.filter(u"·  schon vorhanden, nur mit anderen Leerzeichen"_s).size(), 2);
+        QCOMPARE(leftOut.filter(u"·  schon vorhanden, nur anders geschrieben"_s).size(), 2);
         QCOMPARE(leftOut.filter(u"·  früher abgerufen und von Ihnen gelöscht"_s).size(), 1);
         scene.Files.StageLeftOut({6});
         QCOMPARE(scene.Hive.GetImportHive().Count(), 7);

@@ -38,7 +38,7 @@ struct cImportResult
     cRepeatList Settled; // equal rows that were staged, or that the bank's balances rule out
     int Proven = 0;      // of the staged ones: equal to others, but the bank's balances need them
     std::optional<qint64> ClosingBalance; // cents, signed
-    QStringList FirstBalances;            // own account numbers whose balance no earlier file has named
+    QStringList FirstBalances;            // own account numbers whose start no earlier balance could tell
     QList<cReadProblem> Problems;         // lines that could not be read
     QList<cSkippedRow> Skipped;           // rows of the file that are no bookings
     QStringList Accounts;             // own account numbers of the file in their order; "" for statements without one

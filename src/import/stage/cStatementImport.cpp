@@ -456,7 +456,7 @@ void cStatementImport::NoteFetch(const cStatementRead& read, const cFetchedState
     cImportEntryList rows = read.Entries;
     rows.removeIf([&](const cImportEntry& row) {
         const int number = ++numbers[row.EqualHash()];
-        return number > 1 && number > m_staging.CountButBlanks(row);
+        return number > 1 && number > m_staging.AllButBlanks(row).size();
     });
     if (!fetched.Memory->Note(rows, fetched.LastDay)) {
         result.Problems.append({0, cText::Tr("Was dieser Abruf brachte, konnte nicht vermerkt werden.")});
@@ -579,7 +579,12 @@ void cStatementImport::KeepBalances(const cStatementRead& read, const cKnownAcco
         result.Problems.append({0, cText::Tr("Die Bankleitzahl des Kontos konnte nicht gespeichert werden.")});
     }
     for (const cAccountBalance& balance : read.Balances) {
-        if (!result.FirstBalances.contains(balance.Account) && m_balances->Of(balance.Account).isEmpty()) {
+        // Rows that were left out have kept an earlier balance from telling the first one.
+        const bool isCleared = std::any_of(result.Settled.begin(), result.Settled.end(), [&](const cRepeat& repeat) {
+            return repeat.WasLeftOut && repeat.Entry.ImportAccount == balance.Account;
+        });
+        if (!result.FirstBalances.contains(balance.Account)
+            && (isCleared || m_balances->Of(balance.Account).isEmpty())) {
             result.FirstBalances.append(balance.Account);
         }
     }
