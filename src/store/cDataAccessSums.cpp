@@ -1,6 +1,6 @@
 #include "model/modWord.h"
-#include "store/cDataAccess.h"
 #include "store/cAccountSums.h"
+#include "store/cDataAccess.h"
 #include "store/cWindowAhead.h"
 #include "store/cWindowRows.h"
 #include "store/modEntryScan.h"

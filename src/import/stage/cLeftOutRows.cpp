@@ -54,7 +54,8 @@ bool cLeftOutRows::Forget(const cRepeatList& repeats)
 {
     return std::all_of(repeats.begin(), repeats.end(), [this](const cRepeat& repeat) {
         QStringList texts = Texts(repeat.Entry.ImportAccount);
-        const auto removed = texts.removeAll(ToText(repeat)) + texts.removeAll(ToText(repeat, modRowDigest::eBank::Counts));
+        const auto removed =
+            texts.removeAll(ToText(repeat)) + texts.removeAll(ToText(repeat, modRowDigest::eBank::Counts));
         return removed == 0 || Save(repeat.Entry.ImportAccount, texts);
     });
 }
