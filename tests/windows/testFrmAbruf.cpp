@@ -2,16 +2,19 @@
 #include "support/windowFaults.h"
 #include "testbank/cBankHousehold.h"
 #include "views/bank/cBankFetch.h"
+#include "views/bank/cBankListModel.h"
 #include "views/statement/cStatementDesk.h"
 #include "views/statement/cStatementFiles.h"
 #include "windows/bank/cFetchTree.h"
 #include "windows/bank/frmAbruf.h"
+#include "windows/bank/frmBankzugaenge.h"
 
 #include <QApplication>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -80,6 +83,22 @@ private Q_SLOTS:
             return label->isVisible() && label->text().contains(u"Konto gesperrt.");
         }));
         QVERIFY(window.isVisible());
+    }
+
+    void ListOfLoginsKeepsARowSelected()
+    {
+        cHousehold house;
+        cBankListModel banks(house.Tools);
+        const frmBankzugaenge window(banks);
+        cBankState other = house.Access.Banks().constFirst();
+        other.UserId = u"zoe"_s; // new, and so the one that is looked for
+        QVERIFY(house.Access.Save(other) && house.Access.Choose(other, other.Accounts));
+        for (int time = 0; time < 2; ++time) {
+            banks.Reload();
+            const auto rows = window.findChild<QTreeView*>()->selectionModel()->selectedRows();
+            QCOMPARE(rows.size(), 1);
+            QCOMPARE(rows.constFirst().row(), 1);
+        }
     }
 
     void CancelEndsTheRun()

@@ -224,6 +224,11 @@ void testFrmTan::PictureIsShownInItsWidth()
     const int before = picture->sizeHint().width();
     window.findChild<QSlider*>()->setValue(120);
     QVERIFY(picture->sizeHint().width() > before);
+    QTRY_VERIFY(window.height() > picture->sizeHint().height());
+    const int tall = window.height();
+    window.findChild<QSlider*>()->setValue(20);
+    QTRY_VERIFY(window.height() < tall);
+    window.findChild<QSlider*>()->setValue(120);
     window.close();
     QCOMPARE(entry.Value(cTanEntry::eDial::PictureWidth), 120);
 }
