@@ -7038,10 +7038,6 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
         <translation>&amp;Upside down</translation>
     </message>
     <message>
-        <source>Das Bild der Bank lässt sich nicht anzeigen.</source>
-        <translation>The picture of the bank cannot be shown.</translation>
-    </message>
-    <message>
         <source>Freigabe</source>
         <translation>Approval</translation>
     </message>
@@ -7864,10 +7860,6 @@ Shall these be taken as well? That is right if, for example, you bought two iden
     <message>
         <source>steht mehrmals gleich im Kontoauszug</source>
         <translation>stands more than once in the statement</translation>
-    </message>
-    <message>
-        <source>schon vorhanden, nur mit anderen Leerzeichen oder gekürzt</source>
-        <translation>already there, only with other blanks or shortened</translation>
     </message>
     <message>
         <source>Gebühr (kommt zum Betrag hinzu)</source>
@@ -11218,6 +11210,30 @@ Create it in another folder, or open one that is there already.</translation>
     <message>
         <source>Für diese Art von Datei gibt es keine Vorschau. „Speichern unter…“ legt eine Kopie von ihr ab.</source>
         <translation>There is no preview for this kind of file. “Save as…” stores a copy of it.</translation>
+    </message>
+    <message>
+        <source>Umsätze von {0}</source>
+        <translation>Transactions of {0}</translation>
+    </message>
+    <message>
+        <source>Die TAN für {1} war falsch. Diese ist für die Umsätze von {0}.</source>
+        <translation>The TAN for {1} was wrong. This one is for the transactions of {0}.</translation>
+    </message>
+    <message>
+        <source>Ohne Balken eintippen, eins nach dem anderen: {0}</source>
+        <translation>To type without the bars, one after the other: {0}</translation>
+    </message>
+    <message>
+        <source>Anmeldung</source>
+        <translation>Login</translation>
+    </message>
+    <message>
+        <source>Die Bank hat kein lesbares Bild geschickt. Geben Sie den Startcode aus dem Text von Hand ein, oder brechen Sie ab und wählen Sie unter „Bankzugänge…“ ein anderes Verfahren.</source>
+        <translation>The bank has sent no readable picture. Enter the start code from the text by hand, or cancel and choose another procedure under “Bank logins…”.</translation>
+    </message>
+    <message>
+        <source>schon vorhanden, nur anders geschrieben</source>
+        <translation>already there, only written differently</translation>
     </message>
 </context>
 </TS>

@@ -25,9 +25,11 @@ struct cTanQuestion
     QString Bank;
     QString Procedure;
     QString Medium;
+    QString Purpose;   // what the bank is asked for, in the program's words; empty: for the login
     QString Label;     // of the field
     QString Challenge; // the bank's words, cleaned; may have several lines
     eTanDisplay Display = eTanDisplay::Text;
+    bool IsUnreadable = false; // the bank sent bars or a picture that nobody can read
     QByteArray
         Flicker; // the states of the five bars, one a byte: bit 0 is the clock, bits 1 to 4 the data; repeated for ever
     QStringList ByHand;     // what the flicker code says: the start code, then the data, for a reader with keys
@@ -43,6 +45,7 @@ struct cApproval
     QString Bank;
     QString Procedure;
     QString Medium;
+    QString Purpose;         // as above
     QString Challenge;       // what is to be approved, cleaned
     int WaitSeconds = 0;     // the bank may not be asked again before
     bool IsAutomatic = true; // ask by itself after the wait; else only when the user says so

@@ -44,6 +44,7 @@ bool HBCIBusiness::cSession::Begin()
     Run.Collected.clear();
     Run.BankWords.clear();
     Run.Error = {};
+    Run.Purpose.clear();
     Fetched.clear();
     if (Run.Parts.ProductId.trimmed().isEmpty()) {
         return Run.Fail(modBankFault::Of(eBankFault::NoProduct));

@@ -32,12 +32,14 @@ static QString MediumOf(const cTanChallenge& challenge, const cBankState& state)
     return challenge.Medium.isEmpty() ? state.Medium : challenge.Medium;
 }
 
-static cApproval ApprovalFor(const cTanChallenge& challenge, const TanVerfahrenItem& method, const cBankState& state)
+static cApproval ApprovalFor(const cTanChallenge& challenge, const TanVerfahrenItem& method, const cBankState& state,
+                             const QString& purpose)
 {
     cApproval approval;
     approval.Bank = BankOf(state);
     approval.Procedure = method.Name;
     approval.Medium = MediumOf(challenge, state);
+    approval.Purpose = purpose;
     if (challenge.Challenge != u"nochallenge") {
         approval.Challenge = modChallenge::Cleaned(challenge.Challenge);
     }
@@ -76,8 +78,10 @@ std::optional<cBankAnswer> cBankDialog::Answered(const cBankAnswer& question)
 
 std::optional<cBankAnswer> cBankDialog::WithTan(const cTanChallenge& challenge)
 {
-    const std::optional<cSecret> tan = m_run.Parts.User.AskTan(
-        modChallenge::Question(challenge, m_method, BankOf(m_run.State), MediumOf(challenge, m_run.State)));
+    cTanQuestion question =
+        modChallenge::Question(challenge, m_method, BankOf(m_run.State), MediumOf(challenge, m_run.State));
+    question.Purpose = m_run.Purpose;
+    const std::optional<cSecret> tan = m_run.Parts.User.AskTan(question);
     if (!tan) {
         return Stop(modBankFault::Of(eBankFault::Cancelled));
     }
@@ -100,7 +104,7 @@ std::optional<cBankAnswer> cBankDialog::Approved(const cTanChallenge& challenge)
 // Asks the bank until it has the approval, never earlier or more often than it allows.
 std::optional<cBankAnswer> cBankDialog::Polled(const cTanChallenge& challenge)
 {
-    cApproval approval = ApprovalFor(challenge, m_method, m_run.State);
+    cApproval approval = ApprovalFor(challenge, m_method, m_run.State, m_run.Purpose);
     const cTanRequest request{.Process = "S", .Reference = challenge.Reference};
     const int version = std::max(m_method.SegmentVersion, 7); // the status request came with this version
     while (approval.MostAsked == 0 || approval.Asked < approval.MostAsked) {

@@ -20,7 +20,8 @@ struct cBankRun
     cBankError Refused = {};        // set once the bank refused the PIN: no message is sent any more
     cBankError Error = {};          // of this operation
     QString AddressHint = {};
-    bool IsNew = false; // no account of the login was known when its accounts were looked for
+    QString Purpose = {}; // of the orders that follow, for whoever is asked for a TAN; empty: the login
+    bool IsNew = false;   // no account of the login was known when its accounts were looked for
 
     // The operation ends with this error; false, for the caller to return.
     bool Fail(const cBankError& error)

@@ -4,6 +4,8 @@
 #include "base/cText.h"
 #include "fints/modBankMemory.h"
 
+#include <utility>
+
 static QString NameOf(const cBankAccount& account)
 {
     return account.ProductName.isEmpty() ? account.Number : account.ProductName + u' ' + account.Number;
@@ -34,12 +36,31 @@ static void CutToWholeStatements(QByteArray& bytes)
     bytes.clear();
 }
 
+// Whoever typed a wrong TAN is asked for one again at once, but for the next account.
+static QString PurposeOf(const QString& account, const QString& refused)
+{
+    return refused.isEmpty()
+        ? cText::Tr("Umsätze von {0}", {account})
+        : cText::Tr("Die TAN für {1} war falsch. Diese ist für die Umsätze von {0}.", {account, refused});
+}
+
 cFetchedAccount cStatementFetch::Fetch(const cFetchOrder& order)
+{
+    m_run.Purpose = PurposeOf(NameOf(order.Account), std::exchange(m_refused, {}));
+    cFetchedAccount fetched = FetchOne(order);
+    if (fetched.Failure.Fault == eBankFault::TanWrong) {
+        m_refused = NameOf(order.Account);
+    }
+    return fetched;
+}
+
+cFetchedAccount cStatementFetch::FetchOne(const cFetchOrder& order)
 {
     cFetchedAccount fetched;
     cFetchOrder complete = order;
+    Renew(complete.Account);
     m_run.Parts.User.ShowStep(cText::Tr("Umsätze werden abgerufen: {0}", {NameOf(order.Account)}));
-    const cKind kind = modBankParameters::StatementOrder(m_run.State.Parameters, order.Account);
+    const cKind kind = modBankParameters::StatementOrder(m_run.State.Parameters, complete.Account);
     if (kind.IsNone()) {
         fetched.Account = order.Account;
         fetched.Failure = modBankFault::Of(eBankFault::NoStatements).Failure;
@@ -114,17 +135,26 @@ void cStatementFetch::Balance(cFetchedAccount& fetched)
     fetched.BalanceDay = balance->Day;
 }
 
+// Since the order was made, the bank may have told what else the account allows now, or its IBAN.
+void cStatementFetch::Renew(cBankAccount& account) const
+{
+    const cBankAccount ordered = account;
+    for (const cBankAccount& known : std::as_const(m_run.State.Accounts)) {
+        if (known.Number == ordered.Number && known.SubNumber == ordered.SubNumber
+            && (!ordered.Number.isEmpty() || known.Iban == ordered.Iban)) {
+            account = known;
+        }
+    }
+    account.Iban = account.Iban.isEmpty() ? ordered.Iban : account.Iban;
+    account.Bic = account.Bic.isEmpty() ? ordered.Bic : account.Bic;
+}
+
 // The newer forms of the requests name the account by IBAN and BIC.
 void cStatementFetch::Complete(cBankAccount& account)
 {
     if (account.Iban.isEmpty()) {
         AskForIbans();
-        for (const cBankAccount& known : std::as_const(m_run.State.Accounts)) {
-            if (known.Number == account.Number && known.SubNumber == account.SubNumber) {
-                account.Iban = known.Iban;
-                account.Bic = known.Bic;
-            }
-        }
+        Renew(account);
     }
     if (account.Bic.isEmpty()) {
         account.Bic = m_run.State.Bic;

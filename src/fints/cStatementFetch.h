@@ -16,13 +16,16 @@ public:
 private:
     using cKind = modBankParameters::cStatementOrder;
 
+    [[nodiscard]] cFetchedAccount FetchOne(const cFetchOrder& order);
     [[nodiscard]] HBCISegment Request(const cKind& kind, const cFetchOrder& order, const QByteArray& point) const;
     [[nodiscard]] bool Pages(const cKind& kind, const cFetchOrder& order, cFetchedAccount& fetched);
     void Balance(cFetchedAccount& fetched);
+    void Renew(cBankAccount& account) const;
     void Complete(cBankAccount& account);
     void AskForIbans();
 
     cBankRun& m_run;
     cBankDialog& m_dialog;
     bool m_hasAskedForIbans = false;
+    QString m_refused; // name of the account before, when its TAN was wrong
 };

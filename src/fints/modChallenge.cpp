@@ -94,6 +94,7 @@ void AddFlicker(cTanQuestion& question, const cTanChallenge& challenge, eHhd edi
             return;
         }
     }
+    question.IsUnreadable = !sent.isEmpty();
 }
 
 void AddPicture(cTanQuestion& question, const cTanChallenge& challenge)
@@ -102,6 +103,8 @@ void AddPicture(cTanQuestion& question, const cTanChallenge& challenge)
         question.Display = eTanDisplay::Picture;
         question.Picture = picture->File;
         question.PictureType = picture->Type;
+    } else {
+        question.IsUnreadable = !challenge.HhdUc.isEmpty();
     }
 }
 
@@ -109,9 +112,14 @@ void AddPicture(cTanQuestion& question, const cTanChallenge& challenge)
 
 QString modChallenge::Cleaned(const QString& challenge)
 {
-    static constexpr std::array marks{std::pair(u"<br>", u"\r\n"), std::pair(u"<br/>", u"\r\n"),
-                                      std::pair(u"<b>", u""),      std::pair(u"</b>", u""),
-                                      std::pair(u"<i>", u""),      std::pair(u"</i>", u"")};
+    static constexpr std::array marks{
+        std::pair(u"<br>", u"\r\n"), std::pair(u"<br/>", u"\r\n"), std::pair(u"<b>", u""),
+        std::pair(u"</b>", u""),     std::pair(u"<i>", u""),       std::pair(u"</i>", u""),
+        std::pair(u"<u>", u""),      std::pair(u"</u>", u""),      std::pair(u"<p>", u"\r\n"),
+        std::pair(u"</p>", u""),     std::pair(u"<ul>", u""),      std::pair(u"</ul>", u""),
+        std::pair(u"<ol>", u""),     std::pair(u"</ol>", u""),     std::pair(u"<li>", u"\r\n"),
+        std::pair(u"</li>", u""),    std::pair(u"&nbsp;", u" "),   std::pair(u"&lt;", u"<"),
+        std::pair(u"&gt;", u">"),    std::pair(u"&amp;", u"&")};
     QString text = Parts(challenge).Text;
     for (const auto& [mark, meaning] : marks) {
         text.replace(QString::fromUtf16(mark), QString::fromUtf16(meaning), Qt::CaseInsensitive);

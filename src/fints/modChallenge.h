@@ -10,8 +10,8 @@ struct cTanChallenge;
 // What a bank asks a TAN for, made ready for the person who is to type it.
 namespace modChallenge {
 
-// The bank's words as they are shown: lines instead of "<br>", no marks of bold and italic type, and without the code
-// for a TAN generator that some banks put in front of them.
+// The bank's words as they are shown: lines instead of "<br>", "<p>" and "<li>", no marks of bold, italic or underlined
+// type, and without the code for a TAN generator that some banks put in front of them.
 [[nodiscard]] QString Cleaned(const QString& challenge);
 
 // Everything that the question for a TAN shows. Where the picture or the code of the bars cannot be read, a question

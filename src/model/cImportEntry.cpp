@@ -63,6 +63,13 @@ bool IsEqualButBlanks(const QString& a, const QString& b, const cRoom& room)
         && std::equal(shorter.begin(), shorter.end(), (isFirstShorter ? second : first).begin());
 }
 
+// An IBAN contains the bank, and not every format of a bank states it beside the account.
+bool IsBankOpen(const cImportEntry& a, const cImportEntry& b)
+{
+    return a.ImportBeneficiaryBLZ.isEmpty() || b.ImportBeneficiaryBLZ.isEmpty()
+        || (!a.ImportBeneficiaryAccount.isEmpty() && a.ImportBeneficiaryAccount.front().isLetter());
+}
+
 quint64 Mixed(quint64 hash, quint64 value)
 {
     constexpr quint64 goldenRatio = 0x9E3779B97F4A7C15; // of 2^64: spreads values that are close to each other
@@ -115,7 +122,7 @@ bool cImportEntry::isEqualButBlanks(const cImportEntry& other) const
 {
     return ImportDate == other.ImportDate && ImportValue == other.ImportValue && ImportAccount == other.ImportAccount
         && ImportBeneficiaryAccount == other.ImportBeneficiaryAccount
-        && ImportBeneficiaryBLZ == other.ImportBeneficiaryBLZ
+        && (ImportBeneficiaryBLZ == other.ImportBeneficiaryBLZ || IsBankOpen(*this, other))
         && IsEqualButBlanks(ImportBeneficiary, other.ImportBeneficiary, nameRoom)
         && IsEqualButBlanks(ImportPurpose, other.ImportPurpose, purposeRoom);
 }

@@ -28,7 +28,8 @@ struct cImportEntry
     // text and currency take no part, so a statement in another format is recognised.
     [[nodiscard]] bool isEqual(const cImportEntry& other) const;
 
-    // Equal but for blanks in purpose and name, or the end of a long one: formats break and cut them in their own ways.
+    // Equal but for blanks in purpose and name, the end of a long one, or the counterparty's bank where one side leaves
+    // it out or the account is an IBAN: formats write these in their own ways.
     [[nodiscard]] bool isEqualButBlanks(const cImportEntry& other) const;
     // Rows that are equal, or equal but for blanks, have an equal hash.
     [[nodiscard]] size_t EqualHash() const;

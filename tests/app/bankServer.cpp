@@ -9,14 +9,32 @@
 
 using namespace Qt::Literals::StringLiterals;
 
-// The bank of the tests on a port of this machine, for trying the programs by hand: prints its address and what is
-// asked of it. The programs have to trust tests/data/tls/authority.pem for that. Login testuser, PIN 12345, TAN 777666,
-// product PRODUKTID0123456789012345.
-//   bankServer [none|tan|approval]
+namespace {
+
+constexpr const char* help = R"(bankServer [none|tan|approval]
+
+The bank of the tests on a port of this machine, for trying the programs by hand. Prints its address, then what is
+asked of it, until it is ended.
+
+  none      no TAN (as without an argument)
+  tan       a TAN for the login and for the bookings: 777666
+  approval  the login is approved in an app, at the third question
+
+Bank code 12345678, login testuser, PIN 12345, product PRODUKTID0123456789012345. The programs have to trust
+tests/data/tls/authority.pem: add it to a copy of /etc/ssl/certs and mount that over it in a namespace of its own.
+)";
+
+} // namespace
+
 int main(int argc, char* argv[])
 {
     const QCoreApplication application(argc, argv);
-    const QString kind = QCoreApplication::arguments().value(1);
+    const QString kind = QCoreApplication::arguments().value(1, u"none"_s);
+    if (kind != "none"_L1 && kind != "tan"_L1 && kind != "approval"_L1) {
+        const bool isWanted = kind == "--help"_L1 || kind == "-h"_L1;
+        std::fputs(help, isWanted ? stdout : stderr);
+        return isWanted ? 0 : 2;
+    }
     cBankProfile profile;
     profile.Name = "Testbank";
     profile.Parameters.append("HICAZS:1+1+1+0+90:N:N:urn?:iso?:std?:iso?:20022?:tech?:xsd?:camt.052.001.08");

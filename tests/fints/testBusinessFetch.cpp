@@ -200,6 +200,30 @@ private Q_SLOTS:
         QVERIFY(scene.Business.FetchAll(orders));
         QCOMPARE(scene.Bank.Story(), u"init 912 0/0 HKIDN | HKKAZ5 111 | HKSAL5 111 | end"_s);
     }
+
+    // The bank may tell in the same dialog that it sends other documents from now on.
+    void AsksForWhatTheAccountAllowsNow()
+    {
+        cBankScene scene;
+        QVERIFY(scene.SetUp());
+        QList<cFetchOrder> orders = scene.Orders().first(1);
+        orders.first().Account.Orders = {u"HKWPD"_s};
+        QVERIFY(scene.Business.FetchAll(orders));
+        QCOMPARE(scene.Bank.Story(), init + u"HKKAZ5 111 | HKSAL5 111 | end"_s);
+    }
+
+    // The question for the second account comes right behind a TAN that was wrong, and looks like the first one.
+    void NamesTheAccountOfATan()
+    {
+        cBankScene scene;
+        QVERIFY(scene.SetUp());
+        scene.Bank.Profile.AskedTans["HKKAZ"] = {.Times = -1, .Refusal = "9941::TAN falsch."};
+        QVERIFY(!scene.Business.FetchAll(scene.Orders().first(1)));
+        QCOMPARE(scene.User.LastTan.Purpose, u"Umsätze von Girokonto 111"_s);
+        QVERIFY(!scene.Business.FetchAll(scene.Orders()));
+        QCOMPARE(scene.User.LastTan.Purpose,
+                 u"Die TAN für Girokonto 111 war falsch. Diese ist für die Umsätze von Tagesgeld 222."_s);
+    }
 };
 
 TEST_CLASS(testBusinessFetch, QCoreApplication)

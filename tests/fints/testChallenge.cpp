@@ -45,7 +45,9 @@ private Q_SLOTS:
         row("lines and marks", u"<b>Umsatzabfrage</b><br>Konto <i>4711</i><br/>Bitte TAN eingeben"_s,
             u"Umsatzabfrage\r\nKonto 4711\r\nBitte TAN eingeben"_s);
         row("capitals", u"Eins<BR>zwei"_s, u"Eins\r\nzwei"_s);
-        row("everything else stays", u"a < b & <u>c</u> &lt;br&gt;"_s, u"a < b & <u>c</u> &lt;br&gt;"_s);
+        row("list and signs", u"TAN &amp; Code<UL><li>Startcode: <u>4711</u></li></UL>&lt;br&gt;"_s,
+            u"TAN & Code\r\nStartcode: 4711<br>"_s);
+        row("everything else stays", u"a < b & <x>c</x>"_s, u"a < b & <x>c</x>"_s);
         row("in parts", u"CHLGUC  002624088715131306389726041,00CHLGTEXT0021Kontoabfrage<br>Start"_s,
             u"Kontoabfrage\r\nStart"_s);
         row("a code without words behind it", u"TAN bitte: CHLGUC  0004abcd Danke"_s, u"TAN bitte:  Danke"_s);
@@ -110,7 +112,9 @@ private Q_SLOTS:
         QCOMPARE(question.Label, u"TAN-Eingabe:"_s);
         QCOMPARE(question.MostCharacters, 6);
         QCOMPARE(question.ByHand, QStringList({u"87151313"_s, u"389726"_s, u"1,00"_s}));
-        QCOMPARE(Ask(method, u"CHLGUC  9999"_s, {}).Display, eTanDisplay::Text);
+        QVERIFY(!Ask(method, u"Startcode 1"_s, {}).IsUnreadable);
+        const cTanQuestion cut = Ask(method, u"CHLGUC  0004abcd"_s, {});
+        QVERIFY(cut.Display == eTanDisplay::Text && cut.IsUnreadable);
     }
 
     void PictureComesWithItsType_data()
@@ -136,6 +140,7 @@ private Q_SLOTS:
         QFETCH(QByteArray, data);
         const cTanQuestion question = Ask(Method(u"MS1.0.0/photoTAN/"_s), {}, data);
         QTEST(question.Picture, "file");
+        QCOMPARE(question.IsUnreadable, question.Picture.isEmpty());
         QTEST(question.PictureType, "type");
     }
 

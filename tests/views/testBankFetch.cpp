@@ -305,7 +305,7 @@ private Q_SLOTS:
         QCOMPARE(m_scene->Fetch.Summary(), u"Keine neuen Umsätze."_s);
         const QStringList leftOut = m_scene->Files.LeftOut();
         QCOMPARE(leftOut.size(), 7);
-        QCOMPARE(leftOut.filter(u"·  schon vorhanden, nur mit anderen Leerzeichen"_s).size(), 2);
+        QCOMPARE(leftOut.filter(u"·  schon vorhanden, nur anders geschrieben"_s).size(), 2);
         QCOMPARE(leftOut.filter(u"·  früher abgerufen und von Ihnen gelöscht"_s).size(), 1);
         m_scene->Files.StageLeftOut({6});
         QCOMPARE(m_scene->Hive.GetImportHive().Count(), 7);

@@ -136,6 +136,10 @@ private Q_SLOTS:
         QVERIFY(state->SystemId != "0" && state->BpdVersion != u"0");
         QCOMPARE(m_scene->Bank.Journal.count(u"PIN?"_s), 1);
         QVERIFY(m_scene->Bank.IsQuiet());
+        cScene another;
+        QVERIFY(cBankAccess(another.Book.Tools).Save(*state));
+        another.Setup.ChooseCode(u"12345678"_s);
+        QCOMPARE(another.Setup.State().Url, state->Url); // typed once for all logins of a bank
         // The account is a step of the book, the login is none.
         QVERIFY(m_scene->Book.Data.Journal().Undo());
         QVERIFY(!m_scene->Book.Data.FindAccount(u"Notgroschen"_s));

@@ -7,6 +7,7 @@
 #include "testbank/cBankHousehold.h"
 #include "views/bank/cApprovalWait.h"
 #include "views/bank/cBankFetch.h"
+#include "views/bank/cBankListModel.h"
 #include "views/bank/cBankLogView.h"
 #include "views/bank/cTanEntry.h"
 #include "views/statement/cStatementDesk.h"
@@ -14,6 +15,7 @@
 #include "windows/bank/cFlickerView.h"
 #include "windows/bank/cTanPictureView.h"
 #include "windows/bank/frmAbruf.h"
+#include "windows/bank/frmBankzugaenge.h"
 #include "windows/bank/frmPin.h"
 #include "windows/bank/frmProtokoll.h"
 #include "windows/bank/frmTan.h"
@@ -27,6 +29,7 @@
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTimer>
+#include <QTreeView>
 
 using namespace Qt::Literals::StringLiterals;
 using namespace modWindowHands;
@@ -95,14 +98,43 @@ private Q_SLOTS:
         QCOMPARE(scene.Window.result(), int(QDialog::Accepted));
     }
 
+    // Of the account that failed, which is that of the second login at the same bank.
     void SaysWhyNotAndStays()
     {
-        cScene scene;
-        scene.Bank.Profile.Accounts.first().Refusal = "9210::Konto gesperrt.";
-        scene.Window.show();
-        QTest::keyClick(&scene.Window, Qt::Key_Return);
-        QVERIFY(modWindowHands::Shows(scene.Window, u"Konto gesperrt."_s));
-        QVERIFY(scene.Window.isVisible());
+        cHousehold house;
+        house.Tell(cBankMonth::Example());
+        house.Bank.IsLenient = true;
+        house.Bank.Profile.Refusals["HKKAZ"] = {.Nth = 3, .Local = "9210::Konto gesperrt."};
+        cBankState other = house.Access.Banks().constFirst();
+        other.UserId = u"zoe"_s;
+        QVERIFY(house.Access.Save(other) && house.Access.Choose(other, other.Accounts));
+        cStatementDesk desk{house.Tools};
+        cBankFetch fetch{house.Tools, desk.Files(), {house.Https, house.Customer, u"1.0.0"_s}};
+        frmAbruf window{fetch};
+        const auto* tree = window.findChild<cFetchTree*>();
+        QCOMPARE(tree->topLevelItem(1)->text(0), u"Testbank, zoe"_s);
+        window.show();
+        QTest::keyClick(&window, Qt::Key_Return);
+        QCOMPARE(fetch.Lines().at(0).State, cBankFetch::eState::Done);
+        QCOMPARE(tree->Current(), 1);
+        QVERIFY(Shows(window, u"Konto gesperrt."_s));
+        QVERIFY(window.isVisible());
+    }
+
+    void ListOfLoginsKeepsARowSelected()
+    {
+        cHousehold house;
+        cBankListModel banks(house.Tools);
+        const frmBankzugaenge window(banks);
+        cBankState other = house.Access.Banks().constFirst();
+        other.UserId = u"zoe"_s; // new, and so the one that is looked for
+        QVERIFY(house.Access.Save(other) && house.Access.Choose(other, other.Accounts));
+        for (int time = 0; time < 2; ++time) {
+            banks.Reload();
+            const auto rows = window.findChild<QTreeView*>()->selectionModel()->selectedRows();
+            QCOMPARE(rows.size(), 1);
+            QCOMPARE(rows.constFirst().row(), 1);
+        }
     }
 
     void CancelEndsTheRun()
@@ -253,6 +285,11 @@ private Q_SLOTS:
         const int before = picture->sizeHint().width();
         window.findChild<QSlider*>()->setValue(120);
         QVERIFY(picture->sizeHint().width() > before);
+        QTRY_VERIFY(window.height() > picture->sizeHint().height());
+        const int tall = window.height();
+        window.findChild<QSlider*>()->setValue(20);
+        QTRY_VERIFY(window.height() < tall);
+        window.findChild<QSlider*>()->setValue(120);
         window.close();
         QCOMPARE(entry.Value(cTanEntry::eDial::PictureWidth), 120);
     }
@@ -265,7 +302,8 @@ private Q_SLOTS:
         cTanEntry entry(question, *book.Settings);
         const frmTan window(entry);
         QVERIFY(window.findChild<cTanPictureView*>() == nullptr);
-        QVERIFY(Shows(window, u"Das Bild der Bank lässt sich nicht anzeigen."_s));
+        QVERIFY(Shows(window, u"kein lesbares Bild"_s));
+        QVERIFY(!Shows(window, u"Nehmen Sie das Bild"_s));
     }
 
     void ApprovalAsksInTime()

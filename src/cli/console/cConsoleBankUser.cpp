@@ -63,7 +63,11 @@ std::optional<cSecret> cConsoleBankUser::AskPin(const cPinQuestion& question)
 std::optional<cSecret> cConsoleBankUser::AskTan(const cTanQuestion& question)
 {
     modConsole::Error(Head(question.Bank, modBankQuestion::Way(question.Procedure, question.Medium)));
+    modConsole::Error(modBankQuestion::WayAndPurpose({}, question.Purpose));
     modConsole::Error(modBankQuestion::Words(question));
+    if (question.IsUnreadable) {
+        modConsole::Error(modBankQuestion::Unreadable());
+    }
     if (question.Display == eTanDisplay::Picture && !ShowPicture(question)) {
         return std::nullopt;
     }
@@ -116,6 +120,7 @@ eApproval cConsoleBankUser::WaitForApproval(const cApproval& approval)
 {
     if (approval.Asked == 0) {
         modConsole::Error(Head(approval.Bank, modBankQuestion::Way(approval.Procedure, approval.Medium)));
+        modConsole::Error(modBankQuestion::WayAndPurpose({}, approval.Purpose));
         modConsole::Error(modBankQuestion::Words(approval));
     }
     if (!approval.IsAutomatic && !AskWhenApproved()) {

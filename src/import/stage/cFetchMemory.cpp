@@ -37,7 +37,9 @@ cFetchMemory::cFetchMemory(cSettings& settings, const QString& account) : m_sett
 
 bool cFetchMemory::HasBrought(const cImportEntry& row, int number) const
 {
-    return m_oldest.isValid() && row.ImportDate >= m_oldest && m_rows.contains(modRowDigest::Value(row, number));
+    return m_oldest.isValid() && row.ImportDate >= m_oldest
+        && (m_rows.contains(modRowDigest::Value(row, number))
+            || m_rows.contains(modRowDigest::Value(row, number, modRowDigest::eBank::Counts)));
 }
 
 bool cFetchMemory::Note(const cImportEntryList& rows, QDate day)

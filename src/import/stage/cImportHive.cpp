@@ -1,6 +1,7 @@
 #include "import/stage/cImportHive.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace {
 
@@ -145,12 +146,14 @@ eKnown cImportHive::Find(const cImportEntry& entry, int newestId) const
     return known;
 }
 
-int cImportHive::CountButBlanks(const cImportEntry& entry) const
+cImportEntryList cImportHive::AllButBlanks(const cImportEntry& entry) const
 {
     BuildIndex();
     const auto [first, last] = m_index.equal_range(HashOf(entry));
-    return static_cast<int>(
-        std::count_if(first, last, [&](int rowId) { return m_entries.at(FindRow(rowId)).isEqualButBlanks(entry); }));
+    cImportEntryList rows;
+    std::transform(first, last, std::back_inserter(rows), [&](int rowId) { return m_entries.at(FindRow(rowId)); });
+    rows.removeIf([&](const cImportEntry& row) { return !row.isEqualButBlanks(entry); });
+    return rows;
 }
 
 std::optional<cImportEntry> cImportHive::GetImportEntryByID(int id) const

@@ -33,10 +33,10 @@ public:
     [[nodiscard]] qint64 GetImportEntrySumByNumber(const QString& account) const;
     // The duplicate test: a staged row isEqual the record.
     [[nodiscard]] bool IsImportItemAvail(const cImportEntry& entry) const;
-    // The same, and whether a row up to this ID differs from the record in nothing but blanks of its texts.
+    // The same, and whether a row up to this ID is equal to the record but for blanks.
     [[nodiscard]] eKnown Find(const cImportEntry& entry, int newestId) const;
-    // How many staged rows are equal to the record, or differ from it in nothing but blanks.
-    [[nodiscard]] int CountButBlanks(const cImportEntry& entry) const;
+    // The staged rows that are equal to the record, or equal but for blanks.
+    [[nodiscard]] cImportEntryList AllButBlanks(const cImportEntry& entry) const;
     [[nodiscard]] std::optional<cImportEntry> GetImportEntryByID(int id) const;
     // Entry ID -1 stands for the rows that are not assigned.
     [[nodiscard]] std::optional<cImportEntry> GetImportEntryByAssignedID(int entryId) const;

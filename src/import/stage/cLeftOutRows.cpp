@@ -12,10 +12,10 @@
 namespace {
 
 // "2026-03-10=-300=3f…"
-QString ToText(const cRepeat& repeat)
+QString ToText(const cRepeat& repeat, modRowDigest::eBank bank = modRowDigest::eBank::Open)
 {
     return modDate::ToIso(repeat.Entry.ImportDate) + u'=' + QString::number(repeat.Entry.ImportValue) + u'='
-        + modRowDigest::Of(repeat.Entry, repeat.Number);
+        + modRowDigest::Of(repeat.Entry, repeat.Number, bank);
 }
 
 } // namespace
@@ -39,7 +39,8 @@ QList<cLeftOutRows::cRow> cLeftOutRows::Of(const QString& number) const
 
 bool cLeftOutRows::Has(const cRepeat& repeat) const
 {
-    return Texts(repeat.Entry.ImportAccount).contains(ToText(repeat));
+    const QStringList texts = Texts(repeat.Entry.ImportAccount);
+    return texts.contains(ToText(repeat)) || texts.contains(ToText(repeat, modRowDigest::eBank::Counts));
 }
 
 bool cLeftOutRows::Note(const cRepeatList& repeats)
@@ -53,7 +54,9 @@ bool cLeftOutRows::Forget(const cRepeatList& repeats)
 {
     return std::all_of(repeats.begin(), repeats.end(), [this](const cRepeat& repeat) {
         QStringList texts = Texts(repeat.Entry.ImportAccount);
-        return texts.removeAll(ToText(repeat)) == 0 || Save(repeat.Entry.ImportAccount, texts);
+        const auto removed =
+            texts.removeAll(ToText(repeat)) + texts.removeAll(ToText(repeat, modRowDigest::eBank::Counts));
+        return removed == 0 || Save(repeat.Entry.ImportAccount, texts);
     });
 }
 

@@ -27,9 +27,9 @@ eKnown cStaging::Find(const cImportEntry& entry)
     return Hive(eKeepCache::FromOthers).Find(entry, m_newest);
 }
 
-int cStaging::CountButBlanks(const cImportEntry& entry)
+cImportEntryList cStaging::AllButBlanks(const cImportEntry& entry)
 {
-    return Hive(eKeepCache::FromOthers).CountButBlanks(entry);
+    return Hive(eKeepCache::FromOthers).AllButBlanks(entry);
 }
 
 cImportEntryList cStaging::Rows()

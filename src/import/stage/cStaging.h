@@ -29,8 +29,8 @@ public:
     // Whether an equal row is staged, or one that differs in nothing but blanks, before StartSource was called last.
     // The record has to be normalised.
     [[nodiscard]] eKnown Find(const cImportEntry& entry);
-    // How many staged rows are equal, or differ in nothing but blanks.
-    [[nodiscard]] int CountButBlanks(const cImportEntry& entry);
+    // The staged rows that are equal, or equal but for blanks.
+    [[nodiscard]] cImportEntryList AllButBlanks(const cImportEntry& entry);
     [[nodiscard]] cImportEntryList Rows(); // all that are staged
     // The records of another file follow. What one source tells apart, if only by a blank, are two transactions.
     void StartSource(qsizetype rows);

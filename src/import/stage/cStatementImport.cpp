@@ -463,7 +463,7 @@ void cStatementImport::NoteFetch(const cStatementRead& read, const cFetchedState
     cImportEntryList rows = read.Entries;
     rows.removeIf([&](const cImportEntry& row) {
         const int number = ++numbers[row.EqualHash()];
-        return number > 1 && number > m_staging.CountButBlanks(row);
+        return number > 1 && number > m_staging.AllButBlanks(row).size();
     });
     if (!fetched.Memory->Note(rows, fetched.LastDay)) {
         result.Problems.append({0, cText::Tr("Was dieser Abruf brachte, konnte nicht vermerkt werden.")});
@@ -592,7 +592,11 @@ void cStatementImport::KeepBalances(const cStatementRead& read, const cKnownAcco
         const cBankBalanceList before = m_balances->Of(balance.Account);
         const cBankBalanceList all = m_balances->With(balance.Account, read.Balances, read.Entries);
         const bool isEarlier = before.isEmpty() || all.constFirst().Day < before.constFirst().Day;
-        if (isEarlier && !result.FirstBalances.contains(balance.Account)) {
+        // Rows that were left out have kept an earlier balance from telling the first one.
+        const bool isCleared = std::any_of(result.Settled.begin(), result.Settled.end(), [&](const cRepeat& repeat) {
+            return repeat.WasLeftOut && repeat.Entry.ImportAccount == balance.Account;
+        });
+        if ((isEarlier || isCleared) && !result.FirstBalances.contains(balance.Account)) {
             result.FirstBalances.append(balance.Account);
         }
     }

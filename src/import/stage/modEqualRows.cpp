@@ -84,6 +84,17 @@ private:
     QMultiHash<size_t, std::size_t> m_index; // by EqualHash
 };
 
+// A repeat of a row that came in another format would look like the same transaction in other words.
+cImportEntry InWordsOf(const cImportEntryList& staged, cImportEntry repeat)
+{
+    if (!staged.isEmpty()) {
+        repeat.ImportBeneficiary = staged.constFirst().ImportBeneficiary;
+        repeat.ImportBeneficiaryBLZ = staged.constFirst().ImportBeneficiaryBLZ;
+        repeat.ImportPurpose = staged.constFirst().ImportPurpose;
+    }
+    return repeat;
+}
+
 void RemovePlaces(cImportEntryList& rows, const QSet<qsizetype>& places, qsizetype first)
 {
     qsizetype place = first;
@@ -120,15 +131,15 @@ void modEqualRows::Find(const cStatementRead& read, cStaging& staging, const cFe
     groups.Count(read);
     QSet<qsizetype> moved;
     for (const cGroups::cGroup& group : groups.All()) {
-        const int there = staging.CountButBlanks(leftOut.at(group.Places.constFirst()));
+        const cImportEntryList there = staging.AllButBlanks(leftOut.at(group.Places.constFirst()));
         qsizetype free = group.Places.size(); // the last ones are taken first
-        for (int number = there + 1; number <= group.Most && free > 0; ++number) {
+        for (int number = static_cast<int>(there.size()) + 1; number <= group.Most && free > 0; ++number) {
             const cImportEntry& entry = leftOut.at(group.Places.at(--free));
             moved.insert(group.Places.at(free));
             if (memory != nullptr && memory->HasBrought(entry, number)) {
                 result.Deleted.append(entry);
             } else {
-                result.Repeats.append({entry, number, number <= group.Told});
+                result.Repeats.append({InWordsOf(there, entry), number, number <= group.Told});
             }
         }
     }

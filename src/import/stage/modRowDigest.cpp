@@ -6,7 +6,7 @@
 #include <QtEndian>
 #include <QVarLengthArray>
 
-quint64 modRowDigest::Value(const cImportEntry& row, int number)
+quint64 modRowDigest::Value(const cImportEntry& row, int number, eBank bank)
 {
     QVarLengthArray<char16_t, 512> fields;
     const auto add = [&](const QString& field, bool isExact) {
@@ -20,7 +20,7 @@ quint64 modRowDigest::Value(const cImportEntry& row, int number)
     add(modDate::ToIso(row.ImportDate), true);
     add(QString::number(row.ImportValue), true);
     add(row.ImportBeneficiaryAccount, true);
-    add(row.ImportBeneficiaryBLZ, true);
+    add(bank == eBank::Counts ? row.ImportBeneficiaryBLZ : QString(), true);
     add(row.ImportBeneficiary, false);
     add(row.ImportPurpose, false);
     if (number > 1) {
@@ -30,7 +30,7 @@ quint64 modRowDigest::Value(const cImportEntry& row, int number)
     return qFromBigEndian<quint64>(QCryptographicHash::hash(text, QCryptographicHash::Sha1).constData());
 }
 
-QString modRowDigest::Of(const cImportEntry& row, int number)
+QString modRowDigest::Of(const cImportEntry& row, int number, eBank bank)
 {
-    return QString::number(Value(row, number), 16).rightJustified(16, u'0');
+    return QString::number(Value(row, number, bank), 16).rightJustified(16, u'0');
 }

@@ -27,7 +27,8 @@ void cApprovalWait::Start(const cApproval& approval)
 
 QString cApprovalWait::Way() const
 {
-    return modBankQuestion::Way(m_approval.Procedure, m_approval.Medium);
+    return modBankQuestion::WayAndPurpose(modBankQuestion::Way(m_approval.Procedure, m_approval.Medium),
+                                          m_approval.Purpose);
 }
 
 QString cApprovalWait::Words() const

@@ -17,7 +17,7 @@ public:
     void Start(const cApproval& approval);
 
     [[nodiscard]] const cApproval& Approval() const { return m_approval; }
-    [[nodiscard]] QString Way() const;      // procedure and medium
+    [[nodiscard]] QString Way() const;      // procedure and medium, and below what for
     [[nodiscard]] QString Words() const;    // of the bank
     [[nodiscard]] QString TimeLeft() const; // "Noch 4:05 Minuten"; empty when the bank sets no time
     [[nodiscard]] QString Step() const;     // what happens next

@@ -78,6 +78,12 @@ void cBankSetup::ChooseBank(const cBankInfo& bank)
     m_state.Bic = bank.Bic;
     m_state.Url = bank.Url;
     m_state.HbciVersion = m_access.HbciVersion(bank.Code);
+    if (m_state.Url.isEmpty()) { // it may have been typed for another login
+        const QList<cBankState> banks = m_access.Banks();
+        const auto other =
+            std::find_if(banks.begin(), banks.end(), [&](const auto& each) { return each.BankCode == bank.Code; });
+        m_state.Url = other == banks.end() ? QString() : other->Url;
+    }
 }
 
 void cBankSetup::ChooseCode(const QString& code)

@@ -38,7 +38,8 @@ cTanEntry::cTanEntry(const cTanQuestion& question, cSettings& settings) : m_ques
 
 QString cTanEntry::Way() const
 {
-    return modBankQuestion::Way(m_question.Procedure, m_question.Medium);
+    return modBankQuestion::WayAndPurpose(modBankQuestion::Way(m_question.Procedure, m_question.Medium),
+                                          m_question.Purpose);
 }
 
 QString cTanEntry::Words() const
@@ -55,7 +56,14 @@ QString cTanEntry::Hint() const
     case eTanDisplay::Picture: return cText::Tr("Nehmen Sie das Bild mit der App oder dem Lesegerät Ihrer Bank auf.");
     case eTanDisplay::Text: break;
     }
-    return {};
+    return m_question.IsUnreadable ? modBankQuestion::Unreadable() : QString();
+}
+
+QString cTanEntry::ByHand() const
+{
+    return m_question.ByHand.isEmpty()
+        ? QString()
+        : cText::Tr("Ohne Balken eintippen, eins nach dem anderen: {0}", {m_question.ByHand.join(u"  ·  "_s)});
 }
 
 QString cTanEntry::Form() const

@@ -25,9 +25,10 @@ public:
     cTanEntry(const cTanQuestion& question, cSettings& settings);
 
     [[nodiscard]] const cTanQuestion& Question() const { return m_question; }
-    [[nodiscard]] QString Way() const;   // procedure and medium
-    [[nodiscard]] QString Words() const; // of the bank
-    [[nodiscard]] QString Hint() const;  // what to do with the bars or the picture; empty for words alone
+    [[nodiscard]] QString Way() const;    // procedure and medium, and below what for
+    [[nodiscard]] QString Words() const;  // of the bank
+    [[nodiscard]] QString Hint() const;   // what to do with the bars or the picture; empty for words alone
+    [[nodiscard]] QString ByHand() const; // what the bars say, for a reader with keys; empty without
     // As in modBankQuestion
     [[nodiscard]] QString Form() const;
     [[nodiscard]] bool Fit(QString& typed, int& cursor) const;

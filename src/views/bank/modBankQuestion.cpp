@@ -44,6 +44,17 @@ QString modBankQuestion::Way(const QString& procedure, const QString& medium)
     return parts.join(u", "_s);
 }
 
+QString modBankQuestion::WayAndPurpose(const QString& way, const QString& purpose)
+{
+    return QStringList{way, Or(purpose, cText::Tr("Anmeldung"))}.join(u'\n').trimmed();
+}
+
+QString modBankQuestion::Unreadable()
+{
+    return cText::Tr("Die Bank hat kein lesbares Bild geschickt. Geben Sie den Startcode aus dem Text von Hand ein, "
+                     "oder brechen Sie ab und wählen Sie unter „Bankzugänge…“ ein anderes Verfahren.");
+}
+
 QString modBankQuestion::Login(const cPinQuestion& question)
 {
     return Or(question.UserIdLabel, cText::Tr("Anmeldename")) + u": "_s + question.UserId;

@@ -9,6 +9,10 @@ namespace modBankQuestion {
 
 // "chipTAN optisch, Karte 1"; what is empty is left out.
 [[nodiscard]] QString Way(const QString& procedure, const QString& medium);
+// The way, and in a second line what is asked for; that is the login where nothing is said.
+[[nodiscard]] QString WayAndPurpose(const QString& way, const QString& purpose);
+// What to do without the bars or the picture.
+[[nodiscard]] QString Unreadable();
 
 // "VR-NetKey: 4711", with the name that this bank has for it.
 [[nodiscard]] QString Login(const cPinQuestion& question);

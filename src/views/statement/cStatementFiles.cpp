@@ -393,7 +393,7 @@ void cStatementFiles::SettleRepeats(cRun& run)
     cRepeatList open;
     cRepeatList known;
     for (const cRepeat& repeat : std::as_const(run.Repeats)) {
-        const bool isThere = m_hive.GetImportHive().CountButBlanks(repeat.Entry) >= repeat.Number;
+        const bool isThere = m_hive.GetImportHive().AllButBlanks(repeat.Entry).size() >= repeat.Number;
         const bool isListed = std::any_of(open.begin(), open.end(), [&](const cRepeat& other) {
             return other.Number == repeat.Number && other.Entry.isEqualButBlanks(repeat.Entry);
         });
@@ -506,7 +506,7 @@ void cStatementFiles::KeepLeftOut(const cImportResult& result)
         m_leftOut.append({row, cText::Tr("schon vorhanden"), 0});
     }
     for (const cImportEntry& row : result.Alike) {
-        m_leftOut.append({row, cText::Tr("schon vorhanden, nur mit anderen Leerzeichen oder gekürzt"), 0});
+        m_leftOut.append({row, cText::Tr("schon vorhanden, nur anders geschrieben"), 0});
     }
     for (const cImportEntry& row : result.Deleted) {
         m_leftOut.append({row, cText::Tr("früher abgerufen und von Ihnen gelöscht"), 0});

@@ -33,26 +33,31 @@ cBankLoginPage::cBankLoginPage(cBankSetup& setup, QWidget* parent)
       m_bank(new QLabel(this)),
       m_userLabel(new QLabel(this)),
       m_user(new QLineEdit(this)),
+      m_fixedUser(new QLabel(this)),
       m_url(new QLineEdit(this)),
       m_product(new QLineEdit(this))
 {
     QFont bold = font();
     bold.setBold(true);
     m_bank->setFont(bold);
-    m_userLabel->setBuddy(m_user);
     auto* pin = new QLabel(cText::Tr("Die PIN wird abgefragt, sobald die Bank angesprochen wird. Sie wird nicht "
                                      "gespeichert."),
                            this);
     auto* product = new QLabel(modBankText::ProductHint(), this);
-    for (QLabel* text : {m_bank, pin, product}) {
+    for (QLabel* text : {m_bank, m_fixedUser, pin, product}) {
         text->setTextFormat(Qt::PlainText);
         text->setWordWrap(true);
     }
     auto* login = new QFormLayout;
-    login->addRow(m_userLabel, m_user);
-    if (!setup.IsNew()) { // else it stands with the bank
-        login->addRow(cText::Tr("Ad&resse der Bank:"), m_url);
+    if (setup.IsNew()) {
+        m_userLabel->setBuddy(m_user);
+        login->addRow(m_userLabel, m_user);
+    } else {
+        login->addRow(m_userLabel, m_fixedUser);
+        login->addRow(cText::Tr("Ad&resse der Bank:"), m_url); // else it stands with the bank
     }
+    m_user->setVisible(setup.IsNew());
+    m_fixedUser->setVisible(!setup.IsNew());
     m_url->setVisible(!setup.IsNew());
     auto* registration = new QFormLayout;
     registration->addRow(cText::Tr("&Produktregistrierung:"), m_product);
@@ -71,9 +76,10 @@ void cBankLoginPage::Enter()
 {
     const QString label = m_setup.LoginLabel();
     m_bank->setText(m_setup.BankText());
-    m_userLabel->setText(label.isEmpty() ? cText::Tr("&Anmeldename oder Legitimations-ID:") : WithMnemonic(label));
+    const QString named = label.isEmpty() ? cText::Tr("&Anmeldename oder Legitimations-ID:") : WithMnemonic(label);
+    m_userLabel->setText(m_setup.IsNew() ? named : QString(named).remove(u'&'));
     m_user->setText(m_setup.State().UserId);
-    m_user->setReadOnly(!m_setup.IsNew());
+    m_fixedUser->setText(m_setup.State().UserId);
     m_url->setText(m_setup.State().Url);
     m_product->setText(m_setup.ProductId());
 }

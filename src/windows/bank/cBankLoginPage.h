@@ -23,6 +23,7 @@ private:
     QLabel* m_bank;
     QLabel* m_userLabel;
     QLineEdit* m_user;
-    QLineEdit* m_url; // of a login that is set up already
+    QLabel* m_fixedUser; // of a login that is set up already
+    QLineEdit* m_url;    // of a login that is set up already
     QLineEdit* m_product;
 };

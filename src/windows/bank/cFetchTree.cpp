@@ -11,6 +11,8 @@
 #include <QEvent>
 #include <QHeaderView>
 
+#include <algorithm>
+
 namespace {
 
 using eKind = cColumnFit::eKind;
@@ -50,7 +52,10 @@ void cFetchTree::Fill()
         const bool isSame =
             i > 0 && accounts.at(i - 1).BankCode == account.BankCode && accounts.at(i - 1).UserId == account.UserId;
         if (!isSame) {
-            bank = AddBank(account.Bank);
+            const bool isTwice = std::any_of(accounts.begin(), accounts.end(), [&](const cBankFetch::cAccount& other) {
+                return other.Bank == account.Bank && other.UserId != account.UserId;
+            });
+            bank = AddBank(isTwice ? account.Bank + QStringLiteral(", ") + account.UserId : account.Bank);
         }
         auto* item = new QTreeWidgetItem(bank);
         item->setData(Account, Qt::UserRole, i);
@@ -125,6 +130,19 @@ void cFetchTree::ShowLine(qsizetype account)
     Colour(account);
     if (line != nullptr && line->State == cBankFetch::eState::Asked) {
         scrollToItem(&item);
+    }
+}
+
+void cFetchTree::ShowTrouble()
+{
+    const QList<cBankFetch::cLine>& lines = m_fetch.Lines();
+    auto line = std::find_if(lines.begin(), lines.end(),
+                             [](const auto& each) { return each.State == cBankFetch::eState::Failed; });
+    if (line == lines.end()) {
+        line = std::find_if(lines.begin(), lines.end(), [](const auto& each) { return !each.Notes.isEmpty(); });
+    }
+    if (line != lines.end()) {
+        setCurrentItem(m_items.at(line - lines.begin()));
     }
 }
 

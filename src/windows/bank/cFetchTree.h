@@ -19,6 +19,7 @@ public:
     [[nodiscard]] QList<qsizetype> Chosen() const; // places in cBankFetch::Accounts
     [[nodiscard]] qsizetype Current() const;       // -1 for none
     void ShowLine(qsizetype account);              // and bring it into sight
+    void ShowTrouble(); // makes the account current that failed, or of which there is something to say
 
     // While accounts are fetched, the choice stays as it is.
     void SetChoosable(bool isChoosable);

@@ -137,6 +137,7 @@ void frmAbruf::Start()
         (void)m_fetch.Run(wish, progress); // the lines say what came of it
     }
     ShowRunning(false);
+    m_accounts->ShowTrouble();
     ShowStep(m_fetch.Summary());
     const bool hasNew = std::any_of(m_fetch.Lines().begin(), m_fetch.Lines().end(),
                                     [](const cBankFetch::cLine& line) { return line.New > 0; });

@@ -1,7 +1,6 @@
 #include "windows/bank/frmBankzugaenge.h"
 
 #include "base/cText.h"
-#include "views/bank/cBankListModel.h"
 #include "windows/widget/cRowDelegate.h"
 #include "windows/widget/modPlace.h"
 
@@ -12,6 +11,8 @@
 #include <QScreen>
 #include <QShortcut>
 #include <QTreeView>
+
+#include <algorithm>
 
 frmBankzugaenge::frmBankzugaenge(cBankListModel& banks, QWidget* parent)
     : QDialog(parent),
@@ -31,7 +32,11 @@ frmBankzugaenge::frmBankzugaenge(cBankListModel& banks, QWidget* parent)
     BuildList();
     layout->addWidget(m_tree, 1);
     layout->addLayout(BuildButtons());
-    connect(&m_banks, &QAbstractItemModel::modelReset, this, &frmBankzugaenge::ShowButtons);
+    connect(&m_banks, &QAbstractItemModel::modelAboutToBeReset, this, [this] {
+        m_before = m_banks.Lines();
+        m_rowBefore = Row();
+    });
+    connect(&m_banks, &QAbstractItemModel::modelReset, this, &frmBankzugaenge::ShowReloaded);
     connect(m_tree->selectionModel(), &QItemSelectionModel::currentRowChanged, this, &frmBankzugaenge::ShowButtons);
     const QSize wanted(fontMetrics().averageCharWidth() * 150, fontMetrics().height() * 18);
     resize(modPlace::Fitting(wanted, screen()->availableGeometry()));
@@ -80,6 +85,21 @@ QLayout* frmBankzugaenge::BuildButtons()
     row->addWidget(close);
     close->setDefault(true);
     return row;
+}
+
+// The login that is new, else the row that was current.
+void frmBankzugaenge::ShowReloaded()
+{
+    const QList<cBankListModel::cLine>& lines = m_banks.Lines();
+    const auto added = std::find_if(lines.begin(), lines.end(), [&](const cBankListModel::cLine& line) {
+        return std::none_of(m_before.begin(), m_before.end(), [&](const cBankListModel::cLine& before) {
+            return before.Bank.BankCode == line.Bank.BankCode && before.Bank.UserId == line.Bank.UserId;
+        });
+    });
+    const int last = m_banks.rowCount() - 1;
+    const int row = added == lines.end() ? qMin(m_rowBefore, last) : static_cast<int>(added - lines.begin());
+    m_tree->setCurrentIndex(m_banks.index(row, 0));
+    ShowButtons();
 }
 
 void frmBankzugaenge::ShowButtons()

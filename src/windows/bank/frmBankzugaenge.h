@@ -1,8 +1,9 @@
 #pragma once
 
+#include "views/bank/cBankListModel.h"
+
 #include <QDialog>
 
-class cBankListModel;
 class QLabel;
 class QLayout;
 class QPushButton;
@@ -24,10 +25,13 @@ Q_SIGNALS:
 private:
     void BuildList();
     [[nodiscard]] QLayout* BuildButtons();
+    void ShowReloaded();
     void ShowButtons();
     [[nodiscard]] int Row() const; // -1: none is chosen
 
     cBankListModel& m_banks;
+    QList<cBankListModel::cLine> m_before; // of the list that is loaded anew
+    int m_rowBefore = -1;
     QLabel* m_empty;
     QTreeView* m_tree;
     QPushButton* m_add;

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "views/bank/cApprovalWait.h"
+#include "views/bank/modBankQuestion.h"
 #include "windows/bank/cFlickerView.h"
 #include "windows/bank/cTanPictureView.h"
 #include "windows/bank/modBankHead.h"
@@ -50,7 +51,7 @@ class cDials
 public:
     cDials(cTanEntry& entry, QDialog& window, QGridLayout& grid) : m_entry(entry), m_window(window), m_grid(grid) {}
 
-    void Add(cTanEntry::eDial dial, const std::function<void(int)>& apply)
+    QSlider* Add(cTanEntry::eDial dial, const std::function<void(int)>& apply)
     {
         auto* label = new QLabel;
         auto* slider = new QSlider(Qt::Horizontal);
@@ -72,6 +73,7 @@ public:
         const int row = m_grid.rowCount();
         m_grid.addWidget(label, row, 0);
         m_grid.addWidget(slider, row, 1);
+        return slider;
     }
 
 private:
@@ -103,7 +105,8 @@ void frmTan::BuildEntry(cTanEntry& entry)
     upper->setContentsMargins(0, 0, 0, 0);
     upper->addWidget(modBankHead::Make(entry.Question().Bank, entry.Way(), form));
     upper->addWidget(Words(entry.Words()));
-    if (const QString hint = entry.Hint(); !hint.isEmpty()) {
+    const bool isPicture = entry.Question().Display == eTanDisplay::Picture; // which may turn out to be none
+    if (const QString hint = entry.Hint(); !hint.isEmpty() && !isPicture) {
         upper->addWidget(modBankHead::Text(hint, form));
     }
     switch (entry.Question().Display) {
@@ -130,10 +133,11 @@ void frmTan::BuildFlicker(cTanEntry& entry, QBoxLayout& layout)
     layout.addWidget(bars, 0, Qt::AlignHCenter);
     auto* grid = new QGridLayout;
     cDials dials(entry, *this, *grid);
-    dials.Add(cTanEntry::eDial::FlickerWidth, [this, bars](int value) {
+    m_width = dials.Add(cTanEntry::eDial::FlickerWidth, [this, bars](int value) {
         bars->SetWidth(value);
-        Grow();
+        Fit();
     });
+    connect(m_width, &QSlider::sliderReleased, this, &frmTan::Fit);
     dials.Add(cTanEntry::eDial::FlickerSpeed, [bars](int value) { bars->SetSpeed(value); });
     layout.addLayout(grid);
     auto* turned = new QCheckBox(cText::Tr("Auf dem &Kopf"));
@@ -144,6 +148,10 @@ void frmTan::BuildFlicker(cTanEntry& entry, QBoxLayout& layout)
         bars->SetTurned(isTurned);
     });
     layout.addWidget(turned);
+    QLabel* byHand = modBankHead::Text(entry.ByHand(), this);
+    byHand->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    byHand->setVisible(!entry.ByHand().isEmpty());
+    layout.addWidget(byHand);
 }
 
 void frmTan::BuildPicture(cTanEntry& entry, QBoxLayout& layout)
@@ -151,15 +159,17 @@ void frmTan::BuildPicture(cTanEntry& entry, QBoxLayout& layout)
     auto* picture = new cTanPictureView(entry.Question().Picture);
     if (!picture->HasPicture()) {
         delete picture;
-        layout.addWidget(modBankHead::Text(cText::Tr("Das Bild der Bank lässt sich nicht anzeigen."), this));
+        layout.addWidget(modBankHead::Text(modBankQuestion::Unreadable(), this));
         return;
     }
+    layout.addWidget(modBankHead::Text(entry.Hint(), this));
     layout.addWidget(picture, 1);
     auto* grid = new QGridLayout;
-    cDials(entry, *this, *grid).Add(cTanEntry::eDial::PictureWidth, [this, picture](int value) {
+    m_width = cDials(entry, *this, *grid).Add(cTanEntry::eDial::PictureWidth, [this, picture](int value) {
         picture->SetWidth(value);
-        Grow();
+        Fit();
     });
+    connect(m_width, &QSlider::sliderReleased, this, &frmTan::Fit);
     layout.addLayout(grid);
 }
 
@@ -246,12 +256,13 @@ void frmTan::AskWhenDue()
     }
 }
 
-// The new size is known once the layouts have been told of it.
-void frmTan::Grow()
+// The new size is known once the layouts have been told of it. The slider does not move away under the mouse.
+void frmTan::Fit()
 {
     if (isVisible()) {
         QTimer::singleShot(0, this, [this] {
-            resize(size().expandedTo(modPlace::Fitting(sizeHint(), screen()->availableGeometry())));
+            const QSize fitting = modPlace::Fitting(sizeHint(), screen()->availableGeometry());
+            resize(m_width->isSliderDown() ? size().expandedTo(fitting) : fitting);
         });
     }
 }

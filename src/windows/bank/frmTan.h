@@ -13,6 +13,7 @@ class QDialogButtonBox;
 class QLabel;
 class QLineEdit;
 class QPushButton;
+class QSlider;
 class QTimer;
 
 // What a bank wants before it goes on: a TAN, made with bars, a picture or by words alone, or an approval in its app.
@@ -48,10 +49,11 @@ private:
     [[nodiscard]] QDialogButtonBox* Buttons(const QString& doCaption, bool closes);
     void ShowWait();   // as it stands this second
     void AskWhenDue(); // the bank
-    void Grow();       // to what bars or picture need by now
+    void Fit();        // to what bars or picture need by now
 
     cApprovalWait* m_wait = nullptr; // null when a TAN is asked for
     QLineEdit* m_field = nullptr;
+    QSlider* m_width = nullptr; // of bars or picture
     QPushButton* m_do = nullptr;
     QLabel* m_timeLeft = nullptr;
     QLabel* m_step = nullptr;
