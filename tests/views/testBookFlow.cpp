@@ -310,7 +310,9 @@ private Q_SLOTS:
         row("no day for SQLite", u"EntryDate = '2026-03-10 früh', EntryInterval = 'Einmalig'"_s,
             u"Tag '2026-03-10 früh' nicht lesbar"_s, 0);
         row("no interval", u"EntryInterval = NULL"_s, u"kein Intervall"_s, 0);
-        row("unknown interval", u"EntryInterval = 'Oft'"_s, {}, 1);
+        row("no kind", u"EntryType = NULL"_s, u"keine Buchungsart"_s, 1);
+        row("unknown kind", u"EntryType = '1'"_s, u"Buchungsart '1' unbekannt"_s, 1);
+        row("unknown interval", u"EntryInterval = 'Oft'"_s, u"Intervall 'Oft' unbekannt"_s, 1);
         row("unknown interval and an early end", u"EntryInterval = 'Oft', EntryDateEnd = '2026-01-01'"_s,
             u"Intervall 'Oft' unbekannt"_s, 0);
         row("early end of a series", u"EntryDateEnd = '2026-03-09'"_s, u"endet am 09.03.2026, vor dem ersten Tag"_s, 0);
