@@ -157,6 +157,7 @@ private Q_SLOTS:
         QCOMPARE(Run(u"delete|%1|--only|1.3.2026|--yes"_s.arg(one)).Code, 1); // no series
         Do(u"delete|%1|--only|3.2.2026|--yes"_s.arg(series));
         Do(u"delete|%1|--from|10.3.2026|--yes"_s.arg(series)); // not that of 3 March
+        Refuses(u"delete|%1|--from|10.3.2026|--yes"_s.arg(series), {u"ab dem 10.03.2026 kein Vorkommen"_s});
         QCOMPARE(Do(u"search|Lindenhof|--json|--from|1.1.2026|--to|31.12.2026"_s).Column(u"EntryValue"_s),
                  QStringList({u"650"_s, u"0"_s, u"650"_s}));
         Do(u"delete|%1|%2|%1|--yes"_s.arg(one, series));
