@@ -53,20 +53,14 @@ bool HasSessionBus()
         || (!runtime.isEmpty() && QFileInfo::exists(runtime + u"/bus"_s));
 }
 
-// Catalogues need an application, which needs a screen.
-int RefuseWithoutDisplay()
+void NameApplication()
 {
-    std::fputs(modLocale::Messages() == u"de"
-                   ? "Kontorelle: Hier gibt es keinen Bildschirm (weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt).\n"
-                     "Das Befehlszeilenprogramm kann dasselbe ohne Fenster: kontorelle-cli --help\n"
-                   : "Kontorelle: There is no screen here (neither DISPLAY nor WAYLAND_DISPLAY is set).\n"
-                     "The command line program does the same without windows: kontorelle-cli --help\n",
-               stderr);
-    return 2;
+    QCoreApplication::setApplicationName(u"kontorelle"_s);
+    QCoreApplication::setApplicationVersion(modBuild::Version()); // for --version
 }
 
 // In the language of the system: which book is opened, and with it which language, may be among the arguments.
-void ReadArguments(QCommandLineParser& parser, const QApplication& application)
+void ReadArguments(QCommandLineParser& parser, const QCoreApplication& application)
 {
     cLanguage language;
     language.Use(modLocale::Messages(), cQtShell({}));
@@ -90,6 +84,22 @@ std::future<bool> LookUpFonts()
     }
 }
 
+// What asks for no window is answered all the same.
+int RunWithoutDisplay(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    NameApplication();
+    QCommandLineParser parser;
+    ReadArguments(parser, application);
+    std::fputs(modLocale::Messages() == u"de"
+                   ? "Kontorelle: Hier gibt es keinen Bildschirm (weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt).\n"
+                     "Das Befehlszeilenprogramm kann dasselbe ohne Fenster: kontorelle-cli --help\n"
+                   : "Kontorelle: There is no screen here (neither DISPLAY nor WAYLAND_DISPLAY is set).\n"
+                     "The command line program does the same without windows: kontorelle-cli --help\n",
+               stderr);
+    return 2;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
@@ -102,15 +112,14 @@ int main(int argc, char* argv[])
         return modDebugInfo::Run(argc, argv);
     }
     if (!HasDisplay()) {
-        return RefuseWithoutDisplay();
+        return RunWithoutDisplay(argc, argv);
     }
     QApplication application(argc, argv);
     const std::future<bool> fonts = LookUpFonts();
     modChoiceAccess::Install();
     QApplication::setStyle(new cStyle); // over the desktop's own style, which only the application knows
-    QApplication::setApplicationName(u"kontorelle"_s);
+    NameApplication();
     QApplication::setApplicationDisplayName(u"Kontorelle"_s);
-    QApplication::setApplicationVersion(modBuild::Version()); // for --version
     QApplication::setDesktopFileName(u"de.veltrino.Kontorelle"_s);
     QApplication::setWindowIcon(modIcon::Program()); // of messages before there is a window too
     QCommandLineParser parser;

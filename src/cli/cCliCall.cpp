@@ -10,8 +10,11 @@ namespace {
 
 const QList<cCliOption>& GlobalOptions()
 {
-    static const QList<cCliOption> options{
-        {u"database"_s, u"DATEI"_s, {}}, {u"profile"_s, u"ORDNER"_s, {}}, {u"help"_s, {}, {}}};
+    static const QList<cCliOption> options{{u"database"_s, u"DATEI"_s, {}},
+                                           {u"profile"_s, u"ORDNER"_s, {}},
+                                           {u"help"_s, {}, {}},
+                                           {u"version"_s, {}, {}},
+                                           {u"debug-info"_s, {}, {}}};
     return options;
 }
 

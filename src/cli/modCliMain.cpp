@@ -99,9 +99,10 @@ QString modCliMain::Profile(const QStringList& arguments)
 int modCliMain::Run(const QStringList& arguments, const cCliPorts& ports)
 {
     int code = modExit::Done;
-    if (arguments == QStringList(u"--version"_s)) {
+    const cCliCall call = cCliCall::Parse(arguments, modCliCommands::All());
+    if (call.Has(u"version"_s)) {
         modConsole::Out(u"kontorelle-cli "_s + ports.Build + u'\n');
-    } else if (arguments.contains(u"--debug-info"_s)) {
+    } else if (call.Has(u"debug-info"_s)) {
         modConsole::Out(
             modDiagnosis::Text({ports.Shell, cConfiguration(ports.Registry), u"kontorelle-cli "_s + ports.Build}));
     } else {

@@ -5,10 +5,11 @@
 #include <QList>
 #include <QString>
 
-// What keeps an entry out of sight or out of the sums.
+// What keeps an entry out of sight or makes the sums wrong.
 enum class eEntryFault {
     Day,      // none, or one that cannot be read: no period holds it
-    Interval, // none, or an unknown one together with a last day that hides it
+    Kind,     // none, or an unknown one: it counts as an expense, and no view of expenses holds it
+    Interval, // none, or an unknown one: it counts once, or a last day hides it
     End,      // a series that ends before it begins
     Length,   // a series of so many occurrences that not all of those up to today are made
     Amount,   // none, or one that cannot be read: it counts as 0

@@ -34,7 +34,6 @@ class cFaultReader
 public:
     cFaultReader(cDatabase& database, QDate today)
         : m_today(today),
-          m_withoutInterval(Where(database, "EntryInterval IS NULL")),
           m_withoutDay(Where(database, "date(EntryDate) IS NULL"))
     {
     }
@@ -44,14 +43,14 @@ public:
         cFaultyEntry found{m_reader.Read(row), row.Text(0), row.Text(8), {}};
         const cEntryItem& entry = found.Entry;
         const bool isSeries = modRecurrence::IsRecurring(entry.EntryInterval);
-        const bool isKnown = isSeries || entry.EntryInterval == modWord::Einmalig;
         const auto note = [&](bool isFaulty, eEntryFault fault) {
             if (isFaulty) {
                 found.Faults.append(fault);
             }
         };
         note(!entry.EntryDate.isValid() || m_withoutDay.contains(entry.ID), eEntryFault::Day);
-        note(m_withoutInterval.contains(entry.ID) || (!isKnown && EndsBeforeItBegins(entry)), eEntryFault::Interval);
+        note(!modWord::EntryTypes().Contains(entry.EntryType), eEntryFault::Kind);
+        note(!modWord::Intervals().Contains(entry.EntryInterval), eEntryFault::Interval);
         note(isSeries && EndsBeforeItBegins(entry), eEntryFault::End);
         note(isSeries && LacksDays(entry), eEntryFault::Length);
         note(!modRow::ReadCents(row.Bytes(8)), eEntryFault::Amount);
@@ -69,7 +68,6 @@ private:
 
     QDate m_today;
     cEntryReader m_reader;
-    QSet<int> m_withoutInterval;
     QSet<int> m_withoutDay; // that SQLite can compare with a period
 };
 

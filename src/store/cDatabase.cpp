@@ -428,6 +428,7 @@ void cDatabase::BackupTo(const QString& path)
             if (result != SQLITE_DONE) {
                 throw SQLite::Exception(sqlite3_errstr(result), result);
             }
+            target.exec("PRAGMA journal_mode=DELETE"); // a book in WAL mode would get companions when it is read
         });
     } catch (...) {
         QFile::remove(path + QStringLiteral("-journal")); // which stays where the disk was full

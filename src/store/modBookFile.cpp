@@ -245,7 +245,7 @@ QStringList modBookFile::Leftovers(const QString& path)
 
 void modBookFile::RemoveWorking(const QString& folder, const QString& targets)
 {
-    const QStringList files = Matching(folder, targets + u"\\.neu[0-9]*"_s);
+    const QStringList files = Matching(folder, targets + u"\\.neu[0-9]*("_s + companions.join(u'|') + u")?"_s);
     for (const QString& file : files) {
         Remove(file);
     }

@@ -335,12 +335,12 @@ private Q_SLOTS:
             }
         });
         reader.start(0);
-        for (const QString& text : {u"voll"_s, u"voll"_s, u"gesperrt"_s}) {
+        for (const QString& text : {u"ERROR: AddNewEntry\nvoll"_s, u"ERROR: ChangeEntry\nvoll"_s, u"gesperrt"_s}) {
             user.Show(eTone::Critical, text);
         }
         QCoreApplication::processEvents(); // the user's turn
         user.Show(eTone::Critical, u"gesperrt"_s);
-        QCOMPARE(told, QStringList({u"voll"_s, u"gesperrt"_s, u"gesperrt"_s}));
+        QCOMPARE(told, QStringList({u"ERROR: AddNewEntry\nvoll"_s, u"gesperrt"_s, u"gesperrt"_s}));
     }
 
     void FileDialogsBeginWhereTheLastOneEnded()

@@ -413,7 +413,8 @@ private Q_SLOTS:
         QVERIFY2(run.Out.contains(u"SQLite 3."_s) && run.Out.contains(u"data.db (gibt es nicht)"_s),
                  qPrintable(run.Out));
         QVERIFY(!run.Out.contains(QDir::homePath() + u'/'));
-        QVERIFY(!QFile::exists(Book())); // it looks and makes nothing
+        QVERIFY(Do(u"--version"_s).Out.startsWith(u"kontorelle-cli "_s));
+        QVERIFY(!QFile::exists(Book())); // they look and make nothing
     }
 
 private:

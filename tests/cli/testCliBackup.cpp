@@ -76,7 +76,7 @@ private Q_SLOTS:
             } else {
                 cTestFile::Damage(Book(), "setting");
             }
-            QCOMPARE(Run(u"balances"_s).Out, QString());
+            Refuses(u"balances"_s, {u"restore DATEI"_s});
             Says(u"restore|%1|--yes"_s.arg(backup), {u"beschädigt"_s});
             QCOMPARE(Entries(), u"1"_s);
         }
@@ -88,6 +88,7 @@ private Q_SLOTS:
         const cCliRun listed = Run(u"staged"_s);
         QCOMPARE(listed.Code, 1);
         QVERIFY2(listed.Error.contains(u"restore DATEI"_s), qPrintable(listed.Error));
+        QVERIFY(!Run(u"check"_s).Out.contains(u"gültige"_s));
     }
 
     void ForgottenPassword()

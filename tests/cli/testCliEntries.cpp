@@ -157,6 +157,7 @@ private Q_SLOTS:
         QCOMPARE(Run(u"delete|%1|--only|1.3.2026|--yes"_s.arg(one)).Code, 1); // no series
         Do(u"delete|%1|--only|3.2.2026|--yes"_s.arg(series));
         Do(u"delete|%1|--from|10.3.2026|--yes"_s.arg(series)); // not that of 3 March
+        Refuses(u"delete|%1|--from|10.3.2026|--yes"_s.arg(series), {u"ab dem 10.03.2026 kein Vorkommen"_s});
         QCOMPARE(Do(u"search|Lindenhof|--json|--from|1.1.2026|--to|31.12.2026"_s).Column(u"EntryValue"_s),
                  QStringList({u"650"_s, u"0"_s, u"650"_s}));
         Do(u"delete|%1|%2|%1|--yes"_s.arg(one, series));
@@ -172,7 +173,7 @@ private Q_SLOTS:
             cTestFile::Run(Book(), u"UPDATE data SET %1 WHERE ID = %2"_s.arg(change, id).toStdString());
         };
         spoil(day, u"EntryDate = 'gestern', EntryValue = 'fünf', EntryInterval = NULL"_s);
-        spoil(end, u"EntryDateEnd = '2026-01-01'"_s);
+        spoil(end, u"EntryType = '1', EntryDateEnd = '2026-01-01'"_s);
         spoil(gone, u"EntryDate = ''"_s);
         const cCliRun check = Run(u"check"_s);
         QCOMPARE(check.Code, 1);
@@ -181,13 +182,13 @@ private Q_SLOTS:
               u"Eintrag %1, 'Saft': Tag 'gestern' nicht lesbar; kein Intervall; Betrag 'fünf' nicht lesbar\n"_s.arg(
                   day),
               u"\"change %1 --date DATUM --interval INTERVALL --amount BETRAG\" berichtigt ihn"_s.arg(day),
-              u"\"change %1 --end DATUM\" berichtigt ihn, \"delete %1 --yes\" löscht ihn."_s.arg(end)}) {
+              u"\"change %1 --kind ART --end DATUM\" berichtigt ihn, \"delete %1 --yes\" löscht ihn."_s.arg(end)}) {
             QVERIFY2(check.Out.contains(text), qPrintable(check.Text()));
         }
         Do(u"change|%1|--text|Apfelsaft"_s.arg(day));
         QVERIFY(Run(u"check"_s).Out.contains("Tag 'gestern'"_L1));
         Do(u"change|%1|--date|1.3.2026|--interval|Einmalig|--amount|5"_s.arg(day));
-        Do(u"change|%1|--end|31.1.2026"_s.arg(end));
+        Do(u"change|%1|--kind|Ausgabe|--end|31.1.2026"_s.arg(end));
         Do(u"delete|%1|--yes"_s.arg(gone));
         Do(u"check"_s);
         QCOMPARE(Stored(u"search|--json|--period|Alle Buchungen"_s).size(), 2);

@@ -106,6 +106,15 @@ private Q_SLOTS:
         QCOMPARE(m_machine->Host.Restored, restored.isEmpty() ? QString() : m_machine->Path(restored));
     }
 
+    void IncompleteBook()
+    {
+        m_machine->Book.Database().Execute("DROP TABLE template");
+        m_machine->User.Decisions = {-1};
+        m_machine->Flow.TellDamage();
+        QVERIFY2(m_machine->User.Asked[0].contains(u"ist unvollständig. Es fehlt: Tabelle template\n"_s),
+                 qPrintable(m_machine->User.Asked[0]));
+    }
+
     void NewBook()
     {
         m_machine->User.SavePath = m_machine->Path(u"neu.db"_s);
@@ -310,7 +319,9 @@ private Q_SLOTS:
         row("no day for SQLite", u"EntryDate = '2026-03-10 früh', EntryInterval = 'Einmalig'"_s,
             u"Tag '2026-03-10 früh' nicht lesbar"_s, 0);
         row("no interval", u"EntryInterval = NULL"_s, u"kein Intervall"_s, 0);
-        row("unknown interval", u"EntryInterval = 'Oft'"_s, {}, 1);
+        row("no kind", u"EntryType = NULL"_s, u"keine Buchungsart"_s, 1);
+        row("unknown kind", u"EntryType = '1'"_s, u"Buchungsart '1' unbekannt"_s, 1);
+        row("unknown interval", u"EntryInterval = 'Oft'"_s, u"Intervall 'Oft' unbekannt"_s, 1);
         row("unknown interval and an early end", u"EntryInterval = 'Oft', EntryDateEnd = '2026-01-01'"_s,
             u"Intervall 'Oft' unbekannt"_s, 0);
         row("early end of a series", u"EntryDateEnd = '2026-03-09'"_s, u"endet am 09.03.2026, vor dem ersten Tag"_s, 0);

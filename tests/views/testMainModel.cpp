@@ -299,6 +299,11 @@ private Q_SLOTS:
         m_scene->Model->ChoosePeriod(u"Buchungen bis heute"_s);
         cScene::Settle();
         QCOMPARE(title(), u"Kontostand, Kontostände bis heute"_s);
+
+        m_scene->Book.Add([](cEntryItem& entry) { entry.EntryAccount.clear(); });
+        m_scene->Model->BookChanged();
+        cScene::Settle();
+        QVERIFY(m_scene->Balances().at(3).startsWith(u"Ohne Konto "_s));
     }
 
     void RunningBalanceBeginsBeforeThePeriod()

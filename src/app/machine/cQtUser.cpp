@@ -59,19 +59,27 @@ QString TitleOr(const QString& title)
 
 } // namespace
 
-// One cause may make many writes of one operation fail: what was just told is not told again before the user can act.
+// One cause may make many operations fail, and some while its box is open: what was just told is not told again before
+// the user can act. The first line of a failure names its operation.
 void cQtUser::Show(eTone tone, const QString& text, const QString& title)
 {
-    if (tone == eTone::Critical && text == m_told) {
+    const QString cause = text.section(u'\n', text.startsWith(u"ERROR: "_s) ? 1 : 0);
+    if (tone == eTone::Critical && !cause.isEmpty() && cause == m_told) {
         return;
     }
-    m_told = text;
+    m_told = cause;
     QMessageBox box(Icon(tone), TitleOr(title), text, QMessageBox::NoButton, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText); // names and file paths may look like markup
     box.addButton(cText::Tr("OK"), QMessageBox::AcceptRole);
     box.exec();
     QMetaObject::invokeMethod(
-        &m_turn, [this] { m_told.clear(); }, Qt::QueuedConnection);
+        &m_turn,
+        [this, cause] {
+            if (m_told == cause) { // else a later box is still open
+                m_told.clear();
+            }
+        },
+        Qt::QueuedConnection);
 }
 
 eAnswer cQtUser::Ask(const cQuestion& question)

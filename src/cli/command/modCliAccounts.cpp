@@ -55,8 +55,8 @@ void Print(const cCliBook& book, const QList<cAccountLine>& lines)
                      {cText::Tr("Buchungen"), eAlign::Right},
                      {cText::Tr("Stand")}});
     for (const cAccountLine& line : lines) {
-        table.Add({line.Item.TemplateCategory, line.Item.TemplateName, book.AmountText(line.Cents),
-                   line.Start ? book.AmountText(StartCents(line)) : QString(),
+        table.Add({line.Item.TemplateCategory, modAccountLines::ShownName(line.Item.TemplateName),
+                   book.AmountText(line.Cents), line.Start ? book.AmountText(StartCents(line)) : QString(),
                    line.Start ? modDate::ToText(line.Start->EntryDate) : QString(), line.Numbers.join(u", "_s),
                    QString::number(line.Entries), modTemplateText::State(line.Item)});
     }

@@ -32,8 +32,8 @@ void Print(const cCliBook& book, const modAccountLines::cLines& lines)
                      {cText::Tr("Kontostand"), eAlign::Right},
                      {cText::Tr("Offene Umsätze"), eAlign::Right}});
     for (const cAccountLine& line : lines.Accounts) {
-        table.Add({line.Item.TemplateCategory, line.Item.TemplateName, book.AmountText(line.Cents),
-                   QString::number(line.Open)});
+        table.Add({line.Item.TemplateCategory, modAccountLines::ShownName(line.Item.TemplateName),
+                   book.AmountText(line.Cents), QString::number(line.Open)});
     }
     table.Add({cText::Tr("Summe"), {}, book.AmountText(lines.Cents), QString::number(lines.Open)});
     modConsole::Out(table.ToString());

@@ -15,6 +15,7 @@ QString Option(eEntryFault fault)
 {
     switch (fault) {
     case eEntryFault::Day: return u"--date DATUM"_s;
+    case eEntryFault::Kind: return u"--kind ART"_s;
     case eEntryFault::Interval: return u"--interval INTERVALL"_s;
     case eEntryFault::End: return u"--end DATUM"_s;
     case eEntryFault::Length: return u"--from DATUM --amount BETRAG"_s;
@@ -41,7 +42,7 @@ void Show(const cFaultyEntry& faulty)
 QString Head(cCliBook& book, const cBookCheck& check)
 {
     const QString entries = modCount::Entries(book.File().CountEntries());
-    return check.IsComplete()
+    return check.IsFileSound()
         ? cText::Tr("{0}: gültige Datenbank, {1}, {2}",
                     {book.File().Path(), entries, modCount::Rows(static_cast<int>(book.Statements.Rows().size()))})
         : cText::Tr("{0}: {1}", {book.File().Path(), entries});
@@ -75,7 +76,7 @@ cCliCommand modCliCommands::CheckCommand()
 {
     return {.Name = u"check"_s,
             .Help = cText::Tr(
-                "prüft die Datenbank, sucht Einträge, die nicht zu sehen sind oder nicht mitzählen, und sagt, "
+                "prüft die Datenbank, sucht Einträge, die nicht zu sehen sind oder nicht richtig mitzählen, und sagt, "
                 "was beim Öffnen ergänzt wurde"),
             .Access = eCliAccess::Write,
             .Run = RunCheck};

@@ -169,8 +169,10 @@ QDate cCliReader::Occurrence(int id, const QString& text, eOccurrence which)
     for (const QDate other : next) {
         days.append(modDate::ToText(other));
     }
-    const QString problem =
-        cText::Tr("Die Serie {0} hat am {1} kein Vorkommen.", {QString::number(id), modDate::ToText(day)});
+    const QStringList names{QString::number(id), modDate::ToText(day)};
+    const QString problem = which == eOccurrence::From
+        ? cText::Tr("Die Serie {0} hat ab dem {1} kein Vorkommen.", names)
+        : cText::Tr("Die Serie {0} hat am {1} kein Vorkommen.", names);
     Missing(days.isEmpty() ? problem : problem + u' ' + cText::Tr("Danach kommen: {0}.", {days.join(u", "_s)}));
     return {};
 }

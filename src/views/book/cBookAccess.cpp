@@ -37,7 +37,8 @@ eDatabaseFault Fault(const QString& path, eMode mode)
     eDatabaseFault fault = eDatabaseFault::None;
     if (mode == eMode::Read) {
         fault = modSchema::OpenValid(probe, path, eOpenMode::ReadOnly);
-        return fault == eDatabaseFault::None ? fault : modSchema::OpenValid(probe, path, eOpenMode::ReadWrite);
+        fault = fault == eDatabaseFault::None ? fault : modSchema::OpenValid(probe, path, eOpenMode::ReadWrite);
+        return fault == eDatabaseFault::None ? modSchema::StandIn(probe) : fault;
     }
     fault = modSchema::OpenValid(probe, path, eOpenMode::ReadWrite);
     return fault == eDatabaseFault::None ? probe.ProbeWrite() : fault;
@@ -69,8 +70,8 @@ QString Hindrance(const QString& path, eMode mode, const cShell& shell)
                          {path});
     default:
         return cText::Tr(
-            "Die Datenbank '{0}' ist beschädigt oder keine gültige Datenbank. Das Fenster von Kontorelle kann "
-            "eine Datensicherung zurückspielen; mit --database nennen Sie eine andere Datei.",
+            "Die Datenbank '{0}' ist beschädigt oder keine gültige Datenbank. \"kontorelle-cli restore DATEI\" lädt "
+            "eine Datensicherung, das Fenster von Kontorelle auch; mit --database nennen Sie eine andere Datei.",
             {path});
     }
 }

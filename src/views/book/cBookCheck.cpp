@@ -24,6 +24,9 @@ QString TextOf(eEntryFault fault, const cFaultyEntry& entry)
     switch (fault) {
     case eEntryFault::Day:
         return entry.DayText.isEmpty() ? cText::Tr("kein Tag") : cText::Tr("Tag '{0}' nicht lesbar", {entry.DayText});
+    case eEntryFault::Kind:
+        return entry.Entry.EntryType.isEmpty() ? cText::Tr("keine Buchungsart")
+                                               : cText::Tr("Buchungsart '{0}' unbekannt", {entry.Entry.EntryType});
     case eEntryFault::Interval:
         return entry.Entry.EntryInterval.isEmpty()
             ? cText::Tr("kein Intervall")
@@ -90,8 +93,8 @@ QString cBookCheck::EntriesText() const
     if (m_entries.isEmpty()) {
         return cText::Tr("Alle Einträge sind zu sehen und zählen mit.");
     }
-    return m_entries.size() == 1 ? cText::Tr("1 Eintrag ist nicht überall zu sehen oder zählt nicht mit:")
-                                 : cText::Tr("{0} Einträge sind nicht überall zu sehen oder zählen nicht mit:",
+    return m_entries.size() == 1 ? cText::Tr("1 Eintrag ist nicht überall zu sehen oder zählt nicht richtig mit:")
+                                 : cText::Tr("{0} Einträge sind nicht überall zu sehen oder zählen nicht richtig mit:",
                                              {QString::number(m_entries.size())});
 }
 

@@ -27,7 +27,6 @@ public:
 
     [[nodiscard]] bool IsSound() const; // nothing was found at all
     [[nodiscard]] bool IsFileSound() const { return m_problems.isEmpty() && m_missing.isEmpty(); }
-    [[nodiscard]] bool IsComplete() const { return m_missing.isEmpty(); } // no table or column is missing
     // What to make of the file, and of the entries; one sentence or two each.
     [[nodiscard]] QString FileText() const;
     [[nodiscard]] QString EntriesText() const;

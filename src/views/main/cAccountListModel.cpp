@@ -89,7 +89,7 @@ int cAccountListModel::columnCount(const QModelIndex& /*parent*/) const
 QString cAccountListModel::Text(const cRow& row, int column) const
 {
     switch (column) {
-    case Name: return Reconciled(row).isEmpty() ? row.Name : row.Name + u" \u2713";
+    case Name: return Reconciled(row).isEmpty() ? modAccountLines::ShownName(row.Name) : row.Name + u" \u2713";
     case Balance: return row.Kind == Group ? QString() : m_hasBalances ? m_format.Cents(row.Cents) : modUnread::Sum();
     case Open: return row.Open == 0 ? QString() : QString::number(row.Open);
     default: return {};
@@ -115,7 +115,7 @@ QString cAccountListModel::Hint(const cRow& row, int column) const
     }
     QStringList lines{Warning(row), Reconciled(row)};
     lines.removeAll(QString());
-    return lines.isEmpty() ? row.Name : lines.join(u'\n');
+    return lines.isEmpty() ? modAccountLines::ShownName(row.Name) : lines.join(u'\n');
 }
 
 QVariant cAccountListModel::data(const QModelIndex& index, int role) const

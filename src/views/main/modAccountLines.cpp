@@ -33,6 +33,11 @@ QHash<QString, cEntryItem> StartBalances(cDataAccess& data)
 
 } // namespace
 
+QString modAccountLines::ShownName(const QString& account)
+{
+    return account.isEmpty() ? cText::Tr("Ohne Konto") : account;
+}
+
 modAccountLines::cLines modAccountLines::Of(const cTemplateItemList& accounts, const QHash<QString, qint64>& balances,
                                             const QHash<QString, int>& open)
 {

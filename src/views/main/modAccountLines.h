@@ -35,6 +35,9 @@ struct cLines
     int Open = 0;     // also those whose bank number has no account
 };
 
+// An account's name as it is shown; entries without account have their line too.
+[[nodiscard]] QString ShownName(const QString& account);
+
 // The accounts in the user's order with `balances` in cents and `open` rows by name (see modBalance::ByAccount and
 // cAccountMap::OpenByAccount). Names that no definition has, left from a renamed account, say, follow in a group of
 // their own, so that no money is missing.

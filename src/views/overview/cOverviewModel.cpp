@@ -13,6 +13,7 @@
 #include "views/entry/cContracts.h"
 #include "views/main/cMainModel.h"
 #include "views/main/cNavigator.h"
+#include "views/main/modAccountLines.h"
 #include "views/overview/cDueItems.h"
 #include "views/report/modReport.h"
 
@@ -230,8 +231,8 @@ cOverviewCard cOverviewModel::Balances()
         if (item != nullptr && !modTemplate::IsVisible(*item) && cents == 0) {
             continue;
         }
-        card.Lines.append({line.Account.isEmpty() ? cText::Tr("Ohne Konto") : line.Account, Signed(cents),
-                           ToneOf(cents), [this, account = line.Account] { ShowAccount(account); }});
+        card.Lines.append({modAccountLines::ShownName(line.Account), Signed(cents), ToneOf(cents),
+                           [this, account = line.Account] { ShowAccount(account); }});
     }
     for (const cLimitWarning& warning : std::as_const(m_book->Warnings)) {
         card.Lines.append(
