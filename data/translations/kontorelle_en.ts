@@ -16,10 +16,6 @@
         <translation>The database &apos;{0}&apos; cannot be read. Please check the access rights.</translation>
     </message>
     <message>
-        <source>Die Datenbank &apos;{0}&apos; ist beschädigt oder keine gültige Datenbank. Das Fenster von Kontorelle kann eine Datensicherung zurückspielen; mit --database nennen Sie eine andere Datei.</source>
-        <translation>The database &apos;{0}&apos; is damaged or not a valid database. The Kontorelle window can restore a backup; use --database to name another file.</translation>
-    </message>
-    <message>
         <source>Die Datenbank &apos;{0}&apos; ist in Benutzung: {1}. Beenden Sie dieses Programm, und versuchen Sie es noch einmal; lesende Befehle gehen auch so.</source>
         <translation>The database &apos;{0}&apos; is in use: {1}. Close that program and try again; commands that only read work all the same.</translation>
     </message>
@@ -5494,10 +5490,6 @@ Shall these stay open? With No, they are booked too.</translation>
         <translation>{0}: valid database, {1}, {2}</translation>
     </message>
     <message>
-        <source>prüft die Datenbank, sucht Einträge, die nicht zu sehen sind oder nicht mitzählen, und sagt, was beim Öffnen ergänzt wurde</source>
-        <translation>checks the database, looks for entries that cannot be seen or do not count, and says what was added on opening</translation>
-    </message>
-    <message>
         <source>Mit --only und --from nennen Sie bitte nur eine Serie.</source>
         <translation>With --only and --from please name one series only.</translation>
     </message>
@@ -5584,14 +5576,6 @@ Shall these stay open? With No, they are booked too.</translation>
     <message>
         <source>Alle Einträge sind zu sehen und zählen mit.</source>
         <translation>All entries can be seen and count.</translation>
-    </message>
-    <message>
-        <source>1 Eintrag ist nicht überall zu sehen oder zählt nicht mit:</source>
-        <translation>1 entry cannot be seen everywhere or does not count:</translation>
-    </message>
-    <message>
-        <source>{0} Einträge sind nicht überall zu sehen oder zählen nicht mit:</source>
-        <translation>{0} entries cannot be seen everywhere or do not count:</translation>
     </message>
     <message>
         <source>1 Serie</source>
@@ -5720,10 +5704,6 @@ Your entries stay as they are.</translation>
     <message>
         <source>Prü&amp;fen…</source>
         <translation>Chec&amp;k…</translation>
-    </message>
-    <message>
-        <source>Sucht Einträge, die nicht zu sehen sind oder nicht mitzählen, und prüft die Datei.</source>
-        <translation>Looks for entries that cannot be seen or do not count, and checks the file.</translation>
     </message>
     <message>
         <source>passt auf {0} von {1} Umsatz</source>
@@ -11234,6 +11214,50 @@ Create it in another folder, or open one that is there already.</translation>
     <message>
         <source>schon vorhanden, nur anders geschrieben</source>
         <translation>already there, only written differently</translation>
+    </message>
+    <message>
+        <source>prüft die Datenbank, sucht Einträge, die nicht zu sehen sind oder nicht richtig mitzählen, und sagt, was beim Öffnen ergänzt wurde</source>
+        <translation>checks the database, looks for entries that cannot be seen or do not count as they should, and says what was added on opening</translation>
+    </message>
+    <message>
+        <source>Die Serie {0} hat ab dem {1} kein Vorkommen.</source>
+        <translation>The series {0} has no occurrence from {1} on.</translation>
+    </message>
+    <message>
+        <source>Die Datenbank &apos;{0}&apos; ist beschädigt oder keine gültige Datenbank. &quot;kontorelle-cli restore DATEI&quot; lädt eine Datensicherung, das Fenster von Kontorelle auch; mit --database nennen Sie eine andere Datei.</source>
+        <translation>The database &apos;{0}&apos; is damaged or not a valid database. &quot;kontorelle-cli restore FILE&quot; loads a backup, and so does the Kontorelle window; use --database to name another file.</translation>
+    </message>
+    <message>
+        <source>keine Buchungsart</source>
+        <translation>no kind of entry</translation>
+    </message>
+    <message>
+        <source>Buchungsart &apos;{0}&apos; unbekannt</source>
+        <translation>Kind of entry &apos;{0}&apos; unknown</translation>
+    </message>
+    <message>
+        <source>1 Eintrag ist nicht überall zu sehen oder zählt nicht richtig mit:</source>
+        <translation>1 entry cannot be seen everywhere or does not count as it should:</translation>
+    </message>
+    <message>
+        <source>{0} Einträge sind nicht überall zu sehen oder zählen nicht richtig mit:</source>
+        <translation>{0} entries cannot be seen everywhere or do not count as they should:</translation>
+    </message>
+    <message>
+        <source>Die Datei der Datenbank &apos;{0}&apos; ist unvollständig. Es fehlt: {1}
+
+{2}
+
+Möchten Sie eine Datensicherung laden? Die jetzige Datei bleibt unter anderem Namen erhalten.</source>
+        <translation>The file of the database &apos;{0}&apos; is incomplete. Missing: {1}
+
+{2}
+
+Would you like to load a backup? The present file is kept under another name.</translation>
+    </message>
+    <message>
+        <source>Sucht Einträge, die nicht zu sehen sind oder nicht richtig mitzählen, und prüft die Datei.</source>
+        <translation>Looks for entries that cannot be seen or do not count as they should, and checks the file.</translation>
     </message>
 </context>
 </TS>
