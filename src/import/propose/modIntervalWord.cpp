@@ -20,11 +20,11 @@ constexpr const char16_t* halfYearly = u"Alle 6 Monate";
 constexpr const char16_t* yearly = u"Jährlich";
 constexpr const char16_t* monthly = u"Monatlich";
 
-constexpr std::array words{cWord{"quartal"_L1, quarterly},      cWord{"vierteljaehrlich"_L1, quarterly},
-                           cWord{"vierteljahr"_L1, quarterly},  cWord{"halbjaehrlich"_L1, halfYearly},
-                           cWord{"halbjahr"_L1, halfYearly},    cWord{"jaehrlich"_L1, yearly},
-                           cWord{"jahresbeitrag"_L1, yearly},   cWord{"jahrespraemie"_L1, yearly},
-                           cWord{"monatlich"_L1, monthly}, cWord{"monatsbeitrag"_L1, monthly}};
+constexpr std::array words{cWord{"quartal"_L1, quarterly},     cWord{"vierteljaehrlich"_L1, quarterly},
+                           cWord{"vierteljahr"_L1, quarterly}, cWord{"halbjaehrlich"_L1, halfYearly},
+                           cWord{"halbjahr"_L1, halfYearly},   cWord{"jaehrlich"_L1, yearly},
+                           cWord{"jahresbeitrag"_L1, yearly},  cWord{"jahrespraemie"_L1, yearly},
+                           cWord{"monatlich"_L1, monthly},     cWord{"monatsbeitrag"_L1, monthly}};
 
 bool IsYear(QStringView word)
 {

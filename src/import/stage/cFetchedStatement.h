@@ -8,6 +8,8 @@
 #include <optional>
 
 class cFetchMemory;
+struct cImportOptions;
+struct cStatementRead;
 
 // What an online fetch brought of one account.
 struct cFetchedStatement
@@ -25,4 +27,10 @@ struct cFetchedStatement
     bool IsComplete = true;         // false: the dialog ended before all had come
     QDate LastDay{};                // up to which was asked
     cFetchMemory* Memory = nullptr; // of the account; may be missing
+
+    [[nodiscard]] qsizetype Size() const; // bytes
+    // What the statements and documents say, as far as they are whole.
+    [[nodiscard]] cStatementRead Read(const cImportOptions& wanted) const;
+    // Adds the balance that the bank told beside them, of the account as the bookings name it.
+    void AddBalance(cStatementRead& read) const;
 };

@@ -7,7 +7,6 @@
 #include "core/cSettings.h"
 #include "import/mt940/modMT940.h"
 #include "import/read/cStatementSource.h"
-#include "import/read/modAccountNumber.h"
 #include "import/read/modBookRow.h"
 #include "import/read/modStatementFile.h"
 #include "import/stage/cBankBalances.h"
@@ -24,7 +23,6 @@
 #include "import/stage/modStatementFormat.h"
 #include "import/stage/modWholeBookings.h"
 #include "import/table/cTableMemory.h"
-#include "import/xml/modCamt.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 
@@ -66,21 +64,6 @@ cImportResult RefuseCurrency(cImportResult result, const modStatementCurrency::c
             : cText::Tr("Der Auszug ist bei {0} von {1} Umsätzen in {2}, das Buch in {3}. Beträge werden "
                         "nicht umgerechnet.",
                         {QString::number(others.Rows), QString::number(rows), codes, book}));
-}
-
-// `form` gives the account's new name for the one that it has.
-template <typename tForm>
-void RenameAccounts(cStatementRead& read, const tForm& form)
-{
-    for (cImportEntry& entry : read.Entries) {
-        entry.ImportAccount = form(entry.ImportAccount);
-    }
-    for (cSkippedRow& row : read.Skipped) {
-        row.Entry.ImportAccount = form(row.Entry.ImportAccount);
-    }
-    for (cAccountBalance& balance : read.Balances) {
-        balance.Account = form(balance.Account);
-    }
 }
 
 // Counts what becomes of each transaction. A database that refuses twice in a row will refuse the rest as well, and
@@ -151,65 +134,6 @@ private:
     eDuplicateTest m_test;
     const cFetchMemory* m_memory;
 };
-
-// Up to the last line that ends a statement.
-QString WholeStatements(const QString& text)
-{
-    const qsizetype end = qMax(text.lastIndexOf(u"\n-\r"), text.lastIndexOf(u"\n-\n"));
-    return text.endsWith(u"\n-") ? text : text.left(end < 0 ? 0 : end + 2);
-}
-
-qsizetype SizeOf(const cFetchedStatement& fetched)
-{
-    return std::accumulate(fetched.Camt.begin(), fetched.Camt.end(), fetched.Mt940.size(),
-                           [](qsizetype sum, const QByteArray& document) { return sum + document.size(); });
-}
-
-cStatementRead ReadFetched(const cFetchedStatement& fetched, const cImportOptions& wanted)
-{
-    cStatementRead all = modMT940::Read(fetched.IsComplete ? fetched.Mt940 : WholeStatements(fetched.Mt940),
-                                        fetched.Account, wanted.StrayDetails);
-    const bool isAsSeen = wanted.StrayDetails == eStrayDetails::PassOver; // the user knows what is told
-    if (all.Entries.isEmpty() && !all.Problems.isEmpty() && !isAsSeen) {
-        all.Refusal = cText::Tr("Die Antwort der Bank kann nicht gelesen werden: {0}", {all.Problems.first().Text});
-    }
-    cReadOptions options;
-    options.Account = fetched.Account;
-    options.MissingPurpose = wanted.MissingPurpose;
-    for (const QByteArray& document : fetched.Camt) {
-        cStatementRead read = modCamt::Read({fetched.Name, document, {}}, options);
-        if (!read.Refusal.isEmpty()) {
-            return read;
-        }
-        all.Append(std::move(read));
-    }
-    if (modAccountNumber::IsGermanIban(fetched.Iban)) { // banks that were merged have logins under another code
-        all.BankCodes[fetched.Account] = fetched.Iban.mid(4, 8);
-    }
-    if (fetched.IsNumberShared) {
-        RenameAccounts(all, [&](const QString&) { return fetched.Account; });
-    }
-    return all;
-}
-
-// The balance goes with the account as the bookings name it. It contains all of them, whatever days they are valued on.
-void AddBalance(const cFetchedStatement& fetched, cStatementRead& read)
-{
-    if (fetched.Balance) {
-        const QString account = !read.Entries.isEmpty() ? read.Entries.first().ImportAccount
-            : !read.Balances.isEmpty()                  ? read.Balances.first().Account
-                                                        : fetched.Account;
-        const QDate day = fetched.BalanceDay;
-        cBankBalance::cMoved late;
-        for (const cImportEntry& entry : std::as_const(read.Entries)) {
-            if (day.isValid() && entry.ImportDate > day) {
-                late.Cents += entry.ImportValue;
-                ++late.Count;
-            }
-        }
-        read.Balances.append({account, *fetched.Balance, day, late});
-    }
-}
 
 // The result of a file that the user stopped: it names the file and nothing that was in it.
 cImportResult Cancelled(const cImportResult& result)
@@ -425,8 +349,8 @@ cImportResult cStatementImport::ImportFetched(const cFetchedStatement& fetched, 
     }
     progress.showProgressBar(modMT940::ProgressMaximum(fetched.Mt940));
     cStatementRead read;
-    const auto work = [&] { read = ReadFetched(fetched, options); };
-    if (SizeOf(fetched) <= quicklyRead) {
+    const auto work = [&] { read = fetched.Read(options); };
+    if (fetched.Size() <= quicklyRead) {
         work();
     } else {
         progress.Run(work);
@@ -442,9 +366,9 @@ cImportResult cStatementImport::ImportFetched(const cFetchedStatement& fetched, 
     if (others.Rows > 0) {
         return RefuseCurrency(std::move(result), others, read.Entries.size(), options.BookCurrency);
     }
-    AddBalance(fetched, read);
+    fetched.AddBalance(read);
     StageAsOne(std::move(read), options, progress, result, &fetched);
-    Trace(result, SizeOf(fetched), time);
+    Trace(result, fetched.Size(), time);
     return result.IsCancelled ? Cancelled(result) : result;
 }
 
