@@ -29,7 +29,6 @@
 #include <QElapsedTimer>
 
 #include <algorithm>
-#include <numeric>
 #include <optional>
 
 using namespace Qt::Literals::StringLiterals;
