@@ -93,12 +93,15 @@ qint64 ErrorOn(const modBalanceCheck::cResult& check, QDate day)
 
 bool cOpeningBalance::IsDue(const QString& number, int newestBefore, const QStringList& balanced) const
 {
+    if (balanced.contains(number)) {
+        return true;
+    }
     cStatementLedger ledger(m_tools.Data, m_tools.Settings);
-    ledger.LoadOnce(number);
+    ledger.Load(number); // with rows that may be there twice: to find those takes longer than to see that all is right
     const cImportEntryList& rows = ledger.Rows();
     const auto isKnown = [&](const cImportEntry& row) { return row.ID <= newestBefore; };
     const auto known = std::find_if(rows.begin(), rows.end(), isKnown);
-    if (known == rows.end() || balanced.contains(number)) {
+    if (known == rows.end()) {
         return true;
     }
     const auto fresh = std::find_if_not(rows.begin(), rows.end(), isKnown);

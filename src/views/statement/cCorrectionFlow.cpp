@@ -233,7 +233,7 @@ void cCorrectionFlow::Plan(cChanges& changes, eWish wish) const
             price.reset();
         }
         change.Amount = eAmount::Same;
-        if (change.FixMod.EntryValue == price.value_or(change.Occurrence.EntryValue)) {
+        if (change.FixMod.EntryValue == (price ? *price : change.Occurrence.EntryValue)) {
             continue;
         }
         const bool isFromHere = wish == eWish::FromHere || (wish == eWish::Proposed && IsNewPrice(changes, place));
