@@ -139,12 +139,16 @@ void cStatementFetch::Balance(cFetchedAccount& fetched)
 void cStatementFetch::Renew(cBankAccount& account) const
 {
     const cBankAccount ordered = account;
-    for (const cBankAccount& known : std::as_const(m_run.State.Accounts)) {
-        if (known.Number == ordered.Number && known.SubNumber == ordered.SubNumber
-            && (!ordered.Number.isEmpty() || known.Iban == ordered.Iban)) {
-            account = known;
-        }
+    QList<cBankAccount> known = m_run.State.Accounts;
+    known.removeIf([&](const cBankAccount& each) {
+        const bool hasBoth = !each.Iban.isEmpty() && !ordered.Iban.isEmpty();
+        return each.Number != ordered.Number || each.SubNumber != ordered.SubNumber
+            || ((hasBoth || ordered.Number.isEmpty()) && each.Iban != ordered.Iban);
+    });
+    if (known.size() > 1) { // a card or a depot may have the number of the account that it belongs to
+        known.removeIf([&](const cBankAccount& each) { return each.ProductName != ordered.ProductName; });
     }
+    account = known.size() == 1 ? known.constFirst() : ordered;
     account.Iban = account.Iban.isEmpty() ? ordered.Iban : account.Iban;
     account.Bic = account.Bic.isEmpty() ? ordered.Bic : account.Bic;
 }

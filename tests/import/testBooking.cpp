@@ -118,6 +118,7 @@ private Q_SLOTS:
         row("part of a year", u"Stellplatz 1/4-jährlich"_s, u"Alle 3 Monate"_s);
         row("a day before a year", u"Stellplatz ab 1.4. jährlich"_s, u"Jährlich"_s);
         row("months", u"Stellplatz 3-monatlich"_s, u"Alle 3 Monate"_s);
+        row("a number of something else", u"Stellplatz 3 - monatlich"_s, u"Monatlich"_s);
         row("month instead of year", u"Haftpflicht monatlich"_s, u"Monatlich"_s);
         row("of a purchase", u"Rewe Halbjahresbonus"_s, modWord::Einmalig);
     }

@@ -237,17 +237,6 @@ private Q_SLOTS:
         QCOMPARE(bank.Match({bank.Stage(day, -200, u"Ich"_s, {}, u"111"_s, u"222"_s)}).Listed, 0);
     }
 
-    // Without an entry in the book the two rows are named, so that they are booked as one.
-    void OpenTransferIsFound() const
-    {
-        cBank bank;
-        const int out = bank.Stage(day, -200, u"Ich"_s, {}, u"111"_s, u"222"_s);
-        const int in = bank.Stage(day.addDays(1), 200, u"Ich"_s, {}, u"222"_s, u"111"_s);
-        const cMatchResult result = bank.Match({in, out});
-        QCOMPARE(result.Left, QList<int>({in, out}));
-        QCOMPARE(result.Transfers, (QList<std::pair<int, int>>{{out, in}}));
-    }
-
     // The series that earlier rows of the payee went to is known whatever is written on the row.
     void EarlierRowsOfAPayee() const
     {

@@ -290,7 +290,6 @@ cMatchResult cMatcher::MatchAll(const QList<int>& rowIds, cProgress& progress, e
     }
     progress.addProgressValue(static_cast<int>(rows.size() % progressStep));
     Distribute(std::move(pairs), rows, result);
-    FindTransfers(rows, result);
     if (run == eMatchRun::Write) {
         Write(rows, result);
     }
@@ -319,20 +318,6 @@ void cMatcher::Distribute(std::vector<cPair> pairs, const std::vector<cImportEnt
         if (!isPlaced[place]) {
             result.Left.append(rows[place].ID);
             result.Listed += isListed[place] ? 1 : 0;
-        }
-    }
-}
-
-void cMatcher::FindTransfers(const std::vector<cImportEntry>& rows, cMatchResult& result)
-{
-    const QSet<int> left(result.Left.begin(), result.Left.end());
-    for (const cImportEntry& row : rows) {
-        if (!left.contains(row.ID)) {
-            continue;
-        }
-        const std::optional<cTransferFinder::cTransfer> transfer = m_knowledge->Transfers.Find(row);
-        if (transfer && row.ID < transfer->PartnerRow && left.contains(transfer->PartnerRow)) {
-            result.Transfers.append({row.ID, transfer->PartnerRow});
         }
     }
 }

@@ -71,7 +71,6 @@ private:
     [[nodiscard]] cMatchCandidate CandidateOf(const cPair& pair, const cImportEntry& row) const;
     [[nodiscard]] std::vector<cImportEntry> OpenRows(const QList<int>& rowIds, cMatchResult& result);
     void Distribute(std::vector<cPair> pairs, const std::vector<cImportEntry>& rows, cMatchResult& result);
-    void FindTransfers(const std::vector<cImportEntry>& rows, cMatchResult& result);
     void Write(const std::vector<cImportEntry>& rows, cMatchResult& result);
 
     cDataAccess& m_data;

@@ -66,7 +66,8 @@ std::optional<cTransferFinder::cTransfer> cTransferFinder::Find(const cImportEnt
     return transfer;
 }
 
-// The nearest row that is certainly the other side. What two accounts might have got is nobody's.
+// The nearest row that is certainly the other side and has none of its own. What two accounts might have got is
+// nobody's.
 std::optional<cTransferFinder::cTransfer> cTransferFinder::FindSettled(const cImportEntry& row)
 {
     cTransfer transfer;
@@ -77,32 +78,34 @@ std::optional<cTransferFinder::cTransfer> cTransferFinder::FindSettled(const cIm
     if (!m_isBuilt) {
         Build();
     }
-    const cImportEntry* nearest = nullptr;
-    const auto distance = [&](const cImportEntry& other) { return std::abs(other.ImportDate.daysTo(row.ImportDate)); };
-    const QList<qsizetype> places = m_byCents.values(-row.ImportValue);
-    for (const qsizetype place : places) {
-        const cImportEntry& other = m_rows.at(place);
+    QList<qsizetype> found = m_byCents.values(-row.ImportValue);
+    const auto distance = [&](qsizetype i) { return std::abs(m_rows.at(i).ImportDate.daysTo(row.ImportDate)); };
+    found.removeIf([&](qsizetype i) {
+        const cImportEntry& other = m_rows.at(i);
         const QString account = AccountOf(other.ImportAccount);
-        if (IsTaken(row, other) || distance(other) > farthestDays || account.isEmpty() || account == transfer.Own
-            || m_isDouble(other.ID) || !modSettlement::IsPair(row, transfer.Own, other, account)) {
-            continue;
-        }
+        return IsTaken(row, other) || distance(i) > farthestDays || account.isEmpty() || account == transfer.Own
+            || m_isDouble(other.ID) || !modSettlement::IsPair(row, transfer.Own, other, account);
+    });
+    for (const qsizetype i : std::as_const(found)) {
+        const QString account = AccountOf(m_rows.at(i).ImportAccount);
         if (!transfer.Other.isEmpty() && transfer.Other != account) {
             return std::nullopt;
         }
         transfer.Other = account;
-        const bool isNearer =
-            nearest == nullptr || std::pair(distance(other), other.ID) < std::pair(distance(*nearest), nearest->ID);
-        nearest = isNearer ? &other : nearest;
     }
-    if (nearest == nullptr) {
-        return std::nullopt;
+    std::sort(found.begin(), found.end(), [&](qsizetype left, qsizetype right) {
+        return std::pair(distance(left), left) < std::pair(distance(right), right);
+    });
+    bool isElsewhere = false;
+    for (const qsizetype i : std::as_const(found)) {
+        if (HasTaken(m_rows.at(i), transfer)) {
+            Pair(row, m_rows.at(i));
+            return transfer;
+        }
+        isElsewhere = isElsewhere || transfer.IsElsewhere;
     }
-    if (HasTaken(*nearest, transfer)) {
-        Pair(row, *nearest);
-        return transfer;
-    }
-    return transfer.IsElsewhere ? std::optional(transfer) : std::nullopt;
+    transfer.IsElsewhere = isElsewhere;
+    return isElsewhere ? std::optional(transfer) : std::nullopt;
 }
 
 bool cTransferFinder::IsTaken(const cImportEntry& row, const cImportEntry& other) const

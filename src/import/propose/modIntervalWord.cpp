@@ -42,9 +42,8 @@ bool IsQuarter(QStringView word, QStringView before, QStringView after)
 // how often that would be is no interval of the program.
 QString Divided(const char16_t* interval, QStringView before)
 {
-    before = before.trimmed();
     const bool isJoined = before.endsWith(u'-');
-    const QStringView number = isJoined ? before.chopped(1).trimmed() : before;
+    const QStringView number = isJoined ? before.chopped(1) : before.trimmed();
     const auto ends = [&](QLatin1StringView fraction, QChar sign) {
         return number.endsWith(fraction) || number.endsWith(sign);
     };

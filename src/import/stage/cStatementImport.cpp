@@ -27,6 +27,7 @@
 #include "store/cUndoStep.h"
 
 #include <QElapsedTimer>
+#include <QSet>
 
 #include <algorithm>
 #include <optional>
@@ -511,16 +512,22 @@ void cStatementImport::KeepBalances(const cStatementRead& read, const cKnownAcco
     if (!known.KeepBankCodes(*m_balances)) {
         result.Problems.append({0, cText::Tr("Die Bankleitzahl des Kontos konnte nicht gespeichert werden.")});
     }
+    QSet<QString> seen; // each of thousands of days would go through all of them
     for (const cAccountBalance& balance : read.Balances) {
-        const cBankBalanceList before = m_balances->Of(balance.Account);
-        const cBankBalanceList all = m_balances->With(balance.Account, read.Balances, read.Entries);
+        const QString& account = balance.Account;
+        if (seen.contains(account) || result.FirstBalances.contains(account)) {
+            continue;
+        }
+        seen.insert(account);
+        const cBankBalanceList before = m_balances->Of(account);
+        const cBankBalanceList all = m_balances->With(account, read.Balances, read.Entries);
         const bool isEarlier = before.isEmpty() || all.constFirst().Day < before.constFirst().Day;
         // Rows that were left out have kept an earlier balance from telling the first one.
         const bool isCleared = std::any_of(result.Settled.begin(), result.Settled.end(), [&](const cRepeat& repeat) {
-            return repeat.WasLeftOut && repeat.Entry.ImportAccount == balance.Account;
+            return repeat.WasLeftOut && repeat.Entry.ImportAccount == account;
         });
-        if ((isEarlier || isCleared) && !result.FirstBalances.contains(balance.Account)) {
-            result.FirstBalances.append(balance.Account);
+        if (isEarlier || isCleared) {
+            result.FirstBalances.append(account);
         }
     }
     if (!m_balances->Add(read.Balances, read.Entries)) {

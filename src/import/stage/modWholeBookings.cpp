@@ -19,5 +19,10 @@ void modWholeBookings::UseIn(cStatementRead& read, cStaging& staging)
         for (qsizetype& part : read.Parts) {
             part -= part > whole.First ? whole.Count - 1 : 0;
         }
+        QHash<qsizetype, QString> ids;
+        for (auto id = read.Ids.constBegin(); id != read.Ids.constEnd(); ++id) {
+            ids.insert(id.key() - (id.key() > whole.First ? whole.Count - 1 : 0), *id);
+        }
+        read.Ids = ids;
     });
 }
