@@ -11244,18 +11244,6 @@ Create it in another folder, or open one that is there already.</translation>
         <translation>{0} entries cannot be seen everywhere or do not count as they should:</translation>
     </message>
     <message>
-        <source>Die Datei der Datenbank &apos;{0}&apos; ist unvollständig. Es fehlt: {1}
-
-{2}
-
-Möchten Sie eine Datensicherung laden? Die jetzige Datei bleibt unter anderem Namen erhalten.</source>
-        <translation>The file of the database &apos;{0}&apos; is incomplete. Missing: {1}
-
-{2}
-
-Would you like to load a backup? The present file is kept under another name.</translation>
-    </message>
-    <message>
         <source>Sucht Einträge, die nicht zu sehen sind oder nicht richtig mitzählen, und prüft die Datei.</source>
         <translation>Looks for entries that cannot be seen or do not count as they should, and checks the file.</translation>
     </message>

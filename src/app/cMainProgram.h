@@ -90,7 +90,6 @@ private:
     void WatchBook();
     void BackUp();
     void ReadOn();
-    [[nodiscard]] bool IsFileSound(); // it is not damaged, and no table or column is missing
     void TellDamage();
     void GoToWork();
     void LeaveBook(cBookSwitch::eLeave leave);

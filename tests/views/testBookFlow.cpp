@@ -106,15 +106,6 @@ private Q_SLOTS:
         QCOMPARE(m_machine->Host.Restored, restored.isEmpty() ? QString() : m_machine->Path(restored));
     }
 
-    void IncompleteBook()
-    {
-        m_machine->Book.Database().Execute("DROP TABLE template");
-        m_machine->User.Decisions = {-1};
-        m_machine->Flow.TellDamage();
-        QVERIFY2(m_machine->User.Asked[0].contains(u"ist unvollständig. Es fehlt: Tabelle template\n"_s),
-                 qPrintable(m_machine->User.Asked[0]));
-    }
-
     void NewBook()
     {
         m_machine->User.SavePath = m_machine->Path(u"neu.db"_s);

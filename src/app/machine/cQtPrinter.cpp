@@ -23,12 +23,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// A file is named after the document, without what comes after the last dot: that would be the year of a date.
-QString DocumentName(const cPrintable& content)
-{
-    return content.Title().replace(u'.', u'-');
-}
-
 // The pages that a printer is set to, as often and in the order in which they are wanted.
 class cWantedPages final : public cPrintable
 {
@@ -99,9 +93,9 @@ std::unique_ptr<QPrinter> cQtPrinter::Printer(const cPrintable& content) const
         printer->setPageMargins({margin, margin, margin, margin}, QPageLayout::Millimeter);
     }
     printer->setCreator(QApplication::applicationName());
-    printer->setDocName(DocumentName(content));
+    printer->setDocName(modFileWrite::NameOf(content.Title()));
     if (!m_folder.isEmpty()) {
-        printer->setOutputFileName(QDir(m_folder).filePath(DocumentName(content) + u".pdf"_s));
+        printer->setOutputFileName(QDir(m_folder).filePath(modFileWrite::NameOf(content.Title()) + u".pdf"_s));
     }
     return printer;
 }

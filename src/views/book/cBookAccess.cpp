@@ -37,7 +37,10 @@ eDatabaseFault Fault(const QString& path, eMode mode)
     eDatabaseFault fault = eDatabaseFault::None;
     if (mode == eMode::Read) {
         fault = modSchema::OpenValid(probe, path, eOpenMode::ReadOnly);
-        fault = fault == eDatabaseFault::None ? fault : modSchema::OpenValid(probe, path, eOpenMode::ReadWrite);
+        if (fault != eDatabaseFault::None
+            && modSchema::OpenValid(probe, path, eOpenMode::ReadWrite) == eDatabaseFault::None) {
+            fault = modSchema::OpenValid(probe, path, eOpenMode::ReadOnly); // what follows must not write
+        }
         return fault == eDatabaseFault::None ? modSchema::StandIn(probe) : fault;
     }
     fault = modSchema::OpenValid(probe, path, eOpenMode::ReadWrite);

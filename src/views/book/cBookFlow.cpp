@@ -14,7 +14,6 @@
 #include "core/modReceiptFolder.h"
 #include "core/modReceiptUse.h"
 #include "model/modSettingKey.h"
-#include "store/cDataAccess.h"
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
 #include "views/book/cBookHost.h"
@@ -294,18 +293,11 @@ void cBookFlow::TellDamage()
         offer = cText::Tr("Die neueste unbeschädigte Sicherung ist vom {0}. Sie enthält:\n{1}.",
                           {modDate::ToText(copy->Day), modBookFile::Describe(modBookFile::Look(copy->Path))});
     }
-    const QString file = Shown(m_parts.Book.Path());
-    const bool isDamaged = m_parts.Book.Database().IsDamaged();
-    const QStringList missing = isDamaged ? QStringList() : m_parts.Book.Data().GetMissingParts();
     const int chosen = m_parts.User.Decide(
-        {.Text = missing.isEmpty()
-             ? cText::Tr("Die Datei der Datenbank '{0}' ist beschädigt. Was Sie sehen, kann unvollständig sein, und "
-                         "es wird nichts mehr gespeichert.\n\n{1}\n\nMöchten Sie eine Datensicherung laden? Die "
-                         "beschädigte Datei bleibt unter anderem Namen erhalten.",
-                         {file, offer})
-             : cText::Tr("Die Datei der Datenbank '{0}' ist unvollständig. Es fehlt: {1}\n\n{2}\n\nMöchten Sie eine "
-                         "Datensicherung laden? Die jetzige Datei bleibt unter anderem Namen erhalten.",
-                         {file, missing.join(u", "_s), offer}),
+        {.Text = cText::Tr("Die Datei der Datenbank '{0}' ist beschädigt. Was Sie sehen, kann unvollständig sein, und "
+                           "es wird nichts mehr gespeichert.\n\n{1}\n\nMöchten Sie eine Datensicherung laden? Die "
+                           "beschädigte Datei bleibt unter anderem Namen erhalten.",
+                           {Shown(m_parts.Book.Path()), offer}),
          .Title = cText::Tr("Die Datenbank ist beschädigt"),
          .Options = options,
          .Tone = eTone::Exclamation});

@@ -18,7 +18,7 @@ cEntryExport::eDone cEntryExport::Run(const cEntryExtract& extract, const QStrin
         return Refuse(cText::Tr("Die Liste enthält keine Einträge, die exportiert werden könnten."));
     }
     // Without ending: the dialog adds the one of the kind of file that is chosen there.
-    const QString proposal = u"Kontorelle-%1-%2"_s.arg(QString(what).replace(u'/', u'-'), modDate::ToIso(today));
+    const QString proposal = u"Kontorelle-%1-%2"_s.arg(modFileWrite::NameOf(what), modDate::ToIso(today));
     const QString path = m_tools.User.ChooseSavePath(title, modExport::Filter(), proposal);
     if (path.isEmpty()) {
         return eDone::GivenUp;

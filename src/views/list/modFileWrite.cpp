@@ -227,3 +227,8 @@ QString modFileWrite::Failed(const QString& path, const QString& reason)
     return cText::Tr("Die Datei '{0}' konnte nicht geschrieben werden: {1}\nWas dort schon stand, ist unverändert.",
                      {QDir::toNativeSeparators(path), reason});
 }
+
+QString modFileWrite::NameOf(const QString& title)
+{
+    return QString(title).replace(u'.', u'-').replace(u'/', u'-');
+}

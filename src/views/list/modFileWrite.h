@@ -25,6 +25,9 @@ struct cContent
 };
 [[nodiscard]] QString Export(const cDataAccess& book, const QString& path, const cContent& content);
 
+// A title as the name of a file, without ending: what would be a folder, or looks like an ending, becomes "-".
+[[nodiscard]] QString NameOf(const QString& title);
+
 // That message with another reason.
 [[nodiscard]] QString Failed(const QString& path, const QString& reason);
 

@@ -8,6 +8,8 @@
 #include "views/list/modUnread.h"
 #include "views/people/cPeople.h"
 
+#include <QRegularExpression>
+
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
@@ -84,8 +86,9 @@ QString Counted(const cSettlement& settlement, const cAmountFormat& format)
                      {eCell::Text, eCell::Text, eCell::Text, eCell::Text, eCell::Text, eCell::Money});
     for (const cCountedEntry& counted : settlement.Counted) {
         QStringList texts = modSettlementText::EntryTexts(counted);
-        // A line for each person at most.
-        texts.last().replace(u' ', u'\u00a0').replace(u",\u00a0"_s, u", "_s);
+        // A share stays with its name, which a page may break anywhere.
+        static const QRegularExpression share(u" (\\d[\\d,.]*) %"_s);
+        texts.last().replace(share, u"\u00a0\\1\u00a0%"_s);
         table.Add(texts << format.Cents(counted.Cents));
     }
     return table.Take();
