@@ -123,10 +123,10 @@ void cColumnFit::SendAway()
     for (int column = 0; column < m_least.size(); ++column) {
         needed += isWished(column) ? m_least.at(column) : 0;
     }
-    std::map<int, int, std::greater<>> spare;
+    std::multimap<int, int, std::greater<>> spare;
     for (int column = 0; column < m_least.size(); ++column) {
         if (const int rank = m_columns.at(static_cast<std::size_t>(column)).Spare; rank > 0 && isWished(column)) {
-            spare[rank] = column;
+            spare.emplace(rank, column);
         }
     }
     for (const auto& [rank, column] : spare) {
