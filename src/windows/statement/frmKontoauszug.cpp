@@ -50,7 +50,7 @@ frmKontoauszug::frmKontoauszug(cStatementListModel& statement, QWidget* parent)
       m_papers(new QPushButton(statement.PapersText(), this)),
       m_copy(new QPushButton(cText::Tr("Kopi&eren"), this)),
       m_print(new QPushButton(cText::Tr("&Drucken…"), this)),
-      m_preview(new QPushButton(cText::Tr("Seitenansi&cht"), this)),
+      m_preview(new QPushButton(cText::Tr("Seiten&ansicht"), this)),
       m_export(new QPushButton(cText::Tr("E&xportieren…"), this))
 {
     setWindowTitle(cText::Tr("Kontoauszug"));
@@ -119,7 +119,7 @@ QLayout* frmKontoauszug::BuildButtons()
     m_entry->setToolTip(cText::Tr("Öffnet den Eintrag, als der dieser Umsatz gebucht ist (Eingabetaste)"));
     m_copy->setToolTip(cText::Tr("Kopiert die markierten Umsätze, sonst alle (Strg+C)"));
     m_papers->setToolTip(cText::Tr("Auszüge der Bank als PDF; Dateien können auch in dieses Fenster gezogen werden"));
-    auto* close = new QPushButton(cText::Tr("Schließen"), this);
+    auto* close = new QPushButton(cText::Tr("S&chließen"), this);
     connect(close, &QPushButton::clicked, this, &QDialog::close);
     auto* row = new cFlowLayout;
     for (QPushButton* button : {m_entry, m_papers, m_copy, m_print, m_preview, m_export}) {
