@@ -63,7 +63,7 @@ frmAbruf::frmAbruf(cBankFetch& fetch, QWidget* parent)
     ShowRange();
     ShowDetails();
     ShowStep({});
-    resize(modPlace::Fitting(QSize(60, 30) * fontMetrics().height(), screen()->availableGeometry()));
+    resize(modPlace::Fitting(QSize(64, 30) * fontMetrics().height(), screen()->availableGeometry()));
 }
 
 void frmAbruf::BuildRange(QFormLayout& form)

@@ -24,9 +24,9 @@ using eKind = cColumnFit::eKind;
 constexpr int nameLetters = 11;
 
 const std::vector<cColumnFit::cColumn> columns{
-    {11, eKind::Text, 7},           {14, eKind::Day},         {26, eKind::Text, nameLetters},
-    {18, eKind::Text, 8},           {13, eKind::Amount},      {11, eKind::Text, 11, 1},
-    {25, eKind::Text, nameLetters}, {11, eKind::Text, 11, 2}, {22, eKind::Text, 14, 3}};
+    {8, eKind::Text, 7},     {14, eKind::Day},         {26, eKind::Text, nameLetters}, {18, eKind::Text, 8},
+    {13, eKind::Amount},     {14, eKind::Text, 11, 1}, {25, eKind::Text, nameLetters}, {11, eKind::Text, 11, 2},
+    {27, eKind::Text, 14, 3}};
 
 bool IsEnter(const QKeyEvent& event)
 {
