@@ -361,9 +361,11 @@ void cNavigation::OpenSearch()
     m_search->Present();
 }
 
+// Who chooses no file stays on the page.
 void cNavigation::OpenImport()
 {
-    ShowStatements();
+    const QObject choice;
+    QObject::connect(&m_review->Files(), &cStatementFiles::ImportStarts, &choice, [this] { ShowStatements(); });
     Statements().ChooseFiles();
 }
 

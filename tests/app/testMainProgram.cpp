@@ -288,6 +288,19 @@ private Q_SLOTS:
         QCOMPARE(shown, u"Einträge erfassen"_s);
     }
 
+    void ImportThatIsGivenUpLeavesThePage()
+    {
+        const auto program = m_machine->Start();
+        program->Window().ShowPage(frmMain::ePage::Entries);
+        program->Model().Execute(modCommand::ImportStatement); // no file is chosen
+        QCOMPARE(program->Window().Page(), frmMain::ePage::Entries);
+        const QString statement = m_machine->File.Path(u"giro.qif"_s);
+        cTestFile::Write(statement, "!Type:Bank\nD10.03.2026\nT-12,50\nPMarkt\n^\n");
+        m_machine->User.Files = {statement};
+        program->Model().Execute(modCommand::ImportStatement);
+        QCOMPARE(program->Window().Page(), frmMain::ePage::Statements);
+    }
+
     // Dropped on the account statement, listed in the window that its button opens, and taken back by the menu.
     void PapersHangAtTheirAccount()
     {

@@ -493,6 +493,9 @@ private Q_SLOTS:
         m_scene->Book.Add([](cEntryItem& entry) { entry.EntryValue = 1234567890; });
         m_scene->Model.BookChanged();
         frmMain& window = m_scene->Window;
+        window.resize(1600, 900);
+        QTest::qWait(5);
+        const QList<int> printed = window.EntryColumns();
         const QFontMetrics metrics = window.fontMetrics();
         window.resize(metrics.averageCharWidth() * 85, metrics.height() * 31);
         window.findChild<QSplitter*>()->setSizes({metrics.averageCharWidth() * 10, 1000});
@@ -506,6 +509,10 @@ private Q_SLOTS:
         for (const QWidget* field : bar.findChildren<QLineEdit*>()) {
             QVERIFY(bar.rect().contains(QRect(field->mapTo(&bar, QPoint()), field->size())));
         }
+        const int letters = m_scene->Tree().columnWidth(cEntryListModel::Description) / metrics.averageCharWidth();
+        QVERIFY2(letters >= 11, qPrintable(QString::number(letters)));
+        QVERIFY(m_scene->Tree().isColumnHidden(cEntryListModel::Receipts));
+        QCOMPARE(window.EntryColumns(), printed);
     }
 
     void EmptyBookBeginsWithTheFirstSteps()

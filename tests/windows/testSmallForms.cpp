@@ -12,6 +12,7 @@
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cEntrySuggestions.h"
 #include "views/entry/cSeriesChange.h"
+#include "views/ledger/cStatementListModel.h"
 #include "views/list/cSearchModel.h"
 #include "views/people/cPeople.h"
 #include "views/people/cSettlementModel.h"
@@ -26,6 +27,7 @@
 #include "windows/people/cShareTable.h"
 #include "windows/people/frmAusgleich.h"
 #include "windows/people/frmPersonen.h"
+#include "windows/statement/frmKontoauszug.h"
 #include "windows/widget/cCategoryBox.h"
 #include "windows/widget/modProposal.h"
 
@@ -34,6 +36,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QTimer>
+#include <QTreeView>
 
 #include <algorithm>
 
@@ -239,6 +242,31 @@ private Q_SLOTS:
         QCOMPARE(model.Entries().rowCount(), 1);
         payer.setCurrentIndex(2); // nobody in particular
         QCOMPARE(model.Entries().rowCount(), 0);
+    }
+
+    // The keys go on from the newest row, then along the buttons.
+    void StatementIsWalkedByKeys()
+    {
+        cTestBook book;
+        for (const int day : {3, 4}) {
+            cImportEntry row;
+            row.ImportAccount = u"4711"_s;
+            row.ImportDate = QDate(2026, 3, day);
+            QVERIFY(book.Data.AddNewImportEntry(row));
+        }
+        cStatementListModel statement(book.Tools);
+        frmKontoauszug form(statement);
+        form.show();
+        const auto& tree = *form.findChild<QTreeView*>();
+        QCOMPARE(tree.currentIndex().row(), 1);
+        QVERIFY(!tree.selectionModel()->hasSelection()); // else one row would be printed
+        QList<int> places;
+        for (const QWidget* next = form.nextInFocusChain(); next != &form; next = next->nextInFocusChain()) {
+            if (qobject_cast<const QPushButton*>(next) != nullptr && next->parent() == &form) {
+                places.append(next->x());
+            }
+        }
+        QVERIFY(std::is_sorted(places.begin(), places.end()) && places.size() > 3);
     }
 
     void ReadOnlyBookKeepsItsPeople()

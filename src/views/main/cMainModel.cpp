@@ -528,9 +528,8 @@ QString cMainModel::CountText() const
 QString cMainModel::Hint() const
 {
     const bool isEndless = m_view.ShowsFuture && m_view.ShowsFix && !ShownRange().End.isValid();
-    return isEndless && m_tools.Data.CountEntries() > 0
-        ? cText::Tr("Alle Buchungen reichen mit den wiederkehrenden Einträgen bis ins Jahr 2050.")
-        : QString();
+    return isEndless && m_tools.Data.CountEntries() > 0 ? cText::Tr("Mit wiederkehrenden Einträgen bis 2050.")
+                                                        : QString();
 }
 
 QString cMainModel::EmptyTitle() const

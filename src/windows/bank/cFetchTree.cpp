@@ -17,7 +17,8 @@ namespace {
 
 using eKind = cColumnFit::eKind;
 
-const std::vector<cColumnFit::cColumn> columns{{44}, {20}, {28}, {30}};
+const std::vector<cColumnFit::cColumn> columns{
+    {54, eKind::Text, 26}, {20}, {28, eKind::Text, 18}, {26, eKind::Text, 26}};
 
 } // namespace
 

@@ -63,7 +63,7 @@ frmAbruf::frmAbruf(cBankFetch& fetch, QWidget* parent)
     ShowRange();
     ShowDetails();
     ShowStep({});
-    resize(modPlace::Fitting(QSize(60, 30) * fontMetrics().height(), screen()->availableGeometry()));
+    resize(modPlace::Fitting(QSize(64, 30) * fontMetrics().height(), screen()->availableGeometry()));
 }
 
 void frmAbruf::BuildRange(QFormLayout& form)
@@ -85,7 +85,7 @@ QWidget* frmAbruf::BuildButtons()
     m_review = buttons->addButton(cText::Tr("Zur &Durchsicht"), QDialogButtonBox::AcceptRole);
     m_start = buttons->addButton(cText::Tr("&Abrufen"), QDialogButtonBox::ActionRole);
     m_log = buttons->addButton(cText::Tr("&Protokoll…"), QDialogButtonBox::ActionRole);
-    m_close = buttons->addButton(cText::Tr("Schließen"), QDialogButtonBox::RejectRole);
+    m_close = buttons->addButton(cText::Tr("S&chließen"), QDialogButtonBox::RejectRole);
     m_review->hide();
     m_start->setDefault(true);
     for (QPushButton* button : {m_log, m_close}) {
@@ -191,5 +191,5 @@ void frmAbruf::ShowRunning(bool isRunning)
     m_days->setEnabled(!isRunning && m_range->currentIndex() == Named);
     m_log->setEnabled(!isRunning && !m_fetch.LogText().isEmpty());
     m_accounts->SetChoosable(!isRunning);
-    m_close->setText(isRunning ? cText::Tr("Abbrechen") : cText::Tr("Schließen"));
+    m_close->setText(isRunning ? cText::Tr("Abbrechen") : cText::Tr("S&chließen"));
 }

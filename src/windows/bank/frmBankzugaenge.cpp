@@ -71,7 +71,7 @@ void frmBankzugaenge::BuildList()
 
 QLayout* frmBankzugaenge::BuildButtons()
 {
-    auto* close = new QPushButton(cText::Tr("Schließen"), this);
+    auto* close = new QPushButton(cText::Tr("S&chließen"), this);
     connect(m_add, &QPushButton::clicked, this, &frmBankzugaenge::AddRequested);
     connect(m_change, &QPushButton::clicked, this, [this] { Q_EMIT ChangeRequested(Row()); });
     connect(m_remove, &QPushButton::clicked, this, [this] { (void)m_banks.Remove(Row()); });

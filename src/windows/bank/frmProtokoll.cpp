@@ -23,7 +23,7 @@ frmProtokoll::frmProtokoll(const cBankLogView& log, QWidget* parent) : QDialog(p
 
     auto* save = new QPushButton(cText::Tr("&Speichern…"), this);
     auto* send = new QPushButton(cText::Tr("Per &E-Mail senden…"), this);
-    auto* close = new QPushButton(cText::Tr("Schließen"), this);
+    auto* close = new QPushButton(cText::Tr("S&chließen"), this);
     for (QPushButton* button : {save, send}) {
         button->setAutoDefault(false);
         button->setEnabled(!log.IsEmpty());

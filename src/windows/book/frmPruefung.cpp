@@ -82,7 +82,7 @@ void frmPruefung::BuildList()
 
 QLayout* frmPruefung::BuildButtons()
 {
-    auto* close = new QPushButton(cText::Tr("Schließen"), this);
+    auto* close = new QPushButton(cText::Tr("S&chließen"), this);
     connect(m_edit, &QPushButton::clicked, this, [this] { Request(&frmPruefung::EntryRequested); });
     connect(m_delete, &QPushButton::clicked, this, [this] { Request(&frmPruefung::DeleteRequested); });
     connect(close, &QPushButton::clicked, this, &QDialog::close);

@@ -126,7 +126,7 @@ QLayout* frmBudget::BuildActions()
 QLayout* frmBudget::BuildButtons()
 {
     auto* save = new QPushButton(cText::Tr("&Speichern"), this);
-    auto* close = new QPushButton(cText::Tr("Schließen"), this);
+    auto* close = new QPushButton(cText::Tr("S&chließen"), this);
     save->setEnabled(!m_budget.IsReadOnly());
     connect(save, &QPushButton::clicked, this, &frmBudget::accept);
     connect(close, &QPushButton::clicked, this, &frmBudget::reject);

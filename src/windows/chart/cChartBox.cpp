@@ -62,9 +62,14 @@ QLayout* cChartBox::BuildBar()
     bar->setSpacing(2);
     bar->addWidget(m_back);
     bar->AddStretch();
+    QWidget* before = m_back;
     for (QToolButton* button : {m_switch, copy, save}) {
         bar->addWidget(button);
+        setTabOrder(before, button);
+        before = button;
     }
+    setTabOrder(before, m_view);
+    setTabOrder(m_view, m_table);
     return bar;
 }
 

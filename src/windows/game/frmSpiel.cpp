@@ -35,7 +35,7 @@ void frmSpiel::Build()
     m_state = new QLabel(this);
     m_sound = new QCheckBox(cText::Tr("&Ton"), this);
     m_sound->setFocusPolicy(Qt::TabFocus);
-    auto* close = new QPushButton(cText::Tr("&Schließen"), this);
+    auto* close = new QPushButton(cText::Tr("S&chließen"), this);
     close->setAutoDefault(false);
     connect(close, &QPushButton::clicked, this, &QDialog::close);
     connect(m_view, &cGameView::Changed, this, &frmSpiel::ShowState);

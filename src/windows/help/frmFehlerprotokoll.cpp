@@ -83,7 +83,7 @@ QLayout* frmFehlerprotokoll::BuildButtons()
     connect(diagnosis, &QPushButton::clicked, this, [this] { QApplication::clipboard()->setText(m_log.Diagnosis()); });
     connect(save, &QPushButton::clicked, this, [this] { m_log.Save(); });
     connect(send, &QPushButton::clicked, this, [this] { m_log.Send(); });
-    auto* close = new QPushButton(cText::Tr("Schließen"), this);
+    auto* close = new QPushButton(cText::Tr("S&chließen"), this);
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::close);
     row->AddStretch();

@@ -46,7 +46,7 @@ void frmUeber::Build(const QString& name)
     libraries->setTabChangesFocus(true);
     libraries->setMinimumHeight(fontMetrics().lineSpacing() * 10);
     head->setBuddy(libraries);
-    auto* close = new QPushButton(cText::Tr("Schließen"), this);
+    auto* close = new QPushButton(cText::Tr("S&chließen"), this);
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::close);
 

@@ -80,7 +80,7 @@ QWidget* frmUpdate::BuildButtons()
     m_download = buttons->addButton(cText::Tr("&Herunterladen…"), QDialogButtonBox::ActionRole);
     m_again = buttons->addButton(cText::Tr("Noch ein&mal versuchen"), QDialogButtonBox::ActionRole);
     m_skip = buttons->addButton(cText::Tr("Diese Version über&springen"), QDialogButtonBox::ActionRole);
-    m_close = buttons->addButton(cText::Tr("Schließen"), QDialogButtonBox::RejectRole);
+    m_close = buttons->addButton(cText::Tr("S&chließen"), QDialogButtonBox::RejectRole);
     m_close->setDefault(true);
     connect(m_download, &QPushButton::clicked, &m_check, &cUpdateCheck::Download);
     connect(m_again, &QPushButton::clicked, &m_check, &cUpdateCheck::Look);
@@ -107,7 +107,7 @@ void frmUpdate::ShowState()
     m_download->setVisible(isFound && m_check.CanDownload());
     m_again->setVisible(state == eState::Failed);
     m_skip->setVisible(isFound);
-    m_close->setText(isBusy ? cText::Tr("Abbrechen") : isFound ? cText::Tr("S&päter") : cText::Tr("Schließen"));
+    m_close->setText(isBusy ? cText::Tr("Abbrechen") : isFound ? cText::Tr("S&päter") : cText::Tr("S&chließen"));
     Fit();
 }
 

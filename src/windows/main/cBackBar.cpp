@@ -9,9 +9,9 @@
 
 cBackBar::cBackBar(QWidget* parent) : QWidget(parent), m_text(new cElidedText(this))
 {
-    auto* back = new QPushButton(modIcon::Get(QStringLiteral("zurueck")), cText::Tr("Zurück zur Auswertung"), this);
+    auto* back = new QPushButton(modIcon::Get(QStringLiteral("zurueck")), cText::Tr("Zu&rück zur Auswertung"), this);
     back->setToolTip(cText::Tr("Alt+Links"));
-    auto* close = new QPushButton(cText::Tr("Auswahl aufheben"), this);
+    auto* close = new QPushButton(cText::Tr("Auswah&l aufheben"), this);
     close->setToolTip(cText::Tr("Zeigt wieder die Einträge von vorher"));
     auto* layout = new cFlowLayout(this);
     layout->addWidget(back);

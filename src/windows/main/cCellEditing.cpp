@@ -3,6 +3,7 @@
 #include "views/sheet/cCellEdit.h"
 #include "windows/main/cCellDelegate.h"
 #include "windows/main/cEntryTree.h"
+#include "windows/widget/modClipboard.h"
 
 #include <QShortcut>
 
@@ -24,7 +25,7 @@ cCellEditing::cCellEditing(cEntryTree& tree, cEntryListModel& model, cCellEdit& 
 
 QList<int> cCellEditing::Columns() const
 {
-    QList<int> columns = m_tree.ShownColumns();
+    QList<int> columns = modClipboard::ShownColumns(m_tree); // a column without room has no field
     columns.removeIf([](int column) { return !cCellEdit::IsEditable(column); });
     return columns;
 }

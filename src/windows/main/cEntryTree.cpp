@@ -22,9 +22,19 @@ namespace {
 
 using eKind = cColumnFit::eKind;
 
-const std::vector<cColumnFit::cColumn> columns{
-    {14, eKind::Day},    {14}, {27}, {23}, {30}, {18}, {16, eKind::Amount}, {16, eKind::Amount},
-    {7, eKind::Text, 6}, {24}, {18}};
+constexpr int wordLetters = 11; // what is shown in a narrow window can be read there
+
+const std::vector<cColumnFit::cColumn> columns{{14, eKind::Day},
+                                               {14, eKind::Text, wordLetters, 2},
+                                               {27, eKind::Text, wordLetters},
+                                               {23, eKind::Text, wordLetters, 1},
+                                               {30, eKind::Text, wordLetters},
+                                               {18, eKind::Text, wordLetters, 3},
+                                               {16, eKind::Amount},
+                                               {16, eKind::Amount},
+                                               {7, eKind::Text, 6, 4},
+                                               {24},
+                                               {18}};
 
 // Tags stand in the description already, and most books have one payer.
 const QList<int> hiddenAtFirst{cEntryListModel::Tags, cEntryListModel::Payer};
@@ -139,7 +149,7 @@ void cEntryTree::OpenColumnMenu(const QPoint& globalPosition)
 
 QList<int> cEntryTree::ShownColumns() const
 {
-    return modClipboard::ShownColumns(*this);
+    return m_fit->Shown();
 }
 
 void cEntryTree::Copy() const

@@ -91,7 +91,9 @@ void cViewBar::Build()
         box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         box->setMinimumContentsLength(leastLetters);
     }
-    m_account->setMinimumContentsLength(12);
+    for (QComboBox* box : {m_type, m_account}) {
+        box->setMinimumContentsLength(13);
+    }
     const QList<QWidget*> order{m_period, m_start, m_end, m_type, m_account, m_grouping, m_payer, m_filter};
     for (qsizetype i = 1; i < order.size(); ++i) {
         setTabOrder(order.at(i - 1), order.at(i));

@@ -52,7 +52,7 @@ cFirstStepsView::cFirstStepsView(const cFirstSteps& steps, const QList<cWay>& wa
     m_problem->setWordWrap(true);
     m_problem->hide();
     layout->addWidget(m_problem);
-    auto* save = new QPushButton(cText::Tr("Konten übernehmen"), this);
+    auto* save = new QPushButton(cText::Tr("Konten über&nehmen"), this);
     save->setToolTip(cText::Tr("Legt neue Konten an und trägt die Kontostände als Startguthaben von heute ein."));
     connect(save, &QPushButton::clicked, this, &cFirstStepsView::Save);
     layout->addWidget(save, 0, Qt::AlignLeft);

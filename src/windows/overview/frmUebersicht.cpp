@@ -29,7 +29,7 @@ frmUebersicht::frmUebersicht(cOverviewModel& model, QWidget* parent)
     : QWidget(parent),
       m_model(model),
       m_heading(new QLabel(this)),
-      m_isStartPage(new QCheckBox(cText::Tr("Beim Start zeigen"), this)),
+      m_isStartPage(new QCheckBox(cText::Tr("Beim &Start zeigen"), this)),
       m_scroll(new QScrollArea(this)),
       m_ground(new QWidget(this)),
       m_columns(new QHBoxLayout)
@@ -140,17 +140,17 @@ void frmUebersicht::ShowFirstSteps()
     }
     const auto command = [this](int id) { return [this, id] { m_model.Do(id); }; };
     const QList<cFirstStepsView::cWay> ways{
-        {cText::Tr("Kontoauszug importieren…"),
+        {cText::Tr("&Kontoauszug importieren…"),
          cText::Tr("Eine Datei Ihrer Bank. Sie können sie auch einfach in dieses Fenster ziehen."),
          command(modCommand::ImportStatement)},
-        {cText::Tr("Online-Banking einrichten…"), cText::Tr("Umsätze direkt bei der Bank abrufen."),
+        {cText::Tr("On&line-Banking einrichten…"), cText::Tr("Umsätze direkt bei der Bank abrufen."),
          command(modCommand::BankLogins)},
-        {cText::Tr("Ersten Eintrag erfassen…"), cText::Tr("Von Hand, zum Beispiel was Sie heute bar bezahlt haben."),
+        {cText::Tr("Ersten Ein&trag erfassen…"), cText::Tr("Von Hand, zum Beispiel was Sie heute bar bezahlt haben."),
          command(modCommand::NewEntry)},
-        {cText::Tr("Aus anderem Programm übernehmen…"),
+        {cText::Tr("Aus anderem &Programm übernehmen…"),
          cText::Tr("Lassen Sie es Ihre Buchungen als QIF- oder CSV-Datei speichern, und lesen Sie diese Datei ein."),
          command(modCommand::ImportStatement)},
-        {cText::Tr("Beispielhaushalt ansehen"),
+        {cText::Tr("Beispielha&ushalt ansehen"),
          cText::Tr("Ein erfundenes Haushaltsbuch zum Ausprobieren. Ihr eigenes bleibt, wie es ist."),
          [this] { m_model.ShowDemo(); }},
     };

@@ -68,7 +68,7 @@ QLayout* frmAusgleich::BuildButtons()
     auto* people = new QPushButton(cText::Tr("P&ersonen…"), this);
     auto* save = new QPushButton(cText::Tr("&Speichern"), this);
     auto* print = new QPushButton(cText::Tr("Dr&ucken…"), this);
-    auto* close = new QPushButton(cText::Tr("Schließen"), this);
+    auto* close = new QPushButton(cText::Tr("S&chließen"), this);
     people->setEnabled(m_model.CanChangePeople());
     auto* menu = new QMenu(save);
     menu->addAction(cText::Tr("Als &PDF speichern…"), this, [this] {

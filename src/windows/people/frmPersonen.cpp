@@ -29,7 +29,7 @@ frmPersonen::frmPersonen(cPeople& people, QWidget* parent)
         "von einem Konto bezahlt, das ihm allein gehört, tragen alle wie „Gemeinsames“."));
     m_explanation->setWordWrap(true);
     modTone::Use(*m_explanation, modTone::Quiet);
-    auto* close = new QPushButton(cText::Tr("Schließen"), this);
+    auto* close = new QPushButton(cText::Tr("S&chließen"), this);
     close->setDefault(true);
     connect(close, &QPushButton::clicked, this, &QDialog::reject);
     auto* buttons = new QHBoxLayout;

@@ -33,7 +33,7 @@ frmBelege::frmBelege(cReceiptListModel& receipts, QWidget* parent)
       m_open(new QPushButton(cText::Tr("&Öffnen"), this)),
       m_save(new QPushButton(cText::Tr("&Speichern unter…"), this)),
       m_remove(new QPushButton(cText::Tr("En&tfernen…"), this)),
-      m_close(new QPushButton(cText::Tr("Schließen"), this))
+      m_close(new QPushButton(cText::Tr("S&chließen"), this))
 {
     setWindowTitle(m_receipts.Title());
     setAcceptDrops(m_receipts.CanWrite());

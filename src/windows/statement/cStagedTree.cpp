@@ -23,15 +23,10 @@ using eKind = cColumnFit::eKind;
 // What names a transaction and what becomes of it can be read in a narrow window too.
 constexpr int nameLetters = 11;
 
-const std::vector<cColumnFit::cColumn> columns{{11, eKind::Text, 7},
-                                               {14, eKind::Day},
-                                               {26, eKind::Text, nameLetters},
-                                               {18, eKind::Text, 8},
-                                               {13, eKind::Amount},
-                                               {11, eKind::Text, 11, true},
-                                               {25, eKind::Text, nameLetters},
-                                               {11, eKind::Text, 11, true},
-                                               {22, eKind::Text, 14, true}};
+const std::vector<cColumnFit::cColumn> columns{
+    {8, eKind::Text, 7},     {14, eKind::Day},         {26, eKind::Text, nameLetters}, {18, eKind::Text, 8},
+    {13, eKind::Amount},     {14, eKind::Text, 11, 1}, {25, eKind::Text, nameLetters}, {11, eKind::Text, 11, 2},
+    {27, eKind::Text, 14, 3}};
 
 bool IsEnter(const QKeyEvent& event)
 {
@@ -73,7 +68,7 @@ cStagedTree::cStagedTree(cStagedListModel& model, QWidget* parent) : QTreeView(p
     m_fit = new cColumnFit(*this, columns, cStagedListModel::Purpose);
     connect(&m_model, &QAbstractItemModel::modelReset, this, &cStagedTree::RestoreSelection);
     connect(new QShortcut(QKeySequence::Copy, this, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
-            [this] { modClipboard::CopyLines(*this, modClipboard::ShownColumns(*this), cStagedListModel::GroupRole); });
+            [this] { modClipboard::CopyLines(*this, m_fit->Shown(), cStagedListModel::GroupRole); });
     ConnectGroups();
     SetLayoutText({});
 }

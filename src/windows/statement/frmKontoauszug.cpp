@@ -48,11 +48,11 @@ frmKontoauszug::frmKontoauszug(cStatementListModel& statement, QWidget* parent)
       m_differences(new cReconcilePanel(statement.Differences(), this)),
       m_sums(new cSumBar(this)),
       m_entry(new QPushButton(cText::Tr("Ein&trag öffnen"), this)),
+      m_papers(new QPushButton(statement.PapersText(), this)),
       m_copy(new QPushButton(cText::Tr("Kopi&eren"), this)),
       m_print(new QPushButton(cText::Tr("&Drucken…"), this)),
-      m_preview(new QPushButton(cText::Tr("Seitenansi&cht"), this)),
-      m_export(new QPushButton(cText::Tr("E&xportieren…"), this)),
-      m_papers(new QPushButton(statement.PapersText(), this))
+      m_preview(new QPushButton(cText::Tr("Seiten&ansicht"), this)),
+      m_export(new QPushButton(cText::Tr("E&xportieren…"), this))
 {
     setWindowTitle(cText::Tr("Kontoauszug"));
     setWindowFlag(Qt::WindowMaximizeButtonHint);
@@ -62,7 +62,7 @@ frmKontoauszug::frmKontoauszug(cStatementListModel& statement, QWidget* parent)
     Connect();
     ShowDays();
     ShowRows();
-    m_tree->scrollToBottom();
+    GoToNewest();
     m_tree->setFocus();
 }
 
@@ -120,7 +120,7 @@ QLayout* frmKontoauszug::BuildButtons()
     m_entry->setToolTip(cText::Tr("Öffnet den Eintrag, als der dieser Umsatz gebucht ist (Eingabetaste)"));
     m_copy->setToolTip(cText::Tr("Kopiert die markierten Umsätze, sonst alle (Strg+C)"));
     m_papers->setToolTip(cText::Tr("Auszüge der Bank als PDF; Dateien können auch in dieses Fenster gezogen werden"));
-    auto* close = new QPushButton(cText::Tr("Schließen"), this);
+    auto* close = new QPushButton(cText::Tr("S&chließen"), this);
     connect(close, &QPushButton::clicked, this, &QDialog::close);
     auto* row = new cFlowLayout;
     for (QPushButton* button : {m_entry, m_papers, m_copy, m_print, m_preview, m_export}) {
@@ -150,7 +150,7 @@ void frmKontoauszug::Connect()
 {
     connect(m_account, &QComboBox::currentIndexChanged, this, [this] {
         m_statement.ChooseAccount(m_account->currentData().toString());
-        m_tree->scrollToBottom();
+        GoToNewest();
     });
     connect(m_period, &QComboBox::currentIndexChanged, this, &frmKontoauszug::ChoosePeriod);
     for (cDayEdit* edit : {m_start, m_end}) {
@@ -228,6 +228,14 @@ void frmKontoauszug::ShowButtons()
     }
     m_papers->setText(m_statement.PapersText());
     m_papers->setEnabled(!m_statement.Numbers().isEmpty());
+}
+
+// The keys start there. It is not selected: all rows are printed and copied while none is.
+void frmKontoauszug::GoToNewest()
+{
+    const QModelIndex newest = m_statement.index(m_statement.rowCount() - 1, 0);
+    m_tree->selectionModel()->setCurrentIndex(newest, QItemSelectionModel::NoUpdate);
+    m_tree->scrollToBottom();
 }
 
 void frmKontoauszug::OpenEntry()

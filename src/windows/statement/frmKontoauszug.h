@@ -54,6 +54,7 @@ private:
     void ChoosePeriod();
     void ShowDays();
     void ShowRows(); // all around the list
+    void GoToNewest();
     void ShowFinding();
     void ShowButtons();
     void OpenEntry();
@@ -72,9 +73,9 @@ private:
     cReconcilePanel* m_differences;
     cSumBar* m_sums;
     QPushButton* m_entry;
+    QPushButton* m_papers;
     QPushButton* m_copy;
     QPushButton* m_print;
     QPushButton* m_preview;
     QPushButton* m_export;
-    QPushButton* m_papers;
 };

@@ -24,7 +24,8 @@ std::vector<cColumnFit::cColumn> ColumnsOf(const cTemplateTreeModel& model)
         const int alignment = model.headerData(column, Qt::Horizontal, Qt::TextAlignmentRole).toInt();
         const bool isAmount = (alignment & Qt::AlignRight) != 0;
         columns.push_back({isAmount ? amountWidth : textWidth,
-                           isAmount ? cColumnFit::eKind::Amount : cColumnFit::eKind::Text, leastText, !isAmount});
+                           isAmount ? cColumnFit::eKind::Amount : cColumnFit::eKind::Text, leastText,
+                           isAmount ? 0 : column});
     }
     return columns;
 }

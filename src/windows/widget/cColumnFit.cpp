@@ -9,6 +9,8 @@
 #include <QTreeView>
 
 #include <algorithm>
+#include <functional>
+#include <map>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -113,7 +115,6 @@ void cColumnFit::Measure()
     }
 }
 
-// The last spare column goes first.
 void cColumnFit::SendAway()
 {
     QHeaderView& header = *m_view.header();
@@ -122,12 +123,16 @@ void cColumnFit::SendAway()
     for (int column = 0; column < m_least.size(); ++column) {
         needed += isWished(column) ? m_least.at(column) : 0;
     }
-    for (int column = static_cast<int>(m_least.size()) - 1; column >= 0; --column) {
-        if (m_columns.at(static_cast<std::size_t>(column)).IsSpare && isWished(column)) {
-            m_isAway[column] = needed > m_view.viewport()->width();
-            needed -= m_isAway.at(column) ? m_least.at(column) : 0;
-            header.setSectionHidden(column, m_isAway.at(column));
+    std::multimap<int, int, std::greater<>> spare;
+    for (int column = 0; column < m_least.size(); ++column) {
+        if (const int rank = m_columns.at(static_cast<std::size_t>(column)).Spare; rank > 0 && isWished(column)) {
+            spare.emplace(rank, column);
         }
+    }
+    for (const auto& [rank, column] : spare) {
+        m_isAway[column] = needed > m_view.viewport()->width();
+        needed -= m_isAway.at(column) ? m_least.at(column) : 0;
+        header.setSectionHidden(column, m_isAway.at(column));
     }
 }
 
@@ -207,6 +212,18 @@ cListLayout cColumnFit::Layout() const
     layout.IsDescending = header.sortIndicatorOrder() == Qt::DescendingOrder;
     layout.Letter = Letter();
     return layout;
+}
+
+QList<int> cColumnFit::Shown() const
+{
+    QList<int> shown;
+    const cListLayout layout = Layout();
+    for (const cListLayout::cColumn& column : layout.Columns) {
+        if (column.IsShown) {
+            shown.append(column.Column);
+        }
+    }
+    return shown;
 }
 
 bool cColumnFit::eventFilter(QObject* watched, QEvent* event)

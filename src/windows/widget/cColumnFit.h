@@ -26,7 +26,7 @@ public:
         int Letters = 0; // width by default, in average letters of the font
         eKind Kind = eKind::Text;
         int LeastLetters = 4; // of a text; days and amounts keep what they need
-        bool IsSpare = false; // what it says stands elsewhere as well
+        int Spare = 0;        // what it says stands elsewhere as well; the highest goes first
     };
 
     cColumnFit(QTreeView& view, std::vector<cColumn> columns, int rest);
@@ -34,6 +34,7 @@ public:
     // Order and widths; without a layout those by default. What is shown and sorted is up to the list.
     void SetLayout(const std::optional<cListLayout>& layout);
     [[nodiscard]] cListLayout Layout() const;
+    [[nodiscard]] QList<int> Shown() const; // in the order on screen, also those without room
 
     void SetShown(int column, bool isShown); // Fit() follows after the last one
     void Fit();

@@ -71,6 +71,11 @@ QList<cFlowLayout::cLine> cFlowLayout::Lines(int width) const
             lines.append(cLine{item}); // a gap between two lines is none
         }
     }
+    for (cLine& line : lines) {
+        if (line.constLast()->spacerItem() != nullptr && !WantsMore(*line.constLast())) {
+            line.removeLast();
+        }
+    }
     return lines;
 }
 
@@ -78,22 +83,26 @@ int cFlowLayout::Arrange(const QRect& place, eArrange arrange) const
 {
     int top = place.top();
     const QList<cLine> lines = Lines(place.width());
+    bool isBehindStretch = false;
     for (const cLine& line : lines) {
         const int height = Height(line);
         if (arrange == eArrange::Place) {
-            PlaceLine(line, QRect(place.left(), top, place.width(), height));
+            PlaceLine(line, QRect(place.left(), top, place.width(), height), isBehindStretch);
         }
+        isBehindStretch = isBehindStretch || std::any_of(line.begin(), line.end(), [](QLayoutItem* item) {
+                              return item->spacerItem() != nullptr && WantsMore(*item);
+                          });
         top += height + spacing();
     }
     return lines.isEmpty() ? 0 : top - spacing() - place.top();
 }
 
-void cFlowLayout::PlaceLine(const cLine& line, const QRect& place) const
+void cFlowLayout::PlaceLine(const cLine& line, const QRect& place, bool isBehindStretch) const
 {
     const auto wanting =
         static_cast<int>(std::count_if(line.begin(), line.end(), [](const auto* item) { return WantsMore(*item); }));
     const int left = std::max(0, place.width() - Width(line));
-    int x = place.left();
+    int x = place.left() + (isBehindStretch && wanting == 0 ? left : 0);
     for (QLayoutItem* item : line) {
         x += item == line.constFirst() ? 0 : Gap(*item);
         const int more = WantsMore(*item) ? left / wanting : 0;

@@ -12,7 +12,7 @@ public:
     // A label that stays beside its field.
     void AddField(QWidget* label, QWidget* field);
 
-    void AddStretch();      // what follows stands at the right end of its line
+    void AddStretch();      // what follows stands at the right, in further lines too
     void AddGap(int width); // between what does not belong together
 
 protected:
@@ -26,5 +26,5 @@ private:
     [[nodiscard]] int Gap(const QLayoutItem& item) const; // before it, within a line
     [[nodiscard]] int Width(const cLine& line) const;
     [[nodiscard]] QList<cLine> Lines(int width) const;
-    void PlaceLine(const cLine& line, const QRect& place) const;
+    void PlaceLine(const cLine& line, const QRect& place, bool isBehindStretch) const;
 };

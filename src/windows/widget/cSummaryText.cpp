@@ -12,6 +12,7 @@ constexpr int shareOfWindow = 9; // of a low one it takes this part at most
 cSummaryText::cSummaryText(QWidget* parent) : QPlainTextEdit(parent)
 {
     setReadOnly(true);
+    setTextInteractionFlags(textInteractionFlags() | Qt::TextSelectableByKeyboard); // its caret shows the focus
     setTabChangesFocus(true);
     setAccessibleName(cText::Tr("Ergebnis"));
 }
