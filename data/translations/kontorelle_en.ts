@@ -867,10 +867,6 @@ Entries booked from them will remain.</translation>
         </translation>
     </message>
     <message>
-        <source>Alle Buchungen reichen mit den wiederkehrenden Einträgen bis ins Jahr 2050.</source>
-        <translation>With the recurring entries, “All entries” reaches to the year 2050.</translation>
-    </message>
-    <message>
         <source>Einmalige und fixe Buchungen sind ausgeblendet. Das Menü Ansicht blendet sie wieder ein.</source>
         <translation>One-off and recurring entries are hidden. The View menu shows them again.</translation>
     </message>
@@ -4763,16 +4759,8 @@ Suggestion: {2}</translation>
         <translation>columns chosen by hand</translation>
     </message>
     <message>
-        <source>Zurück zur Auswertung</source>
-        <translation>Back to statistics</translation>
-    </message>
-    <message>
         <source>Alt+Links</source>
         <translation>Alt+Left</translation>
-    </message>
-    <message>
-        <source>Auswahl aufheben</source>
-        <translation>Clear selection</translation>
     </message>
     <message>
         <source>Zeigt wieder die Einträge von vorher</source>
@@ -5113,10 +5101,6 @@ Suggestion: {2}</translation>
     <message>
         <source>Kopiert die markierten Umsätze, sonst alle (Strg+C)</source>
         <translation>Copies the selected transactions, or else all (Ctrl+C)</translation>
-    </message>
-    <message>
-        <source>Schließen</source>
-        <translation>Close</translation>
     </message>
     <message>
         <source>Aus&amp;wertung</source>
@@ -5850,10 +5834,6 @@ Do you want to continue?</translation>
     <message>
         <source>Diesen &amp;Import durchsehen</source>
         <translation>Review this &amp;import</translation>
-    </message>
-    <message>
-        <source>Seitenansi&amp;cht</source>
-        <translation>Print pre&amp;view</translation>
     </message>
     <message>
         <source>Der Betrag {0} war für das Intervall &apos;{1}&apos; gemeint. Bitte geben Sie mit --interval auch --amount an, den Betrag je Intervall, oder --limit, das Monatslimit.</source>
@@ -8912,10 +8892,6 @@ Quit the program and open this file to install the new version.</translation>
         <translation>What to do about &apos;{0}&apos;</translation>
     </message>
     <message>
-        <source>Beim Start zeigen</source>
-        <translation>Show at start</translation>
-    </message>
-    <message>
         <source>Sonst beginnt das Programm mit der Seite, die zuletzt zu sehen war.</source>
         <translation>Else the program starts with the page that was in sight last.</translation>
     </message>
@@ -8952,26 +8928,6 @@ Quit the program and open this file to install the new version.</translation>
         <source>von</source>
         <comment>Zeitraum</comment>
         <translation>from</translation>
-    </message>
-    <message>
-        <source>Konten übernehmen</source>
-        <translation>Take over accounts</translation>
-    </message>
-    <message>
-        <source>Online-Banking einrichten…</source>
-        <translation>Set up online banking…</translation>
-    </message>
-    <message>
-        <source>Ersten Eintrag erfassen…</source>
-        <translation>Enter the first entry…</translation>
-    </message>
-    <message>
-        <source>Aus anderem Programm übernehmen…</source>
-        <translation>Take over from another program…</translation>
-    </message>
-    <message>
-        <source>Beispielhaushalt ansehen</source>
-        <translation>See the example household</translation>
     </message>
     <message>
         <source>Serie: Tag, bis zu dem der Vertrag kündbar ist, oder &quot;ohne&quot;</source>
@@ -10884,10 +10840,6 @@ Is it to be read all the same?</translation>
         <translation>By payee</translation>
     </message>
     <message>
-        <source>Kontoauszug importieren…</source>
-        <translation>Import statement…</translation>
-    </message>
-    <message>
         <source>Für diese Art von Datei gibt es keine Vorschau. „Öffnen“ zeigt sie in einem anderen Programm.</source>
         <translation>There is no preview for this kind of file. “Open” shows it in another program.</translation>
     </message>
@@ -11246,6 +11198,50 @@ Create it in another folder, or open one that is there already.</translation>
     <message>
         <source>Sucht Einträge, die nicht zu sehen sind oder nicht richtig mitzählen, und prüft die Datei.</source>
         <translation>Looks for entries that cannot be seen or do not count as they should, and checks the file.</translation>
+    </message>
+    <message>
+        <source>Mit wiederkehrenden Einträgen bis 2050.</source>
+        <translation>With recurring entries until 2050.</translation>
+    </message>
+    <message>
+        <source>Zu&amp;rück zur Auswertung</source>
+        <translation>&amp;Back to statistics</translation>
+    </message>
+    <message>
+        <source>Auswah&amp;l aufheben</source>
+        <translation>Clear selecti&amp;on</translation>
+    </message>
+    <message>
+        <source>Konten über&amp;nehmen</source>
+        <translation>Ta&amp;ke over accounts</translation>
+    </message>
+    <message>
+        <source>Beim &amp;Start zeigen</source>
+        <translation>Show at st&amp;art</translation>
+    </message>
+    <message>
+        <source>&amp;Kontoauszug importieren…</source>
+        <translation>&amp;Import statement…</translation>
+    </message>
+    <message>
+        <source>On&amp;line-Banking einrichten…</source>
+        <translation>Set up &amp;online banking…</translation>
+    </message>
+    <message>
+        <source>Ersten Ein&amp;trag erfassen…</source>
+        <translation>Enter the first ent&amp;ry…</translation>
+    </message>
+    <message>
+        <source>Aus anderem &amp;Programm übernehmen…</source>
+        <translation>Take over from another &amp;program…</translation>
+    </message>
+    <message>
+        <source>Beispielha&amp;ushalt ansehen</source>
+        <translation>See the example ho&amp;usehold</translation>
+    </message>
+    <message>
+        <source>Seiten&amp;ansicht</source>
+        <translation>Print pre&amp;view</translation>
     </message>
 </context>
 </TS>

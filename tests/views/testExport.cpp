@@ -362,14 +362,14 @@ private Q_SLOTS:
         cFakeUser& user = book.User;
         user.SavePath = folder.Path(name);
         const cEntryExport::eDone done =
-            cEntryExport(book.Tools, m_progress).Run(Extract(), u"Kontoauszug Giro/Tages"_s, QDate(2026, 3, 15));
+            cEntryExport(book.Tools, m_progress).Run(Extract(), u"Kontoauszug Giro/Nr. 2"_s, QDate(2026, 3, 15));
         QCOMPARE(done, start.isEmpty() ? cEntryExport::eDone::Failed : cEntryExport::eDone::Written);
         QCOMPARE(QFile::exists(user.SavePath), !start.isEmpty());
         QVERIFY(cTestFile::Bytes(user.SavePath).startsWith(start));
         QCOMPARE(user.Asked,
                  QStringList(u"CSV-Datei|*.csv|Excel-Datei|*.xlsx|HTML-Datei|*.html|QIF-Datei|*.qif|"
                              "Alle Dateien|*.*"_s));
-        QCOMPARE(user.LastProposal, u"Kontorelle-Kontoauszug Giro-Tages-2026-03-15"_s);
+        QCOMPARE(user.LastProposal, u"Kontorelle-Kontoauszug Giro-Nr- 2-2026-03-15"_s);
         QVERIFY2(user.Shown.value(0).contains(start.isEmpty()
                                                   ? u".csv, .xlsx, .html, .qif"_s
                                                   : u"4 Einträge wurden nach '%1' exportiert."_s.arg(user.SavePath)),
