@@ -91,9 +91,8 @@ void cViewBar::Build()
         box->setSizeAdjustPolicy(QComboBox::AdjustToContents);
         box->setMinimumContentsLength(leastLetters);
     }
-    for (QComboBox* box : {m_type, m_account}) {
-        box->setMinimumContentsLength(13);
-    }
+    m_type->setMinimumContentsLength(13);   // all of its words
+    m_account->setMinimumContentsLength(9); // both side by side in 800 pixels at 12 points
     const QList<QWidget*> order{m_period, m_start, m_end, m_type, m_account, m_grouping, m_payer, m_filter};
     for (qsizetype i = 1; i < order.size(); ++i) {
         setTabOrder(order.at(i - 1), order.at(i));
