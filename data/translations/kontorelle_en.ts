@@ -6903,7 +6903,7 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
     </message>
     <message>
         <source>&amp;Protokoll…</source>
-        <translation>&amp;Log…</translation>
+        <translation>Lo&amp;g…</translation>
     </message>
     <message>
         <source>Wählen Sie mindestens ein Konto.</source>
@@ -8029,7 +8029,7 @@ The standing order always comes.</translation>
     </message>
     <message>
         <source>&amp;Verwendete Bibliotheken und Daten:</source>
-        <translation>&amp;Libraries and data in use:</translation>
+        <translation>Libraries and &amp;data in use:</translation>
     </message>
     <message>
         <source>Kling.</source>
@@ -9099,7 +9099,7 @@ Quit the program and open this file to install the new version.</translation>
     </message>
     <message>
         <source>Gilt in jedem Monat, der kein eigenes Limit hat.</source>
-        <translation>Holds in every month that has no limit of its own.</translation>
+        <translation>Applies in every month that has no limit of its own.</translation>
     </message>
     <message>
         <source>Ergibt sich aus Betrag und Intervall der Kategorie.</source>
@@ -9909,7 +9909,7 @@ A click shows more.</translation>
     </message>
     <message>
         <source>Gilt</source>
-        <translation>Holds</translation>
+        <translation>Applies</translation>
     </message>
     <message>
         <source>Gemeinsames</source>
@@ -9929,7 +9929,7 @@ A click shows more.</translation>
     </message>
     <message>
         <source>Eine leere Zeile gilt wie „Gemeinsames“, und ist auch das leer, haben alle gleiche Anteile. Was jemand von einem Konto bezahlt, das ihm allein gehört, tragen alle wie „Gemeinsames“.</source>
-        <translation>An empty row holds like “Common”; when that is empty too, everybody has the same share. What somebody pays from an account that is theirs alone is borne by all like “Common”.</translation>
+        <translation>An empty row counts as “Common”; when that is empty too, everybody has the same share. What somebody pays from an account that is theirs alone is borne by all like “Common”.</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
