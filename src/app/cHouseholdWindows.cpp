@@ -1,6 +1,7 @@
 #include "app/cHouseholdWindows.h"
 
 #include "app/machine/cQtPrinter.h"
+#include "base/cClock.h"
 #include "core/cBookTools.h"
 #include "views/budget/cBudgetModel.h"
 #include "views/main/cMainModel.h"

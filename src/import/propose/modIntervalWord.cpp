@@ -12,7 +12,7 @@ namespace {
 struct cWord
 {
     QLatin1StringView Begin; // of the folded word
-    const char16_t* Interval;
+    const char16_t* Interval = nullptr;
 };
 
 constexpr const char16_t* quarterly = u"Alle 3 Monate";

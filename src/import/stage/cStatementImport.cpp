@@ -135,6 +135,12 @@ private:
     const cFetchMemory* m_memory;
 };
 
+// Parts of statements may overlap, a book has nothing twice. An archive may hold both.
+bool IsOfBook(const cStatementRead& read, const cImportEntry& entry)
+{
+    return read.IsBook && (read.Formats.isEmpty() || modBookRow::IsBook(entry));
+}
+
 // The result of a file that the user stopped: it names the file and nothing that was in it.
 cImportResult Cancelled(const cImportResult& result)
 {
@@ -477,10 +483,9 @@ void cStatementImport::SettleEqual(const cStatementRead& read, const cImportOpti
     for (qsizetype i = 0; i < proofs.size(); ++i) {
         cRepeat repeat = result.Repeats.at(i);
         repeat.WasLeftOut = cLeftOutRows(settings).Has(repeat);
-        // Parts of statements may overlap, a book has nothing twice. An archive may hold both.
-        const bool isOfBook = read.IsBook && (read.Formats.isEmpty() || modBookRow::IsBook(repeat.Entry));
         const bool isTold = repeat.IsTold && proofs.at(i) == eProof::None;
-        const bool isTaken = proofs.at(i) == eProof::Real || isTold || options.Equal == eEqualRows::Take || isOfBook;
+        const bool isTaken =
+            proofs.at(i) == eProof::Real || isTold || options.Equal == eEqualRows::Take || IsOfBook(read, repeat.Entry);
         if (!isTaken && proofs.at(i) == eProof::None) {
             open.append(repeat);
             continue;

@@ -33,11 +33,11 @@ qsizetype CountIn(const cDays& others, const cImportEntryList& rows)
 // Those between the first and the last day of the others.
 cImportEntryList Within(cImportEntryList rows, const cImportEntryList& others)
 {
-    const auto [first, last] =
+    const auto ends =
         std::minmax_element(others.begin(), others.end(),
                             [](const cImportEntry& a, const cImportEntry& b) { return a.ImportDate < b.ImportDate; });
     rows.removeIf([&](const cImportEntry& row) {
-        return row.ImportDate < first->ImportDate || row.ImportDate > last->ImportDate;
+        return row.ImportDate < ends.first->ImportDate || row.ImportDate > ends.second->ImportDate;
     });
     return rows;
 }

@@ -106,7 +106,7 @@ private:
     // Without a row below: a line that says so may follow.
     [[nodiscard]] bool IsAlone(int place) const
     {
-        const auto isRow = [this, separator = SeparatorOf(place)](const cProbe& probe) {
+        const auto isRow = [separator = SeparatorOf(place)](const cProbe& probe) {
             const QStringList cells = modTableHeader::CellsOf(probe, separator);
             return cells.size() - cells.count(QString()) > 1;
         };

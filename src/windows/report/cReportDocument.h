@@ -13,7 +13,7 @@
 #include <vector>
 
 class cReportCanvas;
-class cReportContainer;
+class cReportContainer; // NOLINT(cppcoreguidelines-virtual-class-destructor)
 
 namespace litehtml {
 class context;
