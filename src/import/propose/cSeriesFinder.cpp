@@ -160,7 +160,7 @@ std::optional<cSeriesMatch> cSeriesFinder::Find(const cImportEntry& row, const c
     return match ? match : Precede(alike, row);
 }
 
-// Some formats give the counterparty's account and some do not, so a row without is paid by whoever has its name.
+// Some formats give the account of the counterparty and some do not: rows with and without it belong together by name.
 QSet<int> cSeriesFinder::SeriesOf(const cImportEntry& row) const
 {
     const QString key = modCounterparty::Key(row);
