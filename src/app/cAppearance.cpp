@@ -2,6 +2,7 @@
 
 #include "app/machine/cDesktopTone.h"
 #include "views/main/modAppearance.h"
+#include "windows/look/cFlatStyle.h"
 #include "windows/look/modPalette.h"
 #include "windows/look/modTone.h"
 
@@ -36,7 +37,7 @@ void cAppearance::Apply()
     QApplication::setPalette(QPalette()); // the platform's, which may have changed since
     const bool isPlatformDark = modTone::IsDark(QApplication::palette());
     const bool isDark = IsDarkWanted(isPlatformDark);
-    if (isDark != isPlatformDark) {
+    if (isDark != isPlatformDark || cFlatStyle::IsPlain(QApplication::palette())) {
         QApplication::setPalette(isDark ? modPalette::Dark() : modPalette::Light());
     }
 }

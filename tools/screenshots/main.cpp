@@ -57,6 +57,7 @@
 #include "windows/chart/cChartPrinter.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/entry/frmKorrektur.h"
+#include "windows/look/cFlatStyle.h"
 #include "windows/look/cStyle.h"
 #include "windows/look/modPalette.h"
 #include "windows/look/modTone.h"
@@ -549,10 +550,8 @@ int main(int argc, char* argv[])
     }
     const QString& look = arguments.at(2);
     QLocale::setDefault(QLocale(QLocale::German, QLocale::Germany));
-    QApplication::setStyle(new cStyle(u"Fusion"_s));
-    if (look == u"dark") {
-        QApplication::setPalette(modPalette::Dark());
-    }
+    QApplication::setStyle(new cStyle(new cFlatStyle));
+    QApplication::setPalette(look == u"dark" ? modPalette::Dark() : modPalette::Light());
     cPseudoLanguage pseudo;
     if (look == u"pseudo") {
         QCoreApplication::installTranslator(&pseudo);

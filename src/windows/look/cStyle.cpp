@@ -1,14 +1,24 @@
 #include "windows/look/cStyle.h"
 
+#include "windows/look/cFlatStyle.h"
 #include "windows/look/modIcon.h"
-#include "windows/look/modTone.h"
 
-#include <QPainter>
 #include <QStyleHintReturn>
 #include <QStyleOption>
 #include <QWidget>
 
 using namespace Qt::Literals::StringLiterals;
+
+cStyle::cStyle()
+{
+    if (baseStyle()->name() == u"fusion") { // what the toolkit takes where the desktop names none
+        setBaseStyle(new cFlatStyle);
+    }
+}
+
+cStyle::cStyle(QStyle* base) : QProxyStyle(base)
+{
+}
 
 int cStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget, QStyleHintReturn* more) const
 {
@@ -24,25 +34,6 @@ QIcon cStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, cons
     case SP_LineEditClearButton: return modIcon::Get(u"leeren"_s);
     default: return QProxyStyle::standardIcon(icon, option, widget);
     }
-}
-
-void cStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option, QPainter* painter,
-                           const QWidget* widget) const
-{
-    QProxyStyle::drawPrimitive(element, option, painter, widget);
-    const bool isField = element == PE_FrameLineEdit && !(option->state & State_HasFocus);
-    if (!(isField || element == PE_IndicatorCheckBox) || !modTone::IsDark(option->palette)) {
-        return;
-    }
-    constexpr double corner = 2;
-    QColor edge = option->palette.color(QPalette::Text);
-    edge.setAlphaF(0.3F);
-    painter->save();
-    painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(edge);
-    painter->setBrush(Qt::NoBrush);
-    painter->drawRoundedRect(QRectF(option->rect).adjusted(0.5, 0.5, -0.5, -0.5), corner, corner);
-    painter->restore();
 }
 
 void cStyle::drawControl(ControlElement element, const QStyleOption* option, QPainter* painter,

@@ -7,6 +7,7 @@ namespace {
 struct cColours
 {
     QRgb Window;
+    QRgb Button;
     QRgb Base;
     QRgb AlternateBase;
     QRgb Text;
@@ -16,13 +17,15 @@ struct cColours
     QRgb VisitedLink;
 };
 
-constexpr cColours light{0xffefefef, 0xffffffff, 0xfff7f7f7, 0xff1b1d20,
+constexpr cColours light{0xfff2f4f6, 0xffffffff, 0xffffffff, 0xfff7f8fa, 0xff1b1d20,
                          0xff767a80, 0xff2d6ea0, 0xff0b57a4, 0xff6a3d9a};
-constexpr cColours dark{0xff2d2f33, 0xff1e2023, 0xff26282c, 0xffe6e8eb, 0xff82858a, 0xff2d6ea0, 0xff6eb4f0, 0xffc0a0e8};
+constexpr cColours dark{0xff2d2f33, 0xff3a3d42, 0xff1e2023, 0xff26282c, 0xffe6e8eb,
+                        0xff82858a, 0xff2d6ea0, 0xff6eb4f0, 0xffc0a0e8};
 
 QPalette Made(const cColours& colours)
 {
     QPalette palette{QColor(colours.Window)}; // with the edges that go with it
+    palette.setColor(QPalette::Button, QColor(colours.Button));
     palette.setColor(QPalette::Base, QColor(colours.Base));
     palette.setColor(QPalette::AlternateBase, QColor(colours.AlternateBase));
     palette.setColor(QPalette::Highlight, QColor(colours.Highlight));
