@@ -14,6 +14,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 const QString plainStyle = u"fusion"_s;
+constexpr int arrowRoom = 14;
 
 // An arrow where the plain style would draw a filled triangle.
 bool DrawArrow(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter)
@@ -74,6 +75,14 @@ bool DrawBox(QStyle::PrimitiveElement element, const QStyleOption& option, QPain
     }
 }
 
+// Opens its menu wherever it is pressed, and says so by an arrow behind its text.
+bool IsMenuTool(const QStyleOption& option)
+{
+    const auto* button = qstyleoption_cast<const QStyleOptionToolButton*>(&option);
+    return button != nullptr && button->features.testFlag(QStyleOptionToolButton::HasMenu)
+        && !button->features.testFlag(QStyleOptionToolButton::MenuButtonPopup) && !button->text.isEmpty();
+}
+
 // Length and place of a scroll bar's handle on the whole bar.
 QRect HandleOf(const QStyleOptionSlider& bar, int leastLength)
 {
@@ -121,6 +130,9 @@ QSize cFlatStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
     if (type == CT_PushButton && button != nullptr && button->features.testFlag(QStyleOptionButton::HasMenu)) {
         made.rwidth() += 8; // between the text and its arrow
+    }
+    if (type == CT_ToolButton && IsMenuTool(*option)) {
+        made.rwidth() += arrowRoom;
     }
     return made;
 }
@@ -238,6 +250,25 @@ void cFlatStyle::DrawSpinBox(const QStyleOptionSpinBox& box, QPainter& painter, 
     draw(SC_SpinBoxDown, QAbstractSpinBox::StepDownEnabled, Qt::DownArrow);
 }
 
+void cFlatStyle::DrawMenuTool(const QStyleOptionToolButton& button, QPainter& painter, const QWidget* widget) const
+{
+    QStyleOptionToolButton text(button);
+    text.features.setFlag(QStyleOptionToolButton::HasMenu, false);
+    if (button.state & (State_Sunken | State_On) || !button.state.testFlag(State_AutoRaise)
+        || (button.state.testFlag(State_MouseOver) && button.state.testFlag(State_Enabled))) {
+        proxy()->drawPrimitive(PE_PanelButtonTool, &button, &painter, widget);
+    }
+    if (button.state.testFlag(State_HasFocus)) {
+        QStyleOptionFocusRect focus;
+        focus.QStyleOption::operator=(button);
+        proxy()->drawPrimitive(PE_FrameFocusRect, &focus, &painter, widget);
+    }
+    text.rect = visualRect(button.direction, button.rect, button.rect.adjusted(0, 0, -arrowRoom, 0));
+    proxy()->drawControl(CE_ToolButtonLabel, &text, &painter, widget);
+    const QRect end(button.rect.right() - arrowRoom, button.rect.top(), arrowRoom, button.rect.height());
+    modFlat::Arrow(painter, button, visualRect(button.direction, button.rect, end), Qt::DownArrow);
+}
+
 void cFlatStyle::DrawScrollBar(const QStyleOptionSlider& bar, QPainter& painter, const QWidget* widget) const
 {
     painter.fillRect(bar.rect, bar.palette.color(QPalette::Window));
@@ -257,6 +288,9 @@ void cFlatStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
         DrawComboBox(*box, *painter, widget);
     } else if (const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option)) {
         DrawSpinBox(*spin, *painter, widget);
+    } else if (const auto* tool = qstyleoption_cast<const QStyleOptionToolButton*>(option);
+               tool != nullptr && IsMenuTool(*tool)) {
+        DrawMenuTool(*tool, *painter, widget);
     } else if (const auto* bar = qstyleoption_cast<const QStyleOptionSlider*>(option);
                bar != nullptr && control == CC_ScrollBar) {
         DrawScrollBar(*bar, *painter, widget);

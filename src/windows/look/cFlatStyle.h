@@ -9,6 +9,7 @@ class QStyleOptionComboBox;
 class QStyleOptionComplex;
 class QStyleOptionSlider;
 class QStyleOptionSpinBox;
+class QStyleOptionToolButton;
 class QWidget;
 
 // How controls look where the desktop has no style of its own: the toolkit's plain one, drawn flat. One soft edge, one
@@ -41,5 +42,6 @@ private:
     void DrawMenuBarItem(const QStyleOption& option, QPainter& painter, const QWidget* widget) const;
     void DrawComboBox(const QStyleOptionComboBox& box, QPainter& painter, const QWidget* widget) const;
     void DrawSpinBox(const QStyleOptionSpinBox& box, QPainter& painter, const QWidget* widget) const;
+    void DrawMenuTool(const QStyleOptionToolButton& button, QPainter& painter, const QWidget* widget) const;
     void DrawScrollBar(const QStyleOptionSlider& bar, QPainter& painter, const QWidget* widget) const;
 };

@@ -16,6 +16,7 @@
 #include <QFrame>
 #include <QKeyEvent>
 #include <QTextCharFormat>
+#include <QToolButton>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -31,6 +32,12 @@ QDate Stepped(QDate day, int key)
     case Qt::Key_PageDown: return day.addMonths(-1);
     default: return {};
     }
+}
+
+// The calendar's months stand on the colour of a selection.
+QColor OnAccent(const QPalette& palette)
+{
+    return palette.color(QPalette::HighlightedText);
 }
 
 bool OpensCalendar(const QKeyEvent& event)
@@ -128,6 +135,13 @@ void cDayEdit::OpenCalendar()
     weekend.setForeground(modTone::Expense(palette())); // readable on dark windows too
     calendar->setWeekdayTextFormat(Qt::Saturday, weekend);
     calendar->setWeekdayTextFormat(Qt::Sunday, weekend);
+    for (const auto& [name, arrow] :
+         {std::pair(u"qt_calendar_prevmonth"_s, Qt::LeftArrow), {u"qt_calendar_nextmonth"_s, Qt::RightArrow}}) {
+        if (auto* button = calendar->findChild<QToolButton*>(name)) { // its picture is none of ours
+            button->setArrowType(arrow);
+            modTone::Use(*button, OnAccent, QPalette::ButtonText);
+        }
+    }
     calendar->setSelectedDate(Day().isValid() ? Day() : m_today);
     const auto take = [this, popup](QDate day) {
         popup->close();
