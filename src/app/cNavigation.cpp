@@ -113,10 +113,8 @@ void cNavigation::TakeFiles(const QStringList& paths)
         m_parts.Tools.User.Show(eTone::Exclamation, error);
         return;
     }
-    if (!request.Book.isEmpty()) {
-        m_books.OpenBook(request.Book);
-    }
-    if (!request.Statements.isEmpty()) {
+    const bool isThere = request.Book.isEmpty() || m_books.OpenBook(request.Book);
+    if (isThere && !request.Statements.isEmpty()) { // they were meant for that book
         ReadStatements(request.Statements);
     }
 }

@@ -254,6 +254,46 @@ private Q_SLOTS:
         QVERIFY(!scene.Book.Data.FindAccount(u"Depot"_s));
     }
 
+    // Today's balance beside bank rows that are still open: they lead to it and must not count on top of it.
+    void FirstStepsBesideRows_data()
+    {
+        QTest::addColumn<bool>("isNamed"); // the bank names what it was at the end
+        QTest::addColumn<QString>("typed");
+        QTest::addColumn<bool>("isTaken");
+        QTest::addColumn<qint64>("start");
+        QTest::addRow("without a balance of the bank") << false << u"700,00"_s << true << qint64(65000);
+        QTest::addRow("what the bank says") << true << u"1.050,00"_s << true << qint64(100000);
+        QTest::addRow("not what the bank says") << true << u"700"_s << false << qint64(100000);
+    }
+
+    void FirstStepsBesideRows()
+    {
+        QFETCH(const bool, isNamed);
+        QFETCH(const QString, typed);
+        QFETCH(const bool, isTaken);
+        QFETCH(const qint64, start);
+        cScene scene;
+        for (const auto& [day, cents] : {std::pair(10, 20000), {20, -15000}}) {
+            cImportEntry row;
+            row.ImportAccount = u"4711"_s;
+            row.ImportDate = QDate(2026, 1, day);
+            row.ImportValue = cents;
+            QVERIFY(scene.Book.Data.AddNewImportEntry(row));
+        }
+        scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Girokonto"_s);
+        scene.Book.Settings->Set(modSettingKey::BankBalances.Of(u"4711"_s),
+                                 isNamed ? u"2026-01-20=105000"_s : QString());
+        (void)scene.Book.Data.SetStartGuthaben(u"Girokonto"_s, 100000, QDate(2026, 1, 9));
+        const cFirstSteps steps = scene.Model.FirstSteps();
+        QList<cFirstSteps::cRow> rows = steps.Start();
+        QCOMPARE(rows.at(0).Amount, u"1050,00"_s);
+        rows[0].Amount = typed;
+        QCOMPARE(steps.Save(rows).isEmpty(), isTaken);
+        const auto stored = scene.Book.Data.GetStartGuthaben(u"Girokonto"_s).value_or(cEntryItem());
+        QCOMPARE(modBalance::Effect(stored, u"Girokonto"_s), start);
+        QCOMPARE(stored.EntryDate, QDate(2026, 1, 9));
+    }
+
     // Typing over a name means the account that stands there, with all that it has.
     void FirstStepsRename()
     {

@@ -146,17 +146,18 @@ void cBookFlow::ShowCannotCreate(const QString& path) const
 void cBookFlow::SwitchBook()
 {
     if (const QString path = AskForBook(); !path.isEmpty()) {
-        OpenBook(path);
+        (void)OpenBook(path);
     }
 }
 
-void cBookFlow::OpenBook(const QString& path)
+bool cBookFlow::OpenBook(const QString& path)
 {
     if (IsOpenBook(path)) {
         m_parts.User.Show(eTone::Information, cText::Tr("Die Datenbank '{0}' ist bereits geöffnet.", {Shown(path)}));
-        return;
+        return true;
     }
     Open(path);
+    return IsOpenBook(path);
 }
 
 // One of the known books, or a file of the user's choice; empty when the user gives up.

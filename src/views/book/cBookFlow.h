@@ -31,9 +31,10 @@ public:
 
     explicit cBookFlow(const cParts& parts) : m_parts(parts) {}
 
-    void NewBook();                     // "Neue Datenbank"
-    void SwitchBook();                  // "Datenbank wechseln"
-    void OpenBook(const QString& path); // that was dropped on the window; says so when it is open already
+    void NewBook();    // "Neue Datenbank"
+    void SwitchBook(); // "Datenbank wechseln"
+    // That was dropped on the window; says so when it is open already. False when it is not open afterwards.
+    bool OpenBook(const QString& path);
     // The example household, made when it is not there yet; `version` is that of the program.
     void OpenDemo(const QString& version);
     void MakeBackup(); // "Datensicherung erstellen"

@@ -2,12 +2,15 @@
 
 #include "base/cClock.h"
 #include "base/cText.h"
+#include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "import/propose/modCash.h"
 #include "model/modBalance.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/ledger/cOpeningBalance.h"
+#include "views/ledger/cStatementLedger.h"
 #include "views/template/cTemplateFlow.h"
 
 #include <QSet>
@@ -35,6 +38,11 @@ cTemplateItem Retyped(const cTemplateItem& account, cTemplateItemList others, co
     return retyped;
 }
 
+std::optional<qint64> StartOf(const std::optional<cEntryItem>& stored)
+{
+    return stored ? std::optional(modBalance::Effect(*stored, stored->EntryAccount)) : std::nullopt;
+}
+
 QString Failure()
 {
     return cText::Tr("Die Konten konnten nicht gespeichert werden.");
@@ -51,9 +59,10 @@ QList<cFirstSteps::cRow> cFirstSteps::Start() const
             continue;
         }
         const auto stored = m_tools.Data.GetStartGuthaben(account.TemplateName);
-        rows.append({account.TemplateName,
-                     stored ? modSum::ToText(modBalance::Effect(*stored, account.TemplateName), Decimal()) : QString(),
-                     account.TemplateName});
+        const std::optional<cTold> told = Told(account.TemplateName);
+        const std::optional<qint64> cents = told ? told->Cents : StartOf(stored);
+        rows.append(
+            {account.TemplateName, cents ? modSum::ToText(*cents, Decimal()) : QString(), account.TemplateName});
     }
     while (rows.size() < Rows) {
         rows.append(cRow{});
@@ -161,11 +170,56 @@ QString cFirstSteps::Store(const cRow& row) const
     if (known.isEmpty() && !m_tools.Data.AddNewTemplate(item)) {
         return Failure();
     }
+    if (row.Amount.trimmed().isEmpty()) {
+        return {};
+    }
     const std::optional<qint64> cents = modSum::Evaluate(row.Amount, Decimal());
-    const std::optional<cEntryItem> stored = m_tools.Data.GetStartGuthaben(name);
-    const bool isSame = stored && cents && modBalance::Effect(*stored, name) == *cents; // and keeps its day
-    return row.Amount.trimmed().isEmpty() || isSame
-            || (cents && m_tools.Data.SetStartGuthaben(name, *cents, m_tools.Clock.Today()))
-        ? QString()
-        : Failure();
+    return cents ? StoreBalance(name, *cents) : Failure();
+}
+
+std::optional<cFirstSteps::cTold> cFirstSteps::Told(const QString& account) const
+{
+    cStatementLedger ledger(m_tools.Data, m_tools.Settings);
+    const QStringList numbers = ledger.Numbers();
+    const auto own = std::find_if(numbers.begin(), numbers.end(),
+                                  [&](const QString& number) { return ledger.AccountOf(number) == account; });
+    if (own == numbers.end()) {
+        return std::nullopt;
+    }
+    ledger.LoadOnce(*own);
+    if (ledger.Rows().isEmpty() || ledger.IsShared()) {
+        return std::nullopt;
+    }
+    cTold told{*own, ledger.Rows().constLast().ImportDate, StartOf(m_tools.Data.GetStartGuthaben(account)),
+               ledger.Check().IsAnchored};
+    if (told.IsBank) {
+        told.Cents = ledger.BankOn(told.Day);
+    } else if (told.Cents) {
+        for (const cImportEntry& row : ledger.Rows()) {
+            *told.Cents += row.ImportValue;
+        }
+    }
+    return told;
+}
+
+// An amount of today beside rows of days before leads back to what was there before the first of them; stored as it is,
+// all rows would count on top of it.
+QString cFirstSteps::StoreBalance(const QString& account, qint64 cents) const
+{
+    const std::optional<cTold> told = Told(account);
+    const std::optional<qint64> shown = told ? told->Cents : StartOf(m_tools.Data.GetStartGuthaben(account));
+    if (shown == cents && !(told && told->IsBank)) {
+        return {}; // and keeps its day
+    }
+    if (told && told->IsBank && shown != cents) {
+        return cText::Tr("Laut Kontoauszug waren am {1} {2} auf dem Konto '{0}'. Ist seither etwas dazugekommen, lesen "
+                         "Sie bitte den nächsten Kontoauszug ein.",
+                         {account, modDate::ToText(told->Day), m_tools.Format.Cents(*shown)});
+    }
+    if (!(told && told->IsBank) && !m_tools.Data.SetStartGuthaben(account, cents, m_tools.Clock.Today())) {
+        return Failure();
+    }
+    const cOpeningBalance opening(m_tools);
+    const std::optional<cOpeningBalance::cOffer> offer = told ? opening.For(told->Number) : std::nullopt;
+    return !offer || opening.Take(*offer) ? QString() : Failure();
 }

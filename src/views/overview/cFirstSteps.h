@@ -2,8 +2,11 @@
 
 #include "base/modSum.h"
 
+#include <QDate>
 #include <QList>
 #include <QString>
+
+#include <optional>
 
 struct cBookTools;
 
@@ -22,7 +25,8 @@ public:
 
     explicit cFirstSteps(const cBookTools& tools) : m_tools(tools) {}
 
-    // The accounts that there are with their start balances, and empty rows behind them.
+    // The accounts that there are with what they come to by their start balances and bank rows, and empty rows behind
+    // them.
     [[nodiscard]] QList<cRow> Start() const;
     [[nodiscard]] eDecimal Decimal() const;
 
@@ -32,6 +36,18 @@ public:
     [[nodiscard]] QString Save(const QList<cRow>& rows) const;
 
 private:
+    // What the bank's rows come to, booked or not.
+    struct cTold
+    {
+        QString Number;
+        QDate Day;                   // of the last row
+        std::optional<qint64> Cents; // none: neither the bank nor a start balance says where they began
+        bool IsBank = false;         // the bank names a balance
+    };
+
+    // Nothing where no rows belong to the account, or those of several numbers.
+    [[nodiscard]] std::optional<cTold> Told(const QString& account) const;
+    [[nodiscard]] QString StoreBalance(const QString& account, qint64 cents) const;
     [[nodiscard]] static QString Problem(const QList<cRow>& rows, eDecimal decimal);
     [[nodiscard]] QString Store(const cRow& row) const;
     [[nodiscard]] QString Rename(const QList<cRow>& rows) const;

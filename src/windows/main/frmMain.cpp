@@ -219,8 +219,9 @@ void frmMain::Connect()
     connect(m_dayJump, &cDayJump::Told, this, &frmMain::Tell);
     connect(m_dayJump, &cDayJump::Closed, m_tree, qOverload<>(&QWidget::setFocus));
     auto* drop = new cReceiptDrop(*m_tree, m_model.Entries());
-    connect(drop, &cReceiptDrop::ReceiptsDropped, this, &frmMain::ReceiptsDropped);
-    connect(drop, &cReceiptDrop::OthersDropped, this, &frmMain::FilesDropped);
+    // The other program waits until the drop is over; questions come after that.
+    connect(drop, &cReceiptDrop::ReceiptsDropped, this, &frmMain::ReceiptsDropped, Qt::QueuedConnection);
+    connect(drop, &cReceiptDrop::OthersDropped, this, &frmMain::FilesDropped, Qt::QueuedConnection);
     connect(m_accounts, &cAccountPanel::AccountChosen, &m_model, &cMainModel::ChooseAccount);
     connect(m_accounts, &cAccountPanel::RowsDropped, this, &frmMain::RowsDropped);
     auto* regroup = new cCategoryDrop(*m_tree, modRowDrag::Format,
@@ -488,5 +489,6 @@ void frmMain::dragEnterEvent(QDragEnterEvent* event)
 
 void frmMain::dropEvent(QDropEvent* event)
 {
-    Q_EMIT FilesDropped(modDrop::Files(*event->mimeData()));
+    QMetaObject::invokeMethod(
+        this, [this, paths = modDrop::Files(*event->mimeData())] { Q_EMIT FilesDropped(paths); }, Qt::QueuedConnection);
 }

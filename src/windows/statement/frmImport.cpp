@@ -12,7 +12,6 @@
 #include "windows/statement/frmImportReview.h"
 #include "windows/widget/cProgressBox.h"
 #include "windows/widget/cSummaryText.h"
-#include "windows/widget/modDrop.h"
 
 #include <QAction>
 #include <QBoxLayout>
@@ -34,7 +33,6 @@ frmImport::frmImport(cImportReview& review, QWidget* parent)
       m_panel(new cStagedPanel(review, this)),
       m_summary(new cSummaryText(this))
 {
-    setAcceptDrops(true);
     Build();
     Connect();
     m_reviewImport->hide();
@@ -156,19 +154,4 @@ void frmImport::hideEvent(QHideEvent* event)
 {
     m_review.SetShown(false);
     QWidget::hideEvent(event);
-}
-
-void frmImport::dragEnterEvent(QDragEnterEvent* event)
-{
-    if (!m_review.IsReadOnly() && !modDrop::Files(*event->mimeData()).isEmpty()) {
-        event->acceptProposedAction();
-    }
-}
-
-void frmImport::dropEvent(QDropEvent* event)
-{
-    event->acceptProposedAction();
-    // The other program waits until the drop is over; questions come after that.
-    QMetaObject::invokeMethod(
-        this, [this, paths = modDrop::Files(*event->mimeData())] { ImportFiles(paths); }, Qt::QueuedConnection);
 }
