@@ -24,6 +24,13 @@ bool DrawArrow(QStyle::PrimitiveElement element, const QStyleOption& option, QPa
     case QStyle::PE_IndicatorArrowDown: modFlat::Arrow(painter, option, option.rect, Qt::DownArrow); return true;
     case QStyle::PE_IndicatorArrowLeft: modFlat::Arrow(painter, option, option.rect, Qt::LeftArrow); return true;
     case QStyle::PE_IndicatorArrowRight: modFlat::Arrow(painter, option, option.rect, Qt::RightArrow); return true;
+    case QStyle::PE_IndicatorBranch:
+        if (option.state.testFlag(QStyle::State_Children)) {
+            const auto closed = option.direction == Qt::RightToLeft ? Qt::LeftArrow : Qt::RightArrow;
+            modFlat::Arrow(painter, option, option.rect,
+                           option.state.testFlag(QStyle::State_Open) ? Qt::DownArrow : closed);
+        }
+        return true;
     case QStyle::PE_IndicatorHeaderArrow: {
         const auto* header = qstyleoption_cast<const QStyleOptionHeader*>(&option);
         const bool isUp = header != nullptr && header->sortIndicator == QStyleOptionHeader::SortUp;
@@ -62,8 +69,8 @@ bool DrawBox(QStyle::PrimitiveElement element, const QStyleOption& option, QPain
             modFlat::Focus(painter, option);
         }
         return true;
-    case QStyle::PE_Frame:
-    case QStyle::PE_FrameGroupBox: modFlat::Frame(painter, option); return true;
+    case QStyle::PE_Frame: modFlat::Frame(painter, option); return true;
+    case QStyle::PE_FrameGroupBox: modFlat::GroupFrame(painter, option); return true;
     case QStyle::PE_PanelScrollAreaCorner:
         painter.fillRect(option.rect, option.palette.color(QPalette::Window));
         return true;

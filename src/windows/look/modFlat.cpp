@@ -106,7 +106,8 @@ void TickGround(QPainter& painter, const QStyleOption& option, double radius)
     const bool isUsable = Is(option, QStyle::State_Enabled);
     const QColor mark = isUsable ? Accent(option) : Ink(option, strongEdge);
     const QColor edge = isUsable ? Ink(option, IsUnderPointer(option) ? 0.7 : strongEdge) : Ink(option, softEdge);
-    painter.setPen(isTicked ? mark : edge);
+    const bool isOnAccent = Is(option, QStyle::State_Selected); // in a chosen line of a list
+    painter.setPen(isOnAccent ? option.palette.color(QPalette::HighlightedText) : isTicked ? mark : edge);
     painter.setBrush(isTicked ? mark : option.palette.color(QPalette::Base));
     painter.drawRoundedRect(Within(option.rect), radius, radius);
 }
@@ -167,6 +168,12 @@ void modFlat::Frame(QPainter& painter, const QStyleOption& option)
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(option.rect.adjusted(0, 0, -1, -1));
     painter.restore();
+}
+
+void modFlat::GroupFrame(QPainter& painter, const QStyleOption& option)
+{
+    const int title = option.fontMetrics.height() + 3; // as much as the plain style leaves it
+    Rounded(painter, option.rect.adjusted(0, title, 0, 0), Ink(option, softEdge), Qt::NoBrush);
 }
 
 void modFlat::CheckBox(QPainter& painter, const QStyleOption& option)

@@ -24,8 +24,10 @@ void ToolButton(QPainter& painter, const QStyleOption& option);
 void Shade(QPainter& painter, const QStyleOption& option, const QRect& place, double share);
 // The mark of what the keys go to, where it is shown.
 void Focus(QPainter& painter, const QStyleOption& option);
-// The edge of lists and boxes.
+// The edge of lists.
 void Frame(QPainter& painter, const QStyleOption& option);
+// The edge of controls that belong together, below their title.
+void GroupFrame(QPainter& painter, const QStyleOption& option);
 
 void CheckBox(QPainter& painter, const QStyleOption& option);
 void RadioButton(QPainter& painter, const QStyleOption& option);
