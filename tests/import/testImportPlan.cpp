@@ -26,13 +26,14 @@ struct cBank : cBankBook
     QHash<int, cRowPlan> Make(const QList<int>& rows)
     {
         cNoProgress progress;
-        return cImportPlan({Data, Hive, Accounts, [](int id) { return modStagedTwins::cFile{id}; }})
+        return cImportPlan({Data, Hive, Accounts, [this](int id) { return modStagedTwins::cFile{id, Kinds.value(id)}; }})
             .Make(rows, progress);
     }
 
     cRowPlan PlanOf(int row) { return Make({row}).value(row); }
 
     cBooking Booking{Data, Hive, Accounts};
+    QHash<int, QChar> Kinds; // of the formats of rows that two files tell of different days
 };
 
 using fnChange = std::function<void(cEntryItem&, cImportEntry&)>;
@@ -332,6 +333,23 @@ private Q_SLOTS:
         QTEST(proposal.Entry.EntryType, "type");
         QCOMPARE(proposal.PartnerRow, isBooked ? 0 : second);
         QCOMPARE(proposal.ExistingEntry, account.isEmpty() ? 0 : booked);
+    }
+
+    // Both sides came in two formats, one of which has the days of the values: each row is nearest to a double.
+    void DoublesLeaveTheTransfer()
+    {
+        cBank bank;
+        const int out = bank.Stage(day, -20000, u"Ich"_s, u"222"_s);
+        const int in = bank.Stage(day.addDays(1), 20000, u"Ich"_s, u"111"_s, u"222"_s);
+        const int secondOut = bank.Stage(day.addDays(1), -20000, u"Ich"_s, u"222"_s);
+        const int secondIn = bank.Stage(day, 20000, u"Ich"_s, u"111"_s, u"222"_s);
+        bank.Kinds = {{out, u'v'}, {in, u'b'}, {secondOut, u'b'}, {secondIn, u'v'}};
+        const QHash<int, cRowPlan> plans = bank.Make({out, in, secondOut, secondIn});
+        QVERIFY(plans.value(secondOut).IsSecond && plans.value(secondIn).IsSecond);
+        QCOMPARE(plans.value(out).Proposal.PartnerRow, in);
+        QCOMPARE(plans.value(in).Proposal.PartnerRow, out);
+        QCOMPARE(plans.value(in).Proposal.Entry.EntryDate, day);
+        QCOMPARE(plans.value(in).Group, eRowGroup::InBook);
     }
 
     // The debit was entered by hand and came in two formats: the other side of the transfer names the one too many.

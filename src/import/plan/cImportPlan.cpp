@@ -261,6 +261,15 @@ void cImportPlan::TakeSeries(const cImportEntry& row, cRowPlan& plan, cPass& pas
     plan.Reason = cText::Tr("die Serie hat für diesen Zeitraum schon einen Umsatz");
 }
 
+// Where both sides came in two formats with different days, each of the rows that go first may have found the other
+// side's double, and that one this row or its double.
+bool cImportPlan::IsCrosswise(const cRowPlan& plan, const cRowPlan& other, const cPass& pass)
+{
+    const cRowPlan third = pass.Plans.value(other.Proposal.PartnerRow);
+    return !other.Match && !other.IsSecond && IsTransfer(other.Proposal.Entry)
+        && (third.RowId == plan.RowId || (third.IsSecond && third.Twin->RowId == plan.RowId));
+}
+
 // Both rows of a transfer are one entry: the one that waits for its second row, the one that the other row was found
 // for, or a new one.
 void cImportPlan::TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cPass& pass)
@@ -281,6 +290,13 @@ void cImportPlan::TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cP
         plan.Proposal.ExistingEntry = other.Match->Entry.ID;
         plan.Proposal.PartnerRow = 0;
         plan.Group = other.Group;
+        return;
+    }
+    if (IsCrosswise(plan, other, pass)) {
+        plan.Proposal.PartnerRow = other.RowId;
+        if (row.ImportValue > 0) { // as the proposer has it: a transfer has the day of the debit
+            plan.Proposal.Entry.EntryDate = m_knowledge->Open.at(m_knowledge->Places.value(other.RowId)).ImportDate;
+        }
         return;
     }
     // The other side is income or expense in the book, or will be, so a transfer would move the money a second time.
