@@ -94,7 +94,7 @@ std::span<const cSettingFamily* const> modSettingKey::Families()
     static constexpr std::array families{&DialogFolder,  &Budget,     &CategoryColor, &CategoryIcon,   &StatementPapers,
                                          &AccountShares, &BankNumber, &BankCode,      &BankBalances,   &EqualLeftOut,
                                          &Reconciled,    &Fetched,    &TableMap,      &TableAccounts,  &TableCharset,
-                                         &TableBankCode, &OnlineBank, &PanePeriod,    &PaneFirstMonth, &PaneLastMonth,
+                                         &TableSign, &TableBankCode, &OnlineBank, &PanePeriod,    &PaneFirstMonth, &PaneLastMonth,
                                          &PaneYear,      &PaneChart,  &PaneCompare,   &PaneForecast,   &PaneAverage};
     return families;
 }

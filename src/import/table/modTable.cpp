@@ -203,6 +203,17 @@ cTableLayout modTable::Detect(const cTable& table, const cReadOptions& options)
 
 namespace {
 
+// Banks that share a header need not share a sign, so it is remembered for the account. Two sides have no sign.
+void TakeSign(const cTableLayout& layout, const cReadOptions& options, cStatementRead& read)
+{
+    if (options.Table.Sign || layout.Map.Amount < 0 || layout.Key.isEmpty() || read.Entries.isEmpty()) {
+        return;
+    }
+    const bool isKnown = layout.Origin == eMapOrigin::Profile || layout.Origin == eMapOrigin::Memory;
+    read.SignKey = cTableMemory::KeyOf({layout.Key, read.Entries.constFirst().ImportAccount});
+    read.Sign = layout.Doubt || isKnown ? std::nullopt : std::optional(layout.Sign);
+}
+
 cStatementRead ReadPart(const cTable& table, const cTableLayout& layout, const cReadOptions& options)
 {
     if (!layout.IsReadable() || table.IsFull()) {
@@ -237,6 +248,13 @@ cStatementRead ReadPart(const cTable& table, const cTableLayout& layout, const c
         for (cAccountBalance& balance : read.Balances) {
             balance.Account = options.Table.Account;
         }
+    }
+    TakeSign(layout, options, read);
+    if (const auto sign = read.Doubt && options.Memory != nullptr ? options.Memory->Sign(read.SignKey) : std::nullopt) {
+        cTableLayout told = layout;
+        told.Sign = *sign;
+        told.Doubt.reset();
+        return ReadPart(table, told, options);
     }
     read.NeedsAccount = std::any_of(read.Entries.begin(), read.Entries.end(),
                                     [](const cImportEntry& entry) { return entry.ImportAccount.isEmpty(); });
