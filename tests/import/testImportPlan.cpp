@@ -335,6 +335,32 @@ private Q_SLOTS:
         QCOMPARE(proposal.ExistingEntry, account.isEmpty() ? 0 : booked);
     }
 
+    // Two transfers of one amount, of which the book has the other side of the one.
+    void ATransferIsPaidOnce_data()
+    {
+        const cTestRows<QString> row("account"); // of the other transfer
+        row("to an account of its own", u"333"_s);
+        row("to nobody", {});
+    }
+
+    void ATransferIsPaidOnce()
+    {
+        QFETCH(const QString, account);
+        cBank bank;
+        QVERIFY(bank.Accounts.Assign(u"333"_s, u"Depot"_s));
+        const int in = bank.Stage(day.addDays(1), 20000, u"Ole Muster"_s, u"111"_s, u"222"_s);
+        cNoProgress progress;
+        const int entry = bank.Booking.Book({in}, bank.Booking.Propose({in}), progress).EntryIds.constFirst();
+        const int out = bank.Stage(day, -20000, u"Ole Muster"_s, u"222"_s);
+        const int other = bank.Stage(day.addDays(1), -20000, u"Ole Muster"_s, account);
+        const QHash<int, cRowPlan> plans = bank.Make({out, other});
+        const auto isPaying = [&](int row) {
+            return MatchOf(plans.value(row)) == entry || plans.value(row).Proposal.ExistingEntry == entry;
+        };
+        QCOMPARE(isPaying(out), !account.isEmpty());
+        QCOMPARE(isPaying(other), account.isEmpty());
+    }
+
     // Both sides came in two formats, one of which has the days of the values: each row is nearest to a double.
     void DoublesLeaveTheTransfer()
     {

@@ -29,6 +29,23 @@ private Q_SLOTS:
         QVERIFY(cSeriesCheck(book.Tools, hive, accounts).Find().isEmpty());
     }
 
+    // The rent of January stands in the book beside the series, and its second row stays open for ever.
+    void ADoublePaysNothing() const
+    {
+        cTestBook book;
+        book.Settings->Set(modSettingKey::BankNumber.Of(u"111"_s), u"Girokonto"_s);
+        const int rent = book.Spend(QDate(2025, 12, 1), 65000, u"Miete"_s, u"Monatlich"_s).ID;
+        const QDate january(2026, 1, 1);
+        const int beside = book.Spend(january, 65000, u"Miete"_s).ID;
+        book.Stage(u"111"_s, QDate(2025, 12, 1), -65000, {}, rent);
+        book.Stage(u"111"_s, QDate(2026, 2, 1), -65000, {}, rent);
+        book.Stage(u"111"_s, january, -65000, u"Tann"_s, beside);
+        book.Stage(u"111"_s, january, -65000, u"Tann GmbH"_s, -1);
+        cImportHiveCache hive(book.Data);
+        const cAccountMap accounts(book.Data, *book.Settings);
+        QCOMPARE(cSeriesCheck(book.Tools, hive, accounts).Find().size(), 1);
+    }
+
     void FindsWhatTheBankDoesNotPay_data() const
     {
         // paid: days of rows that belong to the series; occurrences: that count afterwards, up to May 2026

@@ -57,6 +57,8 @@ private:
     void TakeMatches(const cMatchResult& matches, cPass& pass);
     static void TakeSeries(const cImportEntry& row, cRowPlan& plan, cPass& pass, cMatcher& matcher);
     [[nodiscard]] static bool IsCrosswise(const cRowPlan& plan, const cRowPlan& other, const cPass& pass);
+    [[nodiscard]] static bool IsMatched(int entry, const cPass& pass);
+    void MakeSpent(const cImportEntry& row, cRowPlan& plan, const QString& reason) const;
     void TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cPass& pass);
     void TakeTwin(cRowPlan& plan, const cPass& pass);
 

@@ -19,6 +19,7 @@
 #include "views/entry/cContracts.h"
 #include "views/entry/cEntryWriter.h"
 #include "views/entry/cSplitGroup.h"
+#include "views/statement/modRowTwins.h"
 
 #include <QSet>
 
@@ -114,6 +115,7 @@ QHash<QString, cSeriesCheck::cAccountRows> cSeriesCheck::RowsByAccount()
             account.Open.append(row);
         }
     }
+    LeaveOutDoubles(rows, accounts);
     const cBankBalances balances(m_tools.Settings);
     for (auto name = m_names.cbegin(); name != m_names.cend(); ++name) {
         const auto account = accounts.find(*name);
@@ -125,6 +127,18 @@ QHash<QString, cSeriesCheck::cAccountRows> cSeriesCheck::RowsByAccount()
         covered = covered.isValid() ? std::max(covered, end) : end;
     }
     return accounts;
+}
+
+// A row that may be a booked one in other words stays open for ever, and pays nothing.
+void cSeriesCheck::LeaveOutDoubles(const cImportEntryList& rows, QHash<QString, cAccountRows>& accounts) const
+{
+    const QHash<int, cRowTwin> twins = modRowTwins::Of(rows, m_accounts, m_tools.Settings);
+    for (cAccountRows& account : accounts) {
+        account.Open.removeIf([&](const cImportEntry& row) {
+            const auto twin = twins.constFind(row.ID);
+            return twin != twins.constEnd() && !twins.contains(twin->RowId);
+        });
+    }
 }
 
 // A transfer lies on the day of its debit, so the target's rows speak only where the source has none.
