@@ -26,7 +26,10 @@ struct cBank : cBankBook
     QHash<int, cRowPlan> Make(const QList<int>& rows)
     {
         cNoProgress progress;
-        return cImportPlan({Data, Hive, Accounts, [this](int id) { return modStagedTwins::cFile{id, Kinds.value(id)}; }})
+        return cImportPlan({Data, Hive, Accounts,
+                            [this](int id) {
+                                return modStagedTwins::cFile{id, Kinds.value(id)};
+                            }})
             .Make(rows, progress);
     }
 

@@ -88,7 +88,8 @@ std::optional<cTransferFinder::cTransfer> cTransferFinder::FindSettled(const cIm
         const cImportEntry& other = m_rows.at(i);
         const QString account = AccountOf(other.ImportAccount);
         return IsTaken(row, other) || distance(i) > farthestDays || account.isEmpty() || account == transfer.Own
-            || m_isDouble(other.ID) || !modSettlement::IsPair(sides, transfer.Own, modSettlement::cSides(other), account);
+            || m_isDouble(other.ID)
+            || !modSettlement::IsPair(sides, transfer.Own, modSettlement::cSides(other), account);
     });
     for (const qsizetype i : std::as_const(found)) {
         const QString account = AccountOf(m_rows.at(i).ImportAccount);

@@ -75,7 +75,7 @@ struct cStatementRead
     QList<eStatementFormat> Formats; // of these files, where they may differ
     QHash<qsizetype, QString> Ids;   // by the place of an entry, the bank's own mark of the transaction
     QString SignKey;                 // of a table, under which its sign is remembered; empty: it cannot be
-    std::optional<eSignRule> Sign;   // that the table told beyond doubt by itself
+    std::optional<eSignRule> Sign;   // to be remembered under it
     QString AccountKey;              // under which the account of such files is remembered; empty: it cannot be
 
     QList<cWholeBooking> Wholes; // in the order of the entries

@@ -463,7 +463,7 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
     }
     ReportFailures(result);
     if (m_memory != nullptr && read.Sign && options.Run == eStagingRun::Write) {
-        (void)m_memory->SaveSign(read.SignKey, *read.Sign); // at worst it is asked about
+        result.IsSignKept = m_memory->SaveSign(read.SignKey, *read.Sign);
     }
     KeepBalances(read, known, options.Run, result);
 }

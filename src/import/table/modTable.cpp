@@ -203,15 +203,20 @@ cTableLayout modTable::Detect(const cTable& table, const cReadOptions& options)
 
 namespace {
 
-// Banks that share a header need not share a sign, so it is remembered for the account. Two sides have no sign.
+// Banks that share a header need not share a sign, so it is remembered for the account: what the table told beyond
+// doubt, or what was answered where it did not. Two sides have no sign of their own.
 void TakeSign(const cTableLayout& layout, const cReadOptions& options, cStatementRead& read)
 {
-    if (options.Table.Sign || layout.Map.Amount < 0 || layout.Key.isEmpty() || read.Entries.isEmpty()) {
+    if (layout.Key.isEmpty() || read.Entries.isEmpty()) {
         return;
     }
-    const bool isKnown = layout.Origin == eMapOrigin::Profile || layout.Origin == eMapOrigin::Memory;
     read.SignKey = cTableMemory::KeyOf({layout.Key, read.Entries.constFirst().ImportAccount});
-    read.Sign = layout.Doubt || isKnown ? std::nullopt : std::optional(layout.Sign);
+    const bool isKnown = layout.Origin == eMapOrigin::Profile || layout.Origin == eMapOrigin::Memory;
+    if (options.Table.Sign) {
+        read.Sign = layout.Doubt ? options.Table.Sign : std::nullopt;
+    } else if (!layout.Doubt && !isKnown && layout.Map.Amount >= 0) {
+        read.Sign = layout.Sign;
+    }
 }
 
 cStatementRead ReadPart(const cTable& table, const cTableLayout& layout, const cReadOptions& options)

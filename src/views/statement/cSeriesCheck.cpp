@@ -217,8 +217,14 @@ QList<cSeriesCheck::cFinding> cSeriesCheck::FindIn(const cSeries& series)
     const QDate known = isHistory ? m_tools.Clock.Today() : covered.End;
     const int reach = modOccurrence::Reach(series.Entry.EntryInterval);
     cEntryItemList occurrences;
-    modRecurrence::Expand(series.Entry, {covered.Start, known}, m_tools.Data.GetEntryMods(series.Entry.ID),
+    // What a look before this one has put off behind today is still unpaid: else who reads old statements one by one
+    // would put off each month of a series that has ended.
+    const QDate putOff = std::max(known, m_tools.Clock.Today().addDays(1));
+    modRecurrence::Expand(series.Entry, {covered.Start, putOff}, m_tools.Data.GetEntryMods(series.Entry.ID),
                           occurrences);
+    occurrences.removeIf([&](const cEntryItem& each) {
+        return each.EntryDate > known && (each.Planned() > known || each.CorrectionComment != modSeries::LateComment());
+    });
     const QList<QDate> paid = series.Paid.keys();
     const QDate lastPaid = paid.isEmpty() ? QDate() : *std::max_element(paid.begin(), paid.end());
     cFinding base{series.Entry.ID, series.Account, series.Paid.value(lastPaid), {}, false, {}, {}};

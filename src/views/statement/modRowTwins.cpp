@@ -1,5 +1,6 @@
 #include "views/statement/modRowTwins.h"
 
+#include "import/plan/modStagedTwins.h"
 #include "import/stage/cAccountMap.h"
 
 std::function<modStagedTwins::cFile(int)> modRowTwins::FileOf(const QList<cImportRuns::cRange>& files)

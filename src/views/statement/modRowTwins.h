@@ -1,6 +1,7 @@
 #pragma once
 
-#include "import/plan/modStagedTwins.h"
+#include "model/cImportEntry.h"
+#include "model/cRowPlan.h"
 #include "views/statement/cImportRuns.h"
 
 #include <QHash>
@@ -10,6 +11,9 @@
 
 class cAccountMap;
 class cSettings;
+namespace modStagedTwins {
+struct cFile;
+} // namespace modStagedTwins
 
 // Which staged rows may be there twice, by what is remembered of the files that they came with.
 namespace modRowTwins {
