@@ -46,12 +46,15 @@ private:
     }
     [[nodiscard]] std::size_t Behind(QDate day) const { return Before(day.addDays(1)); }
 
-    // Whether the balance is that of a moment of its day, once what is already known to be missing is set right.
+    // Whether the balance is that of a moment of its day, once what is already known to be missing is set right. What
+    // its statement tells of another day may be there as a second format has it, with the day of the balance.
     [[nodiscard]] bool Fits(const cBankBalance& balance) const
     {
         const auto first = m_sums.begin() + static_cast<std::ptrdiff_t>(Before(balance.Day));
-        const auto last = m_sums.begin() + static_cast<std::ptrdiff_t>(Behind(balance.Day));
-        return std::find(first, last + 1, balance.Valued() - m_result.Opening + m_error) != last + 1;
+        const auto last = m_sums.begin() + static_cast<std::ptrdiff_t>(Behind(balance.Day)) + 1;
+        const qint64 shift = m_error - m_result.Opening;
+        return std::find(first, last, balance.Valued() + shift) != last
+            || (balance.Moved() != 0 && std::find(first, last, balance.Cents + shift) != last);
     }
 
     // An older balance fits again within a few days, or the next one beyond, when the newer one is as near.

@@ -71,6 +71,7 @@ inline const cSettingFamily TableMap{QStringLiteral("MAP:"), {}, {List, Book}}; 
 // Not under "KTO:", where the name of a setting is a number of an account; a digest never begins like this.
 inline const cSettingFamily TableAccounts{QStringLiteral("MAP:KTO:"), {}, {List, Book}};
 inline const cSettingFamily TableCharset{QStringLiteral("MAP:ZS:"), {}, {Number, Book, Cleared, QStringLiteral("0")}};
+inline const cSettingFamily TableSign{QStringLiteral("MAP:VZ:"), {}, {Number, Book}};
 inline const cSettingFamily TableBankCode{QStringLiteral("BLZ:"), {}, {Text, Book}};
 // Online banking: under the bank code the version of the protocol, under longer names what is kept of a login
 inline const cSettingFamily OnlineBank{QStringLiteral("HBCIVBLZ"), {}, {Text, Book, Kept}};

@@ -72,6 +72,20 @@ private Q_SLOTS:
         QCOMPARE(Do(u"import|%1|--json"_s.arg(m_table)).Column(u"duplicates"_s), QStringList(u"1"_s));
     }
 
+    // The interest names nobody: the transfer after it does, in columns that were empty when the sign was asked for.
+    void AnAnswerAboutTheSignLeavesTheColumns()
+    {
+        const QByteArray head = "IBAN Auftragskonto;Buchungstag;Name Zahlungsbeteiligter;IBAN Zahlungsbeteiligter;"
+                                "Verwendungszweck;Betrag;Saldo nach Buchung\n";
+        const QByteArray own = "DE02120300000000202051;";
+        cTestFile::Write(m_table, head + own + "31.03.2026;;;Zinsen;1,79;101,79\n");
+        Refuses(u"import|"_s + m_table, {u"--sign"_s});
+        Do(u"import|%1|--sign|wie-datei"_s.arg(m_table));
+        cTestFile::Write(m_table, head + own + "06.04.2026;Ole Muster;DE02500105170137075030;Sparen;5,00;106,79\n");
+        Do(u"import|"_s + m_table);
+        QCOMPARE(Do(u"staged|--json"_s).Column(u"ImportBeneficiary"_s).constLast(), u"Ole Muster"_s);
+    }
+
     void ColumnsAreRemembered()
     {
         Do(u"import|%1|--account|1|--map|datum=0,betrag=2,zweck=1|--remember"_s.arg(m_table));

@@ -26,13 +26,17 @@ struct cBank : cBankBook
     QHash<int, cRowPlan> Make(const QList<int>& rows)
     {
         cNoProgress progress;
-        return cImportPlan({Data, Hive, Accounts, [](int id) { return modStagedTwins::cFile{id}; }})
+        return cImportPlan({Data, Hive, Accounts,
+                            [this](int id) {
+                                return modStagedTwins::cFile{id, Kinds.value(id)};
+                            }})
             .Make(rows, progress);
     }
 
     cRowPlan PlanOf(int row) { return Make({row}).value(row); }
 
     cBooking Booking{Data, Hive, Accounts};
+    QHash<int, QChar> Kinds; // of the formats of rows that two files tell of different days
 };
 
 using fnChange = std::function<void(cEntryItem&, cImportEntry&)>;
@@ -332,6 +336,49 @@ private Q_SLOTS:
         QTEST(proposal.Entry.EntryType, "type");
         QCOMPARE(proposal.PartnerRow, isBooked ? 0 : second);
         QCOMPARE(proposal.ExistingEntry, account.isEmpty() ? 0 : booked);
+    }
+
+    // Two transfers of one amount, of which the book has the other side of the one.
+    void ATransferIsPaidOnce_data()
+    {
+        const cTestRows<QString> row("account"); // of the other transfer
+        row("to an account of its own", u"333"_s);
+        row("to nobody", {});
+    }
+
+    void ATransferIsPaidOnce()
+    {
+        QFETCH(const QString, account);
+        cBank bank;
+        QVERIFY(bank.Accounts.Assign(u"333"_s, u"Depot"_s));
+        const int in = bank.Stage(day.addDays(1), 20000, u"Ole Muster"_s, u"111"_s, u"222"_s);
+        cNoProgress progress;
+        const int entry = bank.Booking.Book({in}, bank.Booking.Propose({in}), progress).EntryIds.constFirst();
+        const int out = bank.Stage(day, -20000, u"Ole Muster"_s, u"222"_s);
+        const int other = bank.Stage(day.addDays(1), -20000, u"Ole Muster"_s, account);
+        const QHash<int, cRowPlan> plans = bank.Make({out, other});
+        const auto isPaying = [&](int row) {
+            return MatchOf(plans.value(row)) == entry || plans.value(row).Proposal.ExistingEntry == entry;
+        };
+        QCOMPARE(isPaying(out), !account.isEmpty());
+        QCOMPARE(isPaying(other), account.isEmpty());
+    }
+
+    // Both sides came in two formats, one of which has the days of the values: each row is nearest to a double.
+    void DoublesLeaveTheTransfer()
+    {
+        cBank bank;
+        const int out = bank.Stage(day, -20000, u"Ich"_s, u"222"_s);
+        const int in = bank.Stage(day.addDays(1), 20000, u"Ich"_s, u"111"_s, u"222"_s);
+        const int secondOut = bank.Stage(day.addDays(1), -20000, u"Ich"_s, u"222"_s);
+        const int secondIn = bank.Stage(day, 20000, u"Ich"_s, u"111"_s, u"222"_s);
+        bank.Kinds = {{out, u'v'}, {in, u'b'}, {secondOut, u'b'}, {secondIn, u'v'}};
+        const QHash<int, cRowPlan> plans = bank.Make({out, in, secondOut, secondIn});
+        QVERIFY(plans.value(secondOut).IsSecond && plans.value(secondIn).IsSecond);
+        QCOMPARE(plans.value(out).Proposal.PartnerRow, in);
+        QCOMPARE(plans.value(in).Proposal.PartnerRow, out);
+        QCOMPARE(plans.value(in).Proposal.Entry.EntryDate, day);
+        QCOMPARE(plans.value(in).Group, eRowGroup::InBook);
     }
 
     // The debit was entered by hand and came in two formats: the other side of the transfer names the one too many.

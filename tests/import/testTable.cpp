@@ -404,6 +404,25 @@ private Q_SLOTS:
         QCOMPARE(memory.Accounts(asked.AccountKey), QStringList({u"4711"_s, u"4712"_s}));
     }
 
+    void SignIsRememberedForTheAccount()
+    {
+        const QString head = u"Datum;Zweck;Betrag;Saldo\n"_s;
+        const QString interest = head + u"30.06.2025;Zinsen;24,93;1024,93"_s;
+        cImportBook book;
+        cTableMemory memory(*book.Settings);
+        cStatementImport import(book.Data, book.Hive, &memory);
+        cNoProgress progress;
+        cImportOptions own;
+        own.DefaultAccount = u"4711"_s;
+        QVERIFY(import.ImportText(u"a.csv"_s, interest, own, progress).Doubt);
+        const QString turned = head + u"01.04.2025;Kauf;5,00;995,00\n02.04.2025;Kauf;10,00;985,00"_s;
+        QCOMPARE(import.ImportText(u"a.csv"_s, turned, own, progress).Staged, 2);
+        QCOMPARE(import.ImportText(u"a.csv"_s, interest, own, progress).Staged, 1);
+        QCOMPARE(book.Data.GetImportEntries().constLast().ImportValue, -2493);
+        own.DefaultAccount = u"4712"_s;
+        QVERIFY(import.ImportText(u"a.csv"_s, interest, own, progress).Doubt);
+    }
+
     void ConfirmedColumnsAreRemembered()
     {
         const QString text = u"Datum;Betrag;Preis;Text\n03.02.2025;1,00;2,00;a"_s;

@@ -29,6 +29,41 @@ private Q_SLOTS:
         QVERIFY(cSeriesCheck(book.Tools, hive, accounts).Find().isEmpty());
     }
 
+    // The rent of January stands in the book beside the series, and its second row stays open for ever.
+    void ADoublePaysNothing() const
+    {
+        cTestBook book;
+        book.Settings->Set(modSettingKey::BankNumber.Of(u"111"_s), u"Girokonto"_s);
+        const int rent = book.Spend(QDate(2025, 12, 1), 65000, u"Miete"_s, u"Monatlich"_s).ID;
+        const QDate january(2026, 1, 1);
+        const int beside = book.Spend(january, 65000, u"Miete"_s).ID;
+        book.Stage(u"111"_s, QDate(2025, 12, 1), -65000, {}, rent);
+        book.Stage(u"111"_s, QDate(2026, 2, 1), -65000, {}, rent);
+        book.Stage(u"111"_s, january, -65000, u"Tann"_s, beside);
+        book.Stage(u"111"_s, january, -65000, u"Tann GmbH"_s, -1);
+        cImportHiveCache hive(book.Data);
+        const cAccountMap accounts(book.Data, *book.Settings);
+        QCOMPARE(cSeriesCheck(book.Tools, hive, accounts).Find().size(), 1);
+    }
+
+    // Statements of months ago, read and looked through one by one: what was put off behind today is not forgotten.
+    void WhatWasPutOffIsStillMissing() const
+    {
+        cTestBook book;
+        book.Settings->Set(modSettingKey::BankNumber.Of(u"111"_s), u"Girokonto"_s);
+        const int rent = book.Spend(QDate(2025, 10, 1), 65000, u"Miete"_s, u"Monatlich"_s).ID;
+        const cAccountMap accounts(book.Data, *book.Settings);
+        book.Stage(u"111"_s, QDate(2025, 10, 1), -65000, {}, rent);
+        for (const QDate end : {QDate(2025, 11, 20), QDate(2025, 12, 20)}) {
+            book.Stage(u"111"_s, end, -1000, {}, -1);
+            cImportHiveCache hive(book.Data);
+            book.User.Ticks = {QList<int>{0}};
+            QCOMPARE(cSeriesCheck(book.Tools, hive, accounts).Ask({}).size(), 1);
+        }
+        QCOMPARE(book.Data.LoadEntry(rent).value_or(cEntryItem()).EntryDateEnd, QDate(2025, 10, 1));
+        QVERIFY(book.Data.GetEntryMods(rent).isEmpty());
+    }
+
     void FindsWhatTheBankDoesNotPay_data() const
     {
         // paid: days of rows that belong to the series; occurrences: that count afterwards, up to May 2026

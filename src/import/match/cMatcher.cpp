@@ -65,6 +65,13 @@ modMatchScore::cEvidence EvidenceOf(const cImportEntry& row, const cMatchIndex::
     return evidence;
 }
 
+// A transfer with another own account than the one that the row names.
+bool IsWithAnother(const cEntryItem& entry, const QString& account)
+{
+    return entry.EntryType == modWord::Umbuchung && !account.isEmpty() && entry.EntryAccount != account
+        && entry.EntryAccountMove != account;
+}
+
 // What an occurrence needs to agree with its row. Of a split entry whose whole has another amount nobody knows which
 // part is meant.
 void OfferCorrection(cMatchCandidate& candidate, const cImportEntry& row)
@@ -174,9 +181,13 @@ std::vector<cMatcher::cPair> cMatcher::PairsOf(const cImportEntry& row, size_t p
     const auto twins = std::count_if(around.begin(), around.end(), [&](size_t item) {
         return index->Item(item).Cents == cents && !index->IsTaken(item, row.ID);
     });
+    const QString other = m_knowledge->Transfers.OwnAccountOf(row.ImportBeneficiaryAccount, row.ImportBeneficiaryBLZ);
     std::optional<cRowSense> sense;
     for (const size_t number : around) {
         const cMatchIndex::cItem& item = index->Item(number);
+        if (wanted != eWanted::All && IsWithAnother(item.Entry, other)) {
+            continue;
+        }
         modMatchScore::cEvidence evidence = EvidenceOf(row, item);
         const bool isTaken = index->IsTaken(number, row.ID);
         evidence.IsOnly = twins == 1 && !isTaken; // the one that is free

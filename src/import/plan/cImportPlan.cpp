@@ -261,6 +261,15 @@ void cImportPlan::TakeSeries(const cImportEntry& row, cRowPlan& plan, cPass& pas
     plan.Reason = cText::Tr("die Serie hat für diesen Zeitraum schon einen Umsatz");
 }
 
+// Where both sides came in two formats with different days, each of the rows that go first may have found the other
+// side's double, and that one this row or its double.
+bool cImportPlan::IsCrosswise(const cRowPlan& plan, const cRowPlan& other, const cPass& pass)
+{
+    const cRowPlan third = pass.Plans.value(other.Proposal.PartnerRow);
+    return !other.Match && !other.IsSecond && IsTransfer(other.Proposal.Entry)
+        && (third.RowId == plan.RowId || (third.IsSecond && third.Twin->RowId == plan.RowId));
+}
+
 // Both rows of a transfer are one entry: the one that waits for its second row, the one that the other row was found
 // for, or a new one.
 void cImportPlan::TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cPass& pass)
@@ -272,6 +281,10 @@ void cImportPlan::TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cP
     const bool isInBook = plan.Proposal.PartnerRow != 0 || plan.Proposal.ExistingEntry != 0;
     plan.Group = isInBook ? eRowGroup::InBook : m_knowledge->IsSure(plan.Proposal) ? eRowGroup::Sure : eRowGroup::Look;
     plan.Group = plan.IsSecond ? eRowGroup::Look : plan.Group;
+    if (IsMatched(plan.Proposal.ExistingEntry, pass)) {
+        MakeSpent(row, plan, cText::Tr("zu dieser Umbuchung passt ein anderer Umsatz besser"));
+        return;
+    }
     const auto partner = pass.Plans.constFind(plan.Proposal.PartnerRow);
     if (partner == pass.Plans.constEnd() || plan.IsSecond || (!partner->Match && !partner->IsSecond)) {
         return;
@@ -283,11 +296,33 @@ void cImportPlan::TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cP
         plan.Group = other.Group;
         return;
     }
+    if (IsCrosswise(plan, other, pass)) {
+        plan.Proposal.PartnerRow = other.RowId;
+        if (row.ImportValue > 0) { // as the proposer has it: a transfer has the day of the debit
+            plan.Proposal.Entry.EntryDate = m_knowledge->Open.at(m_knowledge->Places.value(other.RowId)).ImportDate;
+        }
+        return;
+    }
     // The other side is income or expense in the book, or will be, so a transfer would move the money a second time.
+    MakeSpent(row, plan,
+              partner->IsSecond ? cText::Tr("die Gegenbuchung ist vielleicht doppelt")
+                                : cText::Tr("die Gegenbuchung steht nicht als Umbuchung im Buch"));
+}
+
+void cImportPlan::MakeSpent(const cImportEntry& row, cRowPlan& plan, const QString& reason) const
+{
     plan.Proposal.MakeSpent(row, m_knowledge->Parts.Accounts.AccountOf(row.ImportAccount));
     plan.Group = eRowGroup::Look;
-    plan.Reason = partner->IsSecond ? cText::Tr("die Gegenbuchung ist vielleicht doppelt")
-                                    : cText::Tr("die Gegenbuchung steht nicht als Umbuchung im Buch");
+    plan.Reason = reason;
+}
+
+// Whether another row of this side fits an entry that comes once: for two of them it would count once.
+bool cImportPlan::IsMatched(int entry, const cPass& pass)
+{
+    return entry != 0 && std::any_of(pass.Plans.begin(), pass.Plans.end(), [&](const cRowPlan& plan) {
+               return plan.Match && plan.Match->Entry.ID == entry
+                   && !modRecurrence::IsRecurring(plan.Match->Entry.EntryInterval);
+           });
 }
 
 // Of two rows that may be the same the one whose entry is there goes first, then the one whose other side is, else the

@@ -56,6 +56,9 @@ private:
     [[nodiscard]] const cProposal& ProposalFor(const cImportEntry& row);
     void TakeMatches(const cMatchResult& matches, cPass& pass);
     static void TakeSeries(const cImportEntry& row, cRowPlan& plan, cPass& pass, cMatcher& matcher);
+    [[nodiscard]] static bool IsCrosswise(const cRowPlan& plan, const cRowPlan& other, const cPass& pass);
+    [[nodiscard]] static bool IsMatched(int entry, const cPass& pass);
+    void MakeSpent(const cImportEntry& row, cRowPlan& plan, const QString& reason) const;
     void TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cPass& pass);
     void TakeTwin(cRowPlan& plan, const cPass& pass);
 

@@ -72,7 +72,11 @@ std::optional<cTransferFinder::cTransfer> cTransferFinder::FindSettled(const cIm
 {
     cTransfer transfer;
     transfer.Own = AccountOf(row.ImportAccount);
-    if (transfer.Own.isEmpty() || !modSettlement::IsSide(row)) {
+    if (transfer.Own.isEmpty()) {
+        return std::nullopt;
+    }
+    const modSettlement::cSides sides(row);
+    if (!sides.IsAny()) {
         return std::nullopt;
     }
     if (!m_isBuilt) {
@@ -84,7 +88,8 @@ std::optional<cTransferFinder::cTransfer> cTransferFinder::FindSettled(const cIm
         const cImportEntry& other = m_rows.at(i);
         const QString account = AccountOf(other.ImportAccount);
         return IsTaken(row, other) || distance(i) > farthestDays || account.isEmpty() || account == transfer.Own
-            || m_isDouble(other.ID) || !modSettlement::IsPair(row, transfer.Own, other, account);
+            || m_isDouble(other.ID)
+            || !modSettlement::IsPair(sides, transfer.Own, modSettlement::cSides(other), account);
     });
     for (const qsizetype i : std::as_const(found)) {
         const QString account = AccountOf(m_rows.at(i).ImportAccount);

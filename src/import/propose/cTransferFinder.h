@@ -44,8 +44,10 @@ public:
     // The account of a number as cAccountMap has it.
     [[nodiscard]] QString AccountOf(const QString& number);
 
-private:
+    // The own account that the counterparty's number is of; empty for somebody else's.
     [[nodiscard]] QString OwnAccountOf(const QString& number, const QString& bankCode) const;
+
+private:
     [[nodiscard]] std::optional<cTransfer> FindSettled(const cImportEntry& row);
     [[nodiscard]] bool IsTaken(const cImportEntry& row, const cImportEntry& other) const;
     void Pair(const cImportEntry& row, const cImportEntry& other);

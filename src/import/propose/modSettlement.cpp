@@ -11,37 +11,32 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-bool BeginsOneOf(const QString& text, const QStringList& beginnings)
+using cWords = QList<modTextWords::cWord>;
+
+bool BeginsOneOf(const cWords& words, const QStringList& beginnings)
 {
-    const QList<modTextWords::cWord> words = modTextWords::Of(text);
     return std::any_of(words.begin(), words.end(), [&](const modTextWords::cWord& word) {
         return std::any_of(beginnings.begin(), beginnings.end(),
                            [&](const QString& beginning) { return word.Folded.startsWith(beginning); });
     });
 }
 
-QString TextOf(const cImportEntry& row)
-{
-    return row.ImportBeneficiary + u' ' + row.ImportPurpose;
-}
-
 // A purchase with a card names the card at most, its bill both.
-bool IsCardBill(const cImportEntry& row)
+bool IsCardBillOf(const cWords& words)
 {
     static const QStringList whole{u"kreditkartenabr"_s, u"kartenabr"_s, u"kreditkartenausgl"_s};
     static const QStringList cards{u"kreditkart"_s, u"karte"_s, u"visa"_s, u"mastercard"_s, u"amex"_s};
     static const QStringList bills{u"abrechnung"_s, u"abr"_s, u"ausgleich"_s, u"einzug"_s};
-    const QString text = TextOf(row);
-    return row.ImportValue < 0 && (BeginsOneOf(text, whole) || (BeginsOneOf(text, cards) && BeginsOneOf(text, bills)));
+    return BeginsOneOf(words, whole) || (BeginsOneOf(words, cards) && BeginsOneOf(words, bills));
 }
 
 // What comes back from a shop names the shop.
-bool IsPaymentToCard(const cImportEntry& row)
+bool IsPaymentToCardOf(const cWords& words)
 {
-    static const QStringList words{u"ausgleich"_s,  u"abrechnung"_s,     u"einzug"_s,          u"lastschrift"_s,
-                                   u"einzahlung"_s, u"kartenabr"_s,      u"kreditkartenabr"_s, u"saldoausgl"_s,
-                                   u"kontoausgl"_s, u"rechnungsausgl"_s, u"uebertrag"_s};
-    return row.ImportValue > 0 && row.ImportBeneficiaryAccount.isEmpty() && BeginsOneOf(TextOf(row), words);
+    static const QStringList payments{u"ausgleich"_s,  u"abrechnung"_s,     u"einzug"_s,          u"lastschrift"_s,
+                                      u"einzahlung"_s, u"kartenabr"_s,      u"kreditkartenabr"_s, u"saldoausgl"_s,
+                                      u"kontoausgl"_s, u"rechnungsausgl"_s, u"uebertrag"_s};
+    return BeginsOneOf(words, payments);
 }
 
 bool IsCardAccount(const cImportEntry& row, const QString& account)
@@ -51,39 +46,38 @@ bool IsCardAccount(const cImportEntry& row, const QString& account)
         || name.contains(u"mastercard"_s);
 }
 
-bool IsPaidToPayPal(const cImportEntry& row)
-{
-    return BeginsOneOf(TextOf(row), {u"paypal"_s});
-}
-
 // Purchases and money of others have a name.
-bool IsPayPalSide(const cImportEntry& row)
+bool IsPayPalSideOf(const cImportEntry& row)
 {
     static const QStringList banks{u"bank"_s, u"abbuchung"_s, u"withdrawal"_s};
     return row.ImportBeneficiary.isEmpty() && row.ImportBeneficiaryAccount.isEmpty()
-        && BeginsOneOf(row.ImportType, banks);
+        && BeginsOneOf(modTextWords::Of(row.ImportType), banks);
 }
 
 bool IsPayPalAccount(const cImportEntry& row, const QString& account)
 {
-    return BeginsOneOf(row.ImportAccount + u' ' + account + u' ' + row.ImportType, {u"paypal"_s});
+    const QString text = row.ImportAccount + u' ' + account + u' ' + row.ImportType;
+    return BeginsOneOf(modTextWords::Of(text), {u"paypal"_s});
 }
 
-bool IsBankFirst(const cImportEntry& bank, const cImportEntry& other, const QString& account)
+bool IsBankFirst(const modSettlement::cSides& bank, const modSettlement::cSides& other, const QString& account)
 {
-    return (IsCardBill(bank) && IsPaymentToCard(other) && IsCardAccount(other, account))
-        || (IsPaidToPayPal(bank) && IsPayPalSide(other) && IsPayPalAccount(other, account));
+    return (bank.IsCardBill && other.IsPaymentToCard && IsCardAccount(other.Row, account))
+        || (bank.IsPaidToPayPal && other.IsPayPalSide && IsPayPalAccount(other.Row, account));
 }
 
 } // namespace
 
-bool modSettlement::IsSide(const cImportEntry& row)
+modSettlement::cSides::cSides(const cImportEntry& row) : Row(row), IsPayPalSide(IsPayPalSideOf(row))
 {
-    return IsCardBill(row) || IsPaymentToCard(row) || IsPaidToPayPal(row) || IsPayPalSide(row);
+    const QString text = row.ImportBeneficiary + u' ' + row.ImportPurpose;
+    const cWords words = modTextWords::Of(text);
+    IsCardBill = row.ImportValue < 0 && IsCardBillOf(words);
+    IsPaymentToCard = row.ImportValue > 0 && row.ImportBeneficiaryAccount.isEmpty() && IsPaymentToCardOf(words);
+    IsPaidToPayPal = BeginsOneOf(words, {u"paypal"_s});
 }
 
-bool modSettlement::IsPair(const cImportEntry& row, const QString& account, const cImportEntry& other,
-                           const QString& otherAccount)
+bool modSettlement::IsPair(const cSides& row, const QString& account, const cSides& other, const QString& otherAccount)
 {
     return IsBankFirst(row, other, otherAccount) || IsBankFirst(other, row, account);
 }

@@ -8,12 +8,22 @@
 // rows of both sides are told by their words, because neither names the number of the other account.
 namespace modSettlement {
 
-// Whether the row may be either side of one, by its words alone.
-[[nodiscard]] bool IsSide(const cImportEntry& row);
+// What a row may be by its words alone. The row has to outlive it.
+struct cSides
+{
+    explicit cSides(const cImportEntry& row);
+
+    [[nodiscard]] bool IsAny() const { return IsCardBill || IsPaymentToCard || IsPaidToPayPal || IsPayPalSide; }
+
+    const cImportEntry& Row;
+    bool IsCardBill = false;
+    bool IsPaymentToCard = false;
+    bool IsPaidToPayPal = false;
+    bool IsPayPalSide = false;
+};
 
 // Whether one of the rows is the bank's side, and the other one that of the card or of PayPal. `account` and
 // `otherAccount` are theirs in the book. Amounts and days are not looked at.
-[[nodiscard]] bool IsPair(const cImportEntry& row, const QString& account, const cImportEntry& other,
-                          const QString& otherAccount);
+[[nodiscard]] bool IsPair(const cSides& row, const QString& account, const cSides& other, const QString& otherAccount);
 
 } // namespace modSettlement

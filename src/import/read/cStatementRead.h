@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/read/cTableChoice.h"
 #include "import/read/cTableDoubt.h"
 #include "model/bank/cBankBalance.h"
 #include "model/cImportEntry.h"
@@ -73,6 +74,8 @@ struct cStatementRead
     QList<qsizetype> Parts; // places of the entries with which further files of the source begin: these may overlap
     QList<eStatementFormat> Formats; // of these files, where they may differ
     QHash<qsizetype, QString> Ids;   // by the place of an entry, the bank's own mark of the transaction
+    QString SignKey;                 // of a table, under which its sign is remembered; empty: it cannot be
+    std::optional<eSignRule> Sign;   // to be remembered under it
     QString AccountKey;              // under which the account of such files is remembered; empty: it cannot be
 
     QList<cWholeBooking> Wholes; // in the order of the entries

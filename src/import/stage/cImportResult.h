@@ -55,6 +55,7 @@ struct cImportResult
     cImportEntryList Rows;            // with eStagingRun::Try: what would have been staged
     cForeignNames Book;               // what the file names that is of another household book
     QString Layout;                   // name of the table layout that was recognised
+    bool IsSignKept = false;          // of a table: how its amounts count is remembered for the account
     QString AccountKey;               // of a table, for cTableMemory
     QString Number;                   // of a fetch: its account in the form in which it is staged
 };

@@ -180,7 +180,7 @@ void Trace(const cImportResult& result, qsizetype bytes, const QElapsedTimer& ti
 
 } // namespace
 
-cStatementImport::cStatementImport(cDataAccess& data, cImportHiveCache& hive, const cTableMemory* memory,
+cStatementImport::cStatementImport(cDataAccess& data, cImportHiveCache& hive, cTableMemory* memory,
                                    cBankBalances* balances)
     : m_data(data),
       m_hive(hive),
@@ -462,6 +462,9 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
         SettleEqual(read, options, result, memory);
     }
     ReportFailures(result);
+    if (m_memory != nullptr && read.Sign && options.Run == eStagingRun::Write) {
+        result.IsSignKept = m_memory->SaveSign(read.SignKey, *read.Sign);
+    }
     KeepBalances(read, known, options.Run, result);
 }
 

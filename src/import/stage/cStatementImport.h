@@ -46,7 +46,7 @@ class cStatementImport
 public:
     // With a memory, layouts that the user confirmed once are read the same way again. With `balances`, what the bank
     // says its accounts hold is kept there. Both outlive the import.
-    cStatementImport(cDataAccess& data, cImportHiveCache& hive, const cTableMemory* memory = nullptr,
+    cStatementImport(cDataAccess& data, cImportHiveCache& hive, cTableMemory* memory = nullptr,
                      cBankBalances* balances = nullptr);
 
     // Reads a file of any format the program knows and stages its transactions. Whatever the file holds, the result
@@ -98,6 +98,6 @@ private:
     cImportHiveCache& m_hive;
     cStaging m_staging;
     std::optional<cStaging> m_trial; // of files that are only tried one after the other
-    const cTableMemory* m_memory;
+    cTableMemory* m_memory;
     cBankBalances* m_balances;
 };

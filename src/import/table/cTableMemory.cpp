@@ -121,6 +121,19 @@ bool cTableMemory::SaveCharset(const QString& key, eCharset charset)
         && m_settings.Set(modSettingKey::TableCharset.Of(key), QString::number(static_cast<int>(charset)));
 }
 
+std::optional<eSignRule> cTableMemory::Sign(const QString& signKey) const
+{
+    const QString stored = signKey.isEmpty() ? QString() : m_settings.Get(modSettingKey::TableSign.Of(signKey));
+    return stored.isEmpty() ? std::nullopt : std::optional(Checked<eSignRule>(stored.toInt(), 2));
+}
+
+bool cTableMemory::SaveSign(const QString& signKey, eSignRule sign)
+{
+    return !signKey.isEmpty()
+        && (Sign(signKey) == sign
+            || m_settings.Set(modSettingKey::TableSign.Of(signKey), QString::number(static_cast<int>(sign))));
+}
+
 QStringList cTableMemory::Accounts(const QString& accountKey) const
 {
     return accountKey.isEmpty()

@@ -30,6 +30,10 @@ public:
     [[nodiscard]] eCharset Charset(const QString& key) const;
     bool SaveCharset(const QString& key, eCharset charset);
 
+    // How the amounts count in files of this layout and account, as one of them told beyond doubt.
+    [[nodiscard]] std::optional<eSignRule> Sign(const QString& signKey) const;
+    bool SaveSign(const QString& signKey, eSignRule sign);
+
     // Empty when nothing is remembered, and when files of this kind were given different accounts.
     [[nodiscard]] QString Account(const QString& accountKey) const;
     // All accounts that files of this kind were given, to choose from.

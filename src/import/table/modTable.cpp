@@ -203,6 +203,22 @@ cTableLayout modTable::Detect(const cTable& table, const cReadOptions& options)
 
 namespace {
 
+// Banks that share a header need not share a sign, so it is remembered for the account: what the table told beyond
+// doubt, or what was answered where it did not. Two sides have no sign of their own.
+void TakeSign(const cTableLayout& layout, const cReadOptions& options, cStatementRead& read)
+{
+    if (layout.Key.isEmpty() || read.Entries.isEmpty()) {
+        return;
+    }
+    read.SignKey = cTableMemory::KeyOf({layout.Key, read.Entries.constFirst().ImportAccount});
+    const bool isKnown = layout.Origin == eMapOrigin::Profile || layout.Origin == eMapOrigin::Memory;
+    if (options.Table.Sign) {
+        read.Sign = layout.Doubt ? options.Table.Sign : std::nullopt;
+    } else if (!layout.Doubt && !isKnown && layout.Map.Amount >= 0) {
+        read.Sign = layout.Sign;
+    }
+}
+
 cStatementRead ReadPart(const cTable& table, const cTableLayout& layout, const cReadOptions& options)
 {
     if (!layout.IsReadable() || table.IsFull()) {
@@ -237,6 +253,13 @@ cStatementRead ReadPart(const cTable& table, const cTableLayout& layout, const c
         for (cAccountBalance& balance : read.Balances) {
             balance.Account = options.Table.Account;
         }
+    }
+    TakeSign(layout, options, read);
+    if (const auto sign = read.Doubt && options.Memory != nullptr ? options.Memory->Sign(read.SignKey) : std::nullopt) {
+        cTableLayout told = layout;
+        told.Sign = *sign;
+        told.Doubt.reset();
+        return ReadPart(table, told, options);
     }
     read.NeedsAccount = std::any_of(read.Entries.begin(), read.Entries.end(),
                                     [](const cImportEntry& entry) { return entry.ImportAccount.isEmpty(); });

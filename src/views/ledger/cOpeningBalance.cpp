@@ -108,11 +108,12 @@ bool cOpeningBalance::IsDue(const QString& number, int newestBefore, const QStri
     if (fresh == rows.end()) {
         return false;
     }
-    if (ledger.Check().IsAnchored) {
-        return fresh->ImportDate <= ledger.Check().Points.constFirst().Day;
+    const bool isFirst = fresh->ImportDate < known->ImportDate;
+    if (ledger.Check().IsAnchored) { // perhaps by a balance that came without the rows behind it
+        return isFirst || fresh->ImportDate <= ledger.Check().Points.constFirst().Day;
     }
     const std::optional<cEntryItem> start = m_tools.Data.GetStartGuthaben(ledger.AccountOf(number));
-    return start && fresh->ImportDate < known->ImportDate && start->EntryDate >= fresh->ImportDate;
+    return isFirst && start && start->EntryDate >= fresh->ImportDate;
 }
 
 std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& number) const

@@ -1,13 +1,12 @@
 #include "views/ledger/cStatementLedger.h"
 
-#include "import/plan/modStagedTwins.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cBankBalances.h"
 #include "import/stage/cLeftOutRows.h"
 #include "model/modBalance.h"
 #include "store/cDataAccess.h"
 #include "views/list/modUnread.h"
-#include "views/statement/cImportRuns.h"
+#include "views/statement/modRowTwins.h"
 
 #include <QMap>
 
@@ -70,16 +69,7 @@ void cStatementLedger::Load(const QString& number)
 void cStatementLedger::LoadOnce(const QString& number)
 {
     cImportEntryList rows = m_data.GetImportEntries();
-    const cAccountMap accounts(m_data, m_settings);
-    const QList<cImportRuns::cRange> files = cImportRuns(m_settings).Files();
-    const QHash<int, cRowTwin> twins =
-        modStagedTwins::Find(rows,
-                             {.AccountOf = [&](const QString& other) { return accounts.AccountOf(other); },
-                              .FileOf =
-                                  [&](int id) {
-                                      const cImportRuns::cRange file = cImportRuns::FileOf(files, id);
-                                      return modStagedTwins::cFile{file.First, file.Kind};
-                                  }});
+    const QHash<int, cRowTwin> twins = modRowTwins::Of(rows, cAccountMap(m_data, m_settings), m_settings);
     rows.removeIf([&](const cImportEntry& row) {
         const auto twin = twins.constFind(row.ID);
         return twin != twins.constEnd() && (twin->RowId < row.ID || !twins.contains(twin->RowId));

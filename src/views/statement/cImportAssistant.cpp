@@ -578,8 +578,12 @@ void cImportAssistant::Remember()
     if (!IsTable() || !CanImport()) {
         return;
     }
-    // A known layout says more than a map can keep; it is found again without one.
-    if (m_isTouched || layout.Origin != eMapOrigin::Profile) {
+    // A known layout says more than a map can keep; it is found again without one. An answered sign is kept for itself:
+    // columns that are empty in this file would be missing from the map for good.
+    const cTableChoice& choice = m_works->Choice;
+    const bool isOnlySign = layout.Doubt && choice.Sign && layout.Origin == eMapOrigin::Words && !choice.HeaderLine
+        && !choice.Number && !choice.Date && choice.Profile.isEmpty() && choice.Charset == eCharset::Detect;
+    if (!isOnlySign && (m_isTouched || layout.Origin != eMapOrigin::Profile)) {
         (void)modTable::Remember(m_works->Source, m_works->Choice, layout, m_parts.Memory);
     }
     (void)m_parts.Memory.SaveAccount(layout.AccountKey, Account());

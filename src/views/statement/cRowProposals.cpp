@@ -10,6 +10,7 @@
 #include "views/entry/cEntrySuggestions.h"
 #include "views/list/modImportText.h"
 #include "views/statement/cImportRuns.h"
+#include "views/statement/modRowTwins.h"
 
 #include <algorithm>
 
@@ -55,12 +56,8 @@ void cRowProposals::Forget()
 cImportPlan& cRowProposals::Plan()
 {
     if (!m_plan) {
-        const QList<cRange> files = m_parts.Runs.Files();
-        m_plan = std::make_unique<cImportPlan>(
-            cImportPlan::cParts{m_parts.Data, m_parts.Hive, m_parts.Accounts, [files](int id) {
-                                    const cRange file = cImportRuns::FileOf(files, id);
-                                    return modStagedTwins::cFile{file.First, file.Kind};
-                                }});
+        m_plan = std::make_unique<cImportPlan>(cImportPlan::cParts{m_parts.Data, m_parts.Hive, m_parts.Accounts,
+                                                                   modRowTwins::FileOf(m_parts.Runs.Files())});
     }
     return *m_plan;
 }

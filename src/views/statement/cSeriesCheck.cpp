@@ -19,6 +19,7 @@
 #include "views/entry/cContracts.h"
 #include "views/entry/cEntryWriter.h"
 #include "views/entry/cSplitGroup.h"
+#include "views/statement/modRowTwins.h"
 
 #include <QSet>
 
@@ -114,6 +115,7 @@ QHash<QString, cSeriesCheck::cAccountRows> cSeriesCheck::RowsByAccount()
             account.Open.append(row);
         }
     }
+    LeaveOutDoubles(rows, accounts);
     const cBankBalances balances(m_tools.Settings);
     for (auto name = m_names.cbegin(); name != m_names.cend(); ++name) {
         const auto account = accounts.find(*name);
@@ -125,6 +127,18 @@ QHash<QString, cSeriesCheck::cAccountRows> cSeriesCheck::RowsByAccount()
         covered = covered.isValid() ? std::max(covered, end) : end;
     }
     return accounts;
+}
+
+// A row that may be a booked one in other words stays open for ever, and pays nothing.
+void cSeriesCheck::LeaveOutDoubles(const cImportEntryList& rows, QHash<QString, cAccountRows>& accounts) const
+{
+    const QHash<int, cRowTwin> twins = modRowTwins::Of(rows, m_accounts, m_tools.Settings);
+    for (cAccountRows& account : accounts) {
+        account.Open.removeIf([&](const cImportEntry& row) {
+            const auto twin = twins.constFind(row.ID);
+            return twin != twins.constEnd() && !twins.contains(twin->RowId);
+        });
+    }
 }
 
 // A transfer lies on the day of its debit, so the target's rows speak only where the source has none.
@@ -203,8 +217,14 @@ QList<cSeriesCheck::cFinding> cSeriesCheck::FindIn(const cSeries& series)
     const QDate known = isHistory ? m_tools.Clock.Today() : covered.End;
     const int reach = modOccurrence::Reach(series.Entry.EntryInterval);
     cEntryItemList occurrences;
-    modRecurrence::Expand(series.Entry, {covered.Start, known}, m_tools.Data.GetEntryMods(series.Entry.ID),
+    // What a look before this one has put off behind today is still unpaid: else who reads old statements one by one
+    // would put off each month of a series that has ended.
+    const QDate putOff = std::max(known, m_tools.Clock.Today().addDays(1));
+    modRecurrence::Expand(series.Entry, {covered.Start, putOff}, m_tools.Data.GetEntryMods(series.Entry.ID),
                           occurrences);
+    occurrences.removeIf([&](const cEntryItem& each) {
+        return each.EntryDate > known && (each.Planned() > known || each.CorrectionComment != modSeries::LateComment());
+    });
     const QList<QDate> paid = series.Paid.keys();
     const QDate lastPaid = paid.isEmpty() ? QDate() : *std::max_element(paid.begin(), paid.end());
     cFinding base{series.Entry.ID, series.Account, series.Paid.value(lastPaid), {}, false, {}, {}};

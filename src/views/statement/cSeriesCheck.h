@@ -70,6 +70,7 @@ private:
 
     [[nodiscard]] QString AccountOf(const QString& number); // as it was at the beginning of the search
     [[nodiscard]] QHash<QString, cAccountRows> RowsByAccount();
+    void LeaveOutDoubles(const cImportEntryList& rows, QHash<QString, cAccountRows>& accounts) const;
     [[nodiscard]] cEntryItemList SeriesOf(const QString& account, const QHash<QString, cAccountRows>& rows);
     [[nodiscard]] QList<int> Parts(const cEntryItem& entry) const;
     [[nodiscard]] QStringList AskAbout(const QList<cFinding>& findings);

@@ -398,7 +398,7 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     (void)(leftOut.Forget(result.Settled) && leftOut.Note(result.Repeats)); // of a refusal the user has been told
     report.IsDone = TakeNames(result.Book, result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
     report.IsDone = AssignAccounts(result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
-    if (!wish.Sign.isEmpty() && !wish.Remembers && !result.IsRefused) {
+    if (!wish.Sign.isEmpty() && !wish.Remembers && !result.IsRefused && !result.IsSignKept) {
         QStringList unsaid; // a table without names for its columns is asked about again
         (void)RememberLayout(path, wish, unsaid);
     }
