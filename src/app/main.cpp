@@ -140,10 +140,11 @@ int RunWithoutDisplay(int argc, char** argv)
     ReadArguments(parser, application);
     std::fputs(
         modLocale::Messages() == u"de"
-            ? "Kontorelle: Hier gibt es keinen Bildschirm, den DISPLAY oder WAYLAND_DISPLAY nennt, oder er ist nicht "
-              "zu erreichen.\n"
+            ? "Kontorelle: Hier gibt es keinen Bildschirm (DISPLAY und WAYLAND_DISPLAY sind nicht gesetzt oder nicht "
+              "zu "
+              "erreichen).\n"
               "Das Befehlszeilenprogramm kann dasselbe ohne Fenster: kontorelle-cli --help\n"
-            : "Kontorelle: There is no screen here that DISPLAY or WAYLAND_DISPLAY names, or it cannot be reached.\n"
+            : "Kontorelle: There is no screen here (DISPLAY and WAYLAND_DISPLAY are not set or cannot be reached).\n"
               "The command line program does the same without windows: kontorelle-cli --help\n",
         stderr);
     return 2;
