@@ -16,13 +16,14 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-enum eColumn { Day, Kind, Category, Account, Description, Amount, Target, Count }; // the target only with transfers
+// From the target on only where a row has one
+enum eColumn { Day, Kind, Category, Account, Description, Amount, Target, Payer, Count };
 
 constexpr std::array<const char*, Count> titles{
     QT_TRANSLATE_NOOP("cText", "Datum"),        QT_TRANSLATE_NOOP("cText", "Buchungsart"),
     QT_TRANSLATE_NOOP("cText", "Kategorie"),    QT_TRANSLATE_NOOP("cText", "Konto"),
     QT_TRANSLATE_NOOP("cText", "Beschreibung"), QT_TRANSLATE_NOOP("cText", "Betrag"),
-    QT_TRANSLATE_NOOP("cText", "Zielkonto")};
+    QT_TRANSLATE_NOOP("cText", "Zielkonto"),    QT_TRANSLATE_NOOP("cText", "Bezahlt von")};
 
 using cColumns = std::array<qsizetype, Count>;
 
@@ -105,6 +106,7 @@ private:
             TakeTransfer(row, entry);
         } else {
             entry.ImportType = modBookRow::CategoryText(Cell(row, Category));
+            modBookRow::AddPayer(entry, Cell(row, Payer));
             m_read.Entries.append(entry);
         }
     }
@@ -118,6 +120,8 @@ private:
         entry.ImportValue = -other.ImportValue;
         modBookRow::MakeTransfer(entry, other.ImportAccount, Cell(row, Category));
         modBookRow::MakeTransfer(other, entry.ImportAccount, Cell(row, Category));
+        modBookRow::AddPayer(entry, Cell(row, Payer));
+        modBookRow::AddPayer(other, Cell(row, Payer));
         m_read.Entries.append({entry, other});
     }
 
