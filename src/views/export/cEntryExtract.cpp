@@ -38,9 +38,16 @@ bool cEntryExtract::HasPayers() const
                        [](const cRow& row) { return !modPeople::Payer(row.Entry).isEmpty(); });
 }
 
-bool cEntryExtract::HasReceipts() const
+QStringList cEntryExtract::Receipts() const
 {
-    return std::any_of(Rows.begin(), Rows.end(), [](const cRow& row) { return modReceiptName::Count(row.Entry) > 0; });
+    QStringList names;
+    for (const cRow& row : Rows) {
+        if (modReceiptName::Count(row.Entry) > 0) {
+            names += modReceiptName::Of(row.Entry);
+        }
+    }
+    names.removeDuplicates();
+    return names;
 }
 
 cEntryExtract cEntryExtract::From(const cEntryListModel& model)

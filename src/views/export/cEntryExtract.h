@@ -43,7 +43,7 @@ struct cEntryExtract
     [[nodiscard]] bool HasBalances() const;
     [[nodiscard]] bool HasTransfers() const;
     [[nodiscard]] bool HasPayers() const;
-    [[nodiscard]] bool HasReceipts() const;
+    [[nodiscard]] QStringList Receipts() const; // the names of the files, each once
 
     // What the model shows at the moment. Title and view are left to the caller.
     [[nodiscard]] static cEntryExtract From(const cEntryListModel& model);

@@ -125,7 +125,7 @@ std::vector<modExport::cColumn> modExport::Columns(const cEntryExtract& extract)
         columns.push_back({QT_TRANSLATE_NOOP("cText", "Bezahlt von"), eContent::Text, 14,
                            [](const cRow& row) { return modPeople::Payer(row.Entry); }});
     }
-    if (extract.HasReceipts()) {
+    if (!extract.Receipts().isEmpty()) {
         columns.push_back({QT_TRANSLATE_NOOP("cText", "Belege"), eContent::Text, 30,
                            [](const cRow& row) { return modReceiptName::Of(row.Entry).join(u"; "_s); }});
     }
