@@ -1,5 +1,4 @@
 #include "base/cProgress.h"
-#include "core/modReceiptFolder.h"
 #include "import/zip/modZip.h"
 #include "model/modReceiptName.h"
 #include "model/modWord.h"
@@ -388,36 +387,6 @@ private Q_SLOTS:
                                                   ? u".csv, .xlsx, .html, .qif"_s
                                                   : u"4 Einträge wurden nach '%1' exportiert."_s.arg(user.SavePath)),
                  qPrintable(user.Shown.value(0)));
-    }
-
-    void ReceiptsGoBesideTheFile_data()
-    {
-        const cTestRows<eAnswer, QStringList> row("answer", "files");
-        row("wanted", eAnswer::Yes, {u"a.csv"_s, u"a-Belege/a.pdf"_s});
-        row("not wanted", eAnswer::No, {u"a.csv"_s});
-    }
-
-    void ReceiptsGoBesideTheFile()
-    {
-        QFETCH(const eAnswer, answer);
-        QFETCH(const QStringList, files);
-        const cTestFile folder;
-        cTestBook book;
-        const QString receipts = modReceiptFolder::Of(book.Data.BookPath());
-        QVERIFY(QDir().mkpath(receipts));
-        cTestFile::Write(receipts + u"/a.pdf"_s, "bill");
-        cEntryListModel::cContent content = Content();
-        modReceiptName::Set(content.Entries[1], {u"a.pdf"_s});
-        modReceiptName::Set(content.Entries[3], {u"a.pdf"_s, u"gone.pdf"_s});
-        m_model->SetContent(content, {}, modWord::KeineGruppierung);
-        book.User.SavePath = folder.Path(u"a.csv"_s);
-        book.User.Answers = {answer};
-        (void)cEntryExport(book.Tools, m_progress).Run(Extract(), u"Einträge"_s, QDate(2026, 3, 15));
-        for (const QString& file : files) {
-            QVERIFY2(QFile::exists(folder.Path(file)), qPrintable(file));
-        }
-        QCOMPARE(QDir(folder.Folder()).exists(u"a-Belege"_s), answer == eAnswer::Yes);
-        QCOMPARE(book.User.Shown.constLast().contains(u"'gone.pdf' fehlt"_s), answer == eAnswer::Yes);
     }
 
     void FailureKeepsTheOldFile()
