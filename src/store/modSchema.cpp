@@ -338,7 +338,7 @@ void PutStandIns(cDatabase& database)
         }
     }
     for (const std::string& table : copied) {
-        database.Execute(create + table + " AS SELECT * FROM main." + table);
+        database.Execute(std::string(create).append(table).append(" AS SELECT * FROM main.").append(table));
     }
     for (const cGap& gap : gaps) {
         for (const QString& column : gap.Columns) {
