@@ -14,6 +14,11 @@
 
 using namespace Qt::Literals::StringLiterals;
 
+cBookSwitch::eMode cBookSwitch::ModeOf(const cBook& book)
+{
+    return book.IsReadOnly() ? eMode::Reading : eMode::Writing;
+}
+
 cBookSwitch::cBookSwitch(const cParts& parts, cHooks hooks) : m_parts(parts), m_hooks(std::move(hooks))
 {
 }
@@ -64,7 +69,7 @@ bool cBookSwitch::Switch(const QString& path, eBookOrigin origin)
         return false;
     }
     const QString former = m_parts.Book.Path();
-    const eMode formerMode = m_parts.Book.IsReadOnly() ? eMode::Reading : eMode::Writing;
+    const eMode formerMode = ModeOf(m_parts.Book);
     m_hooks.Leave(eLeave::Keep);
     if (!Open(probe->Path, probe->Mode)) {
         Return(former, formerMode);
@@ -85,7 +90,7 @@ std::optional<cBookSwitch::cProbe> cBookSwitch::Probe(const QString& path, eBook
     if (!startUp.TryBook(book, {path, origin == eBookOrigin::Fresh}) || !startUp.AskPassword()) {
         return std::nullopt;
     }
-    return cProbe{path, book.IsReadOnly() ? eMode::Reading : eMode::Writing, startUp.IsNewVersion()};
+    return cProbe{path, ModeOf(book), startUp.IsNewVersion()};
 }
 
 std::optional<QString> cBookSwitch::Restore(const QString& backup)
@@ -98,19 +103,20 @@ std::optional<QString> cBookSwitch::Restore(const QString& backup)
     if (!AskPasswordOf(backup)) {
         return std::nullopt;
     }
+    const eMode formerMode = ModeOf(m_parts.Book);
     m_hooks.Leave(eLeave::Replace);
     cBackup files(m_parts.Book.Database(), m_parts.Ports.Shell);
     const cBackup::cRestored restored = files.Restore(path, backup, m_parts.Ports.Clock.Today());
     if (!restored.Problem.isEmpty()) {
         m_parts.Ports.User.Show(eTone::Critical,
                                 cText::Tr("Die Datensicherung konnte nicht geladen werden:\n{0}", {restored.Problem}));
-        Return(path, eMode::Writing);
+        Return(path, formerMode);
         return std::nullopt;
     }
     if (!Open(path, eMode::Writing)) {
         m_parts.Book.Close();
         (void)files.PutBack(path, restored.Kept);
-        Return(path, eMode::Writing);
+        Return(path, formerMode);
         return std::nullopt;
     }
     (void)m_parts.Lock.Take(path); // it is another file now

@@ -59,6 +59,7 @@ private:
         bool IsNewVersion = false;
     };
 
+    [[nodiscard]] static eMode ModeOf(const cBook& book);
     [[nodiscard]] std::optional<cProbe> Probe(const QString& path, eBookOrigin origin) const;
     [[nodiscard]] bool AskPasswordOf(const QString& backup) const;
     [[nodiscard]] bool Open(const QString& path, eMode mode);

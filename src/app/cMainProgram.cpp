@@ -361,7 +361,7 @@ void cMainProgram::LeaveBook(cBookSwitch::eLeave leave)
 void cMainProgram::WatchBook()
 {
     m_book.Database().WatchDamage([this] { QTimer::singleShot(0, &tmrWalk, [this] { TellDamage(); }); });
-    if (m_book.Database().IsDamaged()) {
+    if (!IsFileWhole()) {
         TellDamage();
         return;
     }
@@ -391,12 +391,17 @@ void cMainProgram::ReadOn()
     }
 }
 
+bool cMainProgram::IsFileWhole()
+{
+    return !m_book.Database().IsDamaged() && m_book.Data().GetMissingParts().isEmpty();
+}
+
 // The message of the operation that came upon it comes first, and a window with unsaved fields is left to the user.
 void cMainProgram::TellDamage()
 {
     if (QApplication::activeModalWidget() != nullptr) {
         QTimer::singleShot(damageRetry, &tmrWalk, [this] { TellDamage(); });
-    } else if (m_book.Database().IsDamaged() && !m_end.HasBegun()) {
+    } else if (!IsFileWhole() && !m_end.HasBegun()) {
         m_navigation->TellDamage();
     }
 }

@@ -90,6 +90,7 @@ private:
     void WatchBook();
     void BackUp();
     void ReadOn();
+    [[nodiscard]] bool IsFileWhole(); // not damaged, and no table or column is lost
     void TellDamage();
     void GoToWork();
     void LeaveBook(cBookSwitch::eLeave leave);

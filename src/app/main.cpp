@@ -25,6 +25,10 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 
+#include <unistd.h>
+
+#include <algorithm>
+#include <array>
 #include <cstdio>
 #include <future>
 #include <optional>
@@ -34,16 +38,59 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
+constexpr std::array displays{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+
 // Without a screen the toolkit would end the process with a message that helps nobody.
 bool HasDisplay()
 {
 #ifdef Q_OS_LINUX
-    const bool isNamed = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
-    return isNamed || qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+    return std::any_of(displays.begin(), displays.end(),
+                       [](const char* name) { return qEnvironmentVariableIsSet(name); });
 #else
     return true;
 #endif
 }
+
+// The same message where a screen is named that cannot be reached, which only the toolkit finds out: the program is
+// started anew as if none were named. What the toolkit says about it on the way is kept to itself.
+class cScreenWatch
+{
+public:
+    explicit cScreenWatch(char** arguments)
+    {
+        Arguments() = arguments;
+        qInstallMessageHandler(Take);
+    }
+    cScreenWatch(const cScreenWatch&) = delete;
+    cScreenWatch& operator=(const cScreenWatch&) = delete;
+    ~cScreenWatch()
+    {
+        qInstallMessageHandler(nullptr);
+        std::fputs(Said().constData(), stderr);
+    }
+
+private:
+    static char**& Arguments()
+    {
+        static char** arguments = nullptr;
+        return arguments;
+    }
+    static QByteArray& Said()
+    {
+        static QByteArray said;
+        return said;
+    }
+    static void Take(QtMsgType type, const QMessageLogContext& context, const QString& text)
+    {
+        if (type == QtFatalMsg) {
+            for (const char* name : displays) {
+                qunsetenv(name);
+            }
+            execv("/proc/self/exe", Arguments());
+        }
+        Said() += qFormatLogMessage(type, context, text).toLocal8Bit() + '\n';
+    }
+};
 
 // Without an address the library would look for a bus by starting programs.
 bool HasSessionBus()
@@ -91,12 +138,15 @@ int RunWithoutDisplay(int argc, char** argv)
     NameApplication();
     QCommandLineParser parser;
     ReadArguments(parser, application);
-    std::fputs(modLocale::Messages() == u"de"
-                   ? "Kontorelle: Hier gibt es keinen Bildschirm (weder DISPLAY noch WAYLAND_DISPLAY ist gesetzt).\n"
-                     "Das Befehlszeilenprogramm kann dasselbe ohne Fenster: kontorelle-cli --help\n"
-                   : "Kontorelle: There is no screen here (neither DISPLAY nor WAYLAND_DISPLAY is set).\n"
-                     "The command line program does the same without windows: kontorelle-cli --help\n",
-               stderr);
+    std::fputs(
+        modLocale::Messages() == u"de"
+            ? "Kontorelle: Hier gibt es keinen Bildschirm (DISPLAY und WAYLAND_DISPLAY sind nicht gesetzt oder nicht "
+              "zu "
+              "erreichen).\n"
+              "Das Befehlszeilenprogramm kann dasselbe ohne Fenster: kontorelle-cli --help\n"
+            : "Kontorelle: There is no screen here (DISPLAY and WAYLAND_DISPLAY are not set or cannot be reached).\n"
+              "The command line program does the same without windows: kontorelle-cli --help\n",
+        stderr);
     return 2;
 }
 
@@ -114,7 +164,9 @@ int main(int argc, char* argv[])
     if (!HasDisplay()) {
         return RunWithoutDisplay(argc, argv);
     }
+    std::optional<cScreenWatch> watch(argv);
     QApplication application(argc, argv);
+    watch.reset();
     const std::future<bool> fonts = LookUpFonts();
     modChoiceAccess::Install();
     QApplication::setStyle(new cStyle); // over the desktop's own style, which only the application knows

@@ -68,8 +68,11 @@ QString cBackup::MakeChecked(cDatabase& source, const QString& copy)
     if (content.Fault != eDatabaseFault::None) {
         return cText::Tr("Die Kopie kann nicht gelesen werden.");
     }
-    return content.Problems.isEmpty() ? QString()
-                                      : cText::Tr("Die Kopie ist beschädigt: {0}", {content.Problems.constFirst()});
+    if (!content.Problems.isEmpty()) {
+        return cText::Tr("Die Kopie ist beschädigt: {0}", {content.Problems.constFirst()});
+    }
+    return content.Lost.isEmpty() ? QString()
+                                  : cText::Tr("Sie wäre unvollständig. Es fehlt: {0}", {content.Lost.join(u", "_s)});
 }
 
 cBackup::cRestored cBackup::Restore(const QString& path, const QString& backup, QDate today)

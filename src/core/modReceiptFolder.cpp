@@ -78,6 +78,16 @@ QString CopyAll(const QFileInfoList& files, const QString& to)
     return problem;
 }
 
+// But for those that are there already.
+QString CopyNew(QFileInfoList files, const QString& to)
+{
+    files.removeIf([&](const QFileInfo& file) {
+        const QFileInfo copy(QDir(to), file.fileName());
+        return copy.exists() && IsSame(file, copy);
+    });
+    return CopyAll(files, to);
+}
+
 // The name of a backup without its day.
 QString NameOf(const QFileInfo& backup)
 {
@@ -124,13 +134,23 @@ QString modReceiptFolder::CopyOf(const QString& book, const QString& backup)
 
 QString modReceiptFolder::Save(const QString& book, const QString& backup)
 {
-    const QString copies = CopyOf(book, backup);
-    QFileInfoList files = QDir(Of(book)).entryInfoList(QDir::Files);
-    files.removeIf([&](const QFileInfo& file) {
-        const QFileInfo copy(QDir(copies), file.fileName());
-        return copy.exists() && IsSame(file, copy);
-    });
-    return CopyAll(files, copies);
+    return CopyNew(QDir(Of(book)).entryInfoList(QDir::Files), CopyOf(book, backup));
+}
+
+QString modReceiptFolder::CopyTo(const QString& folder, const QString& book, const QStringList& names)
+{
+    QFileInfoList files;
+    QString missing;
+    for (const QString& name : names) {
+        const QFileInfo file(QDir(Of(book)), name);
+        if (file.isFile()) {
+            files.append(file);
+        } else if (missing.isEmpty()) {
+            missing = cText::Tr("Der Beleg '{0}' fehlt im Ordner '{1}'.", {name, QDir::toNativeSeparators(Of(book))});
+        }
+    }
+    const QString problem = CopyNew(files, folder);
+    return problem.isEmpty() ? missing : problem;
 }
 
 QString modReceiptFolder::SaveIfWished(const cConfiguration& configuration, const QString& book, const QString& backup)

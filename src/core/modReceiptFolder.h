@@ -21,7 +21,10 @@ namespace modReceiptFolder {
 // day. What went wrong first, in words for the user; empty when all files are there.
 [[nodiscard]] QString Save(const QString& book, const QString& backup);
 
-// The same where the user wants receipts in the backups; else nothing, and no problem.
+// The same with those of the names, into any folder.
+[[nodiscard]] QString CopyTo(const QString& folder, const QString& book, const QStringList& names);
+
+// As Save, where the user wants receipts in the backups; else nothing, and no problem.
 [[nodiscard]] QString SaveIfWished(const cConfiguration& configuration, const QString& book, const QString& backup);
 
 // Copies the other way those of the names that the book's folder lacks; what is there stays as it is.

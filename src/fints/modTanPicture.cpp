@@ -9,19 +9,27 @@ struct cKind
 {
     const char* Type = nullptr;
     QByteArrayView Beginning;
+    QByteArrayView End{}; // what a file of this kind has at its end, where only a whole one can be shown
 };
 
-constexpr std::array kinds{cKind{"image/png", QByteArrayView("\x89PNG\r\n\x1a\n", 8)},
+constexpr std::array kinds{cKind{"image/png", QByteArrayView("\x89PNG\r\n\x1a\n", 8), QByteArrayView("IEND")},
                            cKind{"image/jpeg", QByteArrayView("\xff\xd8\xff", 3)},
                            cKind{"image/gif", QByteArrayView("GIF8", 4)}, cKind{"image/bmp", QByteArrayView("BM", 2)}};
 
 // The kind of a file by its beginning, which tells it better than what the bank calls it ("image/jpg", or PNG for
-// everything); empty for others.
+// everything); empty for others, and for a file that is cut.
 QString Type(const QByteArray& file)
 {
     const auto* const kind =
         std::find_if(kinds.begin(), kinds.end(), [&](const cKind& each) { return file.startsWith(each.Beginning); });
-    return kind == kinds.end() ? QString() : QString::fromLatin1(kind->Type);
+    return kind == kinds.end() || !file.contains(kind->End) ? QString() : QString::fromLatin1(kind->Type);
+}
+
+// Only of other kinds the bank's word is all there is.
+bool IsKnown(const QByteArray& type)
+{
+    return type == "image/jpg"
+        || std::any_of(kinds.begin(), kinds.end(), [&](const cKind& each) { return type == each.Type; });
 }
 
 constexpr qsizetype lengthBytes = 2;
@@ -48,8 +56,8 @@ std::optional<cTanPicture> modTanPicture::Read(const QByteArray& data)
     // Two bytes cannot tell the length of a large picture: one that differs does not count.
     cTanPicture picture{data.mid(file), {}};
     picture.Type = Type(picture.File);
-    if (picture.Type.isEmpty()) {
+    if (picture.Type.isEmpty() && !IsKnown(named)) {
         picture.Type = QString::fromLatin1(named);
     }
-    return picture;
+    return picture.Type.isEmpty() ? std::nullopt : std::optional(picture);
 }

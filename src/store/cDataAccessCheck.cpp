@@ -100,5 +100,5 @@ QStringList cDataAccess::GetFileProblems()
 
 QStringList cDataAccess::GetMissingParts()
 {
-    return modSchema::MissingOfTemplate(m_database);
+    return modSchema::Lost(m_database);
 }

@@ -209,9 +209,8 @@ void cOpenSequence::RestoreBackup()
 eAnswer cOpenSequence::AskAboutBackup(const QString& backup) const
 {
     const modBookFile::cContent content = modBookFile::Look(backup);
-    if (!modBookFile::IsSound(content)) {
-        m_ports.User.Show(eTone::Exclamation,
-                          cText::Tr("Die Datensicherung '{0}' ist beschädigt oder keine gültige Datenbank.", {backup}));
+    if (const QString refusal = modBookFile::Refusal(backup, content); !refusal.isEmpty()) {
+        m_ports.User.Show(eTone::Exclamation, refusal);
         return eAnswer::No;
     }
     return m_ports.User.Ask(
@@ -254,9 +253,13 @@ bool cOpenSequence::ReplaceFile(const QString& source)
     return false;
 }
 
-// The valid database is open: makes it current, or settles for reading.
+// The valid database is open: makes it current, or settles for reading. An incomplete one stays as it is, and what is
+// done about it is up to the caller, who knows the backups.
 eOpenResult cOpenSequence::Prepare()
 {
+    if (!modSchema::Lost(m_database).isEmpty()) {
+        return OpenForReading({});
+    }
     eDatabaseFault fault = m_database.ProbeWrite();
     while (fault == eDatabaseFault::Busy
            && Ask(cText::Tr(

@@ -129,6 +129,7 @@ modBookFile::cContent modBookFile::Look(const QString& path)
     try {
         ReadEntries(database, content);
         content.Problems = database.IntegrityCheck();
+        content.Lost = modSchema::Lost(database);
     } catch (const cDatabaseError& error) {
         content.Problems.append(modFailure::Reason(error));
     }
@@ -146,6 +147,16 @@ bool modBookFile::IsCopy(const QString& path, const QString& other)
 bool modBookFile::IsSound(const cContent& content)
 {
     return content.Fault == eDatabaseFault::None && content.Problems.isEmpty();
+}
+
+QString modBookFile::Refusal(const QString& backup, const cContent& content)
+{
+    if (!IsSound(content)) {
+        return cText::Tr("Die Datensicherung '{0}' ist beschädigt oder keine gültige Datenbank.", {backup});
+    }
+    return content.Lost.isEmpty()
+        ? QString()
+        : cText::Tr("Die Datensicherung '{0}' ist unvollständig. Es fehlt: {1}", {backup, content.Lost.join(u", "_s)});
 }
 
 QString modBookFile::Describe(const cContent& content)
@@ -233,14 +244,18 @@ QStringList modBookFile::Leftovers(const QString& path)
     const QString name = QRegularExpression::escape(book.fileName());
     const QRegularExpression pattern(
         QRegularExpression::anchoredPattern(name + u"(\\.neu[0-9]*|\\.[0-9-]+\\.ersetzt)"_s));
-    QStringList found;
+    QStringList complete;
+    QStringList incomplete;
     const QFileInfoList files = folder.entryInfoList(QDir::Files, QDir::Time);
     for (const QFileInfo& file : files) {
-        if (pattern.match(file.fileName()).hasMatch() && IsSound(Look(file.filePath()))) {
-            found.append(file.filePath());
+        if (!pattern.match(file.fileName()).hasMatch()) {
+            continue;
+        }
+        if (const cContent content = Look(file.filePath()); IsSound(content)) {
+            (content.Lost.isEmpty() ? complete : incomplete).append(file.filePath());
         }
     }
-    return found;
+    return complete + incomplete;
 }
 
 void modBookFile::RemoveWorking(const QString& folder, const QString& targets)

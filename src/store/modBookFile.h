@@ -21,6 +21,7 @@ struct cContent
 {
     eDatabaseFault Fault = eDatabaseFault::None; // any other: no book that could be opened, and all else is unknown
     QStringList Problems;                        // what SQLite finds wrong with the file
+    QStringList Lost;                            // see modSchema
     int Entries = 0;
     QDate LastEntry;    // latest day of an entry; invalid when there is none
     QDateTime Modified; // of the file
@@ -35,7 +36,11 @@ struct cContent
 // True when both files can be read and hold the same bytes.
 [[nodiscard]] bool IsCopy(const QString& path, const QString& other);
 
+// The file itself is all right, whatever is in it.
 [[nodiscard]] bool IsSound(const cContent& content);
+
+// Why a file may not take the place of a book, in words for the user; empty when it may.
+[[nodiscard]] QString Refusal(const QString& backup, const cContent& content);
 
 // "120 Einträge, der letzte vom 12.03.2026, Datei vom 13.03.2026 18:05"
 [[nodiscard]] QString Describe(const cContent& content);
@@ -62,7 +67,8 @@ void Remove(const QString& path);
 [[nodiscard]] bool PutBack(cShell& shell, const QString& kept, const QString& path);
 
 // Sound books beside a missing `path` that a program left behind when it was killed or the user took the file away:
-// whole files that were to take its place, and files that were replaced. The newest first.
+// whole files that were to take its place, and files that were replaced. Complete ones before all
+// others, and the newest first.
 [[nodiscard]] QStringList Leftovers(const QString& path);
 
 // Removes the working files of programs that were killed, with what SQLite keeps beside them: of targets in `folder`

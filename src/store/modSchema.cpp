@@ -7,7 +7,6 @@
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/modAccountColumns.h"
-#include "store/modFailure.h"
 #include "store/modRow.h"
 
 #include <QElapsedTimer>
@@ -28,23 +27,29 @@ namespace {
 struct cTable
 {
     const char* Name;
-    std::string Columns; // as in its CREATE statement
+    QStringList Columns; // as in its CREATE statement
 };
 
 // The tables that do not come with the template.
 std::vector<cTable> OwnTables()
 {
-    std::string account = "ID INTEGER PRIMARY KEY";
+    QStringList account{u"ID INTEGER PRIMARY KEY"_s};
     for (const char* name : std::span(modAccountColumns::Names).first<modAccountColumns::CreatedCount>()) {
-        account.append(", ").append(name).append(" TEXT");
+        account.append(QString::fromUtf8(name) + u" TEXT"_s);
     }
     return {
         {"account", account},
-        {"setting", "ID INTEGER PRIMARY KEY, SettingName TEXT UNIQUE, SettingValue TEXT, SettingDefault TEXT"},
+        {"setting",
+         {u"ID INTEGER PRIMARY KEY"_s, u"SettingName TEXT UNIQUE"_s, u"SettingValue TEXT"_s, u"SettingDefault TEXT"_s}},
         {"datamod",
-         "ID INTEGER PRIMARY KEY, EntryRelation NUMERIC, EntryModType TEXT, EntryStartDate TEXT, "
-         "EntryEndDate TEXT, EntryValue TEXT, EntryComment TEXT"},
+         {u"ID INTEGER PRIMARY KEY"_s, u"EntryRelation NUMERIC"_s, u"EntryModType TEXT"_s, u"EntryStartDate TEXT"_s,
+          u"EntryEndDate TEXT"_s, u"EntryValue TEXT"_s, u"EntryComment TEXT"_s}},
     };
+}
+
+std::string CreateStatement(const cTable& table, const char* create)
+{
+    return std::string(create).append(table.Name).append(" (" + table.Columns.join(u", "_s).toStdString() + ")");
 }
 
 struct cColumn
@@ -135,9 +140,9 @@ QStringList AbsentParts(cDatabase& database)
 }
 
 // The tables that come with the template, and columns that every statement names.
-const std::vector<std::pair<const char*, QStringList>>& ShippedTables()
+const std::vector<cTable>& ShippedTables()
 {
-    static const std::vector<std::pair<const char*, QStringList>> tables{
+    static const std::vector<cTable> tables{
         {"data",
          {u"ID"_s, u"EntryDate"_s, u"EntryDateEnd"_s, u"EntryType"_s, u"EntryInterval"_s, u"EntryAccount"_s,
           u"EntryAccountMove"_s, u"EntryCategory"_s, u"EntryValue"_s, u"EntryDescription"_s}},
@@ -151,22 +156,36 @@ const std::vector<std::pair<const char*, QStringList>>& ShippedTables()
     return tables;
 }
 
-QStringList AbsentShippedParts(cDatabase& database)
+// A table of which something is gone that the upgrade does not bring: it adds whole tables of its own and columns of
+// later versions only.
+struct cGap
 {
-    QStringList parts;
-    for (const auto& [table, columns] : ShippedTables()) {
-        const QStringList present = ColumnsOf(database, table);
-        if (present.isEmpty()) {
-            parts.append(cText::Tr("Tabelle {0}", {QString::fromUtf8(table)}));
-            continue;
-        }
-        for (const QString& column : columns) {
-            if (!present.contains(column.toLower())) {
-                parts.append(cText::Tr("Spalte {0}.{1}", {QString::fromUtf8(table), column}));
+    cTable Table;
+    QStringList Columns; // that are gone; none: the whole table is
+};
+
+std::vector<cGap> Gaps(cDatabase& database)
+{
+    std::vector<cGap> gaps;
+    const auto look = [&](const cTable& table, bool isShipped) {
+        const QStringList present = ColumnsOf(database, table.Name);
+        QStringList gone;
+        for (const QString& column : table.Columns) {
+            if (const QString name = column.section(u' ', 0, 0); !present.contains(name.toLower())) {
+                gone.append(name);
             }
         }
+        if (present.isEmpty() ? isShipped : !gone.isEmpty()) {
+            gaps.push_back({table, present.isEmpty() ? QStringList() : gone});
+        }
+    };
+    for (const cTable& table : ShippedTables()) {
+        look(table, true);
     }
-    return parts;
+    for (const cTable& table : OwnTables()) {
+        look(table, false);
+    }
+    return gaps;
 }
 
 QStringList AbsentIndexes(cDatabase& database)
@@ -214,7 +233,7 @@ void CompleteAccounts(cDatabase& database)
 void AddTablesAndColumns(cDatabase& database)
 {
     for (const cTable& table : OwnTables()) {
-        database.TryExecute(std::string("CREATE TABLE ") + table.Name + " (" + table.Columns + ")");
+        database.TryExecute(CreateStatement(table, "CREATE TABLE "));
     }
     for (const cColumn& column : AddedColumns()) {
         database.TryExecute(std::string("ALTER TABLE ") + column.Table + " ADD " + column.Name + " TEXT");
@@ -301,16 +320,31 @@ std::set<std::string> OutdatedTables(cDatabase& database)
 // Afterwards nothing can be written, lest a change went into a copy and was lost without a word.
 void PutStandIns(cDatabase& database)
 {
+    constexpr const char* create = "CREATE TEMP TABLE ";
     const std::optional<QStringList> absent = Absent(database);
     database.Execute("PRAGMA temp_store=MEMORY"); // a household's figures belong into no other file
     for (const cTable& table : OwnTables()) {
         if (!Exists(database, "table", table.Name)) {
-            database.Execute(std::string("CREATE TEMP TABLE ") + table.Name + " (" + table.Columns + ")");
+            database.Execute(CreateStatement(table, create));
         }
     }
-    for (const std::string& table : OutdatedTables(database)) {
-        database.Execute(
-            std::string("CREATE TEMP TABLE ").append(table).append(" AS SELECT * FROM main.").append(table));
+    const std::vector<cGap> gaps = Gaps(database);
+    std::set<std::string> copied = OutdatedTables(database);
+    for (const cGap& gap : gaps) {
+        if (gap.Columns.isEmpty()) {
+            database.Execute(CreateStatement(gap.Table, create));
+        } else {
+            copied.insert(gap.Table.Name);
+        }
+    }
+    for (const std::string& table : copied) {
+        database.Execute(std::string(create).append(table).append(" AS SELECT * FROM main.").append(table));
+    }
+    for (const cGap& gap : gaps) {
+        for (const QString& column : gap.Columns) {
+            database.Execute(
+                std::string("ALTER TABLE temp.").append(gap.Table.Name).append(" ADD " + column.toStdString()));
+        }
     }
     BringUpToDate(database, absent);
     database.Execute("PRAGMA query_only=ON");
@@ -323,8 +357,8 @@ void CheckShutOut(const QStringList& names)
     for (const cTable& table : OwnTables()) {
         tables.push_back(table.Name);
     }
-    for (const auto& shipped : ShippedTables()) {
-        tables.push_back(shipped.first);
+    for (const cTable& table : ShippedTables()) {
+        tables.push_back(table.Name);
     }
     for (const char* table : tables) {
         if (names.contains(QLatin1StringView(table), Qt::CaseInsensitive)) {
@@ -343,7 +377,7 @@ void CheckSettings(cDatabase& database)
             (void)rows.Text(1);
         }
     } catch (const cDatabaseError& error) {
-        if (error.Fault() != eDatabaseFault::Other) {
+        if (error.Fault() != eDatabaseFault::Other || Exists(database, "table", "setting")) {
             throw;
         }
     }
@@ -443,12 +477,22 @@ QStringList modSchema::Missing(cDatabase& database)
     }
 }
 
-QStringList modSchema::MissingOfTemplate(cDatabase& database)
+QStringList modSchema::Lost(cDatabase& database)
 {
     try {
-        return AbsentShippedParts(database);
-    } catch (const cDatabaseError& error) {
-        return {modFailure::Reason(error)};
+        QStringList parts;
+        for (const cGap& gap : Gaps(database)) {
+            const QString table = QString::fromUtf8(gap.Table.Name);
+            if (gap.Columns.isEmpty()) {
+                parts.append(cText::Tr("Tabelle {0}", {table}));
+            }
+            for (const QString& column : gap.Columns) {
+                parts.append(cText::Tr("Spalte {0}.{1}", {table, column}));
+            }
+        }
+        return parts;
+    } catch (const cDatabaseError&) {
+        return {};
     }
 }
 

@@ -29,11 +29,12 @@ QStringList Upgrade(cDatabase& database);
 // Tables and columns that the program needs and the database does not have, in words for the user.
 [[nodiscard]] QStringList Missing(cDatabase& database);
 
-// The same for what comes with the template, which no upgrade can bring back.
-[[nodiscard]] QStringList MissingOfTemplate(cDatabase& database);
+// The same for what no upgrade brings back. A file that lacks such a part is incomplete, however old it is.
+[[nodiscard]] QStringList Lost(cDatabase& database);
 
 // Lets queries see a database that must not be written as it will be after its upgrade: temporary tables take the place
-// of what the upgrade would add or change. The connection refuses all writes from then on. None when that is done.
+// of what the upgrade would add or change, and of what is lost. The connection refuses all writes from then on. None
+// when that is done.
 [[nodiscard]] eDatabaseFault StandIn(cDatabase& database);
 
 // True when this version of the program, its window or its command line, has opened the database for writing before.

@@ -7,14 +7,24 @@
 #include "app/machine/cQtUser.h"
 #include "app/machine/cSingleInstance.h"
 #include "app/machine/modQtFilter.h"
+#include "base/cProgress.h"
+#include "import/read/cReadOptions.h"
+#include "import/read/cStatementRead.h"
+#include "import/read/cStatementSource.h"
+#include "import/table/modTable.h"
+#include "model/modPeople.h"
+#include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
 #include "support/cNoRoom.h"
 #include "support/cTestClass.h"
+#include "support/cTestEntry.h"
 #include "support/cTestFile.h"
 #include "support/cTestRows.h"
 #include "support/fakes.h"
 #include "support/testBook.h"
+#include "support/testFormat.h"
+#include "views/export/modExport.h"
 #include "windows/print/cPrintable.h"
 
 #include <QApplication>
@@ -36,6 +46,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QTranslator>
 
 #include <filesystem>
 #include <functional>
@@ -286,6 +297,26 @@ private Q_SLOTS:
     {
         QFETCH(const QString, pairs);
         QTEST(modQtFilter::FromPairs(pairs), "filter");
+    }
+
+    // What an English window has written.
+    void TableIsKnownInAnotherLanguage()
+    {
+        const cTestFormat format;
+        cNoProgress progress;
+        cEntryItem entry = cTestEntry{.Type = modWord::Umbuchung, .Target = u"Sparkonto"_s}.Make();
+        modPeople::SetPayer(entry, u"Anna"_s);
+        cEntryExtract extract;
+        extract.Rows = {{entry, 100, 0, {}}};
+        QTranslator english;
+        QVERIFY(english.load(QStringLiteral(ENGLISH)));
+        QCoreApplication::installTranslator(&english);
+        const QByteArray file = modExport::Csv({extract, format.Format, progress}).Bytes.value_or(QByteArray());
+        QCoreApplication::removeTranslator(&english);
+        QVERIFY2(file.contains("Transfer"), file.constData());
+        const cStatementRead read = modTable::Read({u"a.csv"_s, {}, QString::fromUtf8(file)}, {});
+        QCOMPARE(read.Entries.size(), 2);
+        QVERIFY(read.Entries.constFirst().ImportType.endsWith(u"; Bezahlt von: Anna"_s));
     }
 
     void OneEnterTakesWhatWasCompleted()

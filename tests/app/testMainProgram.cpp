@@ -503,6 +503,27 @@ private Q_SLOTS:
                 != u"(no row)"_s);
     }
 
+    void NoScreenThatCanBeReached_data() const
+    {
+        const cTestRows<QStringList, int> row("call", "code");
+        row("X11", {u"DISPLAY=:7777"_s, QStringLiteral(PROGRAM)}, 2);
+        row("Wayland", {u"WAYLAND_DISPLAY=nobody"_s, QStringLiteral(PROGRAM)}, 2);
+        row("the version all the same", {u"DISPLAY=:7777"_s, QStringLiteral(PROGRAM), u"--version"_s}, 0);
+    }
+
+    void NoScreenThatCanBeReached() const
+    {
+        QFETCH(const QStringList, call);
+        QFETCH(const int, code);
+        QProcess program;
+        program.start(u"env"_s, QStringList{u"-i"_s, u"LC_ALL=de_DE.UTF-8"_s, u"XDG_RUNTIME_DIR=/tmp"_s} + call);
+        QVERIFY(program.waitForFinished());
+        QCOMPARE(program.exitCode(), code);
+        const QByteArray said = program.readAllStandardError();
+        QCOMPARE(said.startsWith("Kontorelle: Hier gibt es keinen Bildschirm"), code == 2);
+        QVERIFY2(!said.contains("platform plugin"), said.constData());
+    }
+
 private:
     std::optional<cMachine> m_machine;
 };

@@ -194,6 +194,7 @@ private Q_SLOTS:
         QFETCH(const QStringList, accounts);
         const QString demo = u"--database|~/demo.db|"_s;
         Do(u"demo|~/demo.db"_s);
+        cTestFile::Run(Path(u"demo.db"_s), "UPDATE data SET EntryFlags = 'zahler=Anna'");
         for (const QString& account : accounts) {
             const QString one = account.isEmpty() ? QString() : u"|--account|"_s + account;
             const QString file = u"~/"_s + account + u'.' + ending;
@@ -204,6 +205,12 @@ private Q_SLOTS:
         QCOMPARE(Do(sums).Out, Do(demo + sums).Out);
         const auto balances = [&](const QString& book) { return Do(book + u"balances|--json"_s).Column(u"Balance"_s); };
         QCOMPARE(balances({}), balances(demo));
+        const auto transfers = [&](const QString& book, const QString& field) {
+            return Do(book + u"entries|--kind|Umbuchung|--period|Buchungen bis heute|--json"_s).Column(field);
+        };
+        QCOMPARE(transfers({}, u"EntryCategory"_s), transfers(demo, u"EntryCategory"_s));
+        const QString flags = transfers({}, u"EntryFlags"_s).join(u'|');
+        QCOMPARE(flags.contains(u"zahler=Anna"_s), ending == u"csv"_s); // QIF has no place for it
     }
 
     // However the file spells them, nothing is there twice, and a name that is none stops nothing.

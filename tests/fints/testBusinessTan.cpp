@@ -81,7 +81,7 @@ private Q_SLOTS:
         const cOfferedMethod sms{.Function = "912"};
         row("typed", sms, cAskedTan{}, true, eTanDisplay::Text);
         row("picture", cOfferedMethod{.Function = "913", .Technical = "MS1.0.0", .Name = "photoTAN"},
-            cAskedTan{.HhdUc = QByteArray("\0\11image/png\0\14\211PNG+'@5@\r\n\032\n", 25)}, true,
+            cAskedTan{.HhdUc = QByteArray("\0\11image/png\0\21\211PNG\r\n\032\n+'@5@IEND", 30)}, true,
             eTanDisplay::Picture);
         row("flicker code", cOfferedMethod{.Function = "914", .Technical = "HHD1.4OPT", .Name = "chipTAN"},
             cAskedTan{.HhdUc = "0248A0120452019980812345678"}, true, eTanDisplay::Flicker);

@@ -9,7 +9,7 @@ namespace {
 
 const QByteArray code14 = QByteArrayLiteral("0248A0120452019980812345678");
 const QByteArray code13 = QByteArrayLiteral("24088715131306389726041,00");
-const QByteArray picture("\x00\x09image/png\x00\x08\x89PNG\r\n\x1a\n", 21);
+const QByteArray picture("\x00\x09image/png\x00\x0c\x89PNG\r\n\x1a\nIEND", 25);
 
 // A procedure as its row in the bank's parameters names it: "technical identification/agreed name/its version".
 TanVerfahrenItem Method(const QString& row)
@@ -120,16 +120,18 @@ private Q_SLOTS:
     void PictureComesWithItsType_data()
     {
         const cTestRows<QByteArray, QByteArray, QString> row("data", "file", "type");
-        const QByteArray png("\x89PNG\r\n\x1a\n", 8);
+        const QByteArray png("\x89PNG\r\n\x1a\nIEND", 12);
         row("framed", picture, png, u"image/png"_s);
         row("five bytes",
-            QByteArray("\x00\x09image/png\x00\x05"
+            QByteArray("\x00\x09image/xyz\x00\x05"
                        "abcde",
                        18),
-            "abcde", u"image/png"_s);
-        row("a wrong length", QByteArray("\x00\x09image/png\x00\x01\x89PNG\r\n\x1a\n", 21), png, u"image/png"_s);
+            "abcde", u"image/xyz"_s);
+        row("a wrong length", QByteArray("\x00\x09image/png\x00\x01\x89PNG\r\n\x1a\nIEND", 25), png, u"image/png"_s);
         row("a wrong type", QByteArray("\x00\x09image/png\x00\x06GIF89a", 19), "GIF89a", u"image/gif"_s);
         row("the file alone", QByteArray("\xff\xd8\xff\xe0", 4), QByteArray("\xff\xd8\xff\xe0", 4), u"image/jpeg"_s);
+        row("not what it is called", QByteArray("\x00\x09image/png\x00\x02<a", 15), {}, {});
+        row("cut", QByteArray("\x89PNG\r\n\x1a\nIDA", 11), {}, {});
         row("no picture", QByteArray("\x00\x09text/html\x00\x02<a", 15), {}, {});
         row("cut in its type", QByteArray("\x00\x09image/p", 9), {}, {});
         row("cut in its length", QByteArray("\x00\x09image/png\x00", 12), {}, {});

@@ -166,7 +166,9 @@ private Q_SLOTS:
         const cTestRows<QString, QString, QString> row("category", "type", "other");
         row("three levels", u"Auto:Benzin: Super"_s, u"Kategorie: Auto; Benzin - Super"_s, {});
         row("none", {}, {}, {});
-        row("transfer", u"[Sparen]/Urlaub"_s, u"Umbuchung: Sparen"_s, u"Sparen"_s);
+        row("transfer", u"[Sparen]"_s, u"Umbuchung: Sparen"_s, u"Sparen"_s);
+        row("transfer of a category", u"[Sparen]/Urlaub:Reisen"_s, u"Umbuchung: Sparen; Kategorie: Urlaub; Reisen"_s,
+            u"Sparen"_s);
         row("to itself", u"[Giro]"_s, u"Kategorie: Allgemein; Startguthaben"_s, {});
     }
 

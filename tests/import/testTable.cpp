@@ -473,13 +473,14 @@ private Q_SLOTS:
         options.Table.Map->Date = 1;
         options.Table.Map->Amount = 8;
         const cStatementRead read =
-            ReadText(u"Gruppe;Datum;Buchungsart;Kategorie;Konto;Zielkonto;Beschreibung;Intervall;Betrag\n"
-                     ";02.01.2026;Umbuchung;\"Geldanlage; Sparen\";Giro;Tagesgeld;'-5 %;Einmalig;850,00\n"
-                     ";03.01.2026;Umbuchung;;Giro;;ohne Ziel;Einmalig;850,00\n"
+            ReadText(u"Gruppe;Datum;Buchungsart;Kategorie;Konto;Zielkonto;Beschreibung;Bezahlt von;Betrag\n"
+                     ";02.01.2026;Umbuchung;\"Geldanlage; Sparen\";Giro;Tagesgeld;'-5 %;Anna;850,00\n"
+                     ";03.01.2026;Umbuchung;;Giro;;ohne Ziel;;850,00\n"
                      ";;;;;;;Summe;850,00\n"_s,
                      options);
         QCOMPARE(Brief(read), QStringList({u"2026-01-02 -850.00 Giro"_s, u"2026-01-02 850.00 Tagesgeld"_s}));
-        QCOMPARE(read.Entries.constFirst().ImportType, u"Umbuchung: Tagesgeld; Kategorie: Geldanlage; Sparen"_s);
+        QCOMPARE(read.Entries.constFirst().ImportType,
+                 u"Umbuchung: Tagesgeld; Kategorie: Geldanlage; Sparen; Bezahlt von: Anna"_s);
         QCOMPARE(read.Entries.constFirst().ImportBeneficiary, u"-5 %"_s);
         QCOMPARE(read.Skipped.value(0).Reason.Line, 3);
     }

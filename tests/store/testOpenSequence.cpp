@@ -297,6 +297,35 @@ private Q_SLOTS:
         QCOMPARE(machine.Others(), QStringList());
     }
 
+    void IncompleteFile_data() const
+    {
+        const cTestRows<QString, QString> row("sql", "lost");
+        row("a table", u"DROP TABLE import"_s, u"Tabelle import"_s);
+        row("columns", u"ALTER TABLE data DROP COLUMN EntryCategory; ALTER TABLE template DROP COLUMN TemplateName"_s,
+            u"Spalte data.EntryCategory, Spalte template.TemplateName"_s);
+        row("a column of a table that comes with the upgrade", u"CREATE TABLE datamod (ID INTEGER PRIMARY KEY)"_s,
+            u"Spalte datamod.EntryRelation, Spalte datamod.EntryModType, Spalte datamod.EntryStartDate, Spalte "
+            u"datamod.EntryEndDate, Spalte datamod.EntryValue, Spalte datamod.EntryComment"_s);
+    }
+
+    void IncompleteFile() const
+    {
+        QFETCH(const QString, sql);
+        QFETCH(const QString, lost);
+        cMachine machine;
+        machine.file.Make(oneEntry + sql.toStdString());
+        const QByteArray before = cTestFile::Bytes(machine.Path());
+        QCOMPARE(machine.Run(), eOpenResult::OpenedReadOnly);
+        cDataAccess data(machine.Database, machine.User);
+        QCOMPARE(data.GetMissingParts().join(u", "_s), lost);
+        QCOMPARE(data.GetFaultyEntries(QDate(2026, 3, 15)).value_or(QList<cFaultyEntry>()).size(), 1);
+        QVERIFY(data.GetCategorySums({}).isEmpty() && data.GetImportEntries().isEmpty());
+        QCOMPARE(machine.User.Asked + machine.User.Shown, QStringList());
+        machine.Database.Close();
+        QVERIFY(cTestFile::Bytes(machine.Path()) == before);
+        QCOMPARE(machine.Others(), QStringList());
+    }
+
     void CopyBeforeUpgrade_data() const
     {
         const cTestRows<QString, eOrigin, bool> row("sql", "origin", "isCopied");

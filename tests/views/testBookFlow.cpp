@@ -76,13 +76,14 @@ private Q_SLOTS:
 
     void DamagedBook_data() const
     {
-        const cTestRows<bool, int, QString> row("hasCopy", "chosen", "restored");
-        row("the newest sound copy", true, 0, u"Sicherungen/data-auto-2026-03-13.backup"_s);
-        row("another one", true, 1, u"my.backup"_s);
-        row("only reading", true, 2, {});
-        row("no copy, another one", false, 0, u"my.backup"_s);
-        row("no copy, only reading", false, 1, {});
-        row("giving up", false, -1, {});
+        const cTestRows<bool, int, QString, QString> row("hasCopy", "chosen", "restored", "sql");
+        row("the newest sound copy", true, 0, u"Sicherungen/data-auto-2026-03-13.backup"_s, {});
+        row("another one", true, 1, u"my.backup"_s, {});
+        row("only reading", true, 2, {}, {});
+        row("no copy, another one", false, 0, u"my.backup"_s, {});
+        row("no copy, only reading", false, 1, {}, {});
+        row("giving up", false, -1, {}, {});
+        row("incomplete", true, 0, u"Sicherungen/data-auto-2026-03-13.backup"_s, u"DROP TABLE template"_s);
     }
 
     void DamagedBook()
@@ -90,8 +91,11 @@ private Q_SLOTS:
         QFETCH(const bool, hasCopy);
         QFETCH(const int, chosen);
         QFETCH(const QString, restored);
+        QFETCH(const QString, sql);
+        m_machine->Book.Database().ExecuteScript(sql.toStdString());
         QVERIFY(QDir(m_machine->File.Folder()).mkpath(u"Sicherungen"_s));
-        cTestFile::Write(m_machine->Path(u"Sicherungen/data-auto-2026-03-14.backup"_s), "damaged too");
+        cTestFile::Write(m_machine->Path(u"Sicherungen/data-auto-2026-03-15.backup"_s), "damaged too");
+        (void)m_machine->File.Make("DROP TABLE import", u"Sicherungen/data-auto-2026-03-14.backup"_s);
         for (const QString& day : {u"12"_s, u"13"_s}) {
             if (hasCopy) {
                 (void)m_machine->File.Make(oneEntry, u"Sicherungen/data-auto-2026-03-%1.backup"_s.arg(day));
@@ -101,7 +105,8 @@ private Q_SLOTS:
         m_machine->User.Decisions = {chosen};
         m_machine->User.Answers = {eAnswer::Yes};
         m_machine->Flow.TellDamage();
-        QVERIFY(m_machine->User.Asked[0].contains(u"ist beschädigt"_s));
+        QVERIFY(
+            m_machine->User.Asked[0].contains(sql.isEmpty() ? u"ist beschädigt"_s : u"Es fehlt: Tabelle template\n"_s));
         QCOMPARE(m_machine->User.Asked[0].contains(u"ist vom 13.03.2026. Sie enthält:\n1 Eintrag"_s), hasCopy);
         QCOMPARE(m_machine->Host.Restored, restored.isEmpty() ? QString() : m_machine->Path(restored));
     }

@@ -1,5 +1,6 @@
 #include "base/cProgress.h"
 #include "import/zip/modZip.h"
+#include "model/modReceiptName.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "support/cNoRoom.h"
@@ -203,6 +204,18 @@ private Q_SLOTS:
                  u"01.03.2026;Ausgabe;Auto;Girokonto;"_s + field + u";Einmalig;-1,00\r"_s);
     }
 
+    void PayerAndReceiptsHaveColumns()
+    {
+        cEntryListModel::cContent content = Content();
+        modPeople::SetPayer(content.Entries[1], u"Anna"_s);
+        modReceiptName::Set(content.Entries[3], {u"a.pdf"_s, u"b.pdf"_s});
+        m_model->SetContent(content, {}, modWord::KeineGruppierung);
+        const QStringList lines = Lines(modExport::eFormat::Csv);
+        QVERIFY(lines.at(0).endsWith(u";Intervall;Bezahlt von;Belege;Betrag\r"_s));
+        QVERIFY(lines.at(2).endsWith(u";Monatlich, korrigiert;Anna;;-1234,56\r"_s));
+        QVERIFY(lines.at(lines.size() - 2).endsWith(u";Einmalig;;\"a.pdf; b.pdf\";-0,05\r"_s));
+    }
+
     void XlsxHoldsDatesAndNumbers()
     {
         const cTable table(Bytes(modExport::eFormat::Xlsx));
@@ -324,7 +337,7 @@ private Q_SLOTS:
         m_model->SetContent(Content(u"Sparkonto"_s), {}, modWord::KeineGruppierung);
         m_model->SetFilter(u"Rücklage"_s);
         QCOMPARE(QString::fromUtf8(Bytes(modExport::eFormat::Qif)),
-                 u"!Type:Bank\nD02.03.2026\nT100.00\nPRücklage\nL[Girokonto]\n^\n"_s);
+                 u"!Type:Bank\nD02.03.2026\nT100.00\nPRücklage\nL[Girokonto]/Geldanlage\n^\n"_s);
     }
 
     void QifOfAllAccounts()
@@ -333,10 +346,10 @@ private Q_SLOTS:
                  u"!Account\nNGirokonto\nTBank\n^\n!Type:Bank\n"
                  "D27.02.2026\nT2500.00\nPLohn; \"Februar\"\nLEinkommen:Lohn - Gehalt\n^\n"
                  "D01.03.2026\nT-1234.56\nP=1+1 <b>\nMMonatlich, Nachzahlung\nLWohnung:Miete\n^\n"
-                 "D02.03.2026\nT-100.00\nPRücklage\nL[Sparkonto]\n^\n"
+                 "D02.03.2026\nT-100.00\nPRücklage\nL[Sparkonto]/Geldanlage\n^\n"
                  "D09.03.2026\nT-0.05\nPzwei Zeilen\n^\n"
                  "!Account\nNSparkonto\nTBank\n^\n!Type:Bank\n"
-                 "D02.03.2026\nT100.00\nPRücklage\nL[Girokonto]\n^\n"_s);
+                 "D02.03.2026\nT100.00\nPRücklage\nL[Girokonto]/Geldanlage\n^\n"_s);
     }
 
     void FormatComesFromTheEnding_data()

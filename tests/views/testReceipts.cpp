@@ -1,11 +1,15 @@
+#include "base/cProgress.h"
 #include "core/modReceiptFolder.h"
 #include "model/modFlags.h"
 #include "model/modReceiptName.h"
 #include "model/modSettingKey.h"
 #include "support/cFakeDesk.h"
 #include "support/cTestClass.h"
+#include "support/cTestFile.h"
+#include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
+#include "views/export/cEntryExport.h"
 #include "views/list/cEntryListModel.h"
 #include "views/receipt/cReceiptListModel.h"
 #include "views/receipt/cReceipts.h"
@@ -351,6 +355,32 @@ private Q_SLOTS:
         QVERIFY(modReceiptFolder::Save(scene.Book.Path(), backup).startsWith(u"Der Beleg '1.pdf' konnte nicht"_s));
         const QDir copies(modReceiptFolder::CopyOf(scene.Book.Path(), backup));
         QCOMPARE(copies.entryList(QDir::Files | QDir::Hidden, QDir::Name), (QStringList{first, u"z.pdf"_s}));
+    }
+
+    void ExportOffersThem_data()
+    {
+        const cTestRows<eAnswer> row("answer");
+        row("wanted", eAnswer::Yes);
+        row("not wanted", eAnswer::No);
+    }
+
+    void ExportOffersThem()
+    {
+        QFETCH(const eAnswer, answer);
+        cScene scene;
+        QVERIFY(scene.Receipts.Add(scene.Entry, {{scene.File(u"a.pdf"_s, "eins")}}));
+        cEntryItem entry = scene.Book.Data.LoadEntry(scene.Entry).value_or(cEntryItem{});
+        cEntryExtract extract;
+        extract.Rows = {{entry, 100, 100, {}}};
+        modReceiptName::Set(entry, {first, u"gone.pdf"_s});
+        extract.Rows.push_back({entry, 100, 100, {}});
+        scene.Book.User.SavePath = scene.Outside.filePath(u"2026.csv"_s);
+        scene.Book.User.Answers = {answer};
+        cNoProgress progress;
+        (void)cEntryExport(scene.Book.Tools, progress).Run(extract, u"Einträge"_s, QDate(2026, 3, 15));
+        const bool isWanted = answer == eAnswer::Yes;
+        QCOMPARE(cTestFile::Bytes(scene.Outside.filePath(u"2026-Belege/"_s + first)), isWanted ? "eins" : "");
+        QCOMPARE(scene.Book.User.Shown.constLast().contains(u"'gone.pdf' fehlt"_s), isWanted);
     }
 
     void LinkToABookHasItsReceipts()

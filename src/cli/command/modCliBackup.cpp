@@ -68,14 +68,13 @@ int RunRestore(const cCliContext& context)
 {
     const QString backup = FullPath(context.Call.Arguments().constFirst());
     const QString path = cBookAccess::PathFor(context.Call.Value(u"database"_s), context.Ports.Registry, context.Shell);
-    const QString content = modBookCopy::Describe(backup);
-    if (content.isEmpty()) {
-        return Refuse(cText::Tr("Die Datensicherung '{0}' ist beschädigt oder keine gültige Datenbank.", {backup}));
+    if (const QString refusal = modBookCopy::Refusal(backup); !refusal.isEmpty()) {
+        return Refuse(refusal);
     }
     if (modBookCopy::IsSameFile(backup, path)) {
         return Refuse(cText::Tr("'{0}' ist die Datenbank selbst.", {path}));
     }
-    modConsole::Out(cText::Tr("Datensicherung  {0}", {Line(backup, content)}));
+    modConsole::Out(cText::Tr("Datensicherung  {0}", {Line(backup, modBookCopy::Describe(backup))}));
     modConsole::Out(context.Shell.FileExists(path)
                         ? cText::Tr("Datenbank       {0}", {Line(path, modBookCopy::Describe(path))})
                         : cText::Tr("Datenbank       {0}: gibt es noch nicht\n", {path}));

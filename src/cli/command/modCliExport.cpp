@@ -60,7 +60,10 @@ int RunExport(const cCliContext& context)
     }
     cNoProgress progress;
     cEntryExport writer(context.Book->Tools, progress);
-    if (writer.WriteFile(Extract(context, selection), *format, path) != cEntryExport::eDone::Written) {
+    const cEntryExtract extract = Extract(context, selection);
+    const bool isDone = writer.WriteFile(extract, *format, path) == cEntryExport::eDone::Written
+        && (!context.Call.Has(u"receipts"_s) || writer.CopyReceipts(extract, path) == cEntryExport::eDone::Written);
+    if (!isDone) {
         return modExit::Failed;
     }
     modConsole::Out(cText::Tr("{0} nach '{1}' exportiert.", {modCount::Entries(selection.Entries.size()), path})
@@ -81,7 +84,11 @@ cCliCommand modCliCommands::ExportCommand()
             .MaxArguments = 1,
             .Options = QList<cCliOption>{{u"format"_s, u"FORMAT"_s,
                                           cText::Tr("csv, xlsx, html oder qif; ohne Angabe entscheidet die Endung der "
-                                                    "Datei")}}
+                                                    "Datei")},
+                                         {u"receipts"_s,
+                                          {},
+                                          cText::Tr("kopiert die Belege der Einträge in den Ordner \"NAME-Belege\" "
+                                                    "neben der Datei")}}
                 + modCliSelection::Options(),
             .Run = RunExport};
 }

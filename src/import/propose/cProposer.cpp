@@ -14,6 +14,7 @@
 #include "import/stage/cBookCategories.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modCutText.h"
+#include "model/modPeople.h"
 #include "model/modRecurrence.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
@@ -173,6 +174,7 @@ cEntryItem EntryOf(const cImportEntry& row)
     entry.EntryValue = std::abs(row.ImportValue);
     entry.EntryType = row.ImportValue > 0 ? modWord::Einnahme : modWord::Ausgabe;
     entry.EntryDescription = DescriptionOf(row);
+    modPeople::SetPayer(entry, modBookRow::PayerOf(row));
     return entry;
 }
 

@@ -303,6 +303,12 @@ QString AccountIn(const QString& category)
     return end < 0 ? QString() : category.mid(1, end - 1).trimmed();
 }
 
+// What stands behind it: nothing else than a class has its place there, and books use it for the category.
+QString ClassOf(const QString& transfer)
+{
+    return transfer.mid(transfer.indexOf(u']') + 1).section(u'/', 1, 1);
+}
+
 // Of a file that lists no accounts, the first record tells which one it is about: what this held in the beginning.
 QString AccountByOpening(const QList<cRecord>& records)
 {
@@ -465,7 +471,7 @@ private:
         } else if (other == own || other == entry.ImportAccount) {
             entry.ImportType = modBookRow::CategoryText(modWord::Startguthaben);
         } else {
-            modBookRow::MakeTransfer(entry, other, {});
+            modBookRow::MakeTransfer(entry, other, modBookRow::PathOf(ClassOf(category)));
         }
         m_read.IsBook = m_read.IsBook || !entry.ImportType.isEmpty();
     }

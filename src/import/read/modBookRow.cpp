@@ -8,6 +8,15 @@ namespace {
 
 constexpr auto categoryMark = "Kategorie: "_L1;
 constexpr auto transferMark = "Umbuchung: "_L1;
+constexpr auto payerMark = "Bezahlt von: "_L1;
+
+qsizetype PayerAt(const QString& text)
+{
+    const QString mark = u"; "_s + payerMark;
+    const qsizetype at = text.lastIndexOf(mark);
+    const bool isBook = text.startsWith(categoryMark) || text.startsWith(transferMark); // of a bank it is its word
+    return text.startsWith(payerMark) ? 0 : isBook ? at : -1;
+}
 
 } // namespace
 
@@ -33,9 +42,22 @@ void modBookRow::MakeTransfer(cImportEntry& row, const QString& other, const QSt
     row.ImportType = transferMark + other + (path.isEmpty() ? QString() : u"; "_s + CategoryText(path));
 }
 
+void modBookRow::AddPayer(cImportEntry& row, const QString& name)
+{
+    if (!name.isEmpty()) {
+        row.ImportType += (row.ImportType.isEmpty() ? QString() : u"; "_s) + payerMark + name;
+    }
+}
+
+QString modBookRow::PayerOf(const cImportEntry& row)
+{
+    const qsizetype at = PayerAt(row.ImportType);
+    return at < 0 ? QString() : row.ImportType.mid(row.ImportType.indexOf(payerMark, at) + payerMark.size());
+}
+
 bool modBookRow::IsBook(const cImportEntry& row)
 {
-    return IsTransfer(row) || !CategoryOf(row).isEmpty();
+    return IsTransfer(row) || !CategoryOf(row).isEmpty() || !PayerOf(row).isEmpty();
 }
 
 bool modBookRow::IsTransfer(const cImportEntry& row)
@@ -56,5 +78,6 @@ QString modBookRow::CategoryOf(const cImportEntry& row)
 {
     const QString start = IsTransfer(row) ? transferMark + row.ImportBeneficiaryAccount + u"; "_s : QString();
     const QString mark = start + categoryMark;
-    return row.ImportType.startsWith(mark) ? row.ImportType.mid(mark.size()) : QString();
+    const QString text = row.ImportType.left(PayerAt(row.ImportType));
+    return text.startsWith(mark) ? text.mid(mark.size()) : QString();
 }

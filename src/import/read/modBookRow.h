@@ -5,7 +5,7 @@
 #include <QString>
 
 // Rows of another household book rather than of a bank. What such a book says about them stands in their booking text:
-// "Kategorie: Auto; Benzin", "Umbuchung: Sparkonto; Kategorie: Geldanlage; Sparen".
+// "Kategorie: Auto; Benzin", "Umbuchung: Sparkonto; Kategorie: Geldanlage; Sparen; Bezahlt von: Anna".
 namespace modBookRow {
 
 // The path of an entry for "Auto:Benzin", as other programs write it. The book knows two levels, so further ones go
@@ -16,6 +16,10 @@ namespace modBookRow {
 
 // A transfer: the name of the other account goes where banks have its number. The path may be empty.
 void MakeTransfer(cImportEntry& row, const QString& other, const QString& path);
+
+// Behind all else; nothing for an empty name.
+void AddPayer(cImportEntry& row, const QString& name);
+[[nodiscard]] QString PayerOf(const cImportEntry& row);
 
 [[nodiscard]] bool IsBook(const cImportEntry& row);
 [[nodiscard]] bool IsTransfer(const cImportEntry& row);

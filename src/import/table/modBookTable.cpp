@@ -16,13 +16,34 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-enum eColumn { Day, Kind, Category, Account, Description, Amount, Target, Count }; // the target only with transfers
+// From the target on only where a row has one
+enum eColumn { Day, Kind, Category, Account, Description, Amount, Target, Payer, Count };
 
-constexpr std::array<const char*, Count> titles{
-    QT_TRANSLATE_NOOP("cText", "Datum"),        QT_TRANSLATE_NOOP("cText", "Buchungsart"),
-    QT_TRANSLATE_NOOP("cText", "Kategorie"),    QT_TRANSLATE_NOOP("cText", "Konto"),
-    QT_TRANSLATE_NOOP("cText", "Beschreibung"), QT_TRANSLATE_NOOP("cText", "Betrag"),
-    QT_TRANSLATE_NOOP("cText", "Zielkonto")};
+// A book may change its language between a file and the next. What English calls them has to be known without its
+// catalogue.
+struct cWord
+{
+    const char* German;
+    const char* English;
+};
+
+constexpr std::array<cWord, Count> titles{{{"Datum", "Date"},
+                                           {"Buchungsart", "Entry type"},
+                                           {"Kategorie", "Category"},
+                                           {"Konto", "Account"},
+                                           {"Beschreibung", "Description"},
+                                           {"Betrag", "Amount"},
+                                           {"Zielkonto", "Target account"},
+                                           {"Bezahlt von", "Paid by"}}};
+constexpr std::array kinds{cWord{"Einnahme", "Income"}, cWord{"Ausgabe", "Expense"}, cWord{"Umbuchung", "Transfer"}};
+
+// The stored word for a kind of entry; other texts as they are.
+QString KindOf(const QString& text)
+{
+    const auto* const kind = std::find_if(kinds.begin(), kinds.end(),
+                                          [&](const cWord& word) { return text == QLatin1StringView(word.English); });
+    return kind == kinds.end() ? modWord::EntryTypes().ToStored(text) : QString::fromUtf8(kind->German);
+}
 
 using cColumns = std::array<qsizetype, Count>;
 
@@ -31,8 +52,9 @@ cColumns ColumnsOf(const cTable& table, const cTableLayout& layout)
     const QStringList names =
         layout.HeaderRow < 0 || layout.HeaderRow >= table.RowCount() ? QStringList() : table.Row(layout.HeaderRow);
     cColumns columns{};
-    std::transform(titles.begin(), titles.end(), columns.begin(), [&](const char* title) {
-        return std::max(names.indexOf(QString::fromUtf8(title)), names.indexOf(cText::Tr(title)));
+    std::transform(titles.begin(), titles.end(), columns.begin(), [&](const cWord& title) {
+        return std::max({names.indexOf(QString::fromUtf8(title.German)),
+                         names.indexOf(QString::fromUtf8(title.English)), names.indexOf(cText::Tr(title.German))});
     });
     return columns;
 }
@@ -51,7 +73,7 @@ bool HasOurKinds(const cTable& table, int firstRow, int column)
     for (int row = firstRow; row < table.RowCount(); ++row) {
         const QString kind = table.Cell(row, column).toString();
         if (!kind.isEmpty()) {
-            ++(modWord::EntryTypes().Contains(modWord::EntryTypes().ToStored(kind)) ? ours : others);
+            ++(modWord::EntryTypes().Contains(KindOf(kind)) ? ours : others);
         }
     }
     return ours >= others;
@@ -95,7 +117,7 @@ private:
         const std::optional<double> value = modTableValue::ReadAmount(Cell(row, Amount), eNumberFormat::German);
         TakeDescription(Cell(row, Description), entry);
         entry.ImportValue = modAmount::ToEvenCents(value.value_or(0.0));
-        const QString kind = modWord::EntryTypes().ToStored(Cell(row, Kind));
+        const QString kind = KindOf(Cell(row, Kind));
         const bool isTransfer = kind == modWord::Umbuchung;
         if (!entry.ImportDate.isValid() || !value || entry.ImportAccount.isEmpty()
             || !modWord::EntryTypes().Contains(kind) || (isTransfer && Cell(row, Target).isEmpty())) {
@@ -105,6 +127,7 @@ private:
             TakeTransfer(row, entry);
         } else {
             entry.ImportType = modBookRow::CategoryText(Cell(row, Category));
+            modBookRow::AddPayer(entry, Cell(row, Payer));
             m_read.Entries.append(entry);
         }
     }
@@ -118,6 +141,8 @@ private:
         entry.ImportValue = -other.ImportValue;
         modBookRow::MakeTransfer(entry, other.ImportAccount, Cell(row, Category));
         modBookRow::MakeTransfer(other, entry.ImportAccount, Cell(row, Category));
+        modBookRow::AddPayer(entry, Cell(row, Payer));
+        modBookRow::AddPayer(other, Cell(row, Payer));
         m_read.Entries.append({entry, other});
     }
 

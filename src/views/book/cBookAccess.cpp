@@ -31,9 +31,8 @@ using eMode = cBookAccess::eMode;
 
 // A program that was killed in the middle of a write leaves a journal behind, which only a connection that may write
 // can roll back; so a file that cannot be read as it is gets a second try.
-eDatabaseFault Fault(const QString& path, eMode mode)
+eDatabaseFault Fault(cDatabase& probe, const QString& path, eMode mode)
 {
-    cDatabase probe;
     eDatabaseFault fault = eDatabaseFault::None;
     if (mode == eMode::Read) {
         fault = modSchema::OpenValid(probe, path, eOpenMode::ReadOnly);
@@ -47,6 +46,16 @@ eDatabaseFault Fault(const QString& path, eMode mode)
     return fault == eDatabaseFault::None ? probe.ProbeWrite() : fault;
 }
 
+QString Incompleteness(cDatabase& database)
+{
+    const QStringList lost = modSchema::Lost(database);
+    return lost.isEmpty()
+        ? QString()
+        : cText::Tr("Die Datenbank '{0}' ist unvollständig. Es fehlt: {1}. \"kontorelle-cli restore DATEI\" lädt eine "
+                    "Datensicherung, das Fenster von Kontorelle auch; mit --database nennen Sie eine andere Datei.",
+                    {database.Path(), lost.join(u", "_s)});
+}
+
 // What keeps the file from being opened, with what to do about it; empty when nothing does.
 QString Hindrance(const QString& path, eMode mode, const cShell& shell)
 {
@@ -57,8 +66,9 @@ QString Hindrance(const QString& path, eMode mode, const cShell& shell)
             "Aufruf ohne --database beginnt ein neues Buch.",
             {path});
     }
-    switch (Fault(path, mode)) {
-    case eDatabaseFault::None: return {};
+    cDatabase probe;
+    switch (Fault(probe, path, mode)) {
+    case eDatabaseFault::None: return Incompleteness(probe);
     case eDatabaseFault::Busy:
         return cText::Tr(
             "Die Datenbank '{0}' wird gerade von einem anderen Programm benutzt. Beenden Sie es, und versuchen "

@@ -14,6 +14,7 @@
 #include "core/modReceiptFolder.h"
 #include "core/modReceiptUse.h"
 #include "model/modSettingKey.h"
+#include "store/cDataAccess.h"
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
 #include "views/book/cBookHost.h"
@@ -43,12 +44,12 @@ cBackupPlan PlanOf(const cBookFlow::cParts& parts)
     return {{parts.Shell, parts.User, parts.Clock}, parts.Book, parts.Configuration};
 }
 
-std::optional<cBackupPlan::cCopy> NewestSound(const QList<cBackupPlan::cCopy>& copies)
+std::optional<cBackupPlan::cCopy> NewestGood(const QList<cBackupPlan::cCopy>& copies)
 {
-    const auto sound = std::find_if(copies.begin(), copies.end(), [](const cBackupPlan::cCopy& copy) {
-        return modBookFile::IsSound(modBookFile::Look(copy.Path));
+    const auto good = std::find_if(copies.begin(), copies.end(), [](const cBackupPlan::cCopy& copy) {
+        return modBookFile::Refusal(copy.Path, modBookFile::Look(copy.Path)).isEmpty();
     });
-    return sound == copies.end() ? std::nullopt : std::optional(*sound);
+    return good == copies.end() ? std::nullopt : std::optional(*good);
 }
 
 } // namespace
@@ -275,7 +276,7 @@ QDate cBookFlow::NewestCopyDay() const
 
 void cBookFlow::LoadNewestCopy()
 {
-    const std::optional<cBackupPlan::cCopy> copy = NewestSound(PlanOf(m_parts).Copies());
+    const std::optional<cBackupPlan::cCopy> copy = NewestGood(PlanOf(m_parts).Copies());
     if (!copy) {
         LoadBackup();
     } else if (IsWanted(copy->Path)) {
@@ -285,7 +286,7 @@ void cBookFlow::LoadNewestCopy()
 
 void cBookFlow::TellDamage()
 {
-    const std::optional<cBackupPlan::cCopy> copy = NewestSound(PlanOf(m_parts).Copies());
+    const std::optional<cBackupPlan::cCopy> copy = NewestGood(PlanOf(m_parts).Copies());
     QStringList options{cText::Tr("&Andere Sicherung wählen …"), cText::Tr("&Nur lesen")};
     QString offer =
         cText::Tr("Eine unbeschädigte Sicherung liegt nicht im Ordner '{0}'.", {Shown(PlanOf(m_parts).Folder())});
@@ -294,12 +295,21 @@ void cBookFlow::TellDamage()
         offer = cText::Tr("Die neueste unbeschädigte Sicherung ist vom {0}. Sie enthält:\n{1}.",
                           {modDate::ToText(copy->Day), modBookFile::Describe(modBookFile::Look(copy->Path))});
     }
+    const QString file = Shown(m_parts.Book.Path());
+    const QStringList lost = m_parts.Book.Data().GetMissingParts();
     const int chosen = m_parts.User.Decide(
-        {.Text = cText::Tr("Die Datei der Datenbank '{0}' ist beschädigt. Was Sie sehen, kann unvollständig sein, und "
-                           "es wird nichts mehr gespeichert.\n\n{1}\n\nMöchten Sie eine Datensicherung laden? Die "
-                           "beschädigte Datei bleibt unter anderem Namen erhalten.",
-                           {Shown(m_parts.Book.Path()), offer}),
-         .Title = cText::Tr("Die Datenbank ist beschädigt"),
+        {.Text = lost.isEmpty()
+             ? cText::Tr("Die Datei der Datenbank '{0}' ist beschädigt. Was Sie sehen, kann unvollständig sein, und "
+                         "es wird nichts mehr gespeichert.\n\n{1}\n\nMöchten Sie eine Datensicherung laden? Die "
+                         "beschädigte Datei bleibt unter anderem Namen erhalten.",
+                         {file, offer})
+             : cText::Tr("Die Datei der Datenbank '{0}' ist unvollständig. Es fehlt: {1}\nWas Sie sehen, stimmt "
+                         "deshalb nur zum Teil, und es wird nichts gespeichert.\n\n{2}\n\nMöchten Sie eine "
+                         "Datensicherung laden? Die "
+                         "unvollständige Datei bleibt unter anderem Namen erhalten.",
+                         {file, lost.join(u", "_s), offer}),
+         .Title =
+             lost.isEmpty() ? cText::Tr("Die Datenbank ist beschädigt") : cText::Tr("Die Datenbank ist unvollständig"),
          .Options = options,
          .Tone = eTone::Exclamation});
     if (copy && chosen == 0) {
@@ -313,10 +323,8 @@ void cBookFlow::TellDamage()
 bool cBookFlow::IsWanted(const QString& backup) const
 {
     const modBookFile::cContent content = modBookFile::Look(backup);
-    if (!modBookFile::IsSound(content)) {
-        m_parts.User.Show(
-            eTone::Exclamation,
-            cText::Tr("Die Datensicherung '{0}' ist beschädigt oder keine gültige Datenbank.", {Shown(backup)}));
+    if (const QString refusal = modBookFile::Refusal(Shown(backup), content); !refusal.isEmpty()) {
+        m_parts.User.Show(eTone::Exclamation, refusal);
         return false;
     }
     const QString book = m_parts.Book.Path();

@@ -53,6 +53,11 @@ int FillDemo(const QString& path, const modDemo::cDemoPlan& plan, cUser& user, c
 
 } // namespace
 
+QString modBookCopy::Refusal(const QString& backup)
+{
+    return modBookFile::Refusal(backup, modBookFile::Look(backup));
+}
+
 QString modBookCopy::Describe(const QString& path)
 {
     const modBookFile::cContent content = modBookFile::Look(path);

@@ -13,6 +13,9 @@ namespace modBookCopy {
 // "120 Einträge, der letzte vom 12.03.2026, Datei vom 13.03.2026 18:05"; empty for what is damaged or no book.
 [[nodiscard]] QString Describe(const QString& path);
 
+// Why it may not take the place of a book, in words for the user; empty when it may.
+[[nodiscard]] QString Refusal(const QString& backup);
+
 [[nodiscard]] bool IsSameFile(const QString& one, const QString& other);
 
 // That another program has the book, who, and what to do about it.

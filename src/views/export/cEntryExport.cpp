@@ -5,9 +5,12 @@
 #include "base/cUser.h"
 #include "base/modDate.h"
 #include "core/cBookTools.h"
+#include "core/modReceiptFolder.h"
+#include "store/cDataAccess.h"
 #include "views/list/modFileWrite.h"
 
 #include <QDir>
+#include <QFileInfo>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -39,8 +42,37 @@ cEntryExport::eDone cEntryExport::Run(const cEntryExtract& extract, const QStrin
                               ? cText::Tr("1 Eintrag wurde nach '{0}' exportiert.", {name})
                               : cText::Tr("{0} Einträge wurden nach '{1}' exportiert.", {count, name}),
                           title);
+        OfferReceipts(extract, path);
     }
     return done;
+}
+
+void cEntryExport::OfferReceipts(const cEntryExtract& extract, const QString& path)
+{
+    const qsizetype count = extract.Receipts().size();
+    if (count == 0) {
+        return;
+    }
+    const eAnswer answer = m_tools.User.Ask(
+        {.Text = cText::Tr("An diesen Einträgen hängen Belege (Zahl der Dateien: {0}). Möchten Sie sie in den Ordner "
+                           "'{1}' kopieren?",
+                           {QString::number(count), QDir::toNativeSeparators(ReceiptFolder(path))}),
+         .Title = cText::Tr("Daten exportieren")});
+    if (answer == eAnswer::Yes) {
+        (void)CopyReceipts(extract, path); // of a failure the user has been told
+    }
+}
+
+QString cEntryExport::ReceiptFolder(const QString& path)
+{
+    const QFileInfo file(path);
+    return file.absolutePath() + u'/' + file.completeBaseName() + u"-Belege"_s;
+}
+
+cEntryExport::eDone cEntryExport::CopyReceipts(const cEntryExtract& extract, const QString& path)
+{
+    const QString problem = modReceiptFolder::CopyTo(ReceiptFolder(path), m_tools.Data.BookPath(), extract.Receipts());
+    return problem.isEmpty() ? eDone::Written : Refuse(problem);
 }
 
 cEntryExport::eDone cEntryExport::WriteFile(const cEntryExtract& extract, modExport::eFormat format,

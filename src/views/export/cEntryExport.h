@@ -22,7 +22,13 @@ public:
     // new one is complete.
     [[nodiscard]] eDone WriteFile(const cEntryExtract& extract, modExport::eFormat format, const QString& path);
 
+    // Copies the receipts of the entries into a folder beside the exported file and shows a message when one of them is
+    // not there then.
+    [[nodiscard]] eDone CopyReceipts(const cEntryExtract& extract, const QString& path);
+    [[nodiscard]] static QString ReceiptFolder(const QString& path); // "<name>-Belege"
+
 private:
+    void OfferReceipts(const cEntryExtract& extract, const QString& path);
     [[nodiscard]] eDone Refuse(const QString& text);
 
     const cBookTools& m_tools;

@@ -1,6 +1,8 @@
 #include "views/export/cEntryExtract.h"
 
 #include "model/modBalance.h"
+#include "model/modPeople.h"
+#include "model/modReceiptName.h"
 #include "model/modWord.h"
 #include "views/list/cEntryListModel.h"
 
@@ -28,6 +30,24 @@ bool cEntryExtract::HasTransfers() const
 {
     return std::any_of(Rows.begin(), Rows.end(),
                        [](const cRow& row) { return row.Entry.EntryType == modWord::Umbuchung; });
+}
+
+bool cEntryExtract::HasPayers() const
+{
+    return std::any_of(Rows.begin(), Rows.end(),
+                       [](const cRow& row) { return !modPeople::Payer(row.Entry).isEmpty(); });
+}
+
+QStringList cEntryExtract::Receipts() const
+{
+    QStringList names;
+    for (const cRow& row : Rows) {
+        if (modReceiptName::Count(row.Entry) > 0) {
+            names += modReceiptName::Of(row.Entry);
+        }
+    }
+    names.removeDuplicates();
+    return names;
 }
 
 cEntryExtract cEntryExtract::From(const cEntryListModel& model)

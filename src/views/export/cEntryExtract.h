@@ -42,6 +42,8 @@ struct cEntryExtract
     [[nodiscard]] qint64 Total() const { return Start.value_or(0) + Income - Expense; }
     [[nodiscard]] bool HasBalances() const;
     [[nodiscard]] bool HasTransfers() const;
+    [[nodiscard]] bool HasPayers() const;
+    [[nodiscard]] QStringList Receipts() const; // the names of the files, each once
 
     // What the model shows at the moment. Title and view are left to the caller.
     [[nodiscard]] static cEntryExtract From(const cEntryListModel& model);

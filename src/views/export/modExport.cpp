@@ -3,6 +3,8 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/modDate.h"
+#include "model/modPeople.h"
+#include "model/modReceiptName.h"
 #include "model/modWord.h"
 
 #include <QFileInfo>
@@ -119,6 +121,14 @@ std::vector<modExport::cColumn> modExport::Columns(const cEntryExtract& extract)
     columns.push_back({QT_TRANSLATE_NOOP("cText", "Beschreibung"), eContent::Text, 45,
                        [](const cRow& row) { return row.Entry.EntryDescription; }});
     columns.push_back({QT_TRANSLATE_NOOP("cText", "Intervall"), eContent::Text, 16, IntervalText});
+    if (extract.HasPayers()) {
+        columns.push_back({QT_TRANSLATE_NOOP("cText", "Bezahlt von"), eContent::Text, 14,
+                           [](const cRow& row) { return modPeople::Payer(row.Entry); }});
+    }
+    if (!extract.Receipts().isEmpty()) {
+        columns.push_back({QT_TRANSLATE_NOOP("cText", "Belege"), eContent::Text, 30,
+                           [](const cRow& row) { return modReceiptName::Of(row.Entry).join(u"; "_s); }});
+    }
     columns.push_back({QT_TRANSLATE_NOOP("cText", "Betrag"), eContent::Money, 14, nullptr,
                        [](const cRow& row) { return std::optional(row.Cents); }});
     if (extract.HasBalances()) {

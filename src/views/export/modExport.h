@@ -63,7 +63,7 @@ struct cColumn
     std::optional<qint64> (*Cents)(const cEntryExtract::cRow& row) = nullptr;
 };
 
-// The columns of the tables. Target account and balance are there only when a row has one.
+// The columns of the tables. Target account, payer, receipts and balance are there only when a row has one.
 [[nodiscard]] std::vector<cColumn> Columns(const cEntryExtract& extract);
 
 // One of the lines under a table.

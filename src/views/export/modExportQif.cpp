@@ -15,8 +15,9 @@ using namespace Qt::Literals::StringLiterals;
 // T  amount with a decimal point and without grouping, which every reader understands; its sign is the account's view
 // P  description, L  category with its levels joined by ":", M  what else the list says about the entry
 //
-// A transfer names the other account in brackets and stands in the section of each account that is exported, with
-// opposite signs: that is how the format keeps every account complete by itself, and how readers recognise the pair.
+// A transfer names the other account in brackets, with its category behind it as a class, and stands in the section of
+// each account that is exported, with opposite signs: that is how the format keeps every account complete by itself,
+// and how readers recognise the pair.
 
 namespace {
 
@@ -60,6 +61,12 @@ QByteArray Line(char letter, const QString& value)
     return value.isEmpty() ? QByteArray() : QByteArray(1, letter) + value.toUtf8() + '\n';
 }
 
+QString TransferText(const QString& other, const QString& path)
+{
+    const QString category = CategoryText(path);
+    return u'[' + AccountText(other) + u']' + (category.isEmpty() ? QString() : u'/' + category);
+}
+
 // The entry as the account sees it.
 QByteArray Record(const cEntryItem& entry, const QString& account)
 {
@@ -69,7 +76,7 @@ QByteArray Record(const cEntryItem& entry, const QString& account)
     return Line('D', modDate::ToGerman(entry.EntryDate))
         + Line('T', modAmount::CentsToText(comesIn ? entry.EntryValue : -entry.EntryValue))
         + Line('P', OneLine(entry.EntryDescription)) + Line('M', Memo(entry))
-        + Line('L', isTransfer ? u'[' + AccountText(other) + u']' : CategoryText(entry.EntryCategory)) + "^\n";
+        + Line('L', isTransfer ? TransferText(other, entry.EntryCategory) : CategoryText(entry.EntryCategory)) + "^\n";
 }
 
 // Records by account, the accounts in the order in which they come up.
