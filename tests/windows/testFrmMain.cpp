@@ -507,7 +507,7 @@ private Q_SLOTS:
         QVERIFY(accounts.viewport()->rect().contains(accounts.visualRect(total)));
         const auto& bar = *window.findChild<cViewBar*>();
         for (const QWidget* field : bar.findChildren<QLineEdit*>()) {
-            QVERIFY(bar.rect().contains(QRect(field->mapTo(&bar, QPoint()), field->size())));
+            QTRY_VERIFY(bar.rect().contains(QRect(field->mapTo(&bar, QPoint()), field->size())));
         }
         const int letters = m_scene->Tree().columnWidth(cEntryListModel::Description) / metrics.averageCharWidth();
         QVERIFY2(letters >= 11, qPrintable(QString::number(letters)));
