@@ -7,9 +7,9 @@ class QStyleHintReturn;
 class QStyleOption;
 class QWidget;
 
-// The style of the desktop with the program's own pictures for what overflowing bars and the filter's clear button
-// show. The style's own ones are read from files as soon as a bar is made, visible or not, and with them every image
-// plugin of the toolkit: a good part of the whole start.
+// The style of the desktop with the program's own pictures for what boxes, overflowing bars and the filter's clear
+// button show. The style's own ones are read from files as soon as a bar is made, visible or not, and with them every
+// image plugin of the toolkit: a good part of the whole start.
 class cStyle final : public QProxyStyle
 {
     Q_OBJECT
