@@ -26,7 +26,9 @@
 #include "support/testFormat.h"
 #include "views/export/modExport.h"
 #include "windows/print/cPrintable.h"
+#include "windows/print/modPages.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -46,6 +48,7 @@
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QTimer>
+#include <QToolBar>
 #include <QTranslator>
 
 #include <filesystem>
@@ -540,6 +543,17 @@ private Q_SLOTS:
         QCOMPARE(content.Painted, (QList<int>{2, 2, 1, 2, 3, 4, 5}));
     }
 
+    void PagesStopWhereTheUserDoes()
+    {
+        QTemporaryDir folder;
+        QPrinter printer;
+        PrintTo(printer, folder.filePath(u"a.pdf"_s));
+        cFivePages content;
+        cFakeStop stop(2);
+        QVERIFY(!modPages::Paint(printer, content, stop));
+        QCOMPARE(content.Painted, (QList<int>{1, 2}));
+    }
+
     void PreviewPrintsByKey()
     {
         cFivePages content;
@@ -547,6 +561,12 @@ private Q_SLOTS:
         QTimer::singleShot(0, this, [&] {
             QWidget* preview = QApplication::activeModalWidget();
             QVERIFY(QTest::qWaitForWindowActive(preview));
+            QCOMPARE(preview->findChild<QComboBox*>()->currentText().count(u" %"_s), 1);
+            int pictures = 0; // as many as the program has in their order
+            for (const QAction* action : preview->findChild<QToolBar*>()->actions()) {
+                pictures += action->icon().isNull() ? 0 : 1;
+            }
+            QCOMPARE(pictures, 15);
             QTimer::singleShot(0, this, [&, preview] {
                 QDialog* dialog = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
                 asked = dialog == nullptr ? QString() : dialog->windowTitle();

@@ -298,9 +298,10 @@ private Q_SLOTS:
     {
         const cTestRows<int, int, QList<int>> row("Rest", "Room", "Widths");
         row("what is left goes to cut texts, then to one", 1, 500, {90, 330, 80});
-        row("no more than there is", 1, 365, {85, 200, 80});
+        row("room without a text first", 1, 365, {90, 195, 80});
+        row("no more than there is", 1, 345, {85, 180, 80});
         row("or to none", -1, 500, {90, 200, 80});
-        row("the long text gives way first", 1, 250, {80, 97, 73});
+        row("the long text gives way first", 1, 250, {80, 96, 74});
         row("then the amount keeps what it needs", 1, 160, {52, 38, 70});
         row("below that the list scrolls", 1, 100, {30, 20, 70});
     }
@@ -309,7 +310,7 @@ private Q_SLOTS:
     {
         QFETCH(int, Rest);
         QFETCH(int, Room);
-        const QList<modColumnWidth::cColumn> columns{{80, 80, 30, 90}, {200, 60, 20}, {80, 60, 70}};
+        const QList<modColumnWidth::cColumn> columns{{80, 80, 30, 90}, {200, 60, 20, 180}, {80, 60, 70}};
         QTEST(modColumnWidth::Share(columns, Rest, Room), "Widths");
     }
 

@@ -1,15 +1,20 @@
 #include "app/machine/cQtPrinter.h"
 
+#include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "views/list/modFileWrite.h"
+#include "windows/look/modIcon.h"
 #include "windows/print/cPrintable.h"
 #include "windows/print/modPages.h"
+#include "windows/widget/cProgressBox.h"
 
 #include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QPrintDialog>
 #include <QPrinter>
 #include <QPrintPreviewDialog>
@@ -63,14 +68,31 @@ bool IsFile(const QPrinter& printer)
     return printer.outputFormat() == QPrinter::PdfFormat && !printer.outputFileName().isEmpty();
 }
 
-// What only the mouse reaches in the toolkit's window: its buttons, and the last of them, which prints.
-QAction* OpenToKeys(QPrintPreviewDialog& dialog)
+// The toolkit's window as the program's others are: its pictures, buttons that keys reach, and no point in a number.
+// The last of the buttons, which prints.
+QAction* Adapt(QPrintPreviewDialog& dialog)
 {
     const QList<QToolButton*> buttons = dialog.findChildren<QToolButton*>();
     for (QToolButton* button : buttons) {
         button->setFocusPolicy(Qt::TabFocus);
     }
-    QAction* print = dialog.findChild<QToolBar*>()->actions().constLast();
+    auto* bar = dialog.findChild<QToolBar*>();
+    bar->setMovable(false);
+    QStringList names{u"seitenbreite"_s, u"seite-ganz"_s, u"kleiner"_s,     u"groesser"_s,         u"hochformat"_s,
+                      u"querformat"_s,   u"anfang"_s,     u"vorige"_s,      u"naechste"_s,         u"ende"_s,
+                      u"seite-eine"_s,   u"seite-zwei"_s, u"seite-viele"_s, u"seite-einrichten"_s, u"drucken"_s};
+    for (QAction* action : bar->actions()) {
+        if (!action->icon().isNull() && !names.isEmpty()) {
+            action->setIcon(modIcon::Get(names.takeFirst()));
+        }
+    }
+    auto* zoom = dialog.findChild<QComboBox*>()->lineEdit();
+    QObject::connect(zoom, &QLineEdit::textChanged, zoom, [zoom](const QString& text) {
+        if (text.contains(u'.') && text.endsWith(u'%')) {
+            zoom->setText(u"%1 %"_s.arg(qRound(text.chopped(1).toDouble())));
+        }
+    });
+    QAction* print = bar->actions().constLast();
     print->setShortcut(QKeySequence::Print);
     return print;
 }
@@ -113,7 +135,8 @@ QString cQtPrinter::Spool(QPrinter& printer, cPrintable& content) const
     if (IsFile(printer)) {
         return modFileWrite::Export(m_book, printer.outputFileName(), modPages::Pdf(pages, printer.pageLayout()));
     }
-    return modPages::Paint(printer, pages) && printer.printerState() != QPrinter::Error
+    cNoProgress progress;
+    return modPages::Paint(printer, pages, progress) && printer.printerState() != QPrinter::Error
         ? QString()
         : cText::Tr("Der Druck ist fehlgeschlagen. Bitte prüfen Sie den Drucker.");
 }
@@ -150,13 +173,14 @@ void cQtPrinter::Preview(cPrintable& content, QWidget* parent)
     if (parent != nullptr) {
         dialog.resize(parent->size());
     }
-    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&content](QPrinter* target) {
-        QApplication::setOverrideCursor(Qt::WaitCursor);
-        (void)modPages::Paint(*target, content);
-        QApplication::restoreOverrideCursor();
+    QObject::connect(&dialog, &QPrintPreviewDialog::paintRequested, &dialog, [&](QPrinter* target) {
+        cProgressBox progress(dialog.isVisible() ? &dialog : parent, cText::Tr("Die Seiten werden vorbereitet …"));
+        if (!modPages::Paint(*target, content, progress)) {
+            QMetaObject::invokeMethod(&dialog, &QDialog::reject, Qt::QueuedConnection); // it may be about to open
+        }
     });
     // The window's own way of printing tells nothing about a failure.
-    QAction* print = OpenToKeys(dialog);
+    QAction* print = Adapt(dialog);
     QObject::disconnect(print, nullptr, &dialog, nullptr);
     QObject::connect(print, &QAction::triggered, &dialog, [&] {
         if (Ask(*printer, content, &dialog)) {

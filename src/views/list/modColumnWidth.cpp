@@ -29,23 +29,23 @@ int Shrink(QList<int>& widths, const QList<int>& bounds, int lacking)
 QList<int> modColumnWidth::Share(const QList<cColumn>& columns, int rest, int room)
 {
     QList<int> widths;
+    QList<int> whole; // no text is cut
+    QList<int> needed;
     QList<int> enough;
     QList<int> least;
     for (const cColumn& column : columns) {
-        widths.append(std::max(column.Wanted, column.Least));
-        enough.append(std::clamp(column.Enough, column.Least, widths.constLast()));
         least.append(column.Least);
+        needed.append(std::max(column.Most > 0 ? std::min(column.Wanted, column.Most) : column.Wanted, column.Least));
+        enough.append(std::clamp(column.Enough, column.Least, needed.constLast()));
+        whole.append(std::max(column.Most, needed.constLast()));
+        widths.append(std::max(column.Wanted, whole.constLast()));
     }
-    int left = room - std::accumulate(widths.begin(), widths.end(), 0);
-    for (qsizetype i = 0; i < widths.size() && left > 0; ++i) {
-        const int more = std::clamp(columns.at(i).Most - widths.at(i), 0, left);
-        widths[i] += more;
-        left -= more;
+    int lacking = std::accumulate(widths.begin(), widths.end(), 0) - room;
+    if (lacking < 0 && rest >= 0) {
+        widths[rest] -= lacking;
     }
-    if (left >= 0 && rest >= 0) {
-        widths[rest] += left;
-    } else if (left < 0) {
-        (void)Shrink(widths, least, Shrink(widths, enough, -left));
+    for (const QList<int>& bounds : {whole, needed, enough, least}) {
+        lacking = lacking > 0 ? Shrink(widths, bounds, lacking) : 0;
     }
     return widths;
 }

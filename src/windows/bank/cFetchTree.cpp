@@ -129,6 +129,7 @@ void cFetchTree::ShowLine(qsizetype account)
     item.setToolTip(State, state);
     item.setText(Balance, line == nullptr ? QString() : line->BalanceText);
     Colour(account);
+    m_fit->Measure();
     if (line != nullptr && line->State == cBankFetch::eState::Asked) {
         scrollToItem(&item);
     }

@@ -1,11 +1,11 @@
 #include "windows/bank/frmBankzugaenge.h"
 
 #include "base/cText.h"
+#include "windows/widget/cColumnFit.h"
 #include "windows/widget/cRowDelegate.h"
 #include "windows/widget/modPlace.h"
 
 #include <QBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QPushButton>
 #include <QScreen>
@@ -53,13 +53,10 @@ void frmBankzugaenge::BuildList()
     m_tree->setAlternatingRowColors(true);
     m_tree->setAllColumnsShowFocus(true);
     m_tree->setAccessibleName(cText::Tr("Bankzugänge"));
-    QHeaderView& columns = *m_tree->header();
-    columns.setStretchLastSection(false);
-    columns.setSectionResizeMode(QHeaderView::Stretch);
-    columns.setMinimumSectionSize(fontMetrics().averageCharWidth() * 10); // in large type the list rather scrolls
-    for (const int column : {cBankListModel::Bank, cBankListModel::Account, cBankListModel::LastFetch}) {
-        columns.setSectionResizeMode(column, QHeaderView::ResizeToContents);
-    }
+    constexpr auto text = cColumnFit::eKind::Text;
+    new cColumnFit(*m_tree,
+                   {{24, text, 20}, {16, text, 10}, {34, text, 34}, {20, text, 12}, {18, text, 14}, {18, text, 12}},
+                   cBankListModel::Method); // in large type the list rather scrolls
     connect(m_tree, &QTreeView::doubleClicked, m_change, &QPushButton::click);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         connect(new QShortcut(key, m_tree, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, m_change,

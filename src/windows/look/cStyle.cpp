@@ -32,6 +32,10 @@ QIcon cStyle::standardIcon(StandardPixmap icon, const QStyleOption* option, cons
     case SP_ToolBarHorizontalExtensionButton: return modIcon::Get(u"mehr"_s);
     case SP_ToolBarVerticalExtensionButton: return modIcon::Get(u"mehr-unten"_s);
     case SP_LineEditClearButton: return modIcon::Get(u"leeren"_s);
+    case SP_MessageBoxQuestion: return modIcon::Get(u"frage"_s);
+    case SP_MessageBoxInformation: return modIcon::Get(u"hinweis"_s);
+    case SP_MessageBoxWarning: return modIcon::Get(u"warnung"_s);
+    case SP_MessageBoxCritical: return modIcon::Get(u"fehler"_s);
     default: return QProxyStyle::standardIcon(icon, option, widget);
     }
 }

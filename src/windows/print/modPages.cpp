@@ -1,5 +1,6 @@
 #include "windows/print/modPages.h"
 
+#include "base/cProgress.h"
 #include "windows/print/cPrintable.h"
 
 #include <QBuffer>
@@ -7,7 +8,7 @@
 #include <QPainter>
 #include <QPdfWriter>
 
-bool modPages::Paint(QPagedPaintDevice& device, cPrintable& content)
+bool modPages::Paint(QPagedPaintDevice& device, cPrintable& content, cProgress& progress)
 {
     QPainter painter;
     if (!painter.begin(&device)) {
@@ -15,13 +16,17 @@ bool modPages::Paint(QPagedPaintDevice& device, cPrintable& content)
     }
     const QRectF area(QPointF(), device.pageLayout().paintRectPixels(device.logicalDpiX()).size());
     const int count = content.LayOut(device, area);
-    for (int page = 0; page < count; ++page) {
+    progress.showProgressBar(count);
+    for (int page = 0; page < count && !progress.IsCancelled(); ++page) {
         if (page > 0 && !device.newPage()) {
             return false;
         }
         content.PaintPage(painter, page);
+        progress.addProgressValue(1);
     }
-    return painter.end();
+    const bool isWhole = !progress.IsCancelled();
+    progress.hideProgressBar();
+    return painter.end() && isWhole;
 }
 
 QByteArray modPages::Pdf(cPrintable& content, const QPageLayout& layout)
@@ -34,5 +39,6 @@ QByteArray modPages::Pdf(cPrintable& content, const QPageLayout& layout)
     writer.setCreator(QStringLiteral("Kontorelle"));
     writer.setResolution(resolution);
     writer.setPageLayout(layout);
-    return Paint(writer, content) ? file.data() : QByteArray();
+    cNoProgress progress;
+    return Paint(writer, content, progress) ? file.data() : QByteArray();
 }

@@ -4,6 +4,7 @@
 #include <QPageLayout>
 
 class cPrintable;
+class cProgress;
 class QPagedPaintDevice;
 
 // Content on the pages of a device.
@@ -11,8 +12,8 @@ namespace modPages {
 
 constexpr qreal Margin = 15; // millimetres, room for holes
 
-// One page after the other. False when the device takes none.
-[[nodiscard]] bool Paint(QPagedPaintDevice& device, cPrintable& content);
+// One page after the other. False when the device takes none or the user has stopped it.
+[[nodiscard]] bool Paint(QPagedPaintDevice& device, cPrintable& content, cProgress& progress);
 
 // A whole PDF file; no bytes when it cannot be painted.
 [[nodiscard]] QByteArray

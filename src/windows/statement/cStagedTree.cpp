@@ -24,7 +24,7 @@ using eKind = cColumnFit::eKind;
 constexpr int nameLetters = 11;
 
 const std::vector<cColumnFit::cColumn> columns{
-    {8, eKind::Text, 7},     {14, eKind::Day},         {26, eKind::Text, nameLetters}, {18, eKind::Text, 8},
+    {9, eKind::Text, 9},     {14, eKind::Day},         {26, eKind::Text, nameLetters}, {26, eKind::Text, 8},
     {13, eKind::Amount},     {14, eKind::Text, 11, 1}, {25, eKind::Text, nameLetters}, {11, eKind::Text, 11, 2},
     {27, eKind::Text, 14, 3}};
 

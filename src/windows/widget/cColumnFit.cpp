@@ -1,6 +1,7 @@
 #include "windows/widget/cColumnFit.h"
 
 #include "views/list/modColumnWidth.h"
+#include "views/look/cCategoryLooks.h"
 
 #include <QEvent>
 #include <QHeaderView>
@@ -18,6 +19,15 @@ namespace {
 
 constexpr int enoughLetters = 11; // for a word such as a kind or an interval
 constexpr int mostLetters = 40;   // that a column of texts takes of room that is left
+constexpr int rowsToMeasure = 200;
+
+// With a mark before it, or the arrow of the field that opens on it.
+int WidthOf(const QModelIndex& index, const QFontMetrics& metrics)
+{
+    const bool isMarked = index.data(Qt::CheckStateRole).isValid() || (index.flags() & Qt::ItemIsEditable) != 0
+        || index.data(cCategoryLooks::Role).value<cCategoryLook>() != cCategoryLook{};
+    return metrics.horizontalAdvance(index.data().toString()) + (isMarked ? metrics.height() * 2 : 0);
+}
 
 } // namespace
 
@@ -35,10 +45,7 @@ cColumnFit::cColumnFit(QTreeView& view, std::vector<cColumn> columns, int rest)
     header.setStretchLastSection(false);
     header.setMinimumSectionSize(Letter() * 2);
     m_view.viewport()->installEventFilter(this);
-    connect(m_view.model(), &QAbstractItemModel::modelReset, this, [this] {
-        Measure();
-        Fit();
-    });
+    connect(m_view.model(), &QAbstractItemModel::modelReset, this, &cColumnFit::Measure);
     connect(&header, &QHeaderView::sectionResized, this,
             [this](int column, int /*before*/, int width) { TakeDragged(column, width); });
     SetLayout(std::nullopt);
@@ -96,23 +103,44 @@ int cColumnFit::Most(int column) const
     return m_wanted.at(column) > 0 ? 0 : m_longest.at(column);
 }
 
-// With a mark before it, and some room because the longest text need not be the widest.
+// With some room, because the longest text that the model names need not be the widest. Where it names none, the rows
+// at the top speak for all.
 int cColumnFit::Longest(int column) const
 {
-    const QVariant text = m_view.model()->headerData(column, Qt::Horizontal, modColumnWidth::WidestRole);
-    if (!text.isValid() || m_columns.at(static_cast<std::size_t>(column)).Kind != eKind::Text) {
+    if (m_columns.at(static_cast<std::size_t>(column)).Kind != eKind::Text) {
         return 0;
     }
-    const int width = m_view.fontMetrics().horizontalAdvance(text.toString()) + 5 * Letter();
-    return std::min(width, mostLetters * Letter());
+    const QAbstractItemModel& model = *m_view.model();
+    const QFontMetrics metrics = m_view.fontMetrics();
+    int width = 0;
+    int left = rowsToMeasure;
+    const auto look = [&](const QModelIndex& parent, int indent, const auto& again) -> void {
+        for (int row = 0; row < model.rowCount(parent) && left-- > 0; ++row) {
+            const QModelIndex first = model.index(row, 0, parent);
+            const QModelIndex index = first.siblingAtColumn(column);
+            if (column > 0 || !model.hasChildren(first)) { // what heads a branch may reach over other columns
+                width = std::max(width, WidthOf(index, metrics) + 2 * Letter() + indent);
+            }
+            again(first, column == 0 ? indent + m_view.indentation() : 0, again);
+        }
+    };
+    const QVariant known = model.headerData(column, Qt::Horizontal, modColumnWidth::WidestRole);
+    if (known.isValid()) {
+        width = metrics.horizontalAdvance(known.toString()) + 5 * Letter();
+    } else {
+        look({}, column == 0 && m_view.rootIsDecorated() ? m_view.indentation() : 0, look);
+    }
+    return std::max(m_view.header()->sectionSizeHint(column),
+                    std::min(width, std::max(mostLetters * Letter(), Wanted(column))));
 }
 
 void cColumnFit::Measure()
 {
     for (int column = 0; column < m_least.size(); ++column) {
-        m_least[column] = Least(column);
         m_longest[column] = Longest(column);
+        m_least[column] = m_longest.at(column) > 0 ? std::min(Least(column), m_longest.at(column)) : Least(column);
     }
+    Fit();
 }
 
 void cColumnFit::SendAway()
@@ -197,7 +225,6 @@ void cColumnFit::SetLayout(const std::optional<cListLayout>& layout)
         }
     }
     Measure();
-    Fit();
 }
 
 cListLayout cColumnFit::Layout() const
@@ -232,7 +259,6 @@ bool cColumnFit::eventFilter(QObject* watched, QEvent* event)
         Fit();
     } else if (event->type() == QEvent::FontChange) {
         Measure();
-        Fit();
     }
     return QObject::eventFilter(watched, event);
 }

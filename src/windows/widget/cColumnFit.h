@@ -11,7 +11,7 @@
 class QTreeView;
 
 // Keeps the columns of a list in its width: columns of texts give way before the list has to scroll, days and amounts
-// are never cut. What is left goes to texts that would be cut, then to one column. A spare column stays away where it
+// are never cut. No text is cut beside room that another column has no text for. A spare column stays away where it
 // could not be read. Widths that the user drags are kept as what he wants, also while the window is too narrow for
 // them.
 class cColumnFit final : public QObject
@@ -38,12 +38,12 @@ public:
 
     void SetShown(int column, bool isShown); // Fit() follows after the last one
     void Fit();
+    void Measure(); // the texts as they are now; a reset of the model brings it by itself
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void Measure();
     void SendAway();
     void TakeDragged(int column, int width);
     [[nodiscard]] int Letter() const;
@@ -58,7 +58,7 @@ private:
     int m_rest;
     QList<int> m_wanted; // pixels as set by the user; 0: by default
     QList<int> m_least;
-    QList<int> m_longest; // pixels of the longest text; 0 where the model does not say
+    QList<int> m_longest; // pixels of the longest text or the title; 0 for days and amounts
     QList<bool> m_isAway; // spare columns without room
     int m_dragged = -1;
     bool m_isFitting = false;
