@@ -7,15 +7,9 @@ class QStyleHintReturn;
 class QStyleOption;
 class QWidget;
 
-<<<<<<< HEAD
-// The style of the desktop, or cFlatStyle where it has none of its own, with the program's own pictures for what
+// The style of the desktop, or cFlatStyle where it has none of its own, with the program's own pictures for what boxes,
 // overflowing bars and the filter's clear button show. A style's own ones are read from files as soon as a bar is made,
 // visible or not, and with them every image plugin of the toolkit: a good part of the whole start.
-=======
-// The style of the desktop with the program's own pictures for what boxes, overflowing bars and the filter's clear
-// button show. The style's own ones are read from files as soon as a bar is made, visible or not, and with them every
-// image plugin of the toolkit: a good part of the whole start.
->>>>>>> 065442302b49a1766c287a6eb2167e188a432667
 class cStyle final : public QProxyStyle
 {
     Q_OBJECT
