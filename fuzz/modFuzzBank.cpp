@@ -61,7 +61,7 @@ QString FaultOfValues(const cBankAnswer& answer)
 void ReadMore(const cBankAnswer& answer)
 {
     static_cast<void>(answer.CollectedText() + answer.BankWords() + answer.BankName() + answer.UpdVersion());
-    static_cast<void>(answer.IsWrongPin() || answer.IsLocked() || answer.IsAborted() || answer.HasMoreThanWarnings());
+    static_cast<void>(answer.IsWrongPin() || answer.IsLocked() || answer.IsAborted());
     static_cast<void>(answer.AllowedFunctions());
     static_cast<void>(answer.Continuation());
     static_cast<void>(answer.SystemId());

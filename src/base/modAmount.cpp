@@ -1,5 +1,7 @@
 #include "base/modAmount.h"
 
+#include "base/modChar.h"
+
 #include <cmath>
 #include <limits>
 
@@ -20,7 +22,7 @@ bool IsGermanNumber(QStringView text)
     bool hasComma = false;
     for (qsizetype i = 0; i < text.size(); ++i) {
         const QChar c = text[i];
-        if (c >= u'0' && c <= u'9') {
+        if (modChar::IsDigit(c)) {
             hasDigit = true;
         } else if (c == u',') {
             if (hasComma) {
@@ -47,7 +49,7 @@ std::optional<qint64> PlainCents(QStringView text)
     qint64 value = 0;
     qsizetype decimals = -1;
     for (const QChar c : text) {
-        if (c >= u'0' && c <= u'9') {
+        if (modChar::IsDigit(c)) {
             value = value * 10 + (c.unicode() - u'0');
             decimals += decimals >= 0 ? 1 : 0;
         } else if ((c == u'.' || c == u',') && decimals < 0) {

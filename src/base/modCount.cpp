@@ -33,10 +33,29 @@ QString modCount::Rows(qsizetype count)
     return Say(count, QT_TRANSLATE_NOOP("cText", "1 Umsatz"), QT_TRANSLATE_N_NOOP("cText", "{0} Umsätze"));
 }
 
-QString modCount::MoreLines(qsizetype count)
+QString modCount::Series(qsizetype count)
 {
-    return Say(count, QT_TRANSLATE_NOOP("cText", "… und 1 weitere Zeile"),
-               QT_TRANSLATE_N_NOOP("cText", "… und {0} weitere Zeilen"));
+    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Serie"), QT_TRANSLATE_N_NOOP("cText", "{0} Serien"));
+}
+
+QString modCount::Receipts(qsizetype count)
+{
+    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Beleg"), QT_TRANSLATE_N_NOOP("cText", "{0} Belege"));
+}
+
+QString modCount::Accounts(qsizetype count)
+{
+    return Say(count, QT_TRANSLATE_NOOP("cText", "1 Konto"), QT_TRANSLATE_N_NOOP("cText", "{0} Konten"));
+}
+
+QStringList modCount::Cut(QStringList lines, qsizetype most)
+{
+    if (const qsizetype rest = lines.size() - most; rest > 0) {
+        lines.resize(most);
+        lines.append(Say(rest, QT_TRANSLATE_NOOP("cText", "… und 1 weitere Zeile"),
+                         QT_TRANSLATE_N_NOOP("cText", "… und {0} weitere Zeilen")));
+    }
+    return lines;
 }
 
 QString modCount::Times(qsizetype count)

@@ -1,6 +1,7 @@
 #include "base/modDayText.h"
 
 #include "base/cText.h"
+#include "base/modChar.h"
 #include "base/modDate.h"
 #include "base/modFold.h"
 
@@ -27,7 +28,7 @@ constexpr std::array<cDayWord, 5> dayWords{{
 
 bool IsDigits(QStringView text)
 {
-    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return !text.isEmpty() && modChar::AreDigits(text);
 }
 
 bool IsSameWord(const QString& a, const QString& b)

@@ -1,5 +1,7 @@
 #include "base/modFold.h"
 
+#include "base/modChar.h"
+
 #include <QStringMatcher>
 
 #include <algorithm>
@@ -20,11 +22,6 @@ QString WithoutMarks(const QString& text)
         }
     }
     return kept;
-}
-
-bool IsAscii(QStringView text)
-{
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
 }
 
 // True for what folds character by character: Latin letters of western Europe, and punctuation and currency signs,
@@ -85,7 +82,7 @@ modFold::cFolded FoldAny(const QString& text)
 modFold::cFolded modFold::Fold(const QString& text)
 {
     cFolded folded;
-    if (IsAscii(text)) {
+    if (modChar::AreAscii(text)) {
         AppendLowerAscii(text, folded.Plain);
         folded.Spelled = folded.Plain;
     } else if (IsPlainLatin(text)) {
@@ -126,7 +123,7 @@ bool modFold::IsNarrower(const QList<cFolded>& words, const QList<cFolded>& befo
 int modFold::cTexts::Add(const QString& text)
 {
     const int number = m_count++;
-    if (IsAscii(text)) {
+    if (modChar::AreAscii(text)) {
         AppendLowerAscii(text, m_plain.Text); // nearly all texts are like this
         Close(m_plain, number);
         return number;

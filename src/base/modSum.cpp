@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "base/modChar.h"
 
 #include <QList>
 
@@ -10,16 +11,6 @@
 #include <cmath>
 
 namespace {
-
-bool IsDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
-
-bool IsAllDigits(QStringView text)
-{
-    return std::all_of(text.begin(), text.end(), IsDigit);
-}
 
 // "1" or "12" or "123", then groups of exactly three digits.
 bool IsGrouped(const QList<QStringView>& groups)
@@ -65,7 +56,7 @@ std::optional<double> ReadNumber(QStringView number, eDecimal decimal)
     }
     const QString whole = number.left(place).toString().remove(u'.').remove(u',');
     const QStringView decimals = number.mid(std::min(place + 1, number.size()));
-    if ((whole.isEmpty() && decimals.isEmpty()) || !IsAllDigits(whole) || !IsAllDigits(decimals)) {
+    if ((whole.isEmpty() && decimals.isEmpty()) || !modChar::AreDigits(whole) || !modChar::AreDigits(decimals)) {
         return std::nullopt;
     }
     bool isNumber = false;
@@ -152,7 +143,8 @@ private:
             return value;
         }
         const qsizetype start = m_at;
-        while (m_at < m_text.size() && (IsDigit(m_text[m_at]) || m_text[m_at] == u'.' || m_text[m_at] == u',')) {
+        while (m_at < m_text.size()
+               && (modChar::IsDigit(m_text[m_at]) || m_text[m_at] == u'.' || m_text[m_at] == u',')) {
             ++m_at;
         }
         const QStringView number = m_text.mid(start, m_at - start);
@@ -229,8 +221,8 @@ QString WithMinusForBrackets(const QString& text)
     const QString number = WithoutCurrency(inner);
     const bool hasSign =
         std::any_of(amount.begin(), amount.end(), [](QChar c) { return c.category() == QChar::Symbol_Currency; });
-    const bool isPlain =
-        std::all_of(number.begin(), number.end(), [](QChar c) { return IsDigit(c) || c == u'.' || c == u','; });
+    const bool isPlain = std::all_of(number.begin(), number.end(),
+                                     [](QChar c) { return modChar::IsDigit(c) || c == u'.' || c == u','; });
     return (hasSign || number != inner) && isPlain ? u'-' + number : amount;
 }
 
@@ -239,8 +231,8 @@ QString WithSignInFront(const QString& text)
 {
     const bool hasSign = text.endsWith(u'-') || text.endsWith(u'+');
     const QString number = text.chopped(hasSign ? 1 : 0);
-    const bool isPlain =
-        std::all_of(number.begin(), number.end(), [](QChar c) { return IsDigit(c) || c == u'.' || c == u','; });
+    const bool isPlain = std::all_of(number.begin(), number.end(),
+                                     [](QChar c) { return modChar::IsDigit(c) || c == u'.' || c == u','; });
     return hasSign && isPlain ? text.back() + number : text;
 }
 

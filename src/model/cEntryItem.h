@@ -8,8 +8,7 @@
 struct cEntryItem
 {
     int ID = 0;
-    QDate
-        EntryDate; // of an occurrence: its own day, or that to which a correction moved it; not the start of the series
+    QDate EntryDate; // of an occurrence: its own, or that to which a correction moved it; not the start of the series
     QDate EntryDateEnd;
     QString EntryType;
     QString EntryInterval;

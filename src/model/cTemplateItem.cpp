@@ -105,6 +105,11 @@ QString modTemplate::CleanName(const QString& name)
     return kept;
 }
 
+QString modTemplate::TypedName(const QString& name)
+{
+    return CleanName(name.trimmed()).trimmed();
+}
+
 bool modTemplate::IsSameName(const QString& a, const QString& b)
 {
     return a.simplified().compare(b.simplified(), Qt::CaseInsensitive) == 0;
@@ -252,8 +257,8 @@ cTemplateItem modTemplate::NewCategory(const cTemplateItemList& items, const QSt
 {
     cTemplateItem item;
     item.TemplateType = modWord::Kategorie;
-    item.TemplateCategory = CleanName(main.trimmed()).trimmed();
-    item.TemplateName = CleanName(sub.trimmed()).trimmed();
+    item.TemplateCategory = TypedName(main);
+    item.TemplateName = TypedName(sub);
     const QString group = GroupOf(item);
     const cTemplateItemList ordered = InOrder(items);
     const auto neighbour = std::find_if(ordered.begin(), ordered.end(), [&](const cTemplateItem& other) {

@@ -61,6 +61,8 @@ inline const QString NoPath = QStringLiteral("Keine Angabe");
 
 // The name without the characters that would break paths, reports or queries.
 [[nodiscard]] QString CleanName(const QString& name);
+// The same of what the user typed, without the blanks around it.
+[[nodiscard]] QString TypedName(const QString& name);
 
 // Names that look the same in a list: letter case and further blanks tell nobody anything.
 [[nodiscard]] bool IsSameName(const QString& a, const QString& b);

@@ -76,11 +76,6 @@ QStringList modTag::Keys(const QString& text)
     return keys;
 }
 
-bool modTag::IsTag(const QString& word)
-{
-    return !word.isEmpty() && Places(word).value(0) == cPlace{0, word.size()};
-}
-
 modTag::cPlace modTag::Typed(const QString& text, qsizetype cursor)
 {
     qsizetype start = std::min(cursor, text.size());

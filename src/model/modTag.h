@@ -29,9 +29,6 @@ struct cPlace
 // The keys of the tags of a text, each once.
 [[nodiscard]] QStringList Keys(const QString& text);
 
-// Whether the whole word is a tag.
-[[nodiscard]] bool IsTag(const QString& word);
-
 // The beginning of a tag that ends at the cursor, "#ur" or "#" alone; without length when there is none.
 [[nodiscard]] cPlace Typed(const QString& text, qsizetype cursor);
 

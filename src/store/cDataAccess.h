@@ -69,15 +69,12 @@ public:
     // the series, each in date order.
     [[nodiscard]] cEntryItemList GetEntries(const cEntryQuery& query);
     [[nodiscard]] std::optional<cEntryItem> LoadEntry(int id);
-    [[nodiscard]] cEntryItemList GetEntriesByTarget(const QString& account, const QString& target, const QString& type);
-    // Entries with exactly this account as source or target, not expanded.
-    [[nodiscard]] cEntryItemList GetEntriesOfAccount(const QString& account);
     // The entries that recur, not expanded, by ID.
     [[nodiscard]] cEntryItemList GetSeries();
+    // Of these the ones with exactly this account as source or target.
+    [[nodiscard]] cEntryItemList GetSeriesOfAccount(const QString& account);
     // The categories of the entries between two IDs, both included, by ID.
     [[nodiscard]] QHash<int, QString> GetEntryCategories(int firstId, int lastId);
-    // Of these the ones with an interval.
-    [[nodiscard]] cEntryItemList GetSeriesOfAccount(const QString& account);
     // Sums of what GetEntries would return, without building the records of one-off entries. `withStartBalance` false
     // leaves out the category of start balances.
     [[nodiscard]] QList<cAccountSum> GetSums(const cEntryQuery& query, bool withStartBalance);
@@ -89,7 +86,6 @@ public:
     // Begins to read a window beside what the caller does; the next GetWindow of these days takes what was found.
     void ReadAhead(const modPeriod::cRange& days);
     [[nodiscard]] int CountEntries();
-    [[nodiscard]] int CountEntriesOfAccount(const QString& account);
     [[nodiscard]] int CountEntriesOfCategory(const QString& path); // LIKE, as the path is given
     // Entries that no view shows or that do not count as they stand, by ID. Up to `today` a series has to have all its
     // occurrences.
@@ -112,6 +108,7 @@ public:
 
     // Start balance of an account: its one-off entry in the category of start balances.
     [[nodiscard]] std::optional<cEntryItem> GetStartGuthaben(const QString& account);
+    [[nodiscard]] QHash<QString, cEntryItem> GetStartBalances(); // of all accounts that have one
     // `cents` is signed: below zero it is stored as expense. Changes the existing entry or adds one.
     [[nodiscard]] bool SetStartGuthaben(const QString& account, qint64 cents, QDate date);
 
@@ -158,8 +155,6 @@ public:
     [[nodiscard]] bool GetNewOnlineAccount(cOnlineAccount& account); // inserts it and sets account.ID
     [[nodiscard]] bool ChangeOnlineAccount(const cOnlineAccount& account);
     [[nodiscard]] bool DeleteOnlineAccount(int id);
-    [[nodiscard]] std::optional<cOnlineAccount> FindOnlineAccount(int id);
-    [[nodiscard]] std::optional<cOnlineAccount> FindOnlineAccount(const QString& number, const QString& bankCode);
 
     // Table `setting`
     using cSettingRows = QList<std::pair<QString, QString>>; // name, value

@@ -96,6 +96,14 @@ std::optional<cEntryItem> First(const cEntryItemList& entries)
     return entries.isEmpty() ? std::nullopt : std::optional(entries.first());
 }
 
+// Of several start balances of an account the first one counts.
+std::optional<cEntryItem> StartOf(cDatabase& database, const QString& account)
+{
+    return First(ReadEntries(database,
+                             " WHERE EntryAccount = ? AND EntryCategory = ? AND EntryInterval = ? ORDER BY ID LIMIT 1",
+                             {modRow::Doubled(account), modWord::Startguthaben, modWord::Einmalig}));
+}
+
 } // namespace
 
 bool cDataAccess::AddNewEntry(cEntryItem& entry)
@@ -153,31 +161,22 @@ std::optional<cEntryItem> cDataAccess::LoadEntry(int id)
     return entry;
 }
 
-cEntryItemList cDataAccess::GetEntriesByTarget(const QString& account, const QString& target, const QString& type)
-{
-    cEntryItemList entries;
-    Read("GetEntriesByTarget", [&] {
-        entries = ReadEntries(m_database, " WHERE EntryAccount = ? AND EntryAccountMove = ? AND EntryType = ?",
-                              {modRow::Doubled(account), modRow::Doubled(target), type});
-    });
-    return entries;
-}
-
-cEntryItemList cDataAccess::GetEntriesOfAccount(const QString& account)
-{
-    cEntryItemList entries;
-    Read("GetEntriesOfAccount", [&] {
-        const QString stored = modRow::Doubled(account);
-        entries = ReadEntries(m_database, " WHERE EntryAccount = ? OR EntryAccountMove = ?", {stored, stored});
-    });
-    return entries;
-}
-
 cEntryItemList cDataAccess::GetSeries()
 {
     cEntryItemList entries;
     Read("GetSeries",
          [&] { entries = ReadEntries(m_database, " WHERE EntryInterval <> ? ORDER BY ID", {modWord::Einmalig}); });
+    return entries;
+}
+
+cEntryItemList cDataAccess::GetSeriesOfAccount(const QString& account)
+{
+    cEntryItemList entries;
+    Read("GetSeriesOfAccount", [&] {
+        const QString stored = modRow::Doubled(account);
+        entries = ReadEntries(m_database, " WHERE EntryInterval <> ? AND (EntryAccount = ? OR EntryAccountMove = ?)",
+                              {modWord::Einmalig, stored, stored});
+    });
     return entries;
 }
 
@@ -194,31 +193,10 @@ QHash<int, QString> cDataAccess::GetEntryCategories(int firstId, int lastId)
     return categories;
 }
 
-cEntryItemList cDataAccess::GetSeriesOfAccount(const QString& account)
-{
-    cEntryItemList entries;
-    Read("GetEntriesOfAccount", [&] {
-        const QString stored = modRow::Doubled(account);
-        entries =
-            ReadEntries(m_database, " WHERE EntryInterval <> 'Einmalig' AND (EntryAccount = ? OR EntryAccountMove = ?)",
-                        {stored, stored});
-    });
-    return entries;
-}
-
 int cDataAccess::CountEntries()
 {
     int count = 0;
     Read("CountEntries", [&] { count = Count(m_database, "SELECT COUNT(*) FROM data", {}); });
-    return count;
-}
-
-int cDataAccess::CountEntriesOfAccount(const QString& account)
-{
-    int count = 0;
-    Read("CountEntriesOfAccount", [&] {
-        count = Count(m_database, "SELECT COUNT(*) FROM data WHERE EntryAccount = ?", {modRow::Doubled(account)});
-    });
     return count;
 }
 
@@ -278,24 +256,28 @@ QStringList cDataAccess::GetEntryAccounts()
 std::optional<cEntryItem> cDataAccess::GetStartGuthaben(const QString& account)
 {
     std::optional<cEntryItem> entry;
-    Read("GetStartGuthaben", [&] {
-        entry = First(ReadEntries(
-            m_database, " WHERE EntryAccount = ? AND EntryCategory = ? AND EntryInterval = ? ORDER BY ID LIMIT 1",
-            {modRow::Doubled(account), modWord::Startguthaben, modWord::Einmalig}));
-    });
+    Read("GetStartGuthaben", [&] { entry = StartOf(m_database, account); });
     return entry;
+}
+
+QHash<QString, cEntryItem> cDataAccess::GetStartBalances()
+{
+    QHash<QString, cEntryItem> byAccount;
+    Read("GetStartBalances", [&] {
+        const cEntryItemList entries =
+            ReadEntries(m_database, " WHERE EntryCategory = ? AND EntryInterval = ? ORDER BY ID DESC",
+                        {modWord::Startguthaben, modWord::Einmalig});
+        for (const cEntryItem& entry : entries) {
+            byAccount.insert(entry.EntryAccount, entry);
+        }
+    });
+    return byAccount;
 }
 
 bool cDataAccess::SetStartGuthaben(const QString& account, qint64 cents, QDate date)
 {
     cEntryItem entry;
-    const bool isRead = Write("SetStartGuthaben", [&] {
-        entry =
-            First(ReadEntries(m_database,
-                              " WHERE EntryAccount = ? AND EntryCategory = ? AND EntryInterval = ? ORDER BY ID LIMIT 1",
-                              {modRow::Doubled(account), modWord::Startguthaben, modWord::Einmalig}))
-                .value_or(cEntryItem{});
-    });
+    const bool isRead = Write("SetStartGuthaben", [&] { entry = StartOf(m_database, account).value_or(cEntryItem{}); });
     if (!isRead) {
         return false; // a second start balance would be worse than none
     }

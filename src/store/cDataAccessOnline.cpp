@@ -28,10 +28,11 @@ cBoundList AccountValues(const cOnlineAccount& account)
     return {account.Values.begin(), account.Values.end()};
 }
 
-QList<cOnlineAccount> ReadAccounts(cDatabase& database, const char* rest, const cBoundList& values)
+// Newest first.
+QList<cOnlineAccount> ReadAccounts(cDatabase& database)
 {
     QList<cOnlineAccount> accounts;
-    cRows rows(database, "SELECT ID, " + Columns("") + " FROM account" + rest, values);
+    cRows rows(database, "SELECT ID, " + Columns("") + " FROM account ORDER BY ID DESC");
     while (rows.Next()) {
         cOnlineAccount& account = accounts.emplace_back();
         account.ID = static_cast<int>(rows.Integer(0));
@@ -43,17 +44,12 @@ QList<cOnlineAccount> ReadAccounts(cDatabase& database, const char* rest, const 
     return accounts;
 }
 
-std::optional<cOnlineAccount> First(const QList<cOnlineAccount>& accounts)
-{
-    return accounts.isEmpty() ? std::nullopt : std::optional(accounts.first());
-}
-
 } // namespace
 
 QList<cOnlineAccount> cDataAccess::GetOnlineAccounts()
 {
     QList<cOnlineAccount> accounts;
-    Read("GetOnlineAccounts", [&] { accounts = ReadAccounts(m_database, " ORDER BY ID DESC", {}); });
+    Read("GetOnlineAccounts", [&] { accounts = ReadAccounts(m_database); });
     return accounts;
 }
 
@@ -62,7 +58,7 @@ bool cDataAccess::GetNewOnlineAccount(cOnlineAccount& account)
     return Write("GetNewOnlineAccount", [&] {
         m_database.Execute("INSERT INTO account (" + Columns("") + ") VALUES (" + Placeholders() + ")",
                            AccountValues(account));
-        account = First(ReadAccounts(m_database, " ORDER BY ID DESC", {})).value_or(account);
+        account = ReadAccounts(m_database).value(0, account);
     });
 }
 
@@ -78,20 +74,4 @@ bool cDataAccess::ChangeOnlineAccount(const cOnlineAccount& account)
 bool cDataAccess::DeleteOnlineAccount(int id)
 {
     return Write("DeleteOnlineAccount", [&] { m_database.Execute("DELETE FROM account WHERE ID = ?", {id}); });
-}
-
-std::optional<cOnlineAccount> cDataAccess::FindOnlineAccount(int id)
-{
-    std::optional<cOnlineAccount> account;
-    Read("FindOnlineAccount", [&] { account = First(ReadAccounts(m_database, " WHERE ID = ?", {id})); });
-    return account;
-}
-
-std::optional<cOnlineAccount> cDataAccess::FindOnlineAccount(const QString& number, const QString& bankCode)
-{
-    std::optional<cOnlineAccount> account;
-    Read("FindOnlineAccount", [&] {
-        account = First(ReadAccounts(m_database, " WHERE AccountNumber = ? AND AccountBLZ = ?", {number, bankCode}));
-    });
-    return account;
 }

@@ -102,20 +102,11 @@ cOpenSequence::eStep cOpenSequence::FindOtherPlace()
     }
     if (chosen == 1 || m_ports.Shell.FileExists(path)) { // of a book that is there nothing is replaced
         m_origin = eOrigin::Existing;
-    } else if (!m_ports.Shell.CopyFile(m_ports.Shell.InstalledFile(u"template.dat"_s), path)) {
-        ShowCannotCreate(path);
+    } else if (const QString problem = modSchema::FromTemplate(m_ports.Shell, path); !problem.isEmpty()) {
+        m_ports.User.Show(eTone::Critical, problem);
     }
     m_path = path;
     return FindFile();
-}
-
-void cOpenSequence::ShowCannotCreate(const QString& path) const
-{
-    m_ports.User.Show(
-        eTone::Critical,
-        cText::Tr("Die Datenbank konnte nicht erstellt werden. Bitte prüfen Sie die Zugriffsrechte und den "
-                  "Speicherplatz: \n{0}",
-                  {QFileInfo(path).absolutePath()}));
 }
 
 cOpenSequence::eStep cOpenSequence::MakeUsable()
@@ -197,7 +188,9 @@ void cOpenSequence::RestoreBackup()
     while (const std::optional<QString> backup = m_ports.Rescue.ChooseBackup(folder)) {
         const eAnswer answer = AskAboutBackup(*backup);
         if (answer == eAnswer::Yes) {
-            (void)ReplaceFile(*backup);
+            const QString working = modBookFile::WorkingName(m_path);
+            const bool isCopied = m_ports.Shell.CopyFile(*backup, working);
+            (void)ReplaceBy(working, isCopied ? QString() : modSchema::CannotCreate(m_path));
         }
         if (answer != eAnswer::No) {
             return;
@@ -222,34 +215,27 @@ eAnswer cOpenSequence::AskAboutBackup(const QString& backup) const
 
 void cOpenSequence::Initialise()
 {
-    const QString source = m_ports.Shell.InstalledFile(u"template.dat"_s);
-    if (!m_ports.Shell.FileExists(source)) {
-        m_ports.User.Show(
-            eTone::Critical,
-            cText::Tr("Die Installation ist beschädigt. Eine Neuinstallation könnte das Problem beheben.\nDie "
-                      "Datei 'template.dat' konnte nicht gefunden werden!"));
-        return;
-    }
-    if (ReplaceFile(source)) {
+    const QString working = modBookFile::WorkingName(m_path);
+    if (ReplaceBy(working, modSchema::FromTemplate(m_ports.Shell, working))) {
         m_origin = eOrigin::Fresh;
     }
 }
 
-// Puts a copy of `source` in the place of the damaged file, which stays beside it under another name.
-bool cOpenSequence::ReplaceFile(const QString& source)
+// Puts the working file in the place of the damaged one, which stays beside it under another name; `problem` says why
+// there is no working file.
+bool cOpenSequence::ReplaceBy(const QString& working, QString problem)
 {
-    m_database.Close();
-    const QString working = modBookFile::WorkingName(m_path);
-    if (m_ports.Shell.CopyFile(source, working)) {
+    if (problem.isEmpty()) {
         if (const std::optional<QString> kept =
                 modBookFile::PutInPlace(m_ports.Shell, working, m_path, m_today, u"beschaedigt"_s)) {
             m_ports.User.Show(eTone::Information,
                               cText::Tr("Die bisherige Datei wurde als '{0}' aufgehoben.", {*kept}));
             return true;
         }
+        problem = modSchema::CannotCreate(m_path);
     }
     QFile::remove(working);
-    ShowCannotCreate(m_path);
+    m_ports.User.Show(eTone::Critical, problem);
     return false;
 }
 

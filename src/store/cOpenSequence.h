@@ -55,7 +55,6 @@ private:
 
     [[nodiscard]] eStep FindFile();
     [[nodiscard]] eStep FindOtherPlace();
-    void ShowCannotCreate(const QString& path) const;
     [[nodiscard]] eStep MakeUsable();
     [[nodiscard]] eDatabaseFault OpenPatiently();
     [[nodiscard]] eStep OfferOtherPath();
@@ -63,7 +62,7 @@ private:
     void RestoreBackup();
     void Initialise();
     [[nodiscard]] eAnswer AskAboutBackup(const QString& backup) const;
-    [[nodiscard]] bool ReplaceFile(const QString& source);
+    [[nodiscard]] bool ReplaceBy(const QString& working, QString problem);
 
     [[nodiscard]] eOpenResult Prepare();
     [[nodiscard]] eOpenResult AskForReading();

@@ -9,7 +9,9 @@
 #include "store/modAccountColumns.h"
 #include "store/modRow.h"
 
+#include <QDir>
 #include <QElapsedTimer>
+#include <QFileInfo>
 
 #include <algorithm>
 #include <array>
@@ -424,21 +426,28 @@ QString modSchema::GetDefaultDatabase(cShell& shell, cUser& user)
     if (shell.FileExists(path)) {
         return path;
     }
-    const QString source = shell.InstalledFile(u"template.dat"_s);
-    if (!shell.FileExists(source)) {
-        user.Show(
-            eTone::Critical,
-            cText::Tr("Die Installation ist beschädigt. Eine Neuinstallation könnte das Problem beheben.\nDie Datei "
-                      "'template.dat' konnte nicht gefunden werden!"));
-        return path;
-    }
-    if (!shell.CopyFile(source, path) && !shell.FileExists(path)) {
-        user.Show(eTone::Critical,
-                  cText::Tr("Die Datenbank konnte nicht erstellt werden. Bitte prüfen Sie die Zugriffsrechte und den "
-                            "Speicherplatz: \n{0}",
-                            {folder}));
+    // Another program may have made it meanwhile.
+    if (const QString problem = FromTemplate(shell, path); !problem.isEmpty() && !shell.FileExists(path)) {
+        user.Show(eTone::Critical, problem);
     }
     return path;
+}
+
+QString modSchema::FromTemplate(cShell& shell, const QString& path)
+{
+    const QString source = shell.InstalledFile(u"template.dat"_s);
+    if (!shell.FileExists(source)) {
+        return cText::Tr("Die Installation ist beschädigt. Eine Neuinstallation könnte das Problem beheben.\nDie Datei "
+                         "'template.dat' konnte nicht gefunden werden!");
+    }
+    return shell.CopyFile(source, path) ? QString() : CannotCreate(path);
+}
+
+QString modSchema::CannotCreate(const QString& path)
+{
+    return cText::Tr("Die Datenbank konnte nicht erstellt werden. Bitte prüfen Sie die Zugriffsrechte und den "
+                     "Speicherplatz: \n{0}",
+                     {QDir::toNativeSeparators(QFileInfo(path).absolutePath())});
 }
 
 eDatabaseFault modSchema::OpenValid(cDatabase& database, const QString& path, eOpenMode mode)

@@ -18,6 +18,12 @@ namespace modSchema {
 // The same path without making the file.
 [[nodiscard]] QString DefaultDatabasePath(cShell& shell);
 
+// Makes a new book at a path where no file is. What went wrong; empty when it is there.
+[[nodiscard]] QString FromTemplate(cShell& shell, const QString& path);
+
+// That no book can be made at the path.
+[[nodiscard]] QString CannotCreate(const QString& path);
+
 // Opens a file and looks whether it is a usable database. None when it is, and the connection stays open; any other
 // fault leaves the connection closed. `Damaged` means that the content is no database of this program.
 [[nodiscard]] eDatabaseFault OpenValid(cDatabase& database, const QString& path, eOpenMode mode);

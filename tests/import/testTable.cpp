@@ -460,7 +460,7 @@ private Q_SLOTS:
         }
         cReadOptions options;
         options.Account = u"1"_s;
-        const cStatementRead read = modTable::ReadTable(table, options);
+        const cStatementRead read = modTable::ReadRows(table, modTable::Detect(table, options), options);
         QCOMPARE(Brief(read), QStringList(u"2025-02-03 -1234.50 1"_s));
         QCOMPARE(read.Entries.first().ImportPurpose, u"a b"_s);
     }

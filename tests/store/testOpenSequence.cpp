@@ -122,6 +122,13 @@ private Q_SLOTS:
         QCOMPARE(machine.Run(eOrigin::Fresh), eOpenResult::Opened);
         QCOMPARE(machine.Sequence.Path(), machine.User.SavePath);
         QCOMPARE(machine.User.Shown, QStringList());
+
+        QFile::remove(machine.Template());
+        machine.User.Answers = {eAnswer::Yes, eAnswer::No};
+        machine.User.Decisions = {0};
+        machine.User.SavePath = machine.file.Path(u"noch eins.db"_s);
+        QCOMPARE(machine.Run(eOrigin::Fresh), eOpenResult::Ended);
+        QVERIFY(machine.User.Shown.value(0).startsWith(u"Die Installation ist beschädigt."_s));
     }
 
     void UserDeclinesEveryRemedy() const

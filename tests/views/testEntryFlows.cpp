@@ -194,7 +194,7 @@ private Q_SLOTS:
         book.User.Answers = {eAnswer::Yes};
         QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         QCOMPARE(book.Data.LoadEntry(book.Editor.SavedId())->EntryCategory, u"Garten; Pflanzen"_s);
-        QVERIFY(book.Editor.Categories().contains(u"Garten; Pflanzen"_s));
+        QVERIFY(cEntrySuggestions::VisibleCategories(book.Data).contains(u"Garten; Pflanzen"_s));
 
         fields.Face = eEntryFace::Split;
         fields.Parts = {{.Amount = u"10"_s, .CategoryText = u"garten;pflanzen"_s},
@@ -379,3 +379,4 @@ private Q_SLOTS:
 
 TEST_CLASS(testEntryFlows, QCoreApplication)
 #include "testEntryFlows.moc"
+#include "views/entry/cEntrySuggestions.h"

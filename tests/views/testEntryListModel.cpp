@@ -278,7 +278,7 @@ private Q_SLOTS:
                               u"Monatlich, verschoben"_s}));
         QCOMPARE(m_model->headerData(cEntryListModel::Category, Qt::Horizontal, modColumnWidth::WidestRole).toString(),
                  u"Einkommen; Lohn / Gehalt"_s);
-        QCOMPARE(m_model->index(3, 0).data(cEntryListModel::ToneRole).toInt(), cEntryListModel::Income);
+        QCOMPARE(m_model->index(3, 0).data(cEntryListModel::ToneRole).value<eMoneyTone>(), eMoneyTone::Income);
     }
 
     void KeepsTheContractOfItemModels()

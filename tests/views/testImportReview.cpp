@@ -5,6 +5,7 @@
 #include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryEditor.h"
+#include "views/look/modMoneyTone.h"
 #include "views/sheet/cManyChange.h"
 #include "views/statement/cImportReview.h"
 #include "views/statement/cStatementFiles.h"
@@ -188,8 +189,10 @@ private Q_SLOTS:
         QCOMPARE(groceries.join(u'|'),
                  u"offen|03.01.2026|REWE Markt Hohenfels|REWE SAGT DANKE|-23,10\u00A0€|Girokonto|"
                  "Haushalt; Lebensmittel|Einmalig|Regel: rewe"_s);
-        QCOMPARE(m_page->Review.Rows().index(0, 0).data(cStagedListModel::ToneRole).toInt(), 2);
-        QCOMPARE(m_page->Review.Rows().index(2, 0).data(cStagedListModel::ToneRole).toInt(), 1);
+        QCOMPARE(m_page->Review.Rows().index(0, 0).data(cStagedListModel::ToneRole).value<eMoneyTone>(),
+                 eMoneyTone::Expense);
+        QCOMPARE(m_page->Review.Rows().index(2, 0).data(cStagedListModel::ToneRole).value<eMoneyTone>(),
+                 eMoneyTone::Income);
         QCOMPARE(m_page->Cell(3, cStagedListModel::Account), u"Girokonto → Sparkonto"_s);
     }
 

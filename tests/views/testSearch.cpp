@@ -125,10 +125,10 @@ private Q_SLOTS:
         scene.Model.Open();
         QCOMPARE(scene.Model.Entries().rowCount(), 0); // nothing asked, nothing found
         scene.Model.Search({.Text = u"giro"_s, .Type = modWord::Ausgabe});
-        QCOMPARE(scene.Model.CountText(), u"7 Treffer"_s);
-        QCOMPARE(scene.Model.ExpenseText(), scene.Book.Format.Cents(-(1000 + 425 + 8000 + 3 * 3000 + 2500)));
+        QCOMPARE(scene.Model.SumTexts().Count, u"7 Treffer"_s);
+        QCOMPARE(scene.Model.SumTexts().Expense, scene.Book.Format.Cents(-(1000 + 425 + 8000 + 3 * 3000 + 2500)));
         scene.Model.Search({.Account = u"Sparkonto"_s});
-        QCOMPARE(scene.Model.IncomeText(), scene.Book.Format.Cents(5000)); // the transfer reaches this account
+        QCOMPARE(scene.Model.SumTexts().Income, scene.Book.Format.Cents(5000)); // the transfer reaches this account
         scene.Model.Search({.Text = u"gibt es nicht"_s});
         QVERIFY(scene.Model.EmptyHint().startsWith(u"Kein Eintrag passt"));
         scene.Model.Search({.Text = u" "_s});

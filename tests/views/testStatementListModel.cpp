@@ -114,7 +114,7 @@ private Q_SLOTS:
         scene.Damage("import");
         const cStatementListModel statement(scene.Tools);
         QCOMPARE(statement.EmptyTitle(), u"Das Buch konnte nicht gelesen werden"_s);
-        QCOMPARE(statement.TotalText(), u"–"_s);
+        QCOMPARE(statement.SumTexts().Total, u"–"_s);
     }
 
     // The bank's balance is known, the account's is not: no difference is claimed.
@@ -267,7 +267,7 @@ private Q_SLOTS:
         QVERIFY(!statement.EntryOf(1));
         statement.SetFilter(u"rewe"_s);
         QCOMPARE(Column(statement, cStatementListModel::Balance), u"-4,99 0,01"_s);
-        QCOMPARE(statement.TotalText(), scene.Format.Cents(-2810));
+        QCOMPARE(statement.SumTexts().Total, scene.Format.Cents(-2810));
         statement.ChoosePeriod(u"Buchungen bis heute"_s);
         const QString today = modDate::ToText(statement.Today());
         QCOMPARE(statement.Lines().at(1), u"Zeitraum: Buchungen bis heute (%1)"_s.arg(today));
@@ -279,8 +279,8 @@ private Q_SLOTS:
         statement.TypeFilter(QString());
         QCOMPARE(typed.count(), 0); // waits for a pause
         QTRY_COMPARE(statement.rowCount(), 2);
-        QCOMPARE(statement.IncomeText(), scene.Format.Cents(1000));
-        QCOMPARE(statement.ExpenseText(), scene.Format.Cents(-500));
+        QCOMPARE(statement.SumTexts().Income, scene.Format.Cents(1000));
+        QCOMPARE(statement.SumTexts().Expense, scene.Format.Cents(-500));
         QCOMPARE(statement.Extract().Rows.size(), std::size_t{2});
     }
 

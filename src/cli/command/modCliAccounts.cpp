@@ -147,7 +147,7 @@ int Limit(const cCliContext& context)
     cCliReader reader(context);
     const QString name = reader.Account(context.Call.Arguments().constFirst());
     const QString text = context.Call.Arguments().constLast();
-    const bool isNone = text.compare(u"ohne"_s, Qt::CaseInsensitive) == 0;
+    const bool isNone = cCliReader::IsNone(text);
     const qint64 cents = isNone ? 0 : reader.Cents(text);
     if (!reader.IsGood()) {
         return reader.Report();

@@ -14,11 +14,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString FullPath(const QString& path)
-{
-    return QDir::cleanPath(QDir().absoluteFilePath(path));
-}
-
 // "<path>: <what it holds>"
 QString Line(const QString& path, const QString& content)
 {
@@ -50,8 +45,9 @@ int RunBackup(const cCliContext& context)
 {
     const QString book = context.Book->File().Path();
     const QString name = u"Kontorelle-"_s + modDate::ToIso(context.Clock.Today()) + u".backup"_s;
-    const QString target = context.Call.Arguments().isEmpty() ? QFileInfo(book).dir().filePath(name)
-                                                              : FullPath(context.Call.Arguments().constFirst());
+    const QString target = context.Call.Arguments().isEmpty()
+        ? QFileInfo(book).dir().filePath(name)
+        : cBookAccess::FullPath(context.Call.Arguments().constFirst());
     if (context.Shell.FileExists(target) && !context.Call.Has(u"yes"_s)) {
         return Refuse(cText::Tr("Die Datei '{0}' gibt es schon. Mit --yes wird sie ersetzt.", {target}));
     }
@@ -66,7 +62,7 @@ int RunBackup(const cCliContext& context)
 
 int RunRestore(const cCliContext& context)
 {
-    const QString backup = FullPath(context.Call.Arguments().constFirst());
+    const QString backup = cBookAccess::FullPath(context.Call.Arguments().constFirst());
     const QString path = cBookAccess::PathFor(context.Call.Value(u"database"_s), context.Ports.Registry, context.Shell);
     if (const QString refusal = modBookCopy::Refusal(backup); !refusal.isEmpty()) {
         return Refuse(refusal);

@@ -19,15 +19,9 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Without blanks, as numbers are typed and shown.
-QString Compact(QString number)
-{
-    return number.removeIf([](QChar c) { return c.isSpace(); }).toUpper();
-}
-
 QString BankCode(const cCliContext& context)
 {
-    return Compact(context.Call.Value(u"blz"_s));
+    return cCliReader::Compact(context.Call.Value(u"blz"_s));
 }
 
 QString UserId(const cCliContext& context)
@@ -237,10 +231,11 @@ bool ChooseAccounts(const cCliContext& context, cBankSetup& setup)
         accounts.Choose(line, false);
     }
     for (const QString& text : wanted) {
-        const QString number = Compact(text.section(u'=', 0, 0));
+        const QString number = cCliReader::Compact(text.section(u'=', 0, 0));
         const auto& lines = accounts.Lines();
         const auto found = std::find_if(lines.begin(), lines.end(), [&](const cBankAccountChoice::cLine& line) {
-            return number == Compact(line.Number) || number == cBankAccess::NumberOf(setup.State(), line.Account);
+            return number == cCliReader::Compact(line.Number)
+                || number == cBankAccess::NumberOf(setup.State(), line.Account);
         });
         if (found == lines.end() || !found->Reason.isEmpty()) {
             QStringList names;

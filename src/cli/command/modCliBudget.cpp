@@ -21,11 +21,6 @@ struct cTime
     int Month = 0; // 0: the whole year
 };
 
-bool IsNone(const QString& text)
-{
-    return text.compare(u"ohne"_s, Qt::CaseInsensitive) == 0;
-}
-
 // "2026" and "2026-03".
 cTime ReadTime(const QString& text, cCliReader& reader)
 {
@@ -175,7 +170,7 @@ int Set(const cCliContext& context)
     const QString path = reader.Category(call.Arguments().at(0));
     const cTime time = ReadTime(call.Arguments().at(1), reader);
     const QString text = call.Arguments().at(2);
-    const std::optional<qint64> cents = IsNone(text) ? std::nullopt : std::optional(reader.Cents(text));
+    const std::optional<qint64> cents = cCliReader::IsNone(text) ? std::nullopt : std::optional(reader.Cents(text));
     const cTime only = call.Has(u"only"_s) ? ReadTime(call.Value(u"only"_s), reader) : cTime{};
     if (cents.value_or(0) < 0) {
         reader.Misused(cText::Tr("Ein Limit kann nicht unter null liegen. Bitte geben Sie den Betrag ohne Minus ein."));

@@ -21,11 +21,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-bool IsNone(const QString& text)
-{
-    return text.compare(u"ohne"_s, Qt::CaseInsensitive) == 0;
-}
-
 void PrintJson(const cCategoryLooks& looks, const QList<cCategoryLine>& lines)
 {
     QStringList objects;
@@ -109,7 +104,7 @@ cTemplateFields Wanted(const cCliContext& context, cCliReader& reader)
         reader.Misused(cText::Tr("--amount und --limit schließen einander aus."));
     }
     const QString amount = call.Value(call.Has(u"amount"_s) ? u"amount"_s : u"limit"_s);
-    if (amount.isEmpty() || IsNone(amount)) {
+    if (amount.isEmpty() || cCliReader::IsNone(amount)) {
         wanted.Amount = amount;
         return wanted;
     }
@@ -125,7 +120,7 @@ cTemplateFields Wanted(const cCliContext& context, cCliReader& reader)
 template <typename tRead>
 QString LookOption(const QString& text, tRead read, const QStringList& names, cCliReader& reader)
 {
-    if (text.isEmpty() || IsNone(text)) {
+    if (text.isEmpty() || cCliReader::IsNone(text)) {
         return text;
     }
     const std::optional<QString> stored = read(text);
@@ -210,7 +205,7 @@ bool SetDefaults(const cCliCall& call, cTemplateManager& manager, const QString&
         return false;
     }
     const auto take = [](const QString& text, const QString& stored) {
-        return text.isEmpty() ? stored : IsNone(text) ? QString() : text;
+        return text.isEmpty() ? stored : cCliReader::IsNone(text) ? QString() : text;
     };
     if (!wanted.Interval.isEmpty() && wanted.Interval != old->Interval && wanted.Amount.isEmpty()
         && !old->Amount.isEmpty()) {

@@ -18,16 +18,11 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-// Without blanks, as numbers are typed and shown.
-QString Compact(QString number)
-{
-    return number.removeIf([](QChar c) { return c.isSpace(); }).toUpper();
-}
-
 bool IsNamed(const cBankFetch::cAccount& account, const QStringList& names)
 {
     return names.isEmpty() || std::any_of(names.begin(), names.end(), [&](const QString& name) {
-               return Compact(name) == Compact(account.Number) || Compact(name) == account.Iban
+               return cCliReader::Compact(name) == cCliReader::Compact(account.Number)
+                   || cCliReader::Compact(name) == account.Iban
                    || name.compare(account.BookAccount, Qt::CaseInsensitive) == 0;
            });
 }

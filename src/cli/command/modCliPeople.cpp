@@ -108,7 +108,7 @@ int Delete(const cCliContext& context)
 QStringList ReadPercents(const QStringList& texts, const QStringList& names, cCliReader& reader)
 {
     QStringList percents(names.size());
-    if (texts.size() == 1 && texts.constFirst().compare(u"ohne"_s, Qt::CaseInsensitive) == 0) {
+    if (texts.size() == 1 && cCliReader::IsNone(texts.constFirst())) {
         return percents;
     }
     for (const QString& text : texts) {

@@ -79,6 +79,16 @@ int cCliReader::Report() const
     return m_code;
 }
 
+QString cCliReader::Compact(QString number)
+{
+    return number.removeIf([](QChar c) { return c.isSpace(); }).toUpper();
+}
+
+bool cCliReader::IsNone(const QString& text)
+{
+    return text.compare(u"ohne"_s, Qt::CaseInsensitive) == 0;
+}
+
 QDate cCliReader::Day(const QString& text)
 {
     const QDate day = modDayText::Read(text, m_context.Clock.Today());
@@ -236,7 +246,7 @@ QString cCliReader::Payer(const QString& text)
     if (text.isEmpty()) {
         return {};
     }
-    return text.compare(u"ohne"_s, Qt::CaseInsensitive) == 0 ? modPeople::Nobody : Person(text);
+    return IsNone(text) ? modPeople::Nobody : Person(text);
 }
 
 QStringList cCliReader::Categories(eCliNames names) const

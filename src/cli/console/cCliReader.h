@@ -28,6 +28,9 @@ class cCliReader
 public:
     explicit cCliReader(const cCliContext& context) : m_context(context) {}
 
+    [[nodiscard]] static QString Compact(QString number);  // without blanks, as numbers are typed and shown
+    [[nodiscard]] static bool IsNone(const QString& text); // "ohne"
+
     // An empty text gives the empty value and is no problem.
     [[nodiscard]] QDate Day(const QString& text);
     [[nodiscard]] qint64 Cents(const QString& text); // sums too; with sign

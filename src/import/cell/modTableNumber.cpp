@@ -1,5 +1,7 @@
 #include "import/cell/modTableNumber.h"
 
+#include "base/modChar.h"
+
 #include <QList>
 
 #include <algorithm>
@@ -18,11 +20,6 @@ constexpr std::array<QStringView, 6> inWords = {u"H", u"Haben", u"CR", u"Credit"
 constexpr std::array<QStringView, 10> currencyWords = {u"Euro",    u"Fr", u"SFr", u"kr", u"z\u0142",
                                                        u"K\u010D", u"Ft", u"Rs",  u"Lt", u"US"};
 
-bool IsDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
-
 bool IsOneOf(QStringView word, const auto& words)
 {
     return std::any_of(words.begin(), words.end(),
@@ -32,9 +29,8 @@ bool IsOneOf(QStringView word, const auto& words)
 // Three capitals are a currency, in whatever country.
 bool IsBesideNumbers(QStringView word)
 {
-    const bool isCode =
-        word.size() == 3 && std::all_of(word.begin(), word.end(), [](QChar c) { return c >= u'A' && c <= u'Z'; });
-    return isCode || IsOneOf(word, currencyWords) || IsOneOf(word, outWords) || IsOneOf(word, inWords);
+    return modChar::IsCurrencyCode(word) || IsOneOf(word, currencyWords) || IsOneOf(word, outWords)
+        || IsOneOf(word, inWords);
 }
 
 // What stands before or behind the digits.
@@ -94,14 +90,13 @@ bool IsGrouped(const QList<QStringView>& pieces)
 // Digits with grouping, without decimals; empty when it is no number.
 QString WholeOf(QStringView text)
 {
-    const auto* const grouper = std::find_if_not(text.begin(), text.end(), IsDigit);
+    const auto* const grouper = std::find_if_not(text.begin(), text.end(), modChar::IsDigit);
     if (grouper == text.end()) {
         return text.toString();
     }
     const QList<QStringView> pieces = text.split(*grouper);
-    const bool isPlain = std::all_of(pieces.begin(), pieces.end(), [](QStringView piece) {
-        return std::all_of(piece.begin(), piece.end(), IsDigit);
-    });
+    const bool isPlain =
+        std::all_of(pieces.begin(), pieces.end(), [](QStringView piece) { return modChar::AreDigits(piece); });
     return isPlain && IsGrouped(pieces) ? text.toString().remove(*grouper) : QString();
 }
 
@@ -134,7 +129,7 @@ QString Digits(QStringView text, eNumberFormat format)
     const qsizetype place = DecimalPlace(text, format);
     const QStringView decimals = text.mid(qMin(place + 1, text.size()));
     const QString whole = place == 0 ? QStringLiteral("0") : WholeOf(text.left(place));
-    if (whole.isEmpty() || !std::all_of(decimals.begin(), decimals.end(), IsDigit)) {
+    if (whole.isEmpty() || !modChar::AreDigits(decimals)) {
         return {};
     }
     const bool isNumberOfSomething =
@@ -155,7 +150,7 @@ eNumberFormat FormatOf(QStringView text)
 
 QString modTableNumber::German(QStringView cell, eNumberFormat format)
 {
-    const auto* const first = std::find_if(cell.begin(), cell.end(), IsDigit);
+    const auto* const first = std::find_if(cell.begin(), cell.end(), modChar::IsDigit);
     if (first == cell.end()) {
         return {};
     }
@@ -164,7 +159,7 @@ QString modTableNumber::German(QStringView cell, eNumberFormat format)
         --start; // ",50"
     }
     qsizetype end = cell.size();
-    while (!IsDigit(cell[end - 1])) {
+    while (!modChar::IsDigit(cell[end - 1])) {
         --end;
     }
     cAround around;

@@ -1,6 +1,7 @@
 #include "import/cell/modTableValue.h"
 
 #include "base/modAmount.h"
+#include "base/modChar.h"
 #include "import/cell/modTableNumber.h"
 #include "import/cell/modTextDate.h"
 #include "import/read/modAccountNumber.h"
@@ -11,11 +12,6 @@
 #include <array>
 
 namespace {
-
-bool IsDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
 
 bool IsDateSign(QChar c)
 {
@@ -51,7 +47,7 @@ cDateParts PartsOf(QStringView text)
     cDateParts parts;
     bool isInside = false;
     for (const QChar c : text) {
-        if (IsDigit(c)) {
+        if (modChar::IsDigit(c)) {
             parts.Count += isInside ? 0 : 1;
             isInside = true;
             if (parts.Count > 3) {
@@ -94,9 +90,10 @@ bool HasFormOfIban(const QString& compact)
         return false;
     }
     const auto isLetter = [&](qsizetype at) { return compact[at] >= u'A' && compact[at] <= u'Z'; };
-    return isLetter(0) && isLetter(1) && IsDigit(compact[2]) && IsDigit(compact[3])
-        && std::count_if(compact.begin(), compact.end(), IsDigit) >= 10
-        && std::all_of(compact.begin(), compact.end(), [](QChar c) { return IsDigit(c) || (c >= u'A' && c <= u'Z'); });
+    return isLetter(0) && isLetter(1) && modChar::IsDigit(compact[2]) && modChar::IsDigit(compact[3])
+        && std::count_if(compact.begin(), compact.end(), modChar::IsDigit) >= 10
+        && std::all_of(compact.begin(), compact.end(),
+                       [](QChar c) { return modChar::IsDigit(c) || modChar::IsCapital(c); });
 }
 
 // No bank is called "ZZZ", which nearly all of them have; German ones are shorter than an IBAN as well.
@@ -132,8 +129,8 @@ bool modTableValue::IsDate(QStringView cell)
 {
     const QStringView day = WithoutTime(cell).trimmed();
     const auto isDay = [](QDate date) { return date.isValid() && date.year() >= 1970 && date.year() < 2100; };
-    const bool isPlain =
-        day.size() >= 6 && std::all_of(day.begin(), day.end(), [](QChar c) { return IsDigit(c) || IsDateSign(c); });
+    const bool isPlain = day.size() >= 6
+        && std::all_of(day.begin(), day.end(), [](QChar c) { return modChar::IsDigit(c) || IsDateSign(c); });
     if (!isPlain) {
         return isDay(modTextDate::Read(day));
     }
@@ -199,7 +196,7 @@ void modTableValue::cNumberVote::Add(QStringView cell)
         ++m_german;
     } else if (points == 1) {
         const QStringView behind = cell.sliced(cell.indexOf(u'.') + 1);
-        const auto decimals = std::find_if_not(behind.begin(), behind.end(), IsDigit) - behind.begin();
+        const auto decimals = std::find_if_not(behind.begin(), behind.end(), modChar::IsDigit) - behind.begin();
         m_thousands += decimals == 3 ? 1 : 0;
         m_points += decimals > 0 && decimals != 3 ? 1 : 0;
     }

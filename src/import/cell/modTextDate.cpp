@@ -1,5 +1,7 @@
 #include "import/cell/modTextDate.h"
 
+#include "base/modChar.h"
+
 #include <QList>
 
 #include <algorithm>
@@ -55,11 +57,6 @@ int MonthOf(QStringView word)
     return found == months.end() ? 0 : static_cast<int>((found - months.begin()) / 2) + 1;
 }
 
-bool IsDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
-
 bool IsSign(QChar c)
 {
     return c == u' ' || c == u'.' || c == u',' || c == u'-' || c == u'/';
@@ -77,7 +74,7 @@ QList<QStringView> PiecesOf(QStringView text)
                 ++at;
             }
         };
-        take(IsDigit);
+        take(modChar::IsDigit);
         if (at == start) {
             take([](QChar c) { return c.isLetter(); });
         }
@@ -95,7 +92,7 @@ QList<QStringView> PiecesOf(QStringView text)
 
 std::optional<int> NumberOf(QStringView piece, qsizetype mostDigits)
 {
-    const bool isNumber = piece.size() <= mostDigits && std::all_of(piece.begin(), piece.end(), IsDigit);
+    const bool isNumber = piece.size() <= mostDigits && modChar::AreDigits(piece);
     return isNumber ? std::optional(piece.toInt()) : std::nullopt;
 }
 
@@ -104,8 +101,7 @@ std::optional<int> NumberOf(QStringView piece, qsizetype mostDigits)
 QDate modTextDate::Read(QStringView text)
 {
     const auto isLetter = [](QChar c) { return c.isLetter(); };
-    if (text.size() > longest || !std::any_of(text.begin(), text.end(), IsDigit)
-        || !std::any_of(text.begin(), text.end(), isLetter)) {
+    if (text.size() > longest || !modChar::HasDigit(text) || !std::any_of(text.begin(), text.end(), isLetter)) {
         return {};
     }
     QList<QStringView> pieces = PiecesOf(text);

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "base/modChar.h"
 #include "import/mt940/cMT940Lines.h"
 #include "import/mt940/cStatementBalances.h"
 #include "import/mt940/modMT940Repair.h"
@@ -29,7 +30,7 @@ constexpr QDate noDate = QDate::fromJulianDay(2086668); // 1001-01-01
 
 bool IsDigit(QStringView text, qsizetype at)
 {
-    return at < text.size() && text[at] >= u'0' && text[at] <= u'9';
+    return at < text.size() && modChar::IsDigit(text[at]);
 }
 
 bool AreDigits(QStringView text, qsizetype from, qsizetype count)
@@ -103,7 +104,7 @@ cBalance ToBalance(QStringView mark, QStringView date, QStringView currency, QSt
 
 bool AreCapitals(QStringView text)
 {
-    return !text.isEmpty() && std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'A' && c <= u'Z'; });
+    return !text.isEmpty() && modChar::AreCapitals(text);
 }
 
 // Mark, date, currency and amount have their places. Some banks leave out the date or the currency; then what is there

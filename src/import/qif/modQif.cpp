@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "base/modChar.h"
 #include "import/read/modBookRow.h"
 #include "import/read/modStatementFile.h"
 #include "model/modWord.h"
@@ -176,7 +177,7 @@ std::optional<cParts> PartsOf(const QString& date)
     qsizetype digits = 0; // of the number at hand
     cParts parts;
     for (const QChar c : date) {
-        if (c >= u'0' && c <= u'9') {
+        if (modChar::IsDigit(c)) {
             count += digits == 0 ? 1 : 0;
             if (count > numbers.size() || ++digits > 4) {
                 return std::nullopt;

@@ -6,8 +6,13 @@
 
 cStatementRead cStatementRead::TooMany()
 {
+    return Refused(cText::Tr("Die Datei hat zu viele Umsätze für einen Kontoauszug. Es wurde nichts übernommen."));
+}
+
+cStatementRead cStatementRead::Refused(const QString& reason)
+{
     cStatementRead read;
-    read.Refusal = cText::Tr("Die Datei hat zu viele Umsätze für einen Kontoauszug. Es wurde nichts übernommen.");
+    read.Refusal = reason;
     return read;
 }
 

@@ -93,6 +93,8 @@ struct cStatementRead
     // Adds what was read of a further part.
     void Append(cStatementRead more);
 
+    [[nodiscard]] static cStatementRead Refused(const QString& reason);
+
     // A file with more transactions is no household's statement: readers refuse it before it fills memory.
     static constexpr qsizetype mostEntries = 500'000;
     [[nodiscard]] static cStatementRead TooMany();

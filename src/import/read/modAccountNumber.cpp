@@ -1,13 +1,10 @@
 #include "import/read/modAccountNumber.h"
 
+#include "base/modChar.h"
+
 #include <algorithm>
 
 namespace {
-
-bool IsDigits(QStringView text)
-{
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
-}
 
 QStringView WithoutZeros(QStringView number)
 {
@@ -50,12 +47,13 @@ QString modAccountNumber::Compact(const QString& number)
 
 bool modAccountNumber::IsGermanIban(const QString& compact)
 {
-    return compact.size() == 22 && compact.startsWith(QStringLiteral("DE")) && IsDigits(QStringView(compact).mid(2));
+    return compact.size() == 22 && compact.startsWith(QStringLiteral("DE"))
+        && modChar::AreDigits(QStringView(compact).mid(2));
 }
 
 bool modAccountNumber::IsBankCode(const QString& code)
 {
-    return code.size() == 8 && IsDigits(code);
+    return code.size() == 8 && modChar::AreDigits(code);
 }
 
 bool modAccountNumber::IsCard(const QString& number)

@@ -1,5 +1,7 @@
 #include "import/read/modStatementText.h"
 
+#include "base/modChar.h"
+
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -42,11 +44,6 @@ std::optional<char> ToWindows(QChar c)
     return static_cast<char>(static_cast<unsigned char>(0x80 + (found - windowsPart.begin())));
 }
 
-bool IsAscii(const QString& text)
-{
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
-}
-
 // Empty optional when the bytes are not the encoding throughout.
 std::optional<QString> Strict(const QByteArray& bytes, QStringConverter::Encoding encoding)
 {
@@ -78,7 +75,7 @@ std::optional<QString> Utf8(const QByteArray& bytes)
         return std::nullopt;
     }
     const std::optional<QString> text = Strict(bytes.chopped(begun), QStringConverter::Utf8);
-    return text && !IsAscii(*text) ? std::optional(*text + QChar::ReplacementCharacter) : std::nullopt;
+    return text && !modChar::AreAscii(*text) ? std::optional(*text + QChar::ReplacementCharacter) : std::nullopt;
 }
 
 // The upper half of code page 850, which older programs still write.
@@ -160,7 +157,7 @@ eCharset modStatementText::CharsetOf(const QByteArray& bytes)
 
 QString modStatementText::DecodeField(const QString& text)
 {
-    if (IsAscii(text)) {
+    if (modChar::AreAscii(text)) {
         return text;
     }
     QByteArray bytes;

@@ -1,19 +1,15 @@
 #include "import/read/modTextWords.h"
 
+#include "base/modChar.h"
 #include "base/modFold.h"
 
 #include <algorithm>
 
 namespace {
 
-bool IsAscii(QStringView text)
-{
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80; });
-}
-
 bool IsFolded(QStringView text)
 {
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c.unicode() < 0x80 && (c < u'A' || c > u'Z'); });
+    return std::all_of(text.begin(), text.end(), [](QChar c) { return modChar::IsAscii(c) && !modChar::IsCapital(c); });
 }
 
 QString Folded(QStringView word)
@@ -21,7 +17,7 @@ QString Folded(QStringView word)
     if (IsFolded(word)) {
         return QString::fromRawData(word.data(), word.size());
     }
-    return IsAscii(word) ? word.toString().toLower() : modFold::Fold(word.toString()).Spelled;
+    return modChar::AreAscii(word) ? word.toString().toLower() : modFold::Fold(word.toString()).Spelled;
 }
 
 // A sign that joins the single character before it with the next one.

@@ -1,5 +1,7 @@
 #include "import/read/modWildcard.h"
 
+#include "base/modChar.h"
+
 #include <algorithm>
 
 namespace {
@@ -22,7 +24,7 @@ qsizetype PieceFor(QChar c, QStringView pattern, qsizetype at)
 {
     switch (pattern[at].unicode()) {
     case u'?': return 1;
-    case u'#': return c >= u'0' && c <= u'9' ? 1 : 0;
+    case u'#': return modChar::IsDigit(c) ? 1 : 0;
     case u'[':
         if (const qsizetype end = pattern.indexOf(u']', at); end > 0) {
             return IsInClass(c, pattern.sliced(at + 1, end - at - 1)) ? end - at + 1 : 0;

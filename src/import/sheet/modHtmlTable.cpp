@@ -1,6 +1,7 @@
 #include "import/sheet/modHtmlTable.h"
 
 #include "base/cText.h"
+#include "base/modChar.h"
 #include "import/sheet/cSheetBuilder.h"
 
 #include <gumbo.h>
@@ -67,7 +68,7 @@ int ColumnsOf(QStringView tag)
     }
     int columns = 0;
     for (at += 7; at < tag.size() && columns < cSheetBuilder::mostColumns; ++at) {
-        if (tag[at] >= u'0' && tag[at] <= u'9') {
+        if (modChar::IsDigit(tag[at])) {
             columns = columns * 10 + (tag[at].unicode() - u'0');
         } else if (columns > 0) {
             break;

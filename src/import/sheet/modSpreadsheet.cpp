@@ -13,13 +13,6 @@
 
 namespace {
 
-cStatementRead Refused(const QString& reason)
-{
-    cStatementRead read;
-    read.Refusal = reason;
-    return read;
-}
-
 // What a known or remembered layout says about numbers and days holds for texts. Cells that are numbers and days in the
 // workbook have their form already.
 cTableLayout LayoutOf(const cSheet& sheet, const cReadOptions& options)
@@ -118,7 +111,7 @@ cStatementRead modSpreadsheet::Read(const cStatementSource& source, const cReadO
 {
     const cSpreadsheet book = Load(source);
     if (!book.Refusal.isEmpty()) {
-        return Refused(book.Refusal);
+        return cStatementRead::Refused(book.Refusal);
     }
     return book.Sheets.isEmpty() ? ReadText(source, options) : ReadBest(book.Sheets, options).Read;
 }
@@ -127,9 +120,10 @@ cStatementRead modSpreadsheet::ReadText(const cStatementSource& source, const cR
 {
     cStatementRead read = modTable::Read(source, options);
     if (!read.Refusal.isEmpty() && modHtmlTable::IsHtml(source.Text)) {
-        return Refused(cText::Tr("Das ist eine gespeicherte Internetseite und kein Kontoauszug. Melden Sie sich bei "
-                                 "der Bank an, und laden Sie die Umsätze dort als Datei herunter (camt, MT940 oder "
-                                 "CSV)."));
+        return cStatementRead::Refused(
+            cText::Tr("Das ist eine gespeicherte Internetseite und kein Kontoauszug. Melden Sie sich bei "
+                      "der Bank an, und laden Sie die Umsätze dort als Datei herunter (camt, MT940 oder "
+                      "CSV)."));
     }
     return read;
 }

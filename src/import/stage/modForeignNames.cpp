@@ -113,8 +113,8 @@ QString modForeignNames::Count(const cForeignNames& names)
     if (!names.Categories.isEmpty()) {
         parts.append(modCount::Categories(names.Categories.size()));
     }
-    if (const qsizetype count = names.Accounts.size(); count > 0) {
-        parts.append(count == 1 ? cText::Tr("1 Konto") : cText::Tr("{0} Konten", {QString::number(count)}));
+    if (!names.Accounts.isEmpty()) {
+        parts.append(modCount::Accounts(names.Accounts.size()));
     }
     return parts.join(u", "_s);
 }

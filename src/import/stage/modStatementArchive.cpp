@@ -23,13 +23,6 @@ QStringList NamesOf(const QByteArray& zip)
     return names;
 }
 
-cStatementRead Refused(const QString& reason)
-{
-    cStatementRead read;
-    read.Refusal = reason;
-    return read;
-}
-
 class cArchiveReader
 {
 public:
@@ -39,11 +32,11 @@ public:
     {
         const QStringList names = NamesOf(m_zip);
         if (modZip::Names(m_zip).size() >= modZip::mostFiles) {
-            return Refused(cText::Tr("Das ZIP-Archiv enthält zu viele Dateien."));
+            return cStatementRead::Refused(cText::Tr("Das ZIP-Archiv enthält zu viele Dateien."));
         }
         for (const QString& name : names) {
             if (const QString refusal = Take(name); !refusal.isEmpty()) {
-                cStatementRead read = Refused(refusal);
+                cStatementRead read = cStatementRead::Refused(refusal);
                 read.HasStrayDetails = m_hasStrayDetails;
                 return read;
             }
@@ -52,11 +45,12 @@ public:
             }
         }
         if (m_statements == 0) {
-            return Refused(cText::Tr("Im ZIP-Archiv ist kein Kontoauszug, der gelesen werden kann."));
+            return cStatementRead::Refused(cText::Tr("Im ZIP-Archiv ist kein Kontoauszug, der gelesen werden kann."));
         }
         if (m_nameless > 1) {
-            return Refused(cText::Tr("Mehrere Dateien im ZIP-Archiv nennen ihr Konto nicht. Entpacken Sie das Archiv, "
-                                     "und lesen Sie die Dateien einzeln ein."));
+            return cStatementRead::Refused(
+                cText::Tr("Mehrere Dateien im ZIP-Archiv nennen ihr Konto nicht. Entpacken Sie das Archiv, "
+                          "und lesen Sie die Dateien einzeln ein."));
         }
         return std::move(m_all);
     }

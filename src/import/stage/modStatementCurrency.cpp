@@ -1,5 +1,6 @@
 #include "import/stage/modStatementCurrency.h"
 
+#include "base/modChar.h"
 #include "import/read/cStatementRead.h"
 #include "import/stage/cKnownAccounts.h"
 #include "import/stage/cStaging.h"
@@ -14,8 +15,7 @@ namespace {
 QString CodeOf(const QString& text)
 {
     const QString code = text.trimmed().toUpper();
-    const auto isLetter = [](QChar c) { return c >= u'A' && c <= u'Z'; };
-    return code.size() == 3 && std::all_of(code.begin(), code.end(), isLetter) ? code : QString();
+    return modChar::IsCurrencyCode(code) ? code : QString();
 }
 
 qsizetype IndexOf(const cImportEntryList& rows, const QString& account, const QString& code)

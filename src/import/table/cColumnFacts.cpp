@@ -1,5 +1,6 @@
 #include "import/table/cColumnFacts.h"
 
+#include "base/modChar.h"
 #include "import/cell/modTableNumber.h"
 #include "import/cell/modTableValue.h"
 
@@ -19,8 +20,6 @@ void cColumnFacts::Look(QStringView cell)
     if (cell.isEmpty()) {
         return;
     }
-    const auto isDigit = [](QChar c) { return c >= u'0' && c <= u'9'; };
-    const auto isCapital = [](QChar c) { return c >= u'A' && c <= u'Z'; };
     Kinds.insert(qHash(cell));
     if (Filled++ == 0) {
         First = cell.toString();
@@ -37,8 +36,8 @@ void cColumnFacts::Look(QStringView cell)
     Signed += isNegative || (!number.isEmpty() && cell.contains(u'+')) ? 1 : 0;
     Ibans += static_cast<int>(modTableValue::IsIban(cell));
     Creditors += static_cast<int>(modTableValue::IsCreditor(cell));
-    Numbers += cell.size() >= 5 && IsAllOf(cell, isDigit) ? 1 : 0;
-    Codes += cell.size() == 3 && IsAllOf(cell, isCapital) ? 1 : 0;
+    Numbers += cell.size() >= 5 && IsAllOf(cell, modChar::IsDigit) ? 1 : 0;
+    Codes += cell.size() == 3 && IsAllOf(cell, modChar::IsCapital) ? 1 : 0;
     Indicators += modTableValue::IndicatorSign(cell) != 0 ? 1 : 0;
     Letters += std::count_if(cell.begin(), cell.end(), [](QChar c) { return c.isLetter(); });
 }

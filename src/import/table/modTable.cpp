@@ -343,11 +343,6 @@ cStatementRead modTable::ReadRows(const cTable& table, const cTableLayout& layou
     return read;
 }
 
-cStatementRead modTable::ReadTable(const cTable& table, const cReadOptions& options)
-{
-    return ReadRows(table, Detect(table, options), options);
-}
-
 cStatementRead modTable::Read(const cStatementSource& source, const cReadOptions& options)
 {
     const cOpened opened = Open(source, options);

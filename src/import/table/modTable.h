@@ -34,9 +34,6 @@ bool Remember(const cStatementSource& source, const cTableChoice& choice, const 
 // The rows of a table through a layout.
 [[nodiscard]] cStatementRead ReadRows(const cTable& table, const cTableLayout& layout, const cReadOptions& options);
 
-// Detects and reads a table.
-[[nodiscard]] cStatementRead ReadTable(const cTable& table, const cReadOptions& options);
-
 // Reads a character-separated text: the entry in the list of formats.
 [[nodiscard]] cStatementRead Read(const cStatementSource& source, const cReadOptions& options);
 

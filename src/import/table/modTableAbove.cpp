@@ -1,6 +1,7 @@
 #include "import/table/modTableAbove.h"
 
 #include "base/modAmount.h"
+#include "base/modChar.h"
 #include "import/cell/modCell.h"
 #include "import/cell/modTableValue.h"
 #include "import/read/modAccountNumber.h"
@@ -17,11 +18,6 @@ constexpr QStringView accountWords =
     u"Karte:|Kartennummer*";
 constexpr QStringView balanceWords = u"*Kontostand*|Saldo*|*Endsaldo*|*Closing balance*";
 constexpr QStringView oldBalanceWords = u"*alter *|*letzter *|*Anfang*|*Opening*";
-
-bool IsDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
 
 bool IsProtection(QChar c)
 {
@@ -66,14 +62,14 @@ QString MaskedNumber(QStringView cell)
     for (qsizetype i = cell.size() - 1; i >= 0; --i) {
         const QChar c = cell[i];
         const bool isMask = c == u'*' || c == QChar(u'\u2022') || c == u'X' || c == u'x';
-        if (!isMask && !IsDigit(c) && c != u' ') {
+        if (!isMask && !modChar::IsDigit(c) && c != u' ') {
             break;
         }
         if (c != u' ') {
             number.prepend(isMask ? QChar(u'*') : c);
         }
     }
-    return number.size() >= 10 && number.contains(u'*') && IsDigit(number.back()) ? number : QString();
+    return number.size() >= 10 && number.contains(u'*') && modChar::IsDigit(number.back()) ? number : QString();
 }
 
 // What a cell behind a label such as "Konto" says.
@@ -84,7 +80,7 @@ QString NumberIn(QStringView cell)
         return modAccountNumber::Compact(number.toString());
     }
     const QString compact = modAccountNumber::Compact(number.toString());
-    const bool isNumber = compact.size() >= 5 && std::all_of(compact.begin(), compact.end(), IsDigit);
+    const bool isNumber = compact.size() >= 5 && modChar::AreDigits(compact);
     return isNumber ? modTableAbove::OwnNumber(compact) : MaskedNumber(number);
 }
 
@@ -145,7 +141,7 @@ QString modTableAbove::OwnNumber(QStringView cell)
         return masked;
     }
     QString number = modAccountNumber::Compact(Unprotected(cell).toString());
-    if (!std::all_of(number.begin(), number.end(), IsDigit)) {
+    if (!modChar::AreDigits(number)) {
         return number;
     }
     qsizetype zeros = 0;

@@ -1,11 +1,10 @@
 #include "import/table/modTableContents.h"
 
+#include "base/modChar.h"
 #include "import/cell/modTableValue.h"
 #include "import/table/cColumnSurvey.h"
 #include "import/table/modTableMoney.h"
 #include "import/table/modTableParties.h"
-
-#include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -67,7 +66,7 @@ QString CurrencyIn(const QString& name)
     }
     for (const QStringView word : QStringView(name).split(u' ')) {
         const QStringView code = word.startsWith(u'(') && word.endsWith(u')') ? word.mid(1, word.size() - 2) : word;
-        if (code.size() == 3 && std::all_of(code.begin(), code.end(), [](QChar c) { return c >= u'A' && c <= u'Z'; })) {
+        if (modChar::IsCurrencyCode(code)) {
             return code.toString();
         }
     }

@@ -1,5 +1,6 @@
 #include "import/table/modTableDetails.h"
 
+#include "base/modChar.h"
 #include "import/cell/modTableValue.h"
 #include "model/cImportEntry.h"
 
@@ -7,16 +8,6 @@
 #include <array>
 
 namespace {
-
-bool IsDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
-
-bool IsCapital(QChar c)
-{
-    return c >= u'A' && c <= u'Z';
-}
 
 struct cLabel
 {
@@ -87,11 +78,12 @@ qsizetype MarkIn(QStringView text)
 {
     for (qsizetype slash = text.indexOf(u'/'); slash >= 0; slash = text.indexOf(u'/', slash + 1)) {
         const qsizetype start = slash - 2;
-        if (start < 0 || start + markSize > text.size() || !IsCapital(text[start]) || !IsCapital(text[start + 1])) {
+        if (start < 0 || start + markSize > text.size() || !modChar::IsCapital(text[start])
+            || !modChar::IsCapital(text[start + 1])) {
             continue;
         }
         const QStringView digits = text.mid(slash + 1, 9);
-        if (std::all_of(digits.begin(), digits.end(), IsDigit)) {
+        if (modChar::AreDigits(digits)) {
             return start;
         }
     }
@@ -110,13 +102,13 @@ QStringView TakeWord(QStringView& text)
 bool IsBankCode(QStringView word)
 {
     const bool isBic = (word.size() == 8 || word.size() == 11)
-        && std::all_of(word.begin(), word.end(), [](QChar c) { return IsCapital(c) || IsDigit(c); });
-    return isBic || (word.size() == 5 && std::all_of(word.begin(), word.end(), IsDigit));
+        && std::all_of(word.begin(), word.end(), [](QChar c) { return modChar::IsCapital(c) || modChar::IsDigit(c); });
+    return isBic || (word.size() == 5 && modChar::AreDigits(word));
 }
 
 bool IsAccount(QStringView word)
 {
-    return modTableValue::IsIban(word) || (word.size() == 11 && std::all_of(word.begin(), word.end(), IsDigit));
+    return modTableValue::IsIban(word) || (word.size() == 11 && modChar::AreDigits(word));
 }
 
 void ApplyAustrian(cImportEntry& entry)

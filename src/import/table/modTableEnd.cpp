@@ -1,5 +1,6 @@
 #include "import/table/modTableEnd.h"
 
+#include "base/modChar.h"
 #include "import/cell/modTableValue.h"
 #include "import/read/cTableLayout.h"
 #include "import/table/cTable.h"
@@ -10,26 +11,11 @@
 
 namespace {
 
-bool IsDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
-
-bool HasDigit(QStringView cell)
-{
-    return std::any_of(cell.begin(), cell.end(), IsDigit);
-}
-
-bool IsCode(QStringView cell)
-{
-    return cell.size() == 3 && std::all_of(cell.begin(), cell.end(), [](QChar c) { return c >= u'A' && c <= u'Z'; });
-}
-
 QStringView DecimalsOf(QStringView amount, eNumberFormat number)
 {
     const qsizetype sign = amount.lastIndexOf(number == eNumberFormat::English ? u'.' : u',');
     const QStringView behind = sign < 0 ? QStringView() : amount.sliced(sign + 1);
-    return behind.first(std::find_if_not(behind.begin(), behind.end(), IsDigit) - behind.begin());
+    return behind.first(std::find_if_not(behind.begin(), behind.end(), modChar::IsDigit) - behind.begin());
 }
 
 class cEnd
@@ -86,7 +72,7 @@ private:
         const QStringView above = m_bookings.isEmpty() ? day : m_table.Cell(m_bookings.constLast(), m_map.Date);
         const bool isNote =
             m_table.CellCount(m_last) == 1 && std::any_of(day.begin(), day.end(), [](QChar c) { return c.isLetter(); });
-        return HasDigit(day) && !isNote && IsDigit(day.front()) == IsDigit(above.front());
+        return modChar::HasDigit(day) && !isNote && modChar::IsDigit(day.front()) == modChar::IsDigit(above.front());
     }
 
     // Of the bookings above the last line. Of a first one the header tells, whose last names may be empty.
@@ -116,7 +102,7 @@ private:
         const QStringView cell = LastCell(m_last);
         const int column = m_table.CellCount(m_last) - 1;
         const QStringView above = CellAbove(column);
-        if (IsCode(above)) { // of a currency, whose column is not recognised by half a code
+        if (modChar::IsCurrencyCode(above)) { // of a currency, whose column is not recognised by half a code
             return cell.size() < above.size();
         }
         if (column == m_map.Indicator) {
@@ -134,14 +120,14 @@ private:
         const bool isMoney =
             column == m_map.Amount || column == m_map.Debit || column == m_map.Credit || column == m_map.Balance;
         const qsizetype usual = DecimalsOf(CellAbove(column), m_number).size();
-        if (!isMoney || !HasDigit(cell) || DecimalsOf(cell, m_number).size() >= usual) {
+        if (!isMoney || !modChar::HasDigit(cell) || DecimalsOf(cell, m_number).size() >= usual) {
             return eDecimals::Whole;
         }
         bool hasZeros = cell.endsWith(u',') || cell.endsWith(u'.'); // which nobody writes without a digit behind it
         for (const int row : m_bookings) {
             const QStringView above = m_table.Cell(row, column);
             const QStringView decimals = DecimalsOf(above, m_number);
-            if (HasDigit(above) && decimals.size() != usual) {
+            if (modChar::HasDigit(above) && decimals.size() != usual) {
                 return eDecimals::Whole;
             }
             hasZeros = hasZeros || decimals.endsWith(u'0');

@@ -1,6 +1,7 @@
 #include "import/table/modTableMend.h"
 
 #include "base/cText.h"
+#include "base/modChar.h"
 #include "import/cell/modTableValue.h"
 #include "import/table/modTableAbove.h"
 
@@ -14,11 +15,6 @@ namespace {
 
 constexpr int mostShift = 3; // fields that a row may lack or have too many
 
-bool IsDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
-}
-
 // "-30;98"
 bool IsSemicolonNumber(QStringView cell)
 {
@@ -31,21 +27,17 @@ bool IsSemicolonNumber(QStringView cell)
         whole = whole.mid(1);
     }
     const QStringView decimals = cell.mid(sign + 1);
-    return !whole.isEmpty() && decimals.size() <= 2 && std::all_of(whole.begin(), whole.end(), IsDigit)
-        && std::all_of(decimals.begin(), decimals.end(), IsDigit);
+    return !whole.isEmpty() && decimals.size() <= 2 && modChar::AreDigits(whole) && modChar::AreDigits(decimals);
 }
 
 // "1,23457E+21"
 bool IsExponent(QStringView cell)
 {
     const qsizetype sign = cell.indexOf(u'+') - 1;
-    return sign > 0 && (cell[sign] == u'E' || cell[sign] == u'e') && IsDigit(cell.front()) && IsDigit(cell.back())
-        && std::all_of(cell.begin(), cell.begin() + sign, [](QChar c) { return IsDigit(c) || c == u',' || c == u'.'; });
-}
-
-bool IsCode(QStringView cell)
-{
-    return cell.size() == 3 && std::all_of(cell.begin(), cell.end(), [](QChar c) { return c >= u'A' && c <= u'Z'; });
+    return sign > 0 && (cell[sign] == u'E' || cell[sign] == u'e') && modChar::IsDigit(cell.front())
+        && modChar::IsDigit(cell.back()) && std::all_of(cell.begin(), cell.begin() + sign, [](QChar c) {
+               return modChar::IsDigit(c) || c == u',' || c == u'.';
+           });
 }
 
 class cMender
@@ -152,7 +144,8 @@ private:
             return !cell.isEmpty() && modTableValue::ReadAmount(cell, eNumberFormat::Detect).has_value();
         };
         const QStringView currency = m_map.Currency < 0 ? QStringView() : m_table.Cell(row, m_map.Currency + shift);
-        return std::any_of(m_sides.begin(), m_sides.end(), isNumber) && (currency.isEmpty() || IsCode(currency));
+        return std::any_of(m_sides.begin(), m_sides.end(), isNumber)
+            && (currency.isEmpty() || modChar::IsCurrencyCode(currency));
     }
 
     // How far the amounts of a row stand to the right of where they should be; 0 for a row that is in order.

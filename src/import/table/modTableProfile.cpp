@@ -1,5 +1,6 @@
 #include "import/table/modTableProfile.h"
 
+#include "base/modChar.h"
 #include "import/cell/modTableValue.h"
 #include "import/table/cKnownLayout.h"
 #include "import/table/cTable.h"
@@ -220,11 +221,6 @@ void Take(const cKnownLayout& known, const QStringList& header, int columns, cTa
     layout.OnlyCurrency = QString::fromUtf16(known.OnlyCurrency);
 }
 
-bool IsCode(QStringView cell)
-{
-    return cell.size() == 3 && std::all_of(cell.begin(), cell.end(), [](QChar c) { return c >= u'A' && c <= u'Z'; });
-}
-
 // A number, perhaps with a currency and with signs that make none of it for others.
 bool LooksNumeric(QStringView cell)
 {
@@ -251,7 +247,8 @@ bool IsOfKind(QStringView cell, QStringView kind)
     if (kind == u"iban") {
         return modTableValue::IsIban(modTableAbove::OwnNumber(cell));
     }
-    return kind == u"code" ? IsCode(cell) : std::any_of(cell.begin(), cell.end(), [](QChar c) { return c.isLetter(); });
+    return kind == u"code" ? modChar::IsCurrencyCode(cell)
+                           : std::any_of(cell.begin(), cell.end(), [](QChar c) { return c.isLetter(); });
 }
 
 bool IsRowOfShape(const cTable& table, int row, const QList<QStringView>& kinds)

@@ -2,8 +2,10 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "base/modChar.h"
 #include "import/cell/modCell.h"
 #include "import/cell/modTableValue.h"
+#include "import/read/cRepeatedText.h"
 #include "import/read/modAccountNumber.h"
 #include "import/read/modStatementFile.h"
 #include "import/table/cRowBalances.h"
@@ -42,27 +44,6 @@ bool IsOneOf(QStringView cell, const auto& words)
         return cell.size() == word.size() && cell.compare(word, Qt::CaseInsensitive) == 0;
     });
 }
-
-bool HasDigit(QStringView cell)
-{
-    return std::any_of(cell.begin(), cell.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
-}
-
-// Texts that come back in row after row are kept once.
-class cRepeated
-{
-public:
-    [[nodiscard]] QString Of(QStringView cell)
-    {
-        if (cell != m_text) {
-            m_text = cell.toString();
-        }
-        return m_text;
-    }
-
-private:
-    QString m_text;
-};
 
 using eState = modTableStatus::eState;
 
@@ -211,7 +192,7 @@ private:
                  entry);
         } else if (state == eState::Pending) {
             Skip(eSkipped::Pending, cText::Tr("Der Umsatz ist noch vorgemerkt: {0}", {Start()}), entry);
-        } else if (!entry.ImportDate.isValid() && !HasDigit(Cell(m_map.Date))) {
+        } else if (!entry.ImportDate.isValid() && !modChar::HasDigit(Cell(m_map.Date))) {
             Skip(eSkipped::Unreadable, cText::Tr("Die Zeile hat kein Datum: {0}", {Start()}), entry);
         } else if (!value) {
             Skip(eSkipped::Unreadable, cText::Tr("Der Betrag ist keine Zahl: {0}", {Start()}));
@@ -334,7 +315,7 @@ private:
     [[nodiscard]] std::optional<double> SideSize(int column) const
     {
         const QStringView cell = Cell(column);
-        if (!HasDigit(cell)) {
+        if (!modChar::HasDigit(cell)) {
             return 0.0;
         }
         const std::optional<double> euros = modTableValue::ReadAmount(cell, m_number);
@@ -504,8 +485,8 @@ private:
     int m_row = 0;
     QList<int> m_purposes; // in the order in which they are joined
     cStatementRead m_read;
-    cRepeated m_type;
-    cRepeated m_currency;
+    cRepeatedText m_type;
+    cRepeatedText m_currency;
     QString m_ownCell;
     QString m_ownAccount;
     cRowBalances m_balances;

@@ -36,13 +36,6 @@ constexpr std::array messages = {
     cMessage{"BkToCstmrDbtCdtNtfctn", "Ntfctn"},
 };
 
-cStatementRead Refused(const QString& reason)
-{
-    cStatementRead read;
-    read.Refusal = reason;
-    return read;
-}
-
 // The lines of places that come in ascending order.
 class cLines
 {
@@ -84,10 +77,12 @@ public:
         }
         const bool isXml = modXmlNode::Load(skeleton, m_pieces.Skeleton);
         if (isXml && !TakeMessages(skeleton)) {
-            return Refused(cText::Tr("Die XML-Datei ist kein Kontoauszug (camt.052, camt.053, camt.054)."));
+            return cStatementRead::Refused(
+                cText::Tr("Die XML-Datei ist kein Kontoauszug (camt.052, camt.053, camt.054)."));
         }
         if (!isXml || m_isBroken) {
-            return Refused(cText::Tr("Die XML-Datei ist beschädigt oder unvollständig. Es wurde nichts übernommen."));
+            return cStatementRead::Refused(
+                cText::Tr("Die XML-Datei ist beschädigt oder unvollständig. Es wurde nichts übernommen."));
         }
         return m_isTooLarge ? cStatementRead::TooMany() : std::move(m_read);
     }

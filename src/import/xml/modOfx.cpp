@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/modAmount.h"
+#include "base/modChar.h"
 #include "base/modCount.h"
 #include "import/read/modPayee.h"
 #include "import/read/modStatementText.h"
@@ -12,7 +13,6 @@
 
 #include <QHash>
 
-#include <algorithm>
 #include <array>
 #include <numeric>
 #include <optional>
@@ -47,8 +47,7 @@ QDate DateOf(QStringView text)
 {
     const auto number = [&](qsizetype from, qsizetype count) {
         const QStringView digits = text.mid(from, count);
-        const bool isNumber = digits.size() == count
-            && std::all_of(digits.begin(), digits.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+        const bool isNumber = digits.size() == count && modChar::AreDigits(digits);
         return isNumber ? std::accumulate(digits.begin(), digits.end(), 0,
                                           [](int sum, QChar c) { return sum * 10 + (c.unicode() - u'0'); })
                         : 0;

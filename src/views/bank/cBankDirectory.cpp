@@ -2,6 +2,7 @@
 
 #include "base/cShell.h"
 #include "base/cText.h"
+#include "base/modChar.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -38,11 +39,6 @@ QString Compact(const QString& text)
         }
     }
     return kept.remove(label);
-}
-
-bool IsDigits(QStringView text)
-{
-    return std::all_of(text.begin(), text.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
 }
 
 bool IsBic(const QString& compact)
@@ -221,7 +217,8 @@ cBankMatches cBankDirectory::FindByIban(const QString& iban) const
     if (IsForeignIban(compact)) {
         return Refuse(cText::Tr("Das ist keine deutsche IBAN; das Verzeichnis enthält Banken in Deutschland."));
     }
-    if (compact.size() != ibanLength || !BeginsAsGermanIban(compact) || !IsDigits(QStringView(compact).mid(2))) {
+    if (compact.size() != ibanLength || !BeginsAsGermanIban(compact)
+        || !modChar::AreDigits(QStringView(compact).mid(2))) {
         return Refuse(cText::Tr("Eine deutsche IBAN besteht aus DE und 20 Ziffern. Bitte vergleichen Sie sie mit Ihrem "
                                 "Kontoauszug."));
     }
@@ -267,7 +264,8 @@ cBankMatches cBankDirectory::OneByCode(const QString& code) const
 // An IBAN that is still being typed shows the banks that it may lead to.
 cBankMatches cBankDirectory::SearchIban(const QString& iban, int limit) const
 {
-    const bool isBegun = iban.size() < ibanLength && !IsForeignIban(iban) && IsDigits(QStringView(iban).mid(2));
+    const bool isBegun =
+        iban.size() < ibanLength && !IsForeignIban(iban) && modChar::AreDigits(QStringView(iban).mid(2));
     if (!isBegun) {
         return FindByIban(iban);
     }
@@ -281,7 +279,7 @@ cBankMatches cBankDirectory::SearchIban(const QString& iban, int limit) const
 cBankMatches cBankDirectory::SearchWords(const QString& text, int limit) const
 {
     const QString compact = Compact(text);
-    if (compact.size() == codeLength && IsDigits(compact)) {
+    if (compact.size() == codeLength && modChar::AreDigits(compact)) {
         return OneByCode(compact);
     }
     Load();

@@ -33,7 +33,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int overlap = 10;           // days that are fetched once more
-constexpr int daysWithoutTan = 89;    // the law lets banks give so many without another one
 constexpr qsizetype mostProblems = 5; // named of one account
 
 QString NameOf(const cBankAccount& account)
@@ -190,7 +189,7 @@ QDate cBankFetch::Today() const
 QDate cBankFetch::FirstDay(qsizetype account) const
 {
     const QDate last = m_accounts.at(account).LastFetch;
-    return last.isValid() ? qMin(last, Today()).addDays(-overlap) : Today().addDays(-daysWithoutTan);
+    return last.isValid() ? qMin(last, Today()).addDays(-overlap) : Today().addDays(-DaysWithoutTan);
 }
 
 bool cBankFetch::Run(const cWish& wish, cProgress& progress)
@@ -282,7 +281,7 @@ bool cBankFetch::IsPossible(const std::vector<cJob>& jobs)
 // Once for the whole run. False when the user gives up.
 bool cBankFetch::AskAboutOld(std::vector<cJob>& jobs)
 {
-    const QDate oldest = Today().addDays(-daysWithoutTan);
+    const QDate oldest = Today().addDays(-DaysWithoutTan);
     const bool hasOld = std::any_of(jobs.begin(), jobs.end(), [&](const cJob& job) {
         return std::any_of(job.Orders.begin(), job.Orders.end(),
                            [&](const cFetchOrder& order) { return order.From < oldest; });

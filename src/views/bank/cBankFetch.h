@@ -62,7 +62,10 @@ public:
     [[nodiscard]] const QList<cAccount>& Accounts() const { return m_accounts; } // those of a login together
     [[nodiscard]] QString EmptyHint() const;                                     // what to do when there is none
 
-    // The first day that is fetched when none is named: ten days before the last fetch, else 89 days ago.
+    // The law lets banks give so many without a TAN.
+    static constexpr int DaysWithoutTan = 89;
+
+    // The first day that is fetched when none is named: ten days before the last fetch, else DaysWithoutTan ago.
     [[nodiscard]] QDate FirstDay(qsizetype account) const;
     [[nodiscard]] QDate Today() const;
 

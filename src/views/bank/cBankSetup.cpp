@@ -10,9 +10,11 @@
 #include "fints/cBankLog.h"
 #include "fints/HBCIBusiness.h"
 #include "fints/modBankParameters.h"
+#include "import/read/modAccountNumber.h"
 #include "store/cUndoStep.h"
 #include "views/bank/cBankCustomer.h"
 #include "views/bank/cBankDirectory.h"
+#include "views/bank/cBankFetch.h"
 #include "views/bank/modBankText.h"
 
 #include <QScopeGuard>
@@ -26,7 +28,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr int shownBanks = 50;
-constexpr int usualDays = 89; // banks give so many without asking for a TAN
 
 } // namespace
 
@@ -96,10 +97,7 @@ void cBankSetup::ChooseCode(const QString& code)
 
 bool cBankSetup::IsCode(const QString& text)
 {
-    constexpr qsizetype digits = 8;
-    const QString code = QString(text).remove(u' ');
-    return code.size() == digits
-        && std::all_of(code.begin(), code.end(), [](QChar c) { return c >= u'0' && c <= u'9'; });
+    return modAccountNumber::IsBankCode(QString(text).remove(u' '));
 }
 
 void cBankSetup::SetUrl(const QString& url)
@@ -399,7 +397,7 @@ void cBankSetup::Back()
 
 QDate cBankSetup::UsualFirstDay() const
 {
-    return m_parts.Tools.Clock.Today().addDays(-usualDays);
+    return m_parts.Tools.Clock.Today().addDays(-cBankFetch::DaysWithoutTan);
 }
 
 void cBankSetup::SetFirstDay(QDate day)

@@ -1,6 +1,7 @@
 #include "views/bank/modBankQuestion.h"
 
 #include "base/cText.h"
+#include "base/modChar.h"
 
 #include <QStringList>
 
@@ -16,11 +17,6 @@ bool IsOrder(QChar c)
 {
     const bool isControl = c.category() == QChar::Other_Control && c != u'\n';
     return isControl || (c >= u'\u202A' && c <= u'\u202E') || (c >= u'\u2066' && c <= u'\u2069');
-}
-
-bool IsDigit(QChar c)
-{
-    return c >= u'0' && c <= u'9';
 }
 
 QString Lines(QString text)
@@ -82,7 +78,7 @@ QString modBankQuestion::Form(const cTanQuestion& question)
 
 bool modBankQuestion::Fit(const cTanQuestion& question, QString& typed, int& cursor)
 {
-    const auto isForeign = [&](QChar c) { return question.IsNumber ? !IsDigit(c) : c.isSpace(); };
+    const auto isForeign = [&](QChar c) { return question.IsNumber ? !modChar::IsDigit(c) : c.isSpace(); };
     const QStringView before = QStringView(typed).first(std::clamp<qsizetype>(cursor, 0, typed.size()));
     cursor -= static_cast<int>(std::count_if(before.begin(), before.end(), isForeign));
     typed.removeIf(isForeign);

@@ -121,11 +121,6 @@ std::unique_ptr<cBookAccess> Refuse(cUser& user, const QString& text)
     return nullptr;
 }
 
-QString FullPath(const QString& path)
-{
-    return QDir::cleanPath(QDir().absoluteFilePath(path));
-}
-
 } // namespace
 
 cBookAccess::cBookAccess(std::unique_ptr<cBook> book, std::unique_ptr<cConfiguration> configuration,
@@ -175,6 +170,11 @@ std::unique_ptr<cBookAccess> cBookAccess::Open(const QString& database, eMode mo
         return nullptr;
     }
     return std::unique_ptr<cBookAccess>(new cBookAccess(std::move(book), std::move(configuration), ports));
+}
+
+QString cBookAccess::FullPath(const QString& path)
+{
+    return QDir::cleanPath(QDir().absoluteFilePath(path));
 }
 
 QString cBookAccess::PathFor(const QString& database, cRegistry& registry, cShell& shell)

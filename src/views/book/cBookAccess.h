@@ -52,6 +52,9 @@ public:
     [[nodiscard]] static std::unique_ptr<cBookAccess> Open(const QString& database, eMode mode, const cPorts& ports);
     ~cBookAccess();
 
+    // As it is from the folder of the call.
+    [[nodiscard]] static QString FullPath(const QString& path);
+
     // The file that Open would take; it may be missing or damaged.
     [[nodiscard]] static QString PathFor(const QString& database, cRegistry& registry, cShell& shell);
 

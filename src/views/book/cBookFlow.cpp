@@ -17,6 +17,7 @@
 #include "store/cDataAccess.h"
 #include "store/cDatabase.h"
 #include "store/modBookFile.h"
+#include "store/modSchema.h"
 #include "views/book/cBookHost.h"
 #include "views/book/modBookCopy.h"
 
@@ -61,7 +62,8 @@ void cBookFlow::NewBook()
         return;
     }
     const QString working = modBookFile::WorkingName(path);
-    if (!CopyTemplate(working)) {
+    if (const QString problem = modSchema::FromTemplate(m_parts.Shell, working); !problem.isEmpty()) {
+        m_parts.User.Show(eTone::Critical, problem);
         return;
     }
     // The user agreed to replace a file that is there, but it may be a book: it stays under another name.
@@ -69,7 +71,7 @@ void cBookFlow::NewBook()
         modBookFile::PutInPlace(m_parts.Shell, working, path, m_parts.Clock.Today(), u"ersetzt"_s);
     if (!kept) {
         QFile::remove(working);
-        ShowCannotCreate(path);
+        m_parts.User.Show(eTone::Critical, modSchema::CannotCreate(path));
         return;
     }
     const QString former = m_parts.Book.Path();
@@ -115,33 +117,6 @@ QString cBookFlow::AskForNewPath() const
         return {};
     }
     return path.isEmpty() || m_parts.Host.IsInUse(path) ? QString() : path;
-}
-
-bool cBookFlow::CopyTemplate(const QString& path) const
-{
-    const QString source = m_parts.Shell.InstalledFile(u"template.dat"_s);
-    if (!m_parts.Shell.FileExists(source)) {
-        m_parts.User.Show(
-            eTone::Critical,
-            cText::Tr("Die Installation ist beschädigt. Eine Neuinstallation könnte das Problem beheben.\nDie Datei "
-                      "'template.dat' konnte nicht gefunden werden!"));
-        return false;
-    }
-    if (!m_parts.Shell.CopyFile(source, path)) {
-        ShowCannotCreate(path);
-        return false;
-    }
-    return true;
-}
-
-void cBookFlow::ShowCannotCreate(const QString& path) const
-{
-    m_parts.User.Show(
-        eTone::Critical,
-        cText::Tr(
-            "Die Datenbank konnte nicht erstellt werden. Bitte prüfen Sie die Zugriffsrechte und den Speicherplatz: "
-            "\n{0}",
-            {Shown(QFileInfo(path).absolutePath())}));
 }
 
 void cBookFlow::SwitchBook()

@@ -53,8 +53,6 @@ public:
 
 private:
     [[nodiscard]] QString AskForNewPath() const;
-    [[nodiscard]] bool CopyTemplate(const QString& path) const;
-    void ShowCannotCreate(const QString& path) const;
     [[nodiscard]] QString AskForBook() const;
     [[nodiscard]] bool IsWanted(const QString& backup) const;
     void Replace(const QString& backup) const;

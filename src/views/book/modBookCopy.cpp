@@ -25,20 +25,6 @@ QString NotWritten(const QString& path)
     return cText::Tr("Die Datei '{0}' kann nicht geschrieben werden.", {path});
 }
 
-// An empty book under its working name; what keeps the book from being written at this path.
-QString CopyTemplate(const QString& path, const QString& working, cShell& shell)
-{
-    if (shell.FileExists(path)) {
-        return cText::Tr("Die Datei '{0}' gibt es schon. Bitte nennen Sie eine neue.", {path});
-    }
-    const QString source = shell.InstalledFile(u"template.dat"_s);
-    if (!shell.FileExists(source)) {
-        return cText::Tr("Die Installation ist beschädigt. Eine Neuinstallation könnte das Problem beheben.\nDie "
-                         "Datei 'template.dat' konnte nicht gefunden werden!");
-    }
-    return shell.CopyFile(source, working) ? QString() : NotWritten(path);
-}
-
 // The number of its entries; negative where they could not all be written.
 int FillDemo(const QString& path, const modDemo::cDemoPlan& plan, cUser& user, const QString& version)
 {
@@ -101,7 +87,9 @@ int modBookCopy::WriteDemo(const QString& path, int entries, QDate today, cShell
 {
     // A part of it, left where the disk was full, would be taken for the household the next time.
     const QString working = modBookFile::WorkingName(path);
-    QString problem = CopyTemplate(path, working, shell);
+    QString problem = shell.FileExists(path)
+        ? cText::Tr("Die Datei '{0}' gibt es schon. Bitte nennen Sie eine neue.", {path})
+        : modSchema::FromTemplate(shell, working);
     const int written = problem.isEmpty() ? FillDemo(working, modDemo::OfSize(entries, today), user, version) : -1;
     if (written >= 0 && !modBookFile::MoveOver(working, path)) {
         problem = NotWritten(path);

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "base/modCount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
@@ -32,17 +33,7 @@ QString SeriesName(const cEntryItem& entry)
 
 QString Lines(const QStringList& names)
 {
-    return names.mid(0, mostNames).join(u'\n') + (names.size() > mostNames ? u"\n…"_s : QString());
-}
-
-QString CountOfEntries(qsizetype count)
-{
-    return count == 1 ? cText::Tr("1 Eintrag") : cText::Tr("{0} Einträge", {QString::number(count)});
-}
-
-QString CountOfSeries(qsizetype count)
-{
-    return count == 1 ? cText::Tr("1 Serie") : cText::Tr("{0} Serien", {QString::number(count)});
+    return modCount::Cut(names, mostNames).join(u'\n');
 }
 
 // Lines of the list that the targets stand for, and how many of the targets are series by occurrence.
@@ -239,10 +230,10 @@ QString cEntryDelete::PartQuestion(const cDeleteTargetList& targets, const QStri
                     {first.Entry.Name(), cSeriesChange(m_tools).DayText(first.Entry.ID, first.Days.first()),
                      modWord::Intervals().ToShown(first.Entry.EntryInterval), modDate::ToText(first.Entry.EntryDate)})
         : cText::Tr("Ausgewählt sind {0} Vorkommen von {1}:",
-                    {QString::number(counts.Occurrences), CountOfSeries(counts.Series)})
+                    {QString::number(counts.Occurrences), modCount::Series(counts.Series)})
             + u'\n' + Lines(names);
     if (counts.Entries > 0) {
-        text += u'\n' + cText::Tr("Außerdem werden gelöscht: {0}", {CountOfEntries(counts.Entries)});
+        text += u'\n' + cText::Tr("Außerdem werden gelöscht: {0}", {modCount::Entries(counts.Entries)});
     }
     text += u'\n' + cText::Tr("Was möchten Sie löschen?") + u"\n\n"_s
         + cText::Tr("{0}: Der Betrag wird null, alles andere bleibt.", {options.first()});

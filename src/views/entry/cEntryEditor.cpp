@@ -231,11 +231,6 @@ QString cEntryEditor::StartBalanceText(const QString& account) const
                      {m_tools.Format.Cents(modBalance::Effect(*stored, {})), modDate::ToText(stored->EntryDate)});
 }
 
-QStringList cEntryEditor::Categories() const
-{
-    return cEntrySuggestions::VisibleCategories(m_tools.Data);
-}
-
 QStringList cEntryEditor::Accounts() const
 {
     return cEntrySuggestions::VisibleAccounts(m_tools.Data);
@@ -301,11 +296,6 @@ void cEntryEditor::ChooseAccount(const QString& account, cFields& fields) const
 QString cEntryEditor::ChosenType(const cFields& fields)
 {
     return fields.Type == fields.BroughtType ? QString() : fields.Type;
-}
-
-bool cEntryEditor::IsAmountOpen(const cFields& fields)
-{
-    return modSum::Evaluate(fields.Amount, fields.Decimal) == 0;
 }
 
 bool cEntryEditor::ShowsTarget(const cFields& fields)

@@ -78,7 +78,6 @@ public:
     [[nodiscard]] QString StartBalanceText(const QString& account) const;
 
     // Choices in the order in which they are offered.
-    [[nodiscard]] QStringList Categories() const;
     [[nodiscard]] QStringList Payers(const cFields& fields) const; // who may have paid; empty in a book without people
     [[nodiscard]] QStringList Accounts() const;
     // Earlier descriptions and the search in the categories; loaded when first asked.
@@ -103,8 +102,6 @@ public:
 
     // The kind that the user has chosen; empty while what stands there is open.
     [[nodiscard]] static QString ChosenType(const cFields& fields);
-    // True while the amount is still to be typed.
-    [[nodiscard]] static bool IsAmountOpen(const cFields& fields);
     // The target account and its label are there only for a transfer.
     [[nodiscard]] static bool ShowsTarget(const cFields& fields);
     // First and last day, count and next days are there only for a series.

@@ -1,6 +1,7 @@
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "base/modCount.h"
 #include "base/modDate.h"
 #include "base/modSum.h"
 #include "core/cAmountFormat.h"
@@ -125,7 +126,7 @@ QString cEntryEditor::ReceiptText(const cEntryFields& fields) const
         count += receipts.Of(id).size();
     }
     const qsizetype added = fields.NewReceipts.size();
-    const QString stored = count == 1 ? cText::Tr("1 Beleg") : cText::Tr("{0} Belege", {QString::number(count)});
+    const QString stored = modCount::Receipts(count);
     const QString fresh = cText::Tr("{0} neu", {QString::number(added)});
     if (count > 0 && added > 0) {
         return cText::Tr("{0}, {1}", {stored, fresh});

@@ -5,6 +5,7 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "views/ledger/cReconciledDays.h"
+#include "views/look/modMoneyTone.h"
 
 #include <array>
 
@@ -116,7 +117,7 @@ QVariant cReconcileListModel::data(const QModelIndex& index, int role) const
         return IsMoney(index.column()) ? QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
     case ToneRole: {
         const qint64 cents = index.column() == BookAmount ? item->BookCents : item->BankCents;
-        return IsMoney(index.column()) ? (cents < 0 ? 2 : 1) : 0;
+        return QVariant::fromValue(IsMoney(index.column()) ? modMoneyTone::Of(cents) : eMoneyTone::Neutral);
     }
     default: return {};
     }

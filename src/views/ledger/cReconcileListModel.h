@@ -13,7 +13,7 @@ class cReconcileListModel final : public QAbstractTableModel
 
 public:
     enum eColumn { Kind, Name, BankDay, BankAmount, BookDay, BookAmount, ColumnCount };
-    enum eRole { ToneRole = Qt::UserRole }; // int, as in cStatementListModel
+    enum eRole { ToneRole = Qt::UserRole }; // eMoneyTone
 
     explicit cReconcileListModel(const cBookTools& tools, QObject* parent = nullptr);
     ~cReconcileListModel() override;

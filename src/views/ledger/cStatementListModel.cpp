@@ -16,6 +16,7 @@
 #include "views/list/cListFilter.h"
 #include "views/list/modImportText.h"
 #include "views/list/modUnread.h"
+#include "views/look/modMoneyTone.h"
 #include "views/main/modViewText.h"
 
 #include <algorithm>
@@ -262,34 +263,15 @@ cStatementListModel::eFinding cStatementListModel::Finding() const
     return m_ledger.Check().Points.size() > 1 && m_book.State == eState::Agrees ? eFinding::Good : eFinding::Unknown;
 }
 
-QString cStatementListModel::CountText() const
+cSumTexts cStatementListModel::SumTexts() const
 {
-    return modCount::Rows(static_cast<qsizetype>(m_shown.size()));
+    return modEntrySums::Texts({m_income, -m_expense}, modCount::Rows(static_cast<qsizetype>(m_shown.size())),
+                               m_tools.Format, IsUnread());
 }
 
 bool cStatementListModel::IsUnread() const
 {
     return modUnread::IsMissing(m_tools.Data, m_ledger.Rows().size());
-}
-
-QString cStatementListModel::SumText(qint64 cents) const
-{
-    return IsUnread() ? modUnread::Sum() : m_tools.Format.Cents(cents);
-}
-
-QString cStatementListModel::IncomeText() const
-{
-    return SumText(m_income);
-}
-
-QString cStatementListModel::ExpenseText() const
-{
-    return SumText(m_expense);
-}
-
-QString cStatementListModel::TotalText() const
-{
-    return SumText(m_income + m_expense);
 }
 
 QString cStatementListModel::EmptyTitle() const
@@ -443,7 +425,8 @@ QVariant cStatementListModel::data(const QModelIndex& index, int role) const
                                                            : Text(row, column);
     case Qt::TextAlignmentRole:
         return IsMoney(column) ? QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
-    case ToneRole: return column == Balance ? (cents < 0 ? 2 : 0) : (cents > 0 ? 1 : 2);
+    case ToneRole:
+        return QVariant::fromValue(column == Balance ? modMoneyTone::OfBalance(cents) : modMoneyTone::Of(cents));
     case BookedRole: return m_ledger.Rows().at(row).ImportAssigned;
     default: return {};
     }

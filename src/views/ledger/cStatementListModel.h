@@ -5,6 +5,7 @@
 #include "views/ledger/cReconcileListModel.h"
 #include "views/ledger/cStatementLedger.h"
 #include "views/list/cListFilter.h"
+#include "views/list/modEntrySums.h"
 
 #include <QAbstractTableModel>
 #include <QHash>
@@ -29,7 +30,7 @@ public:
     enum eColumn { Day, Counterparty, Purpose, Amount, Balance, State, Category, ColumnCount };
 
     enum eRole {
-        ToneRole = Qt::UserRole, // int: 1 income, 2 expense, 0 neither
+        ToneRole = Qt::UserRole, // eMoneyTone
         BookedRole,              // bool
     };
 
@@ -61,10 +62,7 @@ public:
     // What is known of the balances, in sentences; what to show beside them; the sums of the rows shown.
     [[nodiscard]] QStringList Findings() const;
     [[nodiscard]] eFinding Finding() const;
-    [[nodiscard]] QString CountText() const;
-    [[nodiscard]] QString IncomeText() const;
-    [[nodiscard]] QString ExpenseText() const;
-    [[nodiscard]] QString TotalText() const;
+    [[nodiscard]] cSumTexts SumTexts() const;
     [[nodiscard]] QString EmptyTitle() const;
     [[nodiscard]] QString EmptyHint() const;
 
@@ -96,11 +94,10 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] bool IsUnread() const; // there are no rows because they could not be read
-    [[nodiscard]] QString SumText(qint64 cents) const;
-    void TakeOtherNumbers(); // of accounts without rows
-    void ShowAccount();      // that was loaded
-    void Show();             // the days of the period, then the filter
-    void Filter();           // what of them holds the words
+    void TakeOtherNumbers();             // of accounts without rows
+    void ShowAccount();                  // that was loaded
+    void Show();                         // the days of the period, then the filter
+    void Filter();                       // what of them holds the words
     [[nodiscard]] qsizetype RowAt(int row) const { return m_shown[static_cast<std::size_t>(row)]; }
     [[nodiscard]] cListFilter& Texts();
     [[nodiscard]] QString Text(qsizetype row, int column) const;

@@ -1,6 +1,7 @@
 #include "views/list/cEntryListModel.h"
 
 #include "base/cText.h"
+#include "base/modCount.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "model/modBalance.h"
@@ -43,8 +44,7 @@ constexpr std::array<const char*, cEntryListModel::ColumnCount> titles{
 QVariant ReceiptText(const cEntryItem& entry)
 {
     const int count = modReceiptName::Count(entry);
-    return count == 0 ? QVariant()
-                      : QVariant(count == 1 ? cText::Tr("1 Beleg") : cText::Tr("{0} Belege", {QString::number(count)}));
+    return count == 0 ? QVariant() : QVariant(modCount::Receipts(count));
 }
 
 bool IsMoneyColumn(int column)
@@ -406,18 +406,20 @@ QVariant cEntryListModel::EntryData(int entry, int column, int role) const
         const std::optional<qint64> cents = Cents(entry, column);
         return cents ? QVariant(*cents) : QVariant();
     }
-    case ToneRole: return Tone(entry, column);
+    case ToneRole: return QVariant::fromValue(Tone(entry, column));
     default: return {};
     }
 }
 
-cEntryListModel::eMoneyTone cEntryListModel::Tone(int entry, int column) const
+eMoneyTone cEntryListModel::Tone(int entry, int column) const
 {
     if (column == Balance) {
-        return m_balances.empty() || m_balances[At(entry)] >= 0 ? Neutral : Expense;
+        return modMoneyTone::OfBalance(m_balances.empty() ? 0 : m_balances[At(entry)]);
     }
     const QString& type = m_content.Entries.at(entry).EntryType;
-    return type == modWord::Umbuchung ? Neutral : type == modWord::Einnahme ? Income : Expense;
+    return type == modWord::Umbuchung ? eMoneyTone::Neutral
+        : type == modWord::Einnahme   ? eMoneyTone::Income
+                                      : eMoneyTone::Expense;
 }
 
 QVariant cEntryListModel::GroupData(const cGroup& group, int column, int role) const
@@ -426,7 +428,7 @@ QVariant cEntryListModel::GroupData(const cGroup& group, int column, int role) c
         return true;
     }
     if (role == ToneRole) {
-        return group.Sum < 0 ? Expense : Income;
+        return QVariant::fromValue(modMoneyTone::Of(group.Sum));
     }
     if (role == NameRole) {
         return group.Name;

@@ -4,6 +4,7 @@
 #include "model/cEntryItem.h"
 #include "views/list/modEntrySums.h"
 #include "views/look/cCategoryLooks.h"
+#include "views/look/modMoneyTone.h"
 
 #include <QAbstractItemModel>
 #include <QDate>
@@ -40,7 +41,7 @@ public:
     };
 
     enum eRole {
-        ToneRole = Qt::UserRole, // int of eMoneyTone
+        ToneRole = Qt::UserRole, // eMoneyTone
         FutureRole,              // bool: lies after today
         CorrectedRole,           // bool: amount of this period corrected
         GroupRole,               // bool: the row is the head of a group
@@ -48,9 +49,6 @@ public:
         NameRole,                // text: name of a group, without its count
         ReceiptsRole,            // int: number of receipts; 0 in every other column
     };
-
-    // What an amount means, for whoever paints it.
-    enum eMoneyTone { Neutral, Income, Expense };
 
     // An occurrence as it is found again after the list was rebuilt.
     struct cKey

@@ -1,5 +1,6 @@
 #include "views/list/cListFilter.h"
 
+#include "base/modChar.h"
 #include "base/modDate.h"
 #include "model/modTag.h"
 
@@ -11,7 +12,7 @@ bool IsPartOfDay(const QString& word)
 {
     const QChar separator = modDate::Form().Separator;
     return std::all_of(word.begin(), word.end(),
-                       [separator](QChar c) { return c == separator || (c >= u'0' && c <= u'9'); });
+                       [separator](QChar c) { return c == separator || modChar::IsDigit(c); });
 }
 
 std::size_t At(int index)

@@ -11,6 +11,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/list/modBookNames.h"
+#include "views/list/modSetting.h"
 #include "views/list/modUnread.h"
 
 #include <cstdlib>
@@ -204,40 +205,16 @@ QStringList cSearchModel::Categories() const
     return modTemplate::WithMains(modBookNames::Categories(m_tools.Data));
 }
 
-QString cSearchModel::CountText() const
+cSumTexts cSearchModel::SumTexts() const
 {
-    return cText::Tr("{0} Treffer", {QString::number(m_entries.Sums().Count)});
-}
-
-QString cSearchModel::StartText() const
-{
-    const std::optional<qint64> start = m_entries.Sums().Start;
-    return start ? m_tools.Format.Cents(*start) : QString();
-}
-
-QString cSearchModel::SumText(qint64 cents) const
-{
-    return IsUnread() ? modUnread::Sum() : m_tools.Format.Cents(cents);
+    const cEntrySums& sums = m_entries.Sums();
+    return modEntrySums::Texts(sums, cText::Tr("{0} Treffer", {QString::number(sums.Count)}), m_tools.Format,
+                               IsUnread());
 }
 
 bool cSearchModel::IsUnread() const
 {
     return modUnread::IsMissing(m_tools.Data, m_entries.Sums().Count);
-}
-
-QString cSearchModel::IncomeText() const
-{
-    return SumText(m_entries.Sums().Income);
-}
-
-QString cSearchModel::ExpenseText() const
-{
-    return SumText(-m_entries.Sums().Expense);
-}
-
-QString cSearchModel::TotalText() const
-{
-    return SumText(m_entries.Sums().Total());
 }
 
 QString cSearchModel::Hint() const
@@ -280,7 +257,5 @@ QString cSearchModel::Layout() const
 
 void cSearchModel::SaveLayout(const QString& layout)
 {
-    if (Layout() != layout) {
-        m_tools.Settings.Set(modSettingKey::SearchList, layout);
-    }
+    modSetting::Keep(m_tools.Settings, modSettingKey::SearchList, layout);
 }

@@ -63,11 +63,7 @@ public:
 
     [[nodiscard]] bool IsReadOnly() const; // the book
     [[nodiscard]] cEntryListModel& Entries() { return m_entries; }
-    [[nodiscard]] QString CountText() const;
-    [[nodiscard]] QString StartText() const; // start balances; empty where none was found
-    [[nodiscard]] QString IncomeText() const;
-    [[nodiscard]] QString ExpenseText() const;
-    [[nodiscard]] QString TotalText() const;
+    [[nodiscard]] cSumTexts SumTexts() const;
     [[nodiscard]] QString Hint() const; // a quiet line: what is wrong with the fields, or what the list leaves out
     [[nodiscard]] QString EmptyTitle() const; // why the list shows nothing
     [[nodiscard]] QString EmptyHint() const;  // what to do when nothing was found
@@ -80,7 +76,6 @@ Q_SIGNALS:
     void Found(); // list, sums and hints are new
 
 private:
-    [[nodiscard]] QString SumText(qint64 cents) const;
     [[nodiscard]] bool IsUnread() const; // the list is empty because it could not be read
     [[nodiscard]] cSearchQuery Query(const cFields& fields) const;
     void Run();

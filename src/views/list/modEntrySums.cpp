@@ -1,7 +1,9 @@
 #include "views/list/modEntrySums.h"
 
+#include "core/cAmountFormat.h"
 #include "model/modBalance.h"
 #include "model/modWord.h"
+#include "views/list/modUnread.h"
 
 void modEntrySums::Add(cEntrySums& sums, const cEntryItem& entry, qint64 effect)
 {
@@ -20,4 +22,11 @@ cEntrySums modEntrySums::Of(const cEntryItemList& entries, const QString& accoun
         Add(sums, entry, modBalance::Effect(entry, account));
     }
     return sums;
+}
+
+cSumTexts modEntrySums::Texts(const cEntrySums& sums, const QString& count, const cAmountFormat& format, bool isUnread)
+{
+    const auto text = [&](qint64 cents) { return isUnread ? modUnread::Sum() : format.Cents(cents); };
+    return {count, text(sums.Income), text(-sums.Expense), text(sums.Total()),
+            sums.Start ? format.Cents(*sums.Start) : QString()};
 }

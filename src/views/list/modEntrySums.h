@@ -6,6 +6,8 @@
 
 #include <optional>
 
+class cAmountFormat;
+
 // What entries come to, in cents.
 struct cEntrySums
 {
@@ -19,6 +21,16 @@ struct cEntrySums
     bool operator==(const cEntrySums&) const = default;
 };
 
+// The sums as the user reads them.
+struct cSumTexts
+{
+    QString Count;
+    QString Income;
+    QString Expense;
+    QString Total;
+    QString Start; // start balances, which are no income; empty where there are none
+};
+
 namespace modEntrySums {
 
 // Counts an entry in. `effect` is what it does to the money that the list is about, see modBalance::Effect.
@@ -26,5 +38,8 @@ void Add(cEntrySums& sums, const cEntryItem& entry, qint64 effect);
 
 // With an account, transfers count as its income or expense.
 [[nodiscard]] cEntrySums Of(const cEntryItemList& entries, const QString& account);
+
+// `isUnread`: nothing is known of the sums.
+[[nodiscard]] cSumTexts Texts(const cEntrySums& sums, const QString& count, const cAmountFormat& format, bool isUnread);
 
 } // namespace modEntrySums

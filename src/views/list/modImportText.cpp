@@ -79,18 +79,15 @@ QStringList modImportText::Summary(const cImportResult& result, const cAmountFor
     if (result.IsCancelled) {
         return {cText::Tr("{0}: abgebrochen, nichts davon übernommen.", {name})};
     }
-    QStringList lines{cText::Tr("{0}: {1}", {name, Numbers(result, format)})};
+    QStringList lines;
     QList<cReadProblem> problems = result.Problems;
     for (const cSkippedRow& row : result.Skipped) {
         problems.insert(row.Kind == eSkipped::CutOff ? 0 : problems.size(), row.Reason); // what is cut off says most
     }
-    for (const cReadProblem& problem : problems.first(qMin(problems.size(), shownProblems))) {
+    for (const cReadProblem& problem : std::as_const(problems)) {
         lines.append(Problem(problem));
     }
-    if (problems.size() > shownProblems) {
-        lines.append(modCount::MoreLines(problems.size() - shownProblems));
-    }
-    return lines;
+    return QStringList(cText::Tr("{0}: {1}", {name, Numbers(result, format)})) + modCount::Cut(lines, shownProblems);
 }
 
 QStringList modImportText::Readings(const cTableDoubt& doubt, const cAmountFormat& format)

@@ -489,40 +489,15 @@ QStringList cMainModel::Accounts() const
     return QStringList{modWord::AlleKonten} + modTemplate::AccountNames(m_accountItems);
 }
 
-QString cMainModel::StartText() const
+cSumTexts cMainModel::SumTexts() const
 {
-    const std::optional<qint64> start = m_entries.Sums().Start;
-    return start ? m_tools.Format.Cents(*start) : QString();
-}
-
-QString cMainModel::SumText(qint64 cents) const
-{
-    return IsUnread() ? modUnread::Sum() : m_tools.Format.Cents(cents);
+    const cEntrySums& sums = m_entries.Sums();
+    return modEntrySums::Texts(sums, modCount::Entries(sums.Count), m_tools.Format, IsUnread());
 }
 
 bool cMainModel::IsUnread() const
 {
     return modUnread::IsMissing(m_tools.Data, m_entries.Sums().Count);
-}
-
-QString cMainModel::IncomeText() const
-{
-    return SumText(m_entries.Sums().Income);
-}
-
-QString cMainModel::ExpenseText() const
-{
-    return SumText(-m_entries.Sums().Expense);
-}
-
-QString cMainModel::TotalText() const
-{
-    return SumText(m_entries.Sums().Total());
-}
-
-QString cMainModel::CountText() const
-{
-    return modCount::Entries(m_entries.Sums().Count);
 }
 
 QString cMainModel::Hint() const

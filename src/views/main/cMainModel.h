@@ -161,11 +161,7 @@ public:
     [[nodiscard]] cAccountListModel& AccountList() { return m_accounts; }
 
     // Texts beside the list.
-    [[nodiscard]] QString StartText() const; // start balances, which are no income; empty where the list has none
-    [[nodiscard]] QString IncomeText() const;
-    [[nodiscard]] QString ExpenseText() const;
-    [[nodiscard]] QString TotalText() const;
-    [[nodiscard]] QString CountText() const;
+    [[nodiscard]] cSumTexts SumTexts() const;
     [[nodiscard]] QString Hint() const;       // a quiet line above the list; empty for none
     [[nodiscard]] QString EmptyTitle() const; // why the list shows nothing
     [[nodiscard]] QString EmptyHint() const;  // what to do when the list shows nothing
@@ -190,7 +186,6 @@ Q_SIGNALS:
     void StagedRowsReleased();                               // bank transactions may wait again, or be gone
 
 private:
-    [[nodiscard]] QString SumText(qint64 cents) const;
     void SwitchReminders();
     void ChooseAppearance(eAppearance appearance);
     [[nodiscard]] bool IsUnread() const; // the list is empty because it could not be read

@@ -3,7 +3,6 @@
 #include "base/cText.h"
 #include "import/stage/cAccountMap.h"
 #include "model/modBalance.h"
-#include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/template/cBankNumbers.h"
 
@@ -11,27 +10,6 @@
 
 #include <algorithm>
 #include <numeric>
-
-namespace {
-
-// All at once: an account that asked for its own would look through the whole book. As there, the first row counts.
-QHash<QString, cEntryItem> StartBalances(cDataAccess& data)
-{
-    cEntryQuery query;
-    query.Category = modWord::Startguthaben;
-    QHash<QString, cEntryItem> byAccount;
-    const cEntryItemList entries = data.GetEntries(query);
-    for (const cEntryItem& entry : entries) {
-        const bool isStart = entry.EntryCategory == query.Category && entry.EntryInterval == modWord::Einmalig;
-        const auto known = byAccount.constFind(entry.EntryAccount);
-        if (isStart && (known == byAccount.constEnd() || entry.ID < known->ID)) {
-            byAccount.insert(entry.EntryAccount, entry);
-        }
-    }
-    return byAccount;
-}
-
-} // namespace
 
 QString modAccountLines::ShownName(const QString& account)
 {
@@ -75,7 +53,7 @@ modAccountLines::cLines modAccountLines::Load(cDataAccess& data, cSettings& sett
     for (const auto& [number, owner] : cBankNumbers(data, settings).All()) {
         numbers[owner].append(number);
     }
-    const QHash<QString, cEntryItem> starts = StartBalances(data);
+    const QHash<QString, cEntryItem> starts = data.GetStartBalances();
     const QHash<QString, int> counts = data.CountEntriesByAccount();
     for (cAccountLine& line : lines.Accounts) {
         const QString& name = line.Item.TemplateName;

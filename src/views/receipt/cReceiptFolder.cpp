@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "base/modChar.h"
 #include "base/modMD5.h"
 #include "core/cBookTools.h"
 #include "core/modReceiptFolder.h"
@@ -23,8 +24,9 @@ QString EndingOf(const QString& path)
 {
     constexpr qsizetype most = 8;
     const QString ending = QFileInfo(path).suffix().toLower();
-    const bool isPlain = std::all_of(ending.begin(), ending.end(),
-                                     [](QChar letter) { return letter.unicode() < 0x80 && letter.isLetterOrNumber(); });
+    const bool isPlain = std::all_of(ending.begin(), ending.end(), [](QChar letter) {
+        return modChar::IsAscii(letter) && letter.isLetterOrNumber();
+    });
     return ending.isEmpty() || ending.size() > most || !isPlain ? QString() : QString(u'.' + ending);
 }
 

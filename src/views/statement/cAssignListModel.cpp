@@ -8,6 +8,7 @@
 #include "import/match/modMatchScore.h"
 #include "import/stage/cAccountMap.h"
 #include "views/list/modImportText.h"
+#include "views/look/modMoneyTone.h"
 
 #include <algorithm>
 
@@ -131,7 +132,7 @@ QVariant cAssignListModel::data(const QModelIndex& index, int role) const
     case Qt::ToolTipRole: return Text(candidate, index.column());
     case Qt::TextAlignmentRole:
         return IsNumber(index.column()) ? QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter) : QVariant();
-    case ToneRole: return candidate.Cents > 0 ? 1 : (candidate.Cents < 0 ? 2 : 0);
+    case ToneRole: return QVariant::fromValue(modMoneyTone::Of(candidate.Cents));
     case TakenRole: return candidate.IsTaken;
     default: return {};
     }

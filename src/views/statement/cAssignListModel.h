@@ -16,7 +16,7 @@ public:
     enum eColumn { Date, Description, Category, Amount, Score, Reason, ColumnCount };
 
     enum eRole {
-        ToneRole = Qt::UserRole, // int: 1 income, 2 expense, 0 neither
+        ToneRole = Qt::UserRole, // eMoneyTone
         TakenRole,               // bool: another transaction belongs to it already
     };
 

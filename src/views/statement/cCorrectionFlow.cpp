@@ -29,11 +29,7 @@ constexpr qsizetype mostLines = 8; // of a question
 
 QString Listed(const QStringList& lines)
 {
-    QStringList shown = lines.mid(0, mostLines);
-    if (lines.size() > mostLines) {
-        shown.append(modCount::MoreLines(lines.size() - mostLines));
-    }
-    return shown.join(u'\n');
+    return modCount::Cut(lines, mostLines).join(u'\n');
 }
 
 QString Named(const cEntryItem& entry)

@@ -133,15 +133,12 @@ QStringList cMatchFlow::AssignedLines(const QList<cMatch>& matches)
 {
     QStringList lines;
     const cImportHive& hive = m_parts.Hive.GetImportHive();
-    for (const cMatch& match : matches.first(qMin(matches.size(), shownMatches))) {
+    for (const cMatch& match : matches) {
         const cImportEntry row = hive.GetImportEntryByID(match.RowId).value_or(cImportEntry());
         lines.append(cText::Tr("{0} → {1}",
                                {modImportText::Row(row, m_tools.Format), modImportText::Candidate(match.Candidate)}));
     }
-    if (matches.size() > shownMatches) {
-        lines.append(modCount::MoreLines(matches.size() - shownMatches));
-    }
-    return lines;
+    return modCount::Cut(lines, shownMatches);
 }
 
 QStringList cMatchFlow::Lines(const cMatchResult& result, const cCorrectionFlow::cDone& corrected)

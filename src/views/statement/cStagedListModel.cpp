@@ -7,6 +7,7 @@
 #include "model/modWord.h"
 #include "views/list/modEntryOrder.h"
 #include "views/list/modImportText.h"
+#include "views/look/modMoneyTone.h"
 
 #include <algorithm>
 #include <array>
@@ -361,7 +362,7 @@ QVariant cStagedListModel::RowData(const cImportEntry& row, int column, int role
     case Qt::DisplayRole: return Text(row, column);
     case Qt::EditRole: return column == Interval ? InfoOf(row).Interval : Text(row, column);
     case Qt::ToolTipRole: return Tip(row, column);
-    case ToneRole: return row.ImportValue > 0 ? 1 : (row.ImportValue < 0 ? 2 : 0);
+    case ToneRole: return QVariant::fromValue(modMoneyTone::Of(row.ImportValue));
     case RowIdRole: return row.ID;
     case BookedRole: return row.ImportAssigned;
     case GroupRole: return false;

@@ -24,7 +24,7 @@ public:
     enum eColumn { State, Date, Counterparty, Purpose, Amount, Account, Category, Interval, Reason, ColumnCount };
 
     enum eRole {
-        ToneRole = Qt::UserRole, // int: 1 income, 2 expense, 0 neither
+        ToneRole = Qt::UserRole, // eMoneyTone
         RowIdRole,               // int: ID of the staged row; 0 for the head of a group
         BookedRole,              // bool
         GroupRole,               // bool: the row is the head of a group

@@ -417,19 +417,15 @@ bool cStatementFiles::AreWanted(const cRepeatList& repeats)
     if (m_repeats != eRepeats::Ask) {
         return m_repeats == eRepeats::Take;
     }
-    constexpr qsizetype most = 10;
     QStringList lines;
-    for (const cRepeat& repeat : repeats.first(qMin(repeats.size(), most))) {
+    for (const cRepeat& repeat : repeats) {
         lines.append(modImportText::Row(repeat.Entry, m_tools.Format));
-    }
-    if (repeats.size() > most) {
-        lines.append(modCount::MoreLines(repeats.size() - most));
     }
     return m_tools.User.Ask(
                {.Text = cText::Tr("Der Kontoauszug enthält Umsätze mehrmals, mit gleichem Tag, Empfänger, "
                                   "Zweck und Betrag:\n\n{0}\n\nSollen auch diese übernommen werden? Das ist "
                                   "richtig, wenn Sie zum Beispiel zwei gleiche Fahrkarten gekauft haben.",
-                                  {lines.join(u'\n')}),
+                                  {modCount::Cut(lines, 10).join(u'\n')}),
                 .Title = cText::Tr("Gleiche Umsätze")})
         == eAnswer::Yes;
 }

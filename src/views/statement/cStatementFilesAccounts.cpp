@@ -58,12 +58,7 @@ void cStatementFiles::OfferNames(const cForeignNames& names)
 
 bool cStatementFiles::AreNamesWanted(const cForeignNames& missing)
 {
-    constexpr qsizetype most = 10;
-    const QStringList all = missing.Accounts + missing.Categories.keys();
-    QStringList lines = all.first(qMin(all.size(), most));
-    if (all.size() > most) {
-        lines.append(modCount::MoreLines(all.size() - most));
-    }
+    const QStringList lines = modCount::Cut(missing.Accounts + missing.Categories.keys(), 10);
     const cQuestion question{.Text = cText::Tr("Noch nicht im Buch sind aus der Datei: {0}\n\n{1}\n\nSollen sie "
                                                "angelegt werden?",
                                                {modForeignNames::Count(missing), lines.join(u'\n')}),

@@ -1,6 +1,7 @@
 #include "views/statement/modReviewQuestion.h"
 
 #include "base/cText.h"
+#include "base/modCount.h"
 
 #include <algorithm>
 #include <utility>
@@ -13,7 +14,7 @@ constexpr qsizetype mostExamples = 8;
 
 QString Examples(const QStringList& lines)
 {
-    return lines.mid(0, mostExamples).join(u'\n') + (lines.size() > mostExamples ? u"\n…"_s : QString());
+    return modCount::Cut(lines, mostExamples).join(u'\n');
 }
 
 // Other doubts than about the category.

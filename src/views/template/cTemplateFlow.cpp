@@ -13,15 +13,6 @@
 
 #include <algorithm>
 
-namespace {
-
-QString Cleaned(const QString& name)
-{
-    return modTemplate::CleanName(name.trimmed()).trimmed();
-}
-
-} // namespace
-
 bool cTemplateFlow::Refuse(const QString& text)
 {
     m_tools.User.Show(eTone::Objection, text);
@@ -39,12 +30,12 @@ QString cTemplateFlow::AskRenameAccount(const QString& oldName)
     if (!name) {
         return oldName;
     }
-    return RenameAccount(oldName, *name) ? Cleaned(*name) : oldName;
+    return RenameAccount(oldName, *name) ? modTemplate::TypedName(*name) : oldName;
 }
 
 bool cTemplateFlow::RenameAccount(const QString& oldName, const QString& newName)
 {
-    const QString name = Cleaned(newName);
+    const QString name = modTemplate::TypedName(newName);
     if (name.isEmpty()) {
         return Refuse(cText::Tr("Der Kontoname darf nicht leer sein!"));
     }
@@ -108,9 +99,9 @@ bool cTemplateFlow::RenameCategory(const cTemplateItem& category, const QString&
     cTemplateItem renamed = category;
     // A main category that stays keeps its stored name, so that one from an older book is cleaned with all its rows.
     if (newMain != modTemplate::MainOf(oldPath)) {
-        renamed.TemplateCategory = Cleaned(newMain);
+        renamed.TemplateCategory = modTemplate::TypedName(newMain);
     }
-    renamed.TemplateName = Cleaned(newSub);
+    renamed.TemplateName = modTemplate::TypedName(newSub);
     const QString newPath = modTemplate::Path(renamed);
     if (newPath == oldPath) {
         return false;
@@ -175,7 +166,7 @@ bool cTemplateFlow::IsMainTaken(const QString& newMain, const QString& oldMain) 
 
 bool cTemplateFlow::RenameMain(const QString& oldMain, const QString& newMain)
 {
-    const QString main = Cleaned(newMain);
+    const QString main = modTemplate::TypedName(newMain);
     if (main.isEmpty()) {
         return Refuse(cText::Tr("Der Name der Kategorie darf nicht leer sein!"));
     }
@@ -214,7 +205,7 @@ bool cTemplateFlow::WriteMain(const QString& oldMain, const QString& newMain)
 
 bool cTemplateFlow::RenameGroup(const QString& oldGroup, const QString& newGroup)
 {
-    const QString group = Cleaned(newGroup);
+    const QString group = modTemplate::TypedName(newGroup);
     if (group == oldGroup || newGroup == oldGroup) {
         return false;
     }

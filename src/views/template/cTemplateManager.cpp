@@ -15,6 +15,7 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/budget/modLimits.h"
+#include "views/list/modSetting.h"
 #include "views/list/modUnsaved.h"
 #include "views/look/cCategoryLooks.h"
 #include "views/template/cBankNumbers.h"
@@ -32,32 +33,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr QChar layoutSeparator = u'#'; // between the two trees
-
-QString Cleaned(const QString& name)
-{
-    return modTemplate::CleanName(name.trimmed()).trimmed();
-}
-
-// Start balance of every account in one query: the first of its entries in their category.
-QHash<QString, qint64> StartBalances(cDataAccess& data)
-{
-    QHash<QString, cEntryItem> first;
-    cEntryQuery query;
-    query.Category = modWord::Startguthaben;
-    query.Kind = eBookingKind::Single;
-    const cEntryItemList entries = data.GetEntries(query);
-    for (const cEntryItem& entry : entries) {
-        const auto known = first.constFind(entry.EntryAccount);
-        if (entry.EntryCategory == modWord::Startguthaben && (known == first.constEnd() || entry.ID < known->ID)) {
-            first.insert(entry.EntryAccount, entry);
-        }
-    }
-    QHash<QString, qint64> balances;
-    for (const cEntryItem& entry : std::as_const(first)) {
-        balances.insert(entry.EntryAccount, modBalance::Effect(entry, {}));
-    }
-    return balances;
-}
 
 } // namespace
 
@@ -87,7 +62,11 @@ void cTemplateManager::Refresh()
         branch.Node.Look = looks.Shown(branch.Node.Path);
     }
     m_categories.SetBranches(std::move(categories));
-    modTemplateNodes::cAccountFacts facts{m_tools.Data.CountEntriesByAccount(), StartBalances(m_tools.Data), {}};
+    modTemplateNodes::cAccountFacts facts{m_tools.Data.CountEntriesByAccount(), {}, {}};
+    const QHash<QString, cEntryItem> starts = m_tools.Data.GetStartBalances();
+    for (const cEntryItem& start : starts) {
+        facts.StartBalances.insert(start.EntryAccount, modBalance::Effect(start, {}));
+    }
     const QList<std::pair<QString, QString>> numbers = cBankNumbers(m_tools.Data, m_tools.Settings).All();
     for (const auto& [number, account] : numbers) {
         facts.Numbers[account].append(number);
@@ -231,8 +210,8 @@ QString cTemplateManager::AddAccount(const QString& name, const QString& group)
 {
     cTemplateItem item;
     item.TemplateType = modWord::Konto;
-    item.TemplateCategory = Cleaned(group);
-    item.TemplateName = Cleaned(name);
+    item.TemplateCategory = modTemplate::TypedName(group);
+    item.TemplateName = modTemplate::TypedName(name);
     if (item.TemplateName.isEmpty()) {
         (void)Refuse(cText::Tr("Der Kontoname darf nicht leer sein!"));
         return {};
@@ -287,8 +266,8 @@ QString cTemplateManager::AskAdd(const cTemplateNode* near)
 QString cTemplateManager::AskAddMain()
 {
     const QString name = AskName(cText::Tr("Name der neuen Hauptkategorie:"), cText::Tr("Neue Kategorie"));
-    if (HasMain(Cleaned(name))) {
-        (void)Refuse(cText::Tr("Die Hauptkategorie '{0}' existiert bereits!", {Cleaned(name)}));
+    if (HasMain(modTemplate::TypedName(name))) {
+        (void)Refuse(cText::Tr("Die Hauptkategorie '{0}' existiert bereits!", {modTemplate::TypedName(name)}));
         return {};
     }
     return name.isEmpty() ? QString() : AddCategory(name, {});
@@ -311,7 +290,8 @@ QString cTemplateManager::AskAddAccount(const cTemplateNode* near)
 
 QString cTemplateManager::TypedPath(const QString& text)
 {
-    return modTemplate::Join(Cleaned(text.section(u';', 0, 0)), Cleaned(text.section(u';', 1)));
+    return modTemplate::Join(modTemplate::TypedName(text.section(u';', 0, 0)),
+                             modTemplate::TypedName(text.section(u';', 1)));
 }
 
 bool cTemplateManager::RenameCategory(const QString& oldPath, const QString& typed)
@@ -439,7 +419,7 @@ QString cTemplateManager::AskRenameGroup(const cTemplateNode& node)
                              .Proposal = oldGroup,
                              .AllowNew = true});
     const bool isDone = name && cTemplateFlow(m_tools).RenameGroup(oldGroup, *name);
-    return Tell(isDone) ? Cleaned(*name) : QString();
+    return Tell(isDone) ? modTemplate::TypedName(*name) : QString();
 }
 
 bool cTemplateManager::Move(const cTemplateNode& node, eDirection direction)
@@ -572,8 +552,6 @@ cTreeLayout cTemplateManager::AccountLayout() const
 
 void cTemplateManager::SaveLayout(const cTreeLayout& categories, const cTreeLayout& accounts)
 {
-    const QString text = categories.ToText() + layoutSeparator + accounts.ToText();
-    if (text != m_tools.Settings.Get(modSettingKey::CategoryList)) {
-        m_tools.Settings.Set(modSettingKey::CategoryList, text);
-    }
+    modSetting::Keep(m_tools.Settings, modSettingKey::CategoryList,
+                     categories.ToText() + layoutSeparator + accounts.ToText());
 }

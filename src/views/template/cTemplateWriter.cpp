@@ -22,11 +22,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-QString Cleaned(const QString& name)
-{
-    return modTemplate::CleanName(name.trimmed()).trimmed();
-}
-
 QString StoredVisible(bool isVisible)
 {
     return isVisible ? u"1"_s : u"0"_s;
@@ -264,7 +259,7 @@ std::optional<QString> cTemplateWriter::SaveMain(const cTemplateNode& node, cons
     const bool isRenamed = fields.Name != node.Path;
     const QString name = isRenamed ? cText::Tr("Hauptkategorie '{0}' umbenannt", {node.Path})
                                    : cText::Tr("Hauptkategorie '{0}' geändert", {node.Path});
-    QString main = Cleaned(fields.Name);
+    QString main = modTemplate::TypedName(fields.Name);
     const bool isDone = Step(name, [&] {
         cTemplateFlow flow(m_tools);
         if (isRenamed) {
@@ -355,7 +350,7 @@ bool cTemplateWriter::ConfirmNumbers(const QString& account, const QString& text
 std::optional<QString> cTemplateWriter::SaveAccount(const cTemplateItem& item, const cTemplateFields& old,
                                                     const cTemplateFields& fields)
 {
-    const QString name = Cleaned(fields.Name);
+    const QString name = modTemplate::TypedName(fields.Name);
     // A name that nobody has touched is not renamed, even if it will not stay as it is.
     const bool isRenamed = fields.Name != item.TemplateName && name != item.TemplateName;
     if (!HasDay(old, fields) || !StaysOpen(item, fields) || !ConfirmNumbers(item.TemplateName, fields.Numbers)) {
@@ -379,7 +374,7 @@ bool cTemplateWriter::WriteAccount(const cTemplateItem& item, const cTemplateFie
     }
     cTemplateItem changed = *stored;
     if (fields.Group != changed.TemplateCategory) {
-        changed.TemplateCategory = Cleaned(fields.Group);
+        changed.TemplateCategory = modTemplate::TypedName(fields.Group);
     }
     changed.TemplateComment = fields.Comment.trimmed();
     changed.TemplateDefaultValue = StoredAccountLimit(changed, fields.Limit, m_tools.Format.Decimal());

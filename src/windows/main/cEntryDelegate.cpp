@@ -97,6 +97,6 @@ void cEntryDelegate::initStyleOption(QStyleOptionViewItem* option, const QModelI
         option->text = receipts > 1 ? option->text : QString(); // the clip alone says that there is one
     }
     if (isMoney) {
-        SetTone(*option, index.data(cEntryListModel::ToneRole).toInt());
+        SetTone(*option, index.data(cEntryListModel::ToneRole));
     }
 }

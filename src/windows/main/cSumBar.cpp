@@ -1,7 +1,7 @@
 #include "windows/main/cSumBar.h"
 
 #include "base/cText.h"
-#include "views/main/cMainModel.h"
+#include "views/list/modEntrySums.h"
 #include "windows/look/modTone.h"
 #include "windows/widget/cFlowLayout.h"
 
@@ -42,7 +42,7 @@ void cSumBar::Show(const cSum& sum, const QString& text)
     sum.Value->setAccessibleName(sum.Name->text() + u' ' + text);
 }
 
-void cSumBar::ShowSums(const cTexts& texts)
+void cSumBar::ShowSums(const cSumTexts& texts)
 {
     m_count->setText(texts.Count);
     m_start.Name->setVisible(!texts.Start.isEmpty());
@@ -51,9 +51,4 @@ void cSumBar::ShowSums(const cTexts& texts)
     Show(m_income, texts.Income);
     Show(m_expense, texts.Expense);
     Show(m_total, texts.Total);
-}
-
-void cSumBar::ShowSums(const cMainModel& model)
-{
-    ShowSums({model.CountText(), model.IncomeText(), model.ExpenseText(), model.TotalText(), model.StartText()});
 }

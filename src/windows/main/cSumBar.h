@@ -3,8 +3,8 @@
 #include <QWidget>
 
 class cFlowLayout;
-class cMainModel;
 class QLabel;
+struct cSumTexts;
 
 // The sums of the shown entries: count, start balances where there are any, income, expense, total.
 class cSumBar final : public QWidget
@@ -12,19 +12,9 @@ class cSumBar final : public QWidget
     Q_OBJECT
 
 public:
-    struct cTexts
-    {
-        QString Count;
-        QString Income;
-        QString Expense;
-        QString Total;
-        QString Start{}; // start balances; empty: not shown
-    };
-
     explicit cSumBar(QWidget* parent = nullptr);
 
-    void ShowSums(const cTexts& texts);
-    void ShowSums(const cMainModel& model);
+    void ShowSums(const cSumTexts& texts);
 
 private:
     struct cSum

@@ -320,7 +320,7 @@ void frmMain::ShowView()
 
 void frmMain::ShowEntries()
 {
-    m_sums->ShowSums(m_model);
+    m_sums->ShowSums(m_model.SumTexts());
     if (m_model.Entries().rowCount() == 0) {
         m_tree->SetEmptyText(m_model.EmptyTitle(), m_model.EmptyHint());
     }

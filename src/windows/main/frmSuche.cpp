@@ -166,8 +166,7 @@ void frmSuche::ShowFound()
     m_hint->setText(hint);
     m_hint->setVisible(!hint.isEmpty());
     m_tree->SetEmptyText(m_model.EmptyTitle(), m_model.EmptyHint());
-    m_sums->ShowSums(
-        {m_model.CountText(), m_model.IncomeText(), m_model.ExpenseText(), m_model.TotalText(), m_model.StartText()});
+    m_sums->ShowSums(m_model.SumTexts());
 }
 
 void frmSuche::ShowButtons()

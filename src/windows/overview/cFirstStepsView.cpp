@@ -50,6 +50,7 @@ cFirstStepsView::cFirstStepsView(const cFirstSteps& steps, const QList<cWay>& wa
     }
     layout->addLayout(table);
     m_problem->setWordWrap(true);
+    modTone::Use(*m_problem, modTone::Expense);
     m_problem->hide();
     layout->addWidget(m_problem);
     auto* save = new QPushButton(cText::Tr("Konten über&nehmen"), this);
@@ -120,9 +121,6 @@ void cFirstStepsView::Save()
         rows.append({fields.Name->text(), fields.Amount->text(), fields.Former});
     }
     const QString problem = m_steps.Save(rows);
-    QPalette colours = palette();
-    colours.setColor(QPalette::WindowText, modTone::Expense(colours));
-    m_problem->setPalette(colours);
     m_problem->setText(problem);
     m_problem->setVisible(!problem.isEmpty());
     if (problem.isEmpty()) {

@@ -46,6 +46,16 @@ void DrawLeft(QPainter& painter, qreal left, qreal y, qreal height, const QStrin
     painter.drawText(QRectF(left, y, 10000, height), Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, text);
 }
 
+QList<cListPrinter::cSum> SumLines(const cSumTexts& sums)
+{
+    QList<cListPrinter::cSum> lines{
+        {cText::Tr("Einnahmen"), sums.Income}, {cText::Tr("Ausgaben"), sums.Expense}, {cText::Tr("Summe"), sums.Total}};
+    if (!sums.Start.isEmpty()) {
+        lines.prepend({cText::Tr("Startguthaben"), sums.Start});
+    }
+    return lines;
+}
+
 } // namespace
 
 cListPrinter::cListPrinter(const cEntryListModel& model, const QList<int>& columns, cHead head)
@@ -77,26 +87,14 @@ cListPrinter::~cListPrinter() = default;
 
 cListPrinter::cHead cListPrinter::HeadOf(const cStatementListModel& statement)
 {
-    return {statement.Title(),
-            statement.Lines() + statement.Findings(),
-            cPageText::Foot(statement.Today()),
-            {{cText::Tr("Einnahmen"), statement.IncomeText()},
-             {cText::Tr("Ausgaben"), statement.ExpenseText()},
-             {cText::Tr("Summe"), statement.TotalText()}}};
+    return {statement.Title(), statement.Lines() + statement.Findings(), cPageText::Foot(statement.Today()),
+            SumLines(statement.SumTexts())};
 }
 
 cListPrinter::cHead cListPrinter::HeadOf(const cMainModel& model)
 {
-    cHead head{modViewText::Title(model.View()),
-               model.ViewLines(),
-               cPageText::Foot(model.Today()),
-               {{cText::Tr("Einnahmen"), model.IncomeText()},
-                {cText::Tr("Ausgaben"), model.ExpenseText()},
-                {cText::Tr("Summe"), model.TotalText()}}};
-    if (!model.StartText().isEmpty()) {
-        head.Sums.prepend({cText::Tr("Startguthaben"), model.StartText()});
-    }
-    return head;
+    return {modViewText::Title(model.View()), model.ViewLines(), cPageText::Foot(model.Today()),
+            SumLines(model.SumTexts())};
 }
 
 void cListPrinter::TakeRow(const QModelIndex& index, const QList<int>& columns)

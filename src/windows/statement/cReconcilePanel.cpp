@@ -29,7 +29,7 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
     {
         cRowDelegate::initStyleOption(option, index);
-        SetTone(*option, index.data(cReconcileListModel::ToneRole).toInt());
+        SetTone(*option, index.data(cReconcileListModel::ToneRole));
     }
 };
 

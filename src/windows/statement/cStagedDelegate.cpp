@@ -1,6 +1,7 @@
 #include "windows/statement/cStagedDelegate.h"
 
 #include "model/modWord.h"
+#include "views/look/modMoneyTone.h"
 #include "views/statement/cStagedListModel.h"
 #include "windows/look/modLook.h"
 #include "windows/look/modTone.h"
@@ -26,7 +27,7 @@ void cStagedDelegate::initStyleOption(QStyleOptionViewItem* option, const QModel
     } else if (index.data(cStagedListModel::BookedRole).toBool() || index.column() == cStagedListModel::Reason) {
         option->palette.setColor(QPalette::Text, modTone::Quiet(option->palette));
     } else if (index.column() == cStagedListModel::Amount) {
-        SetTone(*option, index.data(cStagedListModel::ToneRole).toInt());
+        SetTone(*option, index.data(cStagedListModel::ToneRole));
     }
 }
 
@@ -44,8 +45,10 @@ QWidget* cStagedDelegate::CategoryEditor(QWidget* parent, const QModelIndex& ind
     auto* box = new cCategoryBox(m_suggestions, parent, cCategoryBox::eNew::IsTold);
     connect(box->lineEdit(), &QLineEdit::textEdited, this, [this] { m_declined.clear(); });
     connect(box->lineEdit(), &QLineEdit::returnPressed, this, [this] { m_declined.clear(); });
-    const int tone = index.data(cStagedListModel::ToneRole).toInt();
-    box->SetType(tone == 0 ? QString() : tone == 1 ? modWord::Einnahme : modWord::Ausgabe);
+    const auto tone = index.data(cStagedListModel::ToneRole).value<eMoneyTone>();
+    box->SetType(tone == eMoneyTone::Neutral      ? QString()
+                     : tone == eMoneyTone::Income ? modWord::Einnahme
+                                                  : modWord::Ausgabe);
     auto* delegate = const_cast<cStagedDelegate*>(this);
     // The list of proposals is still at work with the key or the click when it reports.
     connect(

@@ -27,7 +27,7 @@ protected:
         cRowDelegate::initStyleOption(option, index);
         const int column = index.column();
         if (column == cStatementListModel::Amount || column == cStatementListModel::Balance) {
-            SetTone(*option, index.data(cStatementListModel::ToneRole).toInt());
+            SetTone(*option, index.data(cStatementListModel::ToneRole));
         } else if (column == cStatementListModel::State && index.data(cStatementListModel::BookedRole).toBool()) {
             option->palette.setColor(QPalette::Text, modTone::Quiet(option->palette));
         }

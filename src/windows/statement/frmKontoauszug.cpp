@@ -202,8 +202,7 @@ void frmKontoauszug::ShowDays()
 void frmKontoauszug::ShowRows()
 {
     ShowFinding();
-    m_sums->ShowSums(
-        {m_statement.CountText(), m_statement.IncomeText(), m_statement.ExpenseText(), m_statement.TotalText()});
+    m_sums->ShowSums(m_statement.SumTexts());
     ShowButtons();
 }
 

@@ -36,7 +36,7 @@ protected:
         if (index.data(cAssignListModel::TakenRole).toBool()) {
             option->palette.setColor(QPalette::Text, modTone::Quiet(option->palette));
         } else if (index.column() == cAssignListModel::Amount) {
-            SetTone(*option, index.data(cAssignListModel::ToneRole).toInt());
+            SetTone(*option, index.data(cAssignListModel::ToneRole));
         }
     }
 };

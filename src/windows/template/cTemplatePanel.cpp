@@ -7,6 +7,7 @@
 #include "windows/template/cLookBox.h"
 #include "windows/widget/cDayEdit.h"
 #include "windows/widget/cElidedText.h"
+#include "windows/widget/modChoice.h"
 #include "windows/widget/modEmptyField.h"
 
 #include <QBoxLayout>
@@ -24,24 +25,6 @@
 namespace {
 
 constexpr int numberLines = 3;
-
-void AddWords(QComboBox& box, const cVocabulary& words)
-{
-    box.addItem(cText::Tr("(keine Vorgabe)"), QString());
-    const QStringList stored = words.Stored();
-    for (const QString& word : stored) {
-        box.addItem(words.ToShown(word), word);
-    }
-}
-
-// Chooses a stored word; one that is not offered, from an older book, is kept as it is.
-void ChooseWord(QComboBox& box, const QString& word)
-{
-    if (box.findData(word) < 0) {
-        box.addItem(word, word);
-    }
-    box.setCurrentIndex(box.findData(word));
-}
 
 QString WithoutMnemonic(QString text)
 {
@@ -136,8 +119,11 @@ void cTemplatePanel::BuildFields()
     for (QComboBox* box : {m_group, m_type, m_interval}) {
         box->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     }
-    AddWords(*m_type, modWord::EntryTypes());
-    AddWords(*m_interval, modWord::Intervals());
+    for (QComboBox* box : {m_type, m_interval}) {
+        box->addItem(cText::Tr("(keine Vorgabe)"), QString());
+    }
+    modChoice::AddWords(*m_type, modWord::EntryTypes());
+    modChoice::AddWords(*m_interval, modWord::Intervals());
     for (QLineEdit* amount : {m_limit, m_vat, m_start}) {
         amount->setAlignment(Qt::AlignRight);
         modEmptyField::Tell(*amount);
@@ -266,8 +252,8 @@ void cTemplatePanel::Fill(const cTemplateFields& fields, const QStringList& grou
     m_group->setCurrentText(fields.Group);
     m_look->SetLook(fields.Look);
     m_bookable->setChecked(fields.IsBookable);
-    ChooseWord(*m_type, fields.Type);
-    ChooseWord(*m_interval, fields.Interval);
+    modChoice::Choose(*m_type, fields.Type);
+    modChoice::Choose(*m_interval, fields.Interval);
     m_limit->setText(isAccount ? fields.Limit : fields.Amount);
     m_vat->setText(fields.Vat);
     m_start->setText(isAccount ? fields.Amount : QString());

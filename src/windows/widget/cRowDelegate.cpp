@@ -1,5 +1,6 @@
 #include "windows/widget/cRowDelegate.h"
 
+#include "views/look/modMoneyTone.h"
 #include "windows/look/modTone.h"
 
 #include <QComboBox>
@@ -35,10 +36,11 @@ bool cRowDelegate::eventFilter(QObject* watched, QEvent* event)
     return QStyledItemDelegate::eventFilter(watched, event);
 }
 
-void cRowDelegate::SetTone(QStyleOptionViewItem& option, int tone)
+void cRowDelegate::SetTone(QStyleOptionViewItem& option, const QVariant& tone)
 {
-    if (tone != 0) {
+    if (const auto meant = tone.value<eMoneyTone>(); meant != eMoneyTone::Neutral) {
+        const bool isIncome = meant == eMoneyTone::Income;
         option.palette.setColor(QPalette::Text,
-                                tone == 1 ? modTone::Income(option.palette) : modTone::Expense(option.palette));
+                                isIncome ? modTone::Income(option.palette) : modTone::Expense(option.palette));
     }
 }

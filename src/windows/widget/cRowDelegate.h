@@ -18,6 +18,6 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
     [[nodiscard]] static bool IsForBook(QObject& field, const QEvent& event);
 
-    // The colour of an amount: 1 income, 2 expense, 0 neither.
-    static void SetTone(QStyleOptionViewItem& option, int tone);
+    // The colour of an amount: `tone` holds an eMoneyTone.
+    static void SetTone(QStyleOptionViewItem& option, const QVariant& tone);
 };
