@@ -1,8 +1,10 @@
 #include "base/modAmount.h"
 #include "cImportBook.h"
+#include "import/propose/cOwnRules.h"
 #include "import/propose/cProposer.h"
 #include "import/propose/modCorrected.h"
 #include "import/read/modBookRow.h"
+#include "model/cTemplateItem.h"
 #include "support/cTestClass.h"
 
 #include <algorithm>
@@ -13,6 +15,14 @@ namespace {
 
 struct cBank : cBankBook
 {
+    cBank()
+    {
+        for (const QString& name : {u"A"_s, u"B"_s}) {
+            cTemplateItem category = modTemplate::NewCategory(Data.GetTemplates(), name, {});
+            QVERIFY(Data.AddNewTemplate(category));
+        }
+    }
+
     int Stage(QDate date, double value, const QString& name, const QString& account = {}, const QString& own = u"111"_s,
               const QString& purpose = u"zu  Nr. 1"_s)
     {
@@ -228,6 +238,37 @@ private Q_SLOTS:
         QVERIFY(bank.Propose(first).IsSure);
         QCOMPARE(bank.BookAll({first}).Rows, 1);
         QVERIFY(bank.Propose(bank.Stage(day.addDays(1), -12, u"REWE Markt"_s)).IsSure);
+    }
+
+    // Whoever names it: what was hidden since is nothing that goes into the book unseen.
+    void HiddenCategoryIsLookedAt()
+    {
+        cBank bank;
+        const int first = bank.Stage(day, -10, u"REWE Markt"_s);
+        const QString category = bank.Propose(first).Entry.EntryCategory;
+        cOwnRule rule;
+        rule.Text = u"penny"_s;
+        rule.Category = category;
+        QVERIFY(cOwnRules(*bank.Settings).Save({rule}));
+        QCOMPARE(bank.BookAll({first}).Rows, 1);
+        const QStringList names{u"Edeka"_s, u"REWE Markt"_s, u"Penny"_s}; // by a keyword, learned, by the rule
+        QList<int> rows;
+        for (const QString& name : names) {
+            rows.append(bank.Stage(day.addDays(1), -12, name));
+            QVERIFY2(bank.Propose(rows.constLast()).IsSure, qPrintable(name));
+        }
+        const cTemplateItemList items = bank.Data.GetTemplates();
+        const auto found = std::find_if(items.begin(), items.end(), [&](const cTemplateItem& item) {
+            return !modTemplate::IsAccount(item) && modTemplate::Path(item) == category;
+        });
+        cTemplateItem hidden = *found;
+        hidden.TemplateVisible = u"0"_s;
+        QVERIFY(bank.Data.ChangeTemplate(hidden));
+        for (const int row : std::as_const(rows)) {
+            const cProposal proposal = bank.Propose(row);
+            QVERIFY2(!proposal.IsSure && proposal.Reason.endsWith("; die Kategorie steht nicht zur Auswahl"_L1),
+                     qPrintable(proposal.Reason));
+        }
     }
 
     void CashGoesToThePurse()

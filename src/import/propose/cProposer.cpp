@@ -44,7 +44,9 @@ struct cProposer::cKnowledge
     {
         const cTemplateItemList items = data.GetTemplates();
         for (const cTemplateItem& item : items) {
-            Categories.insert(modTemplate::IsAccount(item) ? QString() : modTemplate::Path(item));
+            if (!modTemplate::IsAccount(item) && modTemplate::IsVisible(item)) {
+                Offered.insert(modTemplate::Path(item));
+            }
         }
     }
 
@@ -78,11 +80,10 @@ struct cProposer::cKnowledge
         return day;
     }
 
-    // What the program knows by itself. Of a category that the book does not have it is not sure.
+    // What the program knows by itself.
     [[nodiscard]] cHint BestHint(const cImportEntry& row) const
     {
         cHint hint = modHint::Best(row);
-        hint.IsSure = hint.IsSure && Categories.contains(hint.Category);
         // A keyword knows how often such things are paid as a rule, the purpose may know it of this one.
         if (modRecurrence::IsRecurring(hint.Interval)) {
             const QString named = modIntervalWord::In(row.ImportPurpose);
@@ -132,6 +133,17 @@ struct cProposer::cKnowledge
         }
     }
 
+    // Whatever names it: nothing new goes unseen to a category that was deleted or hidden.
+    void Doubt(cProposal& proposal) const
+    {
+        const cEntryItem& entry = proposal.Entry;
+        if (proposal.IsSure && proposal.ExistingEntry == 0 && entry.EntryType != modWord::Umbuchung
+            && !Offered.contains(entry.EntryCategory)) {
+            proposal.IsSure = false;
+            proposal.Reason = cText::Tr("{0}; die Kategorie steht nicht zur Auswahl", {proposal.Reason});
+        }
+    }
+
     // The user's own rule for the row; null when there is none.
     [[nodiscard]] const cOwnRule* OwnRule(const cImportEntry& row, const QString& account) const
     {
@@ -149,7 +161,7 @@ struct cProposer::cKnowledge
     cSeriesFinder Series;
     QList<cOwnRule> Rules;
     cRuleMatcher Matcher;
-    QSet<QString> Categories;
+    QSet<QString> Offered; // categories
     cBookCategories BookCategories;
 };
 
@@ -408,5 +420,6 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
     if (proposal.ExistingEntry == 0 && !proposal.IsAlone) {
         m_knowledge->TakeSeries(proposal, row, choice && own == nullptr && choice->SeriesEnd >= row.ImportDate);
     }
+    m_knowledge->Doubt(proposal);
     return proposal;
 }
