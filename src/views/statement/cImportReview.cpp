@@ -5,9 +5,6 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
-#include "import/propose/cBooking.h"
-#include "import/stage/cAccountMap.h"
-#include "import/stage/cImportHiveCache.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
@@ -19,39 +16,18 @@
 #include "views/sheet/cManyChange.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cLesson.h"
-#include "views/statement/cPlanFlow.h"
-#include "views/statement/cRowProposals.h"
 #include "views/statement/cSeriesCheck.h"
-#include "views/statement/cStatementFiles.h"
+#include "views/statement/cStatementWorks.h"
 #include "views/statement/modReviewQuestion.h"
 
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
-struct cImportReview::cWorks
+struct cImportReview::cWorks : cStatementWorks
 {
-    explicit cWorks(const cBookTools& tools)
-        : Hive(tools.Data),
-          Accounts(tools.Data, tools.Settings),
-          Booking(tools.Data, Hive, Accounts),
-          Files(tools, Hive, Accounts),
-          Runs(tools.Settings),
-          Proposals({tools.Data, Hive, Accounts, Runs, tools.Format}),
-          Matching(tools, {Hive, Accounts, Booking, Proposals}),
-          Plan(tools, {Booking, Matching, Proposals}),
-          Suggestions(tools.Data, tools.User)
-    {
-    }
+    explicit cWorks(const cBookTools& tools) : cStatementWorks(tools), Suggestions(tools.Data, tools.User) {}
 
-    cImportHiveCache Hive;
-    cAccountMap Accounts;
-    cBooking Booking;
-    cStatementFiles Files;
-    cImportRuns Runs;
-    cRowProposals Proposals;
-    cMatchFlow Matching;
-    cPlanFlow Plan;
     cEntrySuggestions Suggestions;
     cSeriesCheck::cDeclined Declined;
 };
@@ -63,13 +39,8 @@ cImportReview::cImportReview(const cBookTools& tools, QObject* parent)
     connect(&Files(), &cStatementFiles::Imported, this, &cImportReview::Report);
     connect(&Files(), &cStatementFiles::AccountsAsked, this, &cImportReview::ReportAccounts);
     connect(&Files(), &cStatementFiles::StartTaken, this, &cImportReview::EntriesChanged);
-    connect(&Files(), &cStatementFiles::FileStaged, this,
-            [this](const QList<int>& ids, eStatementFormat format) { m_works->Runs.NoteFile(ids, format); });
-    connect(&Files(), &cStatementFiles::RowsStaged, this, &cImportReview::NoteStaged);
-    connect(&Files(), &cStatementFiles::MoreStaged, this, [this](const QList<int>& ids) {
-        m_works->Runs.NoteMore(ids);
-        Q_EMIT RowsStaged(ids);
-    });
+    connect(&Files(), &cStatementFiles::RowsStaged, this, &cImportReview::TellStaged);
+    connect(&Files(), &cStatementFiles::MoreStaged, this, &cImportReview::RowsStaged);
 }
 
 cImportReview::cImportReview(const cBookTools& tools, std::shared_ptr<cWorks> works, const cImportRuns::cRange& import)
@@ -158,9 +129,8 @@ void cImportReview::StartAfresh()
     Report({});
 }
 
-void cImportReview::NoteStaged(const QList<int>& ids)
+void cImportReview::TellStaged(const QList<int>& ids)
 {
-    m_works->Runs.NoteImport(ids);
     if (m_isOld) {
         LoadRows(); // so that they can be marked
     }

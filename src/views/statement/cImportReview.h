@@ -151,7 +151,7 @@ private:
     void Forget();
     void LoadRows();
     void LoadOld();
-    void NoteStaged(const QList<int>& ids);
+    void TellStaged(const QList<int>& ids);
     void Tell(const QStringList& lines);
     void TellNotTaken(const QString& category);
     void Report(const QStringList& lines); // the same after the rows have changed

@@ -186,7 +186,7 @@ void cStatementFiles::End(cRun& run)
     if (!run.Refusals.isEmpty()) {
         m_tools.User.Show(eTone::Exclamation, run.Refusals.join(u"\n\n"_s));
     }
-    const QStringList due = DueStarts(run);
+    const QStringList due = cOpeningBalance(m_tools).Due(run.Numbers, run.Before, run.FirstBalances);
     OfferNames(run.Names);
     AskUnknown(run.Numbers);
     OfferStart(due);
@@ -516,18 +516,6 @@ void cStatementFiles::KeepLeftOut(const cImportResult& result)
             m_leftOut.append({row.Entry, modImportPreview::Kind(row.Kind), 0});
         }
     }
-}
-
-// Asked before the accounts of new numbers are known: all that these hold came now.
-QStringList cStatementFiles::DueStarts(const cRun& run)
-{
-    const cOpeningBalance opening(m_tools);
-    QStringList due = run.Numbers;
-    due.removeDuplicates();
-    due.removeIf([&](const QString& number) {
-        return !m_accounts.AccountOf(number).isEmpty() && !opening.IsDue(number, run.Before, run.FirstBalances);
-    });
-    return due;
 }
 
 QStringList cStatementFiles::LeftOut() const

@@ -141,7 +141,6 @@ private:
     [[nodiscard]] bool AreNamesWanted(const cForeignNames& missing);
     void AskUnknown(const QStringList& numbers);
     void OfferStart(const QStringList& numbers);
-    [[nodiscard]] QStringList DueStarts(const cRun& run);
     void KeepLeftOut(const cImportResult& result);
     void SettleRepeats(cRun& run);
     [[nodiscard]] bool AreWanted(const QList<cRepeat>& repeats);
