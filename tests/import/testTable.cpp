@@ -349,15 +349,16 @@ private Q_SLOTS:
                                              ";02.02.2025;c;-3,00;\n"
                                              "offen;;d;-4,00;\n"
                                              "Summe;;;\n"
-                                             "03.02.2025;03.02.2025;Endsaldo;100,00;\n"
+                                             "03.02.2025;03.02.2025;Alter Saldo;101,00;\n"
+                                             "03.02.2025;03.02.2025;Neuer Saldo:;100,00;\n"
                                              "x;y\n"
                                              ";;;;\n"_s);
         QCOMPARE(Brief(read), QStringList(u"2025-02-01 -1.00 98765"_s));
         QCOMPARE(Each(read.Skipped, &cSkippedRow::Kind),
                  QList<eSkipped>({eSkipped::Pending, eSkipped::Pending, eSkipped::Pending, eSkipped::Unreadable,
-                                  eSkipped::Balance, eSkipped::Unreadable}));
+                                  eSkipped::Balance, eSkipped::Balance, eSkipped::Unreadable}));
         QCOMPARE(Each(read.Skipped, [](const cSkippedRow& row) { return row.Reason.Line; }),
-                 QList<int>({4, 5, 6, 7, 8, 9}));
+                 QList<int>({4, 5, 6, 7, 8, 9, 10}));
         QCOMPARE(read.Skipped.first().Entry.ImportValue, -200);
         QCOMPARE(read.ClosingBalance, std::optional<qint64>(10000));
     }
