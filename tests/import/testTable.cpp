@@ -390,18 +390,18 @@ private Q_SLOTS:
         cTableMemory memory(*book.Settings);
         cStatementImport import(book.Data, book.Hive, &memory);
         cNoProgress progress;
-        const cImportResult asked = import.ImportText(u"a.csv"_s, text, {}, progress);
+        const cImportResult asked = import.ImportSource({u"a.csv"_s, {}, text}, {}, progress);
         QVERIFY(asked.IsRefused && asked.NeedsAccount);
         QCOMPARE(asked.Message, u"Es muss eine Kontonummer eingegeben werden, um die Daten einem Konto zuzuordnen."_s);
         QVERIFY(book.Data.GetImportEntries().isEmpty());
         cImportOptions options;
         options.DefaultAccount = u"4711"_s;
-        QCOMPARE(import.ImportText(u"a.csv"_s, text, options, progress).Accounts, QStringList(u"4711"_s));
+        QCOMPARE(import.ImportSource({u"a.csv"_s, {}, text}, options, progress).Accounts, QStringList(u"4711"_s));
         QVERIFY(memory.SaveAccount(asked.AccountKey, u"4711"_s));
-        QCOMPARE(import.ImportText(u"a.csv"_s, text, {}, progress).Duplicates.size(), 1);
+        QCOMPARE(import.ImportSource({u"a.csv"_s, {}, text}, {}, progress).Duplicates.size(), 1);
         // A second account with the same layout: which one it is can no longer be told.
         QVERIFY(memory.SaveAccount(asked.AccountKey, u"4712"_s));
-        QVERIFY(import.ImportText(u"a.csv"_s, text, {}, progress).NeedsAccount);
+        QVERIFY(import.ImportSource({u"a.csv"_s, {}, text}, {}, progress).NeedsAccount);
         QCOMPARE(memory.Accounts(asked.AccountKey), QStringList({u"4711"_s, u"4712"_s}));
     }
 

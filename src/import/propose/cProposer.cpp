@@ -260,7 +260,7 @@ void TakeCash(cProposal& proposal, const QStringList& accounts, QDate start)
     cEntryItem& entry = proposal.Entry;
     const QString own = entry.EntryAccount;
     const bool isOutgoing = entry.EntryType == modWord::Ausgabe;
-    entry.EntryCategory = isOutgoing ? u"Allgemein; Barauszahlung"_s : u"Allgemein; Bareinzahlung"_s;
+    entry.EntryCategory = isOutgoing ? modWord::Barauszahlung : modWord::Bareinzahlung;
     entry.EntryInterval = modWord::Einmalig;
     proposal.IsSure = accounts.size() == 1;
     const QString& purse = accounts.constFirst();
@@ -348,7 +348,7 @@ void TakeDefault(cProposal& proposal, eRestriction restriction)
     proposal.IsDefault = entry.EntryCategory.isEmpty();
     if (proposal.IsDefault && restriction == eRestriction::None) {
         entry.EntryInterval = modWord::Einmalig;
-        entry.EntryCategory = u"Allgemein"_s;
+        entry.EntryCategory = modWord::Allgemein;
     }
     if (entry.EntryInterval.isEmpty()) {
         entry.EntryInterval = modWord::Einmalig;

@@ -5,8 +5,7 @@
 // The words by which banks name the balance of an account.
 namespace modBalanceWords {
 
-enum class eBalance
-{
+enum class eBalance {
     None,
     Opening, // before the bookings
     Closing, // behind them

@@ -268,7 +268,8 @@ private:
     [[nodiscard]] bool IsBalanceRow() const
     {
         return HasCell([](QStringView cell) {
-            return modBalanceWords::OfCell(cell) != eBalance::None || cell.compare(u"Turnover", Qt::CaseInsensitive) == 0;
+            return modBalanceWords::OfCell(cell) != eBalance::None
+                || cell.compare(u"Turnover", Qt::CaseInsensitive) == 0;
         });
     }
 

@@ -143,7 +143,8 @@ cEntryItemList cManyChange::Affected(const cManyFields& fields) const
 bool cManyChange::HasAny() const
 {
     if (m_entries.isEmpty() && m_startBalances > 0) {
-        (void)Refuse(cText::Tr("Ein Startguthaben lässt sich nur einzeln ändern: Öffnen Sie seinen Eintrag mit der Eingabetaste."));
+        (void)Refuse(cText::Tr(
+            "Ein Startguthaben lässt sich nur einzeln ändern: Öffnen Sie seinen Eintrag mit der Eingabetaste."));
     }
     return !m_entries.isEmpty();
 }

@@ -5,6 +5,8 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
+#include "import/stage/cAccountMap.h"
+#include "import/stage/cImportHiveCache.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"

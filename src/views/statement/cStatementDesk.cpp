@@ -8,7 +8,9 @@
 #include "import/read/modAccountNumber.h"
 #include "import/read/modStatementFile.h"
 #include "import/sheet/modSpreadsheet.h"
+#include "import/stage/cAccountMap.h"
 #include "import/stage/cBankBalances.h"
+#include "import/stage/cImportHiveCache.h"
 #include "import/stage/cLeftOutRows.h"
 #include "import/stage/cStatementImport.h"
 #include "import/stage/modStatementFormat.h"
@@ -371,7 +373,8 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     const cOpeningBalance opening(m_tools);
     cLeftOutRows leftOut(m_tools.Settings);
     (void)(leftOut.Forget(result.Settled) && leftOut.Note(result.Repeats)); // of a refusal the user has been told
-    const QStringList due = wish.KeepsStart ? QStringList() : opening.Due(result.Accounts, newest, result.FirstBalances);
+    const QStringList due =
+        wish.KeepsStart ? QStringList() : opening.Due(result.Accounts, newest, result.FirstBalances);
     report.IsDone = TakeNames(result.Book, result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
     report.IsDone = AssignAccounts(result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
     if (!wish.Sign.isEmpty() && !wish.Remembers && !result.IsRefused) {

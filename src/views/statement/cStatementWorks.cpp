@@ -1,11 +1,29 @@
 #include "views/statement/cStatementWorks.h"
 
 #include "core/cBookTools.h"
+#include "import/propose/cBooking.h"
+#include "import/stage/cAccountMap.h"
+#include "import/stage/cImportHiveCache.h"
+
+struct cStatementWorks::cImport
+{
+    explicit cImport(const cBookTools& tools)
+        : Hive(tools.Data),
+          Accounts(tools.Data, tools.Settings),
+          Booking(tools.Data, Hive, Accounts)
+    {
+    }
+
+    cImportHiveCache Hive;
+    cAccountMap Accounts;
+    cBooking Booking;
+};
 
 cStatementWorks::cStatementWorks(const cBookTools& tools)
-    : Hive(tools.Data),
-      Accounts(tools.Data, tools.Settings),
-      Booking(tools.Data, Hive, Accounts),
+    : m_import(std::make_unique<cImport>(tools)),
+      Hive(m_import->Hive),
+      Accounts(m_import->Accounts),
+      Booking(m_import->Booking),
       Runs(tools.Settings),
       Proposals({tools.Data, Hive, Accounts, Runs, tools.Format}),
       Matching(tools, {Hive, Accounts, Booking, Proposals}),
@@ -19,3 +37,5 @@ cStatementWorks::cStatementWorks(const cBookTools& tools)
     QObject::connect(&Files, &cStatementFiles::MoreStaged, &Files,
                      [this](const QList<int>& ids) { Runs.NoteMore(ids); });
 }
+
+cStatementWorks::~cStatementWorks() = default;

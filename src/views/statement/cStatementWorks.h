@@ -1,14 +1,16 @@
 #pragma once
 
-#include "import/propose/cBooking.h"
-#include "import/stage/cAccountMap.h"
-#include "import/stage/cImportHiveCache.h"
 #include "views/statement/cImportRuns.h"
 #include "views/statement/cMatchFlow.h"
 #include "views/statement/cPlanFlow.h"
 #include "views/statement/cRowProposals.h"
 #include "views/statement/cStatementFiles.h"
 
+#include <memory>
+
+class cAccountMap;
+class cBooking;
+class cImportHiveCache;
 struct cBookTools;
 
 // The tools of the import floor over one book. What its files bring is noted as their import before anybody else hears
@@ -16,10 +18,18 @@ struct cBookTools;
 struct cStatementWorks
 {
     explicit cStatementWorks(const cBookTools& tools); // outlive the works
+    ~cStatementWorks();
+    cStatementWorks(const cStatementWorks&) = delete;
+    cStatementWorks& operator=(const cStatementWorks&) = delete;
 
-    cImportHiveCache Hive;
-    cAccountMap Accounts;
-    cBooking Booking;
+private:
+    struct cImport;
+    std::unique_ptr<cImport> m_import;
+
+public:
+    cImportHiveCache& Hive;
+    cAccountMap& Accounts;
+    cBooking& Booking;
     cImportRuns Runs;
     cRowProposals Proposals;
     cMatchFlow Matching;
