@@ -10,7 +10,7 @@ using modBalanceWords::eBalance;
 struct cWord
 {
     QStringView Text;
-    eBalance Balance;
+    eBalance Balance = eBalance::None;
 };
 
 constexpr qsizetype shortest = 5;
