@@ -23,8 +23,12 @@ inline const QString Kategorie = QStringLiteral("Kategorie");
 // Kind of correction: another amount for one period
 inline const QString Betrag = QStringLiteral("Betrag");
 
-// Category of start balances
+// Category of what nothing is known about
+inline const QString Allgemein = QStringLiteral("Allgemein");
+// Categories of start balances and of cash
 inline const QString Startguthaben = QStringLiteral("Allgemein; Startguthaben");
+inline const QString Barauszahlung = QStringLiteral("Allgemein; Barauszahlung");
+inline const QString Bareinzahlung = QStringLiteral("Allgemein; Bareinzahlung");
 
 // Types as GetEntries takes them
 inline const QString Einnahmen = QStringLiteral("Einnahmen");
@@ -36,6 +40,15 @@ inline const QString AlleBuchungen = QStringLiteral("Alle Buchungen");
 inline const QString AlleKonten = QStringLiteral("Alle Konten");
 inline const QString AlleBuchungsarten = QStringLiteral("Alle Buchungsarten");
 inline const QString KeineGruppierung = QStringLiteral("Keine Gruppierung");
+
+// Groupings
+inline const QString NachDatum = QStringLiteral("Nach Datum");
+inline const QString NachWoche = QStringLiteral("Nach Woche");
+inline const QString NachMonat = QStringLiteral("Nach Monat");
+inline const QString NachSparte = QStringLiteral("Nach Sparte"); // by main category
+inline const QString NachKategorie = QStringLiteral("Nach Kategorie");
+inline const QString NachKonto = QStringLiteral("Nach Konto");
+inline const QString NachBuchungsart = QStringLiteral("Nach Buchungsart");
 
 inline const QString FreierZeitraum = QStringLiteral("Freier Zeitraum");
 inline const QString AktuellesJahr = QStringLiteral("Aktuelles Jahr");

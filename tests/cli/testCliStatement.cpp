@@ -51,6 +51,16 @@ private Q_SLOTS:
         QVERIFY(Do(u"reconcile"_s).Out.contains(u"240,00"));
     }
 
+    // Rows of an earlier statement waited for the account, so nothing of it has counted yet.
+    void StartComesWithTheAccount()
+    {
+        Do(u"import|--keep-start|--book-account|Girokonto|"_s + Write(u"1.sta"_s, incomplete));
+        cTestFile::Run(Book(), "DELETE FROM setting WHERE SettingName LIKE 'KTO:%'");
+        const cCliRun next = Do(u"import|--book-account|Girokonto|"_s
+                                + Write(u"2.sta"_s, QByteArray(incomplete).replace("2602", "2603")));
+        QVERIFY2(next.Error.contains(u"Startguthaben von 'Girokonto': 900,00"), qPrintable(next.Text()));
+    }
+
     // The first statement brings the start balance, and the book agrees once its row is booked.
     void ReconcilesRowByRow()
     {

@@ -80,7 +80,7 @@ struct cReadingBook : cImportBook
                        const QString& name = QStringLiteral("a"))
     {
         cNoProgress progress;
-        return Import.ImportText(name, text, options, progress);
+        return Import.ImportSource({name, {}, text}, options, progress);
     }
     cImportResult ReadFile(const QString& path, const cImportOptions& options = {})
     {

@@ -40,6 +40,8 @@ struct cBank : cBankBook
 };
 
 const QDate day(2026, 1, 10);
+const QString gifts = u"Freizeit; Geschenke"_s;
+const QString rent = u"Wohnung; Miete"_s;
 
 } // namespace
 
@@ -149,20 +151,20 @@ private Q_SLOTS:
     void LearnsFromTheUser()
     {
         cBank bank;
-        bank.BookAs(bank.Stage(day, -1, u"REWE"_s, u"DE01"_s), u"A"_s);
+        bank.BookAs(bank.Stage(day, -1, u"REWE"_s, u"DE01"_s), gifts);
         const int alike = bank.Stage(day.addDays(9), -2, u"Rewe Sued"_s, u"DE 01"_s);
-        QCOMPARE(bank.Propose(alike).Entry.EntryCategory, u"A"_s);
+        QCOMPARE(bank.Propose(alike).Entry.EntryCategory, gifts);
         QCOMPARE(bank.Propose(alike).Reason, u"gelernt aus 1 Buchung an Rewe"_s);
         QVERIFY(!bank.Propose(alike).IsSure);
-        bank.BookAs(bank.Stage(day, -1, u"REWE"_s, u"DE01"_s), u"A"_s);
+        bank.BookAs(bank.Stage(day, -1, u"REWE"_s, u"DE01"_s), gifts);
         QVERIFY(bank.Propose(alike).IsSure);
         // An older row that is booked later is the newer decision.
         const int other = bank.Stage(day.addDays(-300), -1, u"REWE SAGT DANKE 4711//Talheim/DE"_s);
-        bank.BookAs(other, u"B"_s, u"Jährlich"_s);
-        QCOMPARE(bank.Propose(alike).Entry.EntryCategory, u"B"_s);
+        bank.BookAs(other, rent, u"Jährlich"_s);
+        QCOMPARE(bank.Propose(alike).Entry.EntryCategory, rent);
         QCOMPARE(bank.Propose(alike).Reason, u"gelernt aus 1 Buchung an Rewe; unsicher, andere sind anders gebucht"_s);
         QVERIFY(!bank.Propose(alike).IsSure);
-        bank.BookAs(bank.Stage(day, -1, u"REWE"_s), u"B"_s);
+        bank.BookAs(bank.Stage(day, -1, u"REWE"_s), rent);
         QCOMPARE(bank.Propose(alike).Reason, u"gelernt aus 2 Buchungen an Rewe"_s);
         QVERIFY(bank.Propose(alike).IsSure);
         // Money that comes back is known by its sender, but it is another thing.
@@ -171,9 +173,9 @@ private Q_SLOTS:
         QCOMPARE(bank.Propose(back).Entry.EntryInterval, modWord::Einmalig);
         QVERIFY(!bank.Propose(back).IsSure);
         // Somebody who books to and fro is asked every time.
-        bank.BookAs(bank.Stage(day, -1, u"REWE"_s), u"A"_s);
-        bank.BookAs(bank.Stage(day, -1, u"REWE"_s), u"A"_s);
-        QCOMPARE(bank.Propose(alike).Entry.EntryCategory, u"A"_s);
+        bank.BookAs(bank.Stage(day, -1, u"REWE"_s), gifts);
+        bank.BookAs(bank.Stage(day, -1, u"REWE"_s), gifts);
+        QCOMPARE(bank.Propose(alike).Entry.EntryCategory, gifts);
         QVERIFY(!bank.Propose(alike).IsSure);
     }
 
@@ -182,20 +184,20 @@ private Q_SLOTS:
     {
         cBank bank;
         const int first = bank.Stage(day, -1, u"Kiosk am Eck"_s);
-        bank.BookAs(first, u"A"_s);
-        bank.BookAs(bank.Stage(day.addDays(1), -1, u"Kiosk am Eck"_s), u"A"_s);
+        bank.BookAs(first, gifts);
+        bank.BookAs(bank.Stage(day.addDays(1), -1, u"Kiosk am Eck"_s), gifts);
         cEntryItem entry = *bank.Data.LoadEntry(bank.EntryOf(first));
-        entry.EntryCategory = u"B"_s;
+        entry.EntryCategory = rent;
         QVERIFY(bank.Data.ChangeEntry(entry) && modCorrected::Note(bank.Data, entry.ID));
-        QCOMPARE(bank.Propose(bank.Stage(day.addDays(2), -1, u"Kiosk am Eck"_s)).Entry.EntryCategory, u"B"_s);
+        QCOMPARE(bank.Propose(bank.Stage(day.addDays(2), -1, u"Kiosk am Eck"_s)).Entry.EntryCategory, rent);
     }
 
     void LearnsByAccountOnlyWhereItIsOnePayee()
     {
         cBank bank;
-        bank.BookAs(bank.Stage(day, -1, u"Max Mustermann"_s, u"DE01"_s), u"A"_s);
+        bank.BookAs(bank.Stage(day, -1, u"Max Mustermann"_s, u"DE01"_s), gifts);
         const int turned = bank.Stage(day, -1, u"Mustermann, Max"_s, u"DE01"_s);
-        QCOMPARE(bank.Propose(turned).Entry.EntryCategory, u"A"_s);
+        QCOMPARE(bank.Propose(turned).Entry.EntryCategory, gifts);
         QCOMPARE(bank.Propose(turned).Reason, u"gelernt aus 1 Buchung an Konto DE01"_s);
         const int stranger = bank.Stage(day, -1, u"Kern und Partner"_s, u"DE01"_s); // a clearing account after all
         QCOMPARE(bank.Propose(stranger).Entry.EntryCategory, u"Allgemein"_s);
@@ -215,9 +217,9 @@ private Q_SLOTS:
     {
         cBank bank;
         for (const double value : {-650.0, -123.0, -650.0}) {
-            bank.BookAs(bank.Stage(day, value, u"Tannert"_s), value < -600 ? u"A"_s : u"B"_s);
+            bank.BookAs(bank.Stage(day, value, u"Tannert"_s), value < -600 ? gifts : rent);
         }
-        QCOMPARE(bank.Propose(bank.Stage(day, -123, u"Tannert"_s)).Entry.EntryCategory, u"B"_s);
+        QCOMPARE(bank.Propose(bank.Stage(day, -123, u"Tannert"_s)).Entry.EntryCategory, rent);
         QVERIFY(bank.Propose(bank.Stage(day, -650, u"Tannert"_s)).IsSure);
     }
 
@@ -296,7 +298,7 @@ private Q_SLOTS:
         cEntryItem entry = bank.Propose(first).Entry;
         entry.EntryType = modWord::Umbuchung;
         entry.EntryAccountMove = u"Depot"_s;
-        entry.EntryCategory = u"A"_s;
+        entry.EntryCategory = gifts;
         QCOMPARE(cImportBook::BookAs(bank.Booking, first, entry).Rows, 1);
         const cEntryItem back = bank.Propose(bank.Stage(day, 30, u"Depotbank"_s)).Entry;
         QCOMPARE(QStringList({back.EntryType, back.EntryAccount, back.EntryAccountMove}),
@@ -579,7 +581,7 @@ private Q_SLOTS:
     {
         cBank bank;
         const QList<int> rows{bank.Stage(day, -1, u"X"_s), bank.Stage(day, -2, u"X"_s), bank.Stage(day, -3, u"X"_s)};
-        bank.BookAs(rows.first(), u"A"_s);
+        bank.BookAs(rows.first(), gifts);
         const int entry = bank.EntryOf(rows.first());
         QVERIFY(bank.Booking.Assign(rows.at(1), entry) && bank.Booking.Assign(rows.at(2), entry));
         QCOMPARE(bank.Hive.GetImportHive().GetImportEntriesByAssignedID(entry).size(), 3);

@@ -3,6 +3,7 @@
 #include "import/propose/cOwnRules.h"
 #include "import/propose/cRuleMatcher.h"
 #include "import/propose/modOwnRule.h"
+#include "model/cTemplateItem.h"
 #include "support/cTestClass.h"
 
 using namespace Qt::Literals::StringLiterals;
@@ -216,6 +217,29 @@ private Q_SLOTS:
         QTEST(rule.Counterparty, "counterparty");
         QCOMPARE(rule.Sign, row.ImportValue > 0 ? eRuleSign::In : eRuleSign::Out);
         QCOMPARE(cRuleMatcher({rule}).Find(cRuleRow(row, {})), 0);
+    }
+
+    // Whoever names it: what was hidden since is nothing that goes into the book unseen.
+    void HiddenCategoryIsLookedAt()
+    {
+        cBank bank;
+        bank.Keep({Food(u"penny"_s)});
+        cBooking booking(bank.Data, bank.Hive, bank.Accounts);
+        const int first = bank.Stage(Row(-10, u"REWE Markt"_s, {}));
+        QCOMPARE(cImportBook::BookAs(booking, first, booking.Propose({first}).value(first).Entry).Rows, 1);
+        const QStringList names{u"Edeka"_s, u"REWE Markt"_s, u"Penny"_s}; // by a keyword, learned, by the rule
+        for (const QString& name : names) {
+            QVERIFY2(bank.Propose(Row(-12, name, {})).IsSure, qPrintable(name));
+        }
+        cTemplateItemList items = bank.Data.GetTemplates();
+        items.removeIf([](const cTemplateItem& item) { return modTemplate::NameOf(item) != Food({}).Category; });
+        items.first().TemplateVisible = u"0"_s;
+        QVERIFY(bank.Data.ChangeTemplate(items.first()));
+        for (const QString& name : names) {
+            const cProposal proposal = bank.Propose(Row(-12, name, {}));
+            QVERIFY2(!proposal.IsSure && proposal.Reason.endsWith("; die Kategorie steht nicht zur Auswahl"_L1),
+                     qPrintable(proposal.Reason));
+        }
     }
 };
 

@@ -184,7 +184,8 @@ private Q_SLOTS:
         cImportOptions options;
         options.DefaultAccount = u"7"_s;
         cNoProgress progress;
-        const cImportResult result = cStatementImport(book.Data, book.Hive).ImportText(name, text, options, progress);
+        const cImportResult result =
+            cStatementImport(book.Data, book.Hive).ImportSource({name, {}, text}, options, progress);
         QString read = result.IsRefused ? u"refused"_s : QString::number(book.Data.GetImportEntries().size());
         for (const cSkippedRow& row : result.Skipped) {
             read += row.Kind == eSkipped::CutOff ? u" %1"_s.arg(row.Entry.ImportValue) : QString();
@@ -203,7 +204,7 @@ private Q_SLOTS:
         const auto read = [&](const QString& account, const QString& currency, const cImportOptions& options) {
             QString text = Many(2).replace(u"EUR"_s, currency);
             text.replace(u":25:1"_s, u":25:"_s + account);
-            return cStatementImport(book.Data, book.Hive).ImportText(u"a.sta"_s, text, options, progress);
+            return cStatementImport(book.Data, book.Hive).ImportSource({u"a.sta"_s, {}, text}, options, progress);
         };
         QCOMPARE(read(u"10020030/1234567"_s, u"EUR"_s, euros).Staged, 2);
         const cImportResult refused = read(u"777"_s, u"USD"_s, euros);
@@ -219,7 +220,7 @@ private Q_SLOTS:
         const auto readTable = [&](const QString& amount) {
             const QString text = u"Datum;Zweck;%1;Originalbetrag;Währung\n02.10.2026;Ei;-2,50;-2,50;EUR\n"
                                  "03.10.2026;Hotel;-9,00;-10,00;USD\n"_s.arg(amount);
-            return cStatementImport(book.Data, book.Hive).ImportText(u"a.csv"_s, text, euros, progress).Message;
+            return cStatementImport(book.Data, book.Hive).ImportSource({u"a.csv"_s, {}, text}, euros, progress).Message;
         };
         const QString some = readTable(u"Betrag"_s);
         QVERIFY2(some.contains(u"bei 1 von 2 Umsätzen in USD, das Buch in EUR"), qPrintable(some));
@@ -233,8 +234,8 @@ private Q_SLOTS:
         cCancel progress(2);
         {
             const cUndoStep step(book.Data, u"eingelesen"_s);
-            QCOMPARE(book.Import.ImportText(u"a"_s, Many(3), {}, progress).Staged, 3);
-            const cImportResult result = book.Import.ImportText(u"b"_s, Many(500), {}, progress);
+            QCOMPARE(book.Import.ImportSource({u"a"_s, {}, Many(3)}, {}, progress).Staged, 3);
+            const cImportResult result = book.Import.ImportSource({u"b"_s, {}, Many(500)}, {}, progress);
             QVERIFY(result.IsCancelled);
             QCOMPARE(QList<int>({result.Read, result.Staged}), QList<int>({0, 0}));
             QCOMPARE(book.Data.GetImportEntries().size(), 3);
@@ -250,7 +251,7 @@ private Q_SLOTS:
     {
         cReadingBook book;
         cCancel cancelled(1);
-        QVERIFY(book.Import.ImportText(u"a"_s, Many(500), {}, cancelled).IsCancelled);
+        QVERIFY(book.Import.ImportSource({u"a"_s, {}, Many(500)}, {}, cancelled).IsCancelled);
         QCOMPARE(book.Read(Many(5), {.DefaultAccount = {}, .Run = eStagingRun::Try}).Rows.size(), 5);
         QVERIFY(book.Balances.Of(u"1"_s).isEmpty());
         // one whose only row is left out tells nothing of its own day

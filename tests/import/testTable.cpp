@@ -349,15 +349,16 @@ private Q_SLOTS:
                                              ";02.02.2025;c;-3,00;\n"
                                              "offen;;d;-4,00;\n"
                                              "Summe;;;\n"
-                                             "03.02.2025;03.02.2025;Endsaldo;100,00;\n"
+                                             "03.02.2025;03.02.2025;Alter Saldo;101,00;\n"
+                                             "03.02.2025;03.02.2025;Neuer Saldo:;100,00;\n"
                                              "x;y\n"
                                              ";;;;\n"_s);
         QCOMPARE(Brief(read), QStringList(u"2025-02-01 -1.00 98765"_s));
         QCOMPARE(Each(read.Skipped, &cSkippedRow::Kind),
                  QList<eSkipped>({eSkipped::Pending, eSkipped::Pending, eSkipped::Pending, eSkipped::Unreadable,
-                                  eSkipped::Balance, eSkipped::Unreadable}));
+                                  eSkipped::Balance, eSkipped::Balance, eSkipped::Unreadable}));
         QCOMPARE(Each(read.Skipped, [](const cSkippedRow& row) { return row.Reason.Line; }),
-                 QList<int>({4, 5, 6, 7, 8, 9}));
+                 QList<int>({4, 5, 6, 7, 8, 9, 10}));
         QCOMPARE(read.Skipped.first().Entry.ImportValue, -200);
         QCOMPARE(read.ClosingBalance, std::optional<qint64>(10000));
     }
@@ -389,18 +390,18 @@ private Q_SLOTS:
         cTableMemory memory(*book.Settings);
         cStatementImport import(book.Data, book.Hive, &memory);
         cNoProgress progress;
-        const cImportResult asked = import.ImportText(u"a.csv"_s, text, {}, progress);
+        const cImportResult asked = import.ImportSource({u"a.csv"_s, {}, text}, {}, progress);
         QVERIFY(asked.IsRefused && asked.NeedsAccount);
         QCOMPARE(asked.Message, u"Es muss eine Kontonummer eingegeben werden, um die Daten einem Konto zuzuordnen."_s);
         QVERIFY(book.Data.GetImportEntries().isEmpty());
         cImportOptions options;
         options.DefaultAccount = u"4711"_s;
-        QCOMPARE(import.ImportText(u"a.csv"_s, text, options, progress).Accounts, QStringList(u"4711"_s));
+        QCOMPARE(import.ImportSource({u"a.csv"_s, {}, text}, options, progress).Accounts, QStringList(u"4711"_s));
         QVERIFY(memory.SaveAccount(asked.AccountKey, u"4711"_s));
-        QCOMPARE(import.ImportText(u"a.csv"_s, text, {}, progress).Duplicates.size(), 1);
+        QCOMPARE(import.ImportSource({u"a.csv"_s, {}, text}, {}, progress).Duplicates.size(), 1);
         // A second account with the same layout: which one it is can no longer be told.
         QVERIFY(memory.SaveAccount(asked.AccountKey, u"4712"_s));
-        QVERIFY(import.ImportText(u"a.csv"_s, text, {}, progress).NeedsAccount);
+        QVERIFY(import.ImportSource({u"a.csv"_s, {}, text}, {}, progress).NeedsAccount);
         QCOMPARE(memory.Accounts(asked.AccountKey), QStringList({u"4711"_s, u"4712"_s}));
     }
 

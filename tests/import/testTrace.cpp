@@ -62,9 +62,10 @@ void WorkWith(const cTestFile& file)
     cNoProgress progress;
     const QString text = u"!Type:Bank\nD31.1.26\nT-98765.43\nPVerschwiegen\nMSchmuckkauf\n^\n"_s;
     cStatementImport import(book.Data(), hive);
-    QCOMPARE(import.ImportText(u"/home/geheimrat/Zweitkonto.qif"_s, text, options, progress).Staged, 1);
-    QVERIFY(import.ImportText(u"/home/geheimrat/Zweitkonto.pdf"_s, u"%PDF-1.4 Verschwiegen"_s, options, progress)
-                .IsRefused);
+    QCOMPARE(import.ImportSource({u"/home/geheimrat/Zweitkonto.qif"_s, {}, text}, options, progress).Staged, 1);
+    QVERIFY(
+        import.ImportSource({u"/home/geheimrat/Zweitkonto.pdf"_s, {}, u"%PDF-1.4 Verschwiegen"_s}, options, progress)
+            .IsRefused);
     cBooking booking(book.Data(), hive, accounts);
     const int row = book.Data().GetImportEntries().constFirst().ID;
     QCOMPARE(booking.Book({row}, booking.Propose({row}), progress).Entries, 1);

@@ -458,7 +458,15 @@ private Q_SLOTS:
         cEntryItem part = m_page->Data.GetEntries({}).value(0);
         modSplit::SetGroup(part, part.ID);
         QVERIFY(m_page->Data.ChangeEntry(part) && m_page->Data.AddNewEntry(part));
-        QCOMPARE(m_page->Review.StartChange({id})->Count(), 2); // the whole purchase
+        QCOMPARE(m_page->Review.StartChange({id})->Count(), 2);         // the whole purchase
+        QVERIFY(!m_page->Review.Choose({id}, u"Wohnung; Miete"_s, {})); // the user says no
+        QVERIFY(m_page->User.Asked.constLast().startsWith(u"Ändern: 2 Einträge\n"_s));
+        QVERIFY(m_page->Data.DeleteEntry(part.ID)); // the added one
+        part = m_page->Data.GetEntries({}).value(0);
+        part.EntryCategory = modWord::Startguthaben;
+        QVERIFY(m_page->Data.ChangeEntry(part));
+        QVERIFY(!m_page->Review.Choose({id}, u"Freizeit; Geschenke"_s, {}));
+        QCOMPARE(m_page->Data.GetEntries({}).value(0).EntryCategory, modWord::Startguthaben);
         m_page->Review.View().SetUncategorisedOnly(false);
         QVERIFY(m_page->Review.StartChange({id, m_page->AllIds().first()}) == nullptr); // one of them has no entry yet
     }

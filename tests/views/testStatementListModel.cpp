@@ -203,7 +203,7 @@ private Q_SLOTS:
         cNoProgress progress;
         for (const QString& file : files.split(u' ')) {
             const cImportResult result = cStatementImport(scene.Data, hive, nullptr, &balances)
-                                             .ImportText(file, texts.value(file), {}, progress);
+                                             .ImportSource({file, {}, texts.value(file)}, {}, progress);
             QVERIFY2(!result.IsRefused, qPrintable(result.Message));
         }
         scene.Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);

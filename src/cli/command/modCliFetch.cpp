@@ -181,11 +181,11 @@ int FetchAccounts(const cCliContext& context, const cBankFetch::cWish& wish)
     }
     // Who names the first day wants what lies that far back; else the days that are missing are named.
     context.User.Prepare({.Answer = wish.From.isValid() ? eAnswer::Yes : eAnswer::No});
-    book.Statements.Files().SetRepeats(context.Call.Has(u"take-equal"_s) ? cStatementFiles::eRepeats::Take
-                                                                         : cStatementFiles::eRepeats::LeaveOut);
-    book.Statements.Files().SetCurrency(context.Call.Has(u"take-currency"_s) ? cStatementFiles::eCurrency::Take
-                                                                             : cStatementFiles::eCurrency::Refuse);
-    book.Statements.Files().SetStart(cStatementFiles::eStart::Take);
+    book.Statements.Files().SetRepeats(context.Call.Has(u"take-equal"_s) ? cStatementFiles::eWish::Take
+                                                                         : cStatementFiles::eWish::Leave);
+    book.Statements.Files().SetCurrency(context.Call.Has(u"take-currency"_s) ? cStatementFiles::eWish::Take
+                                                                             : cStatementFiles::eWish::Leave);
+    book.Statements.Files().SetStart(cStatementFiles::eWish::Take);
     cNoProgress progress;
     const bool isDone = fetch.Run(chosen, progress);
     Print(context, fetch, chosen.Accounts);

@@ -45,7 +45,9 @@ struct cProposer::cKnowledge
     {
         const cTemplateItemList items = data.GetTemplates();
         for (const cTemplateItem& item : items) {
-            Categories.insert(modTemplate::IsAccount(item) ? QString() : modTemplate::Path(item));
+            if (!modTemplate::IsAccount(item) && modTemplate::IsVisible(item)) {
+                Offered.insert(modTemplate::Path(item));
+            }
         }
     }
 
@@ -79,11 +81,10 @@ struct cProposer::cKnowledge
         return day;
     }
 
-    // What the program knows by itself. Of a category that the book does not have it is not sure.
+    // What the program knows by itself.
     [[nodiscard]] cHint BestHint(const cImportEntry& row) const
     {
         cHint hint = modHint::Best(row);
-        hint.IsSure = hint.IsSure && Categories.contains(hint.Category);
         // A keyword knows how often such things are paid as a rule, the purpose may know it of this one.
         if (modRecurrence::IsRecurring(hint.Interval)) {
             const QString named = modIntervalWord::In(row.ImportPurpose);
@@ -133,6 +134,17 @@ struct cProposer::cKnowledge
         }
     }
 
+    // Whatever names it: nothing new goes unseen to a category that was deleted or hidden.
+    void Doubt(cProposal& proposal) const
+    {
+        const cEntryItem& entry = proposal.Entry;
+        if (proposal.IsSure && proposal.ExistingEntry == 0 && entry.EntryType != modWord::Umbuchung
+            && !Offered.contains(entry.EntryCategory)) {
+            proposal.IsSure = false;
+            proposal.Reason = cText::Tr("{0}; die Kategorie steht nicht zur Auswahl", {proposal.Reason});
+        }
+    }
+
     // The user's own rule for the row; null when there is none.
     [[nodiscard]] const cOwnRule* OwnRule(const cImportEntry& row, const QString& account) const
     {
@@ -150,7 +162,7 @@ struct cProposer::cKnowledge
     cSeriesFinder Series;
     QList<cOwnRule> Rules;
     cRuleMatcher Matcher;
-    QSet<QString> Categories;
+    QSet<QString> Offered; // categories
     cBookCategories BookCategories;
 };
 
@@ -250,7 +262,7 @@ void TakeCash(cProposal& proposal, const QStringList& accounts, QDate start)
     cEntryItem& entry = proposal.Entry;
     const QString own = entry.EntryAccount;
     const bool isOutgoing = entry.EntryType == modWord::Ausgabe;
-    entry.EntryCategory = isOutgoing ? u"Allgemein; Barauszahlung"_s : u"Allgemein; Bareinzahlung"_s;
+    entry.EntryCategory = isOutgoing ? modWord::Barauszahlung : modWord::Bareinzahlung;
     entry.EntryInterval = modWord::Einmalig;
     proposal.IsSure = accounts.size() == 1;
     const QString& purse = accounts.constFirst();
@@ -338,7 +350,7 @@ void TakeDefault(cProposal& proposal, eRestriction restriction)
     proposal.IsDefault = entry.EntryCategory.isEmpty();
     if (proposal.IsDefault && restriction == eRestriction::None) {
         entry.EntryInterval = modWord::Einmalig;
-        entry.EntryCategory = u"Allgemein"_s;
+        entry.EntryCategory = modWord::Allgemein;
     }
     if (entry.EntryInterval.isEmpty()) {
         entry.EntryInterval = modWord::Einmalig;
@@ -410,5 +422,6 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
     if (proposal.ExistingEntry == 0 && !proposal.IsAlone) {
         m_knowledge->TakeSeries(proposal, row, choice && own == nullptr && choice->SeriesEnd >= row.ImportDate);
     }
+    m_knowledge->Doubt(proposal);
     return proposal;
 }

@@ -2,6 +2,7 @@
 
 #include "import/read/modWildcard.h"
 #include "model/cTemplateItem.h"
+#include "model/modWord.h"
 
 #include <QSet>
 #include <QStringList>
@@ -116,8 +117,8 @@ bool modKeywordTrust::FitsSign(const QString& category, qint64 cents)
                                    u"Staat; Steuererstattung"_s,
                                    u"Geldanlage; Zinseinkünfte"_s,
                                    u"Sonstiges; Geldgeschenke"_s,
-                                   u"Allgemein; Bareinzahlung"_s,
-                                   u"Allgemein; Startguthaben"_s};
+                                   modWord::Bareinzahlung,
+                                   modWord::Startguthaben};
     static const QString both = u"Auktionen"_s;
     if (modTemplate::IsWithin(category, both)) {
         return cents != 0;

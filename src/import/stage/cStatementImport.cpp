@@ -204,12 +204,6 @@ cImportResult cStatementImport::ImportFile(const QString& path, const cImportOpt
     return ImportSource(std::move(source), options, progress);
 }
 
-cImportResult cStatementImport::ImportText(const QString& path, const QString& text, const cImportOptions& options,
-                                           cProgress& progress)
-{
-    return ImportSource({path, {}, text}, options, progress);
-}
-
 cImportResult cStatementImport::ImportSource(cStatementSource source, const cImportOptions& options,
                                              cProgress& progress)
 {

@@ -59,10 +59,6 @@ public:
     [[nodiscard]] cImportResult ImportSource(cStatementSource source, const cImportOptions& options,
                                              cProgress& progress);
 
-    // The same for a text whose format the name and the content tell.
-    [[nodiscard]] cImportResult ImportText(const QString& path, const QString& text, const cImportOptions& options,
-                                           cProgress& progress);
-
     // Stages the transactions of an MT940 or MT942 text, as the online fetch hands it over. The closing balance in
     // cents, negative unless its mark contains "C"; 0 when there is none or when a :86: line stands before its :61:
     // line, in which case nothing is staged, because the text is read to its end before the first transaction is.

@@ -6,6 +6,7 @@
 #include "import/cell/modTableValue.h"
 #include "import/read/modAccountNumber.h"
 #include "import/table/cTable.h"
+#include "import/table/modBalanceWords.h"
 
 #include <QList>
 
@@ -16,8 +17,6 @@ namespace {
 constexpr QStringView accountWords =
     u"*Kontonummer*|Konto|Konto:|Konto-Nr*|Kontonr*|IBAN*|Account*|*Kreditkarte*|Karte|"
     u"Karte:|Kartennummer*";
-constexpr QStringView balanceWords = u"*Kontostand*|Saldo*|*Endsaldo*|*Closing balance*";
-constexpr QStringView oldBalanceWords = u"*alter *|*letzter *|*Anfang*|*Opening*";
 
 bool IsProtection(QChar c)
 {
@@ -116,8 +115,9 @@ QDate DateIn(const QString& label)
 
 std::optional<cAccountBalance> BalanceIn(const QStringList& cells)
 {
-    if (cells.size() < 2 || !modCell::MatchesList(cells.first(), balanceWords)
-        || modCell::MatchesList(cells.first(), oldBalanceWords)) {
+    using modBalanceWords::eBalance;
+    const eBalance balance = cells.size() < 2 ? eBalance::None : modBalanceWords::OfLabel(cells.first());
+    if (balance == eBalance::None || balance == eBalance::Opening) {
         return std::nullopt;
     }
     const std::optional<double> euros = modTableValue::ReadAmount(cells.at(1), eNumberFormat::Detect);

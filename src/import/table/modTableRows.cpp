@@ -10,6 +10,7 @@
 #include "import/read/modStatementFile.h"
 #include "import/table/cRowBalances.h"
 #include "import/table/cTable.h"
+#include "import/table/modBalanceWords.h"
 #include "import/table/modTableAbove.h"
 #include "import/table/modTableDetails.h"
 #include "import/table/modTableEnd.h"
@@ -29,22 +30,17 @@ namespace {
 
 const QDate noDate(1001, 1, 1); // what is no date is staged on this day
 
-constexpr std::array<QStringView, 14> balanceWords = {
-    u"Anfangssaldo",    u"Endsaldo",     u"Schlusssaldo",   u"Startsaldo",       u"Opening balance",
-    u"Closing balance", u"Turnover",     u"Kontostand",     u"Alter Kontostand", u"Neuer Kontostand",
-    u"Saldo",           u"Saldovortrag", u"Anfangsbestand", u"Endbestand"};
-constexpr std::array<QStringView, 5> closingWords = {u"Endsaldo", u"Schlusssaldo", u"Closing balance", u"Kontostand",
-                                                     u"Neuer Kontostand"};
 constexpr std::array<QStringView, 5> totalWords = {u"Summe", u"Gesamt", u"Gesamtsumme", u"Zwischensumme", u"Total"};
 constexpr QStringView bookingDayWords = u"Buchungstag|Buchungsdatum|Buchung|Booking date";
 
-bool IsOneOf(QStringView cell, const auto& words)
+bool IsTotalWord(QStringView cell)
 {
-    return std::any_of(words.begin(), words.end(), [&](QStringView word) {
+    return std::any_of(totalWords.begin(), totalWords.end(), [&](QStringView word) {
         return cell.size() == word.size() && cell.compare(word, Qt::CaseInsensitive) == 0;
     });
 }
 
+using modBalanceWords::eBalance;
 using eState = modTableStatus::eState;
 
 class cRowReader
@@ -233,30 +229,43 @@ private:
         m_read.Skipped.append({Problem(reason), kind, entry});
     }
 
-    [[nodiscard]] QStringView FindCell(const auto& words) const
+    [[nodiscard]] bool HasCell(const auto& isWanted) const
     {
         for (int column = 0; column < m_table.CellCount(m_row); ++column) {
-            const QStringView cell = Cell(column);
-            if (cell.size() >= 5 && cell.size() <= 16 && cell.front().isLetter() && IsOneOf(cell, words)) {
-                return cell;
+            if (isWanted(Cell(column))) {
+                return true;
             }
         }
-        return {};
+        return false;
     }
 
     // A line below the bookings that adds them up. A shop may be called "Total": with a day it must be their sum.
     [[nodiscard]] bool IsTotal(const cImportEntry& entry) const
     {
-        return !FindCell(totalWords).isEmpty()
+        return HasCell(IsTotalWord)
             && (!entry.ImportDate.isValid() || (m_read.Entries.size() > 1 && entry.ImportValue == m_sum));
     }
 
-    [[nodiscard]] bool IsBalanceRow() const { return !FindCell(balanceWords).isEmpty(); }
+    [[nodiscard]] bool IsBalanceRow() const
+    {
+        return HasCell([](QStringView cell) {
+            return modBalanceWords::OfCell(cell) != eBalance::None
+                || cell.compare(u"Turnover", Qt::CaseInsensitive) == 0;
+        });
+    }
+
+    [[nodiscard]] bool IsClosing() const
+    {
+        return HasCell([](QStringView cell) {
+            const eBalance balance = modBalanceWords::OfCell(cell);
+            return balance == eBalance::Closing || balance == eBalance::Present;
+        });
+    }
 
     void TakeBalanceRow()
     {
         Skip(eSkipped::Balance, cText::Tr("Die Zeile ist ein Saldo und kein Umsatz: {0}", {Start()}));
-        if (!FindCell(closingWords).isEmpty()) {
+        if (IsClosing()) {
             if (const std::optional<double> value = BalanceValue()) {
                 m_balances.SetClosing(modAmount::ToCents(*value),
                                       modTableValue::ReadDate(Cell(m_map.Date), m_layout.Date));

@@ -1,11 +1,11 @@
 #include "import/table/modTableSign.h"
 
 #include "base/modAmount.h"
-#include "import/cell/modCell.h"
 #include "import/cell/modMoneyWords.h"
 #include "import/cell/modTableValue.h"
 #include "import/table/cColumnSurvey.h"
 #include "import/table/cTable.h"
+#include "import/table/modBalanceWords.h"
 #include "import/table/modTableRows.h"
 
 #include <QSet>
@@ -15,14 +15,10 @@
 
 namespace {
 
+using modBalanceWords::eBalance;
 using cRows = QList<modTableRows::cProbed>;
 
 enum class eVerdict { Open, AsRead, Turned };
-
-constexpr QStringView openingWords = u"*Anfangssaldo*|*Startsaldo*|*Alter Kontostand*|*Alter Saldo*|*Opening balance*|"
-                                     u"*Saldo alt*|*Saldovortrag*|*Beginsaldo*|*Anfangsbestand*|*Saldo Anfang*";
-constexpr QStringView closingWords = u"*Endsaldo*|*Schlusssaldo*|*Schlußsaldo*|*Neuer Kontostand*|*Neuer Saldo*|"
-                                     u"*Closing balance*|*Saldo neu*|*Eindsaldo*|*Endbestand*|*Saldo Ende*";
 
 // How often the balances beside the rows follow from their amounts, as they are read and the other way round.
 struct cHits
@@ -209,9 +205,9 @@ private:
             if (cell.size() < 8 || cell.size() > 60 || row == m_layout.HeaderRow) {
                 continue;
             }
-            const bool isOpening = modCell::MatchesList(cell, openingWords);
-            if (isOpening || modCell::MatchesList(cell, closingWords)) {
-                (isOpening ? m_opening : m_closing) = AmountBehind(row, column);
+            const eBalance balance = modBalanceWords::OfLabel(cell);
+            if (balance == eBalance::Opening || balance == eBalance::Closing) {
+                (balance == eBalance::Opening ? m_opening : m_closing) = AmountBehind(row, column);
                 return;
             }
         }

@@ -91,12 +91,19 @@ qint64 ErrorOn(const modBalanceCheck::cResult& check, QDate day)
 
 } // namespace
 
-bool cOpeningBalance::IsDue(const QString& number, int newestBefore, const QStringList& balanced) const
+QStringList cOpeningBalance::Due(QStringList numbers, int newestBefore, const QStringList& balanced) const
 {
-    if (balanced.contains(number)) {
+    numbers.removeDuplicates();
+    numbers.removeIf([&](const QString& number) { return !balanced.contains(number) && !IsDue(number, newestBefore); });
+    return numbers;
+}
+
+bool cOpeningBalance::IsDue(const QString& number, int newestBefore) const
+{
+    cStatementLedger ledger(m_tools.Data, m_tools.Settings);
+    if (ledger.AccountOf(number).isEmpty()) {
         return true;
     }
-    cStatementLedger ledger(m_tools.Data, m_tools.Settings);
     ledger.Load(number); // with rows that may be there twice: to find those takes longer than to see that all is right
     const cImportEntryList& rows = ledger.Rows();
     const auto isKnown = [&](const cImportEntry& row) { return row.ID <= newestBefore; };

@@ -30,11 +30,12 @@ public:
 
     explicit cOpeningBalance(const cBookTools& tools) : m_tools(tools) {}
 
-    // Whether the rows with higher IDs are the first of the number, or one of them lies before the first balance of the
-    // bank, from which the start balance was counted back; or whether the number is one of `balanced`, of which the
-    // bank has now named an earlier balance than before. Without any, whether they begin before the others and no later
-    // than the start balance, which counts on top of them then.
-    [[nodiscard]] bool IsDue(const QString& number, int newestBefore, const QStringList& balanced) const;
+    // The numbers, each once, of which the rows with higher IDs are the first, or one of them lies before the first
+    // balance of the bank, from which the start balance was counted back; those of `balanced`, of which the bank has
+    // now named an earlier balance than before; without any, those whose rows begin before the others and no later than
+    // the start balance, which counts on top of them then. To be asked before numbers get their accounts: all that one
+    // without an account holds counts for the first time.
+    [[nodiscard]] QStringList Due(QStringList numbers, int newestBefore, const QStringList& balanced) const;
     // Nothing where the book agrees already, where the bank's balance before the first row is not certain, or where the
     // number has no account or shares it with another.
     [[nodiscard]] std::optional<cOffer> For(const QString& number) const;
@@ -45,6 +46,7 @@ public:
     [[nodiscard]] bool Take(const cOffer& offer) const;
 
 private:
+    [[nodiscard]] bool IsDue(const QString& number, int newestBefore) const;
     [[nodiscard]] std::optional<qint64> Opening(const cStatementLedger& ledger, QDate day) const;
     [[nodiscard]] std::optional<qint64> CountBack(const cStatementLedger& ledger,
                                                   const std::optional<cEntryItem>& stored) const;

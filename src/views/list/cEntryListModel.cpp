@@ -308,7 +308,7 @@ QString cEntryListModel::GroupCategory(const QModelIndex& index) const
 {
     const bool isHead = EntryAt(index) == nullptr;
     const cEntryItem* entry = EntryAt(isHead && index.isValid() ? this->index(0, 0, index.siblingAtColumn(0)) : index);
-    const bool isCategory = IsGrouped() && m_grouping == u"Nach Kategorie" && entry != nullptr;
+    const bool isCategory = IsGrouped() && m_grouping == modWord::NachKategorie && entry != nullptr;
     return isCategory && entry->EntryCategory != modWord::Startguthaben ? entry->EntryCategory : QString();
 }
 
@@ -437,7 +437,7 @@ QVariant cEntryListModel::GroupData(const cGroup& group, int column, int role) c
         return column == Amount ? QVariant(group.Sum) : QVariant();
     }
     if (role == cCategoryLooks::Role) {
-        const bool isOfCategory = m_grouping == u"Nach Kategorie" || m_grouping == u"Nach Sparte";
+        const bool isOfCategory = m_grouping == modWord::NachKategorie || m_grouping == modWord::NachSparte;
         const cEntryItem& first = m_content.Entries.at(m_order[At(group.First)]);
         return isOfCategory ? m_content.Looks.Shown(first.EntryCategory) : QVariant();
     }

@@ -60,7 +60,7 @@ using cNameOf = QString (*)(QDate);
 
 struct cDateGrouping
 {
-    const char16_t* Word;
+    const QString* Word;
     cKeyOf Key;
     cNameOf Name;
 };
@@ -94,26 +94,25 @@ QString WeekName(QDate day)
 }
 
 constexpr std::array<cDateGrouping, 3> dateGroupings{{
-    {u"Nach Datum", DayKey, modEntryOrder::DayName},
-    {u"Nach Woche", WeekKey, WeekName},
-    {u"Nach Monat", MonthKey, modDayNames::MonthText},
+    {&modWord::NachDatum, DayKey, modEntryOrder::DayName},
+    {&modWord::NachWoche, WeekKey, WeekName},
+    {&modWord::NachMonat, MonthKey, modDayNames::MonthText},
 }};
 
 using cTextOf = QString (*)(const cEntryItem&);
 
 struct cTextGrouping
 {
-    const char16_t* Word;
+    const QString* Word;
     cTextOf Text;
 };
 
-// "Sparte" is the main category.
 constexpr std::array<cTextGrouping, 4> textGroupings{{
-    {u"Nach Sparte",
+    {&modWord::NachSparte,
      [](const cEntryItem& entry) { return entry.EntryCategory.left(entry.EntryCategory.indexOf(u"; ")); }},
-    {u"Nach Kategorie", [](const cEntryItem& entry) { return entry.EntryCategory; }},
-    {u"Nach Konto", [](const cEntryItem& entry) { return entry.EntryAccount; }},
-    {u"Nach Buchungsart", [](const cEntryItem& entry) { return modWord::EntryTypes().ToShown(entry.EntryType); }},
+    {&modWord::NachKategorie, [](const cEntryItem& entry) { return entry.EntryCategory; }},
+    {&modWord::NachKonto, [](const cEntryItem& entry) { return entry.EntryAccount; }},
+    {&modWord::NachBuchungsart, [](const cEntryItem& entry) { return modWord::EntryTypes().ToShown(entry.EntryType); }},
 }};
 
 modEntryOrder::cRanked DateGroups(const cEntryItemList& entries, const std::vector<int>& shown,
@@ -165,12 +164,12 @@ modEntryOrder::cRanked modEntryOrder::Groups(const cEntryItemList& entries, cons
                                              const QString& grouping)
 {
     for (const cDateGrouping& known : dateGroupings) {
-        if (grouping == known.Word) {
+        if (grouping == *known.Word) {
             return DateGroups(entries, shown, known);
         }
     }
     for (const cTextGrouping& known : textGroupings) {
-        if (grouping == known.Word) {
+        if (grouping == *known.Word) {
             return Rank(static_cast<int>(shown.size()),
                         [&](int i) { return known.Text(entries.at(shown[static_cast<std::size_t>(i)])); });
         }

@@ -2,8 +2,6 @@
 
 #include "model/modWord.h"
 
-using namespace Qt::Literals::StringLiterals;
-
 void cViewDetour::Enter(cViewState& view, const cEntrySelection& selection)
 {
     if (!m_before) {
@@ -14,7 +12,7 @@ void cViewDetour::Enter(cViewState& view, const cEntrySelection& selection)
     view.Free = selection.Range;
     view.Account = selection.Account.isEmpty() ? modWord::AlleKonten : selection.Account;
     view.Type = selection.Type;
-    view.Grouping = u"Nach Sparte"_s;
+    view.Grouping = modWord::NachSparte;
     view.Filter.clear();
     view.Payer.clear();
     // The figure counts entries of every kind, so the list has to show them.

@@ -97,10 +97,12 @@ QString cManyChange::Summary() const
                                              "vergangene wie zukünftige.",
                                              {QString::number(series)}));
     }
-    if (m_startBalances > 0) {
-        lines.append(cText::Tr("Startguthaben bleiben, wie sie sind."));
-    }
-    return lines.join(u'\n');
+    return (lines + Left()).join(u'\n');
+}
+
+QStringList cManyChange::Left() const
+{
+    return m_startBalances == 0 ? QStringList() : QStringList(cText::Tr("Startguthaben bleiben, wie sie sind."));
 }
 
 QStringList cManyChange::Accounts() const
@@ -141,7 +143,8 @@ cEntryItemList cManyChange::Affected(const cManyFields& fields) const
 bool cManyChange::HasAny() const
 {
     if (m_entries.isEmpty() && m_startBalances > 0) {
-        (void)Refuse(cText::Tr("Ein Startguthaben lässt sich nur einzeln ändern: Öffnen Sie es mit der Eingabetaste."));
+        (void)Refuse(cText::Tr(
+            "Ein Startguthaben lässt sich nur einzeln ändern: Öffnen Sie seinen Eintrag mit der Eingabetaste."));
     }
     return !m_entries.isEmpty();
 }
@@ -263,8 +266,8 @@ cManyChange::eSaved cManyChange::AskAndSave(const cManyFields& fields, const QSt
     if (std::any_of(changed.begin(), changed.end(), IsSeries)) {
         text += u"\n\n"_s + cText::Tr("Bei Serien ändern sich alle Vorkommen, vergangene wie zukünftige.");
     }
-    if (m_startBalances > 0) {
-        text += u"\n\n"_s + cText::Tr("Startguthaben bleiben, wie sie sind.");
+    for (const QString& line : Left()) {
+        text += u"\n\n"_s + line;
     }
     const eAnswer answer = m_tools.User.Ask({.Text = text, .Title = cText::Tr("Einträge ändern")});
     return answer == eAnswer::Yes ? Store(changed) : eSaved::Refused;

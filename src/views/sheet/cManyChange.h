@@ -40,6 +40,7 @@ public:
     [[nodiscard]] bool HasAny() const;
     // How many entries that is, what is meant by the lines of a series, and what is left out.
     [[nodiscard]] QString Summary() const;
+    [[nodiscard]] QStringList Left() const; // what stays as it is; empty without any
     [[nodiscard]] QStringList Accounts() const;
     [[nodiscard]] cEntrySuggestions& Suggestions() { return m_suggestions; }
     // Whether the target account means anything: a transfer is chosen, or one is among them and stays one.

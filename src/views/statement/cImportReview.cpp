@@ -5,10 +5,8 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
-#include "import/propose/cBooking.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
-#include "model/modSplit.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
@@ -20,41 +18,18 @@
 #include "views/sheet/cManyChange.h"
 #include "views/statement/cAssignListModel.h"
 #include "views/statement/cLesson.h"
-#include "views/statement/cPlanFlow.h"
-#include "views/statement/cRowProposals.h"
 #include "views/statement/cSeriesCheck.h"
-#include "views/statement/cStatementFiles.h"
+#include "views/statement/cStatementWorks.h"
 #include "views/statement/modReviewQuestion.h"
-
-#include <QMap>
 
 #include <algorithm>
 
 using namespace Qt::Literals::StringLiterals;
 
-struct cImportReview::cWorks
+struct cImportReview::cWorks : cStatementWorks
 {
-    explicit cWorks(const cBookTools& tools)
-        : Hive(tools.Data),
-          Accounts(tools.Data, tools.Settings),
-          Booking(tools.Data, Hive, Accounts),
-          Files(tools, Hive, Accounts),
-          Runs(tools.Settings),
-          Proposals({tools.Data, Hive, Accounts, Runs, tools.Format}),
-          Matching(tools, {Hive, Accounts, Booking, Proposals}),
-          Plan(tools, {Booking, Matching, Proposals}),
-          Suggestions(tools.Data, tools.User)
-    {
-    }
+    explicit cWorks(const cBookTools& tools) : cStatementWorks(tools), Suggestions(tools.Data, tools.User) {}
 
-    cImportHiveCache Hive;
-    cAccountMap Accounts;
-    cBooking Booking;
-    cStatementFiles Files;
-    cImportRuns Runs;
-    cRowProposals Proposals;
-    cMatchFlow Matching;
-    cPlanFlow Plan;
     cEntrySuggestions Suggestions;
     cSeriesCheck::cDeclined Declined;
 };
@@ -66,13 +41,8 @@ cImportReview::cImportReview(const cBookTools& tools, QObject* parent)
     connect(&Files(), &cStatementFiles::Imported, this, &cImportReview::Report);
     connect(&Files(), &cStatementFiles::AccountsAsked, this, &cImportReview::ReportAccounts);
     connect(&Files(), &cStatementFiles::StartTaken, this, &cImportReview::EntriesChanged);
-    connect(&Files(), &cStatementFiles::FileStaged, this,
-            [this](const QList<int>& ids, eStatementFormat format) { m_works->Runs.NoteFile(ids, format); });
-    connect(&Files(), &cStatementFiles::RowsStaged, this, &cImportReview::NoteStaged);
-    connect(&Files(), &cStatementFiles::MoreStaged, this, [this](const QList<int>& ids) {
-        m_works->Runs.NoteMore(ids);
-        Q_EMIT RowsStaged(ids);
-    });
+    connect(&Files(), &cStatementFiles::RowsStaged, this, &cImportReview::TellStaged);
+    connect(&Files(), &cStatementFiles::MoreStaged, this, &cImportReview::RowsStaged);
 }
 
 cImportReview::cImportReview(const cBookTools& tools, std::shared_ptr<cWorks> works, const cImportRuns::cRange& import)
@@ -161,9 +131,8 @@ void cImportReview::StartAfresh()
     Report({});
 }
 
-void cImportReview::NoteStaged(const QList<int>& ids)
+void cImportReview::TellStaged(const QList<int>& ids)
 {
-    m_works->Runs.NoteImport(ids);
     if (m_isOld) {
         LoadRows(); // so that they can be marked
     }
@@ -261,7 +230,7 @@ bool cImportReview::Choose(const QList<int>& rowIds, const QString& category, co
     QList<int> ids;
     const cImportEntryList rows = OpenRows(rowIds);
     if (rows.isEmpty()) {
-        return category.isEmpty() || ChangeCategory(RowsOf(rowIds), category);
+        return category.isEmpty() || ChangeCategory(rowIds, category);
     }
     for (const cImportEntry& row : rows) {
         ids.append(row.ID);
@@ -290,44 +259,29 @@ void cImportReview::TellNotTaken(const QString& category)
               : cText::Tr("Die Kategorie '{0}' gibt es nicht. Bitte wählen Sie eine andere.", {category})});
 }
 
-// Of what is booked the entries themselves are corrected, each once. A transfer has no payee to be sorted by, and the
-// parts of a split entry have categories of their own.
-bool cImportReview::ChangeCategory(const cImportEntryList& booked, const QString& category)
+// Of what is booked the entries themselves are corrected. Where the other parts of a purchase go along, no row shows
+// them, so they are asked about.
+bool cImportReview::ChangeCategory(const QList<int>& rowIds, const QString& category)
 {
     const QString path = m_works->Proposals.PathOf(category);
     if (path.isEmpty()) {
         TellNotTaken(category);
         return false;
     }
-    QMap<int, cEntryItem> entries;
-    QStringList kept;
-    for (const cImportEntry& row : booked) {
-        const std::optional<cEntryItem> entry = m_works->Accounts.getAssignedEntry(row);
-        if (entry && entry->EntryType != modWord::Umbuchung && modSplit::Group(*entry) == 0) {
-            entries.insert(entry->ID, *entry);
-        } else if (entry) {
-            kept = {cText::Tr("Umbuchungen und aufgeteilte Einträge behalten ihre Kategorie.")};
-        }
-    }
-    if (entries.isEmpty()) {
-        Tell(kept);
+    const std::unique_ptr<cManyChange> change = StartChange(rowIds);
+    if (change == nullptr || !change->HasAny()) {
         return false;
     }
-    const auto count = static_cast<int>(entries.size());
-    cUndoStep step(m_tools.Data,
-                   count == 1 ? cText::Tr("Kategorie eines Eintrags geändert")
-                              : cText::Tr("Kategorie von {0} Einträgen geändert", {QString::number(count)}));
-    const bool isWritten = std::all_of(entries.begin(), entries.end(), [&](cEntryItem& entry) {
-        entry.EntryCategory = path;
-        return m_tools.Data.ChangeEntry(entry);
-    });
-    if (!step.DoneIf(isWritten)) {
+    const cManyFields wish{.Category = path};
+    const bool hasParts = change->Count() > rowIds.size();
+    if ((hasParts ? change->AskAndSave(wish) : change->Save(wish)) != cManyChange::eSaved::Saved) {
         return false;
     }
-    Report(QStringList(count == 1 ? cText::Tr("Ein Eintrag steht nun unter '{0}'.", {path})
-                                  : cText::Tr("{0} Einträge stehen nun unter '{1}'.", {QString::number(count), path}))
-           + kept);
-    Q_EMIT EntriesChanged();
+    const QString count = QString::number(change->Count());
+    Tell(QStringList(change->Count() == 1 ? cText::Tr("Ein Eintrag steht nun unter '{0}'.", {path})
+                                          : cText::Tr("{0} Einträge stehen nun unter '{1}'.", {count, path}))
+         + change->Left());
+    FollowEntries();
     return true;
 }
 
@@ -407,8 +361,7 @@ std::unique_ptr<cManyChange> cImportReview::StartChange(const QList<int>& rowIds
         entries.append(cEntryListModel::cKey{row.ImportAssigned ? row.ImportAssignedEntry : 0, {}});
     }
     const bool isBooked = std::all_of(entries.begin(), entries.end(), [](const auto& entry) { return entry.ID > 0; });
-    auto change = std::make_unique<cManyChange>(m_tools, entries, cManyChange::eParts::All);
-    return isBooked && change->Count() > 0 ? std::move(change) : nullptr;
+    return isBooked ? std::make_unique<cManyChange>(m_tools, entries, cManyChange::eParts::All) : nullptr;
 }
 
 void cImportReview::FollowEntries()

@@ -94,8 +94,8 @@ public:
     // as it is. Where all rows are booked, their entries get the category. False when it cannot be done.
     bool Choose(const QList<int>& rowIds, const QString& category, const QString& interval,
                 const QString& description = {});
-    // The entries behind rows that are all booked, to be changed together; empty otherwise. Whoever has stored a change
-    // says so.
+    // The entries behind rows that are all booked, to be changed together; none where one is open. Whoever has stored a
+    // change says so.
     [[nodiscard]] std::unique_ptr<cManyChange> StartChange(const QList<int>& rowIds);
     void FollowEntries();
     // After the category of one row was chosen: offers it for the other open rows of the same payee, now or by an own
@@ -144,14 +144,14 @@ private:
     [[nodiscard]] cStagedInfo Info(const cImportEntry& row) override;
     [[nodiscard]] eStagedGroup Group(const cImportEntry& row) override;
 
-    [[nodiscard]] bool ChangeCategory(const cImportEntryList& booked, const QString& category);
+    [[nodiscard]] bool ChangeCategory(const QList<int>& rowIds, const QString& category);
     [[nodiscard]] bool MayEdit(const cRowPlan& plan);
     [[nodiscard]] QStringList CheckSeries(const cImportEntryList& rows);
     bool CarryOut(const QList<int>& rowIds, const std::function<cPlanFlow::cOutcome()>& work);
     void Forget();
     void LoadRows();
     void LoadOld();
-    void NoteStaged(const QList<int>& ids);
+    void TellStaged(const QList<int>& ids);
     void Tell(const QStringList& lines);
     void TellNotTaken(const QString& category);
     void Report(const QStringList& lines); // the same after the rows have changed

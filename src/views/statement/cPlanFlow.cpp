@@ -40,7 +40,7 @@ void CountPlan(const cRowPlan& plan, modReviewQuestion::cNumbers& numbers)
     if (entry.EntryType == modWord::Umbuchung) {
         ++numbers.Transfers[modImportText::Accounts(entry)];
     } else {
-        ++(cRowProposals::HasCategory(entry) ? numbers.Categories[entry.EntryCategory] : numbers.Bare);
+        ++(plan.Proposal.IsDefault ? numbers.Bare : numbers.Categories[entry.EntryCategory]);
     }
 }
 

@@ -14,8 +14,6 @@
 
 #include <algorithm>
 
-using namespace Qt::Literals::StringLiterals;
-
 namespace {
 
 using cRange = cImportRuns::cRange;
@@ -23,13 +21,14 @@ using cRange = cImportRuns::cRange;
 constexpr qsizetype planAtOnce = 600; // open rows; a month has 500 at most
 constexpr qsizetype slice = 150;      // of a higher pile: what a list shows, and some around it
 
-} // namespace
-
-bool cRowProposals::HasCategory(const cEntryItem& entry)
+// Whether it says what an entry was for; a transfer needs none.
+bool HasCategory(const cEntryItem& entry)
 {
     return entry.EntryType == modWord::Umbuchung
-        || (!entry.EntryCategory.isEmpty() && entry.EntryCategory != u"Allgemein");
+        || (!entry.EntryCategory.isEmpty() && entry.EntryCategory != modWord::Allgemein);
 }
+
+} // namespace
 
 cRowProposals::cRowProposals(const cParts& parts) : m_parts(parts)
 {

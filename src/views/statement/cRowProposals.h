@@ -50,8 +50,6 @@ public:
     // stops it.
     [[nodiscard]] std::optional<QHash<int, cRowPlan>> Plans(const QList<int>& rowIds, cProgress& progress);
 
-    // Whether it says what an entry was for; a transfer needs none.
-    [[nodiscard]] static bool HasCategory(const cEntryItem& entry);
     // The user's own choice for rows; false when it is none of those that can be chosen.
     bool SetCategory(const QList<int>& rowIds, const QString& category);
     bool SetInterval(const QList<int>& rowIds, const QString& interval);

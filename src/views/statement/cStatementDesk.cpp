@@ -5,7 +5,6 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "import/match/cMatcher.h"
-#include "import/propose/cBooking.h"
 #include "import/read/modAccountNumber.h"
 #include "import/read/modStatementFile.h"
 #include "import/sheet/modSpreadsheet.h"
@@ -26,13 +25,9 @@
 #include "views/rule/cRuleTrial.h"
 #include "views/statement/cFileReport.h"
 #include "views/statement/cFileWish.h"
-#include "views/statement/cImportRuns.h"
 #include "views/statement/cLayoutTaken.h"
-#include "views/statement/cMatchFlow.h"
-#include "views/statement/cPlanFlow.h"
-#include "views/statement/cRowProposals.h"
 #include "views/statement/cSeriesCheck.h"
-#include "views/statement/cStatementFiles.h"
+#include "views/statement/cStatementWorks.h"
 #include "views/statement/modTableOption.h"
 
 #include <QFileInfo>
@@ -115,8 +110,8 @@ void RememberAccount(const cImportResult& result, const QString& number, cTableM
     const bool isUsed = std::any_of(result.Accounts.begin(), result.Accounts.end(), [&](const QString& account) {
         return modAccountNumber::IsSame(account, {}, number);
     });
-    if (isUsed && !number.isEmpty() && !result.AccountKey.isEmpty()) {
-        memory.SaveAccount(result.AccountKey, number);
+    if (isUsed) {
+        (void)memory.SaveAccount(result.AccountKey, number);
     }
 }
 
@@ -169,25 +164,14 @@ QString CharsetName(const cStatementSource& source, eCharset chosen)
 
 } // namespace
 
-struct cStatementDesk::cWorks
+struct cStatementDesk::cWorks : cStatementWorks
 {
     explicit cWorks(const cBookTools& tools)
-        : Hive(tools.Data),
-          Accounts(tools.Data, tools.Settings),
-          Booking(tools.Data, Hive, Accounts),
-          Runs(tools.Settings),
-          Proposals({tools.Data, Hive, Accounts, Runs, tools.Format}),
-          Matching(tools, {Hive, Accounts, Booking, Proposals}),
-          Plan(tools, {Booking, Matching, Proposals}),
+        : cStatementWorks(tools),
           Memory(tools.Settings),
           Balances(tools.Settings),
-          Import(tools.Data, Hive, &Memory, &Balances),
-          Files(tools, Hive, Accounts)
+          Import(tools.Data, Hive, &Memory, &Balances)
     {
-        QObject::connect(&Files, &cStatementFiles::FileStaged, &Files,
-                         [this](const QList<int>& ids, eStatementFormat format) { Runs.NoteFile(ids, format); });
-        QObject::connect(&Files, &cStatementFiles::RowsStaged, &Files,
-                         [this](const QList<int>& ids) { Runs.NoteImport(ids); });
     }
 
     void NoteRows(const cImportResult& result)
@@ -200,17 +184,9 @@ struct cStatementDesk::cWorks
         Runs.NoteImport(ids);
     }
 
-    cImportHiveCache Hive;
-    cAccountMap Accounts;
-    cBooking Booking;
-    cImportRuns Runs;
-    cRowProposals Proposals;
-    cMatchFlow Matching;
-    cPlanFlow Plan;
     cTableMemory Memory;
     cBankBalances Balances;
     cStatementImport Import;
-    cStatementFiles Files;
 };
 
 cStatementDesk::cStatementDesk(const cBookTools& tools) : m_tools(tools), m_works(std::make_unique<cWorks>(tools))
@@ -394,19 +370,19 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     }
     m_works->NoteRows(result);
     RememberAccount(result, options.DefaultAccount, m_works->Memory);
+    const cOpeningBalance opening(m_tools);
     cLeftOutRows leftOut(m_tools.Settings);
     (void)(leftOut.Forget(result.Settled) && leftOut.Note(result.Repeats)); // of a refusal the user has been told
+    const QStringList due =
+        wish.KeepsStart ? QStringList() : opening.Due(result.Accounts, newest, result.FirstBalances);
     report.IsDone = TakeNames(result.Book, result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
     report.IsDone = AssignAccounts(result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
     if (!wish.Sign.isEmpty() && !wish.Remembers && !result.IsRefused && !result.IsSignKept) {
         QStringList unsaid; // a table without names for its columns is asked about again
         (void)RememberLayout(path, wish, unsaid);
     }
-    const cOpeningBalance opening(m_tools);
-    for (const QString& number : result.Accounts) {
-        if (!wish.KeepsStart && opening.IsDue(number, newest, result.FirstBalances)) {
-            report.IsDone = TakeStart(number, report.Notes) && report.IsDone;
-        }
+    for (const QString& number : due) {
+        report.IsDone = TakeStart(number, report.Notes) && report.IsDone;
     }
     if (wish.Remembers && !result.IsRefused) {
         report.IsDone = RememberLayout(path, wish, report.Notes) && report.IsDone;

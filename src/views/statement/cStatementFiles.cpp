@@ -27,6 +27,7 @@
 #include <QScopedValueRollback>
 
 #include <algorithm>
+#include <functional>
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
@@ -107,34 +108,25 @@ struct cStatementFiles::cRun
     cProgress& Progress;
     eAssist Assist;
     int Count = 0;  // of the files
+    int Before = 0; // row before all files
     int Number = 0; // of the present one
     int Newest = 0; // row before the present file
-    int Before = 0; // row before all files
-    QStringList Lines;
-    QStringList Numbers;
-    QStringList Refusals;
-    QList<int> Rows; // staged
-    cRepeatList Repeats;
-    cForeignNames Names;
-    std::vector<std::unique_ptr<cImportAssistant>> Answered;
+    QStringList Lines{};
+    QStringList Numbers{};
+    QStringList Refusals{};
+    QList<int> Rows{}; // staged
+    cRepeatList Repeats{};
+    cForeignNames Names{};
+    std::vector<std::unique_ptr<cImportAssistant>> Answered{};
     QStringList FirstBalances{}; // as in cImportResult
 };
 
 void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssist assist)
 {
-    cRun run{progress,
-             m_assist ? assist : eAssist::WhereNeeded,
-             static_cast<int>(files.size()),
-             0,
-             0,
-             NewestRow(),
-             {},
-             {},
-             {},
-             {},
-             {},
-             {},
-             {}};
+    cRun run{.Progress = progress,
+             .Assist = m_assist ? assist : eAssist::WhereNeeded,
+             .Count = static_cast<int>(files.size()),
+             .Before = NewestRow()};
     Begin();
     bool isStopped = false;
     for (const cFile& file : files) {
@@ -186,7 +178,7 @@ void cStatementFiles::End(cRun& run)
     if (!run.Refusals.isEmpty()) {
         m_tools.User.Show(eTone::Exclamation, run.Refusals.join(u"\n\n"_s));
     }
-    const QStringList due = DueStarts(run);
+    const QStringList due = cOpeningBalance(m_tools).Due(run.Numbers, run.Before, run.FirstBalances);
     OfferNames(run.Names);
     AskUnknown(run.Numbers);
     OfferStart(due);
@@ -200,19 +192,10 @@ bool cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cP
         const QScopedValueRollback running(m_isRunning, true);
         Q_EMIT ImportStarts();
         cUndoStep step(m_tools.Data, cText::Tr("Umsätze abgerufen"), cJournal::eWrites::InPortions);
-        cRun run{progress,
-                 eAssist::WhereNeeded,
-                 static_cast<int>(statements.size()),
-                 0,
-                 0,
-                 NewestRow(),
-                 {},
-                 {},
-                 {},
-                 {},
-                 {},
-                 {},
-                 {}};
+        cRun run{.Progress = progress,
+                 .Assist = eAssist::WhereNeeded,
+                 .Count = static_cast<int>(statements.size()),
+                 .Before = NewestRow()};
         Begin();
         for (qsizetype place = 0; place < statements.size(); ++place) {
             m_last.append(cFile());
@@ -277,7 +260,7 @@ cImportResult cStatementFiles::ImportUnasked(const QString& path, cRun& run)
 
 cImportResult cStatementFiles::OfferTheRest(cImportOptions& options, cRun& run, const fnImport& import)
 {
-    if (m_currency != eCurrency::Take) {
+    if (m_currency != eWish::Take) {
         options.BookCurrency = m_tools.Format.CurrencyCode();
     }
     cImportResult result = import(options);
@@ -288,7 +271,7 @@ cImportResult cStatementFiles::OfferTheRest(cImportOptions& options, cRun& run, 
             result = import(options);
         }
     }
-    if (!result.OtherCurrencies.isEmpty() && m_currency == eCurrency::Ask) {
+    if (!result.OtherCurrencies.isEmpty() && m_currency == eWish::Ask) {
         run.Progress.hideProgressBar();
         if (IsCurrencyWanted(result)) {
             options.BookCurrency.clear();
@@ -398,7 +381,7 @@ void cStatementFiles::SettleRepeats(cRun& run)
             return other.Number == repeat.Number && other.Entry.isEqualButBlanks(repeat.Entry);
         });
         if (!isThere && !isListed) {
-            (repeat.WasLeftOut && m_repeats == eRepeats::Ask ? known : open).append(repeat);
+            (repeat.WasLeftOut && m_repeats == eWish::Ask ? known : open).append(repeat);
         }
     }
     LeaveOut(known);
@@ -414,8 +397,8 @@ void cStatementFiles::SettleRepeats(cRun& run)
 
 bool cStatementFiles::AreWanted(const cRepeatList& repeats)
 {
-    if (m_repeats != eRepeats::Ask) {
-        return m_repeats == eRepeats::Take;
+    if (m_repeats != eWish::Ask) {
+        return m_repeats == eWish::Take;
     }
     QStringList lines;
     for (const cRepeat& repeat : repeats) {
@@ -485,13 +468,11 @@ int cStatementFiles::NewestRow()
 
 QList<int> cStatementFiles::RowsAbove(int newest)
 {
+    const cImportEntryList rows = m_hive.GetImportHive().getImportEntryList(); // their numbers ascend
+    const auto first =
+        std::partition_point(rows.begin(), rows.end(), [newest](const cImportEntry& row) { return row.ID <= newest; });
     QList<int> ids;
-    const cImportEntryList rows = m_hive.GetImportHive().getImportEntryList();
-    for (const cImportEntry& row : rows) {
-        if (row.ID > newest) {
-            ids.append(row.ID);
-        }
-    }
+    std::transform(first, rows.end(), std::back_inserter(ids), std::mem_fn(&cImportEntry::ID));
     return ids;
 }
 
@@ -514,18 +495,6 @@ void cStatementFiles::KeepLeftOut(const cImportResult& result)
     }
 }
 
-// Asked before the accounts of new numbers are known: all that these hold came now.
-QStringList cStatementFiles::DueStarts(const cRun& run)
-{
-    const cOpeningBalance opening(m_tools);
-    QStringList due = run.Numbers;
-    due.removeDuplicates();
-    due.removeIf([&](const QString& number) {
-        return !m_accounts.AccountOf(number).isEmpty() && !opening.IsDue(number, run.Before, run.FirstBalances);
-    });
-    return due;
-}
-
 QStringList cStatementFiles::LeftOut() const
 {
     QStringList texts;
@@ -544,8 +513,10 @@ void cStatementFiles::StageLeftOut(const QList<int>& places)
     QList<int> taken = places;
     std::sort(taken.begin(), taken.end(), std::greater<>());
     taken.removeIf([&](int place) { return place < 0 || place >= m_leftOut.size(); });
-    const bool isStaged = std::all_of(taken.begin(), taken.end(), [&](int place) {
+    for (const int place : std::as_const(taken)) {
         rest.removeAt(place);
+    }
+    const bool isStaged = std::all_of(taken.begin(), taken.end(), [&](int place) {
         return staging.StageImportEntry(m_leftOut[place].Entry, eDuplicateTest::Skip) == eStaged::Staged;
     });
     if (!step.DoneIf(isStaged)) {

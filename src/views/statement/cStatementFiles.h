@@ -59,20 +59,14 @@ public:
     [[nodiscard]] bool CanReadAgain() const;
     void ReadAgain(cProgress& progress);
 
-    // Rows that a file has more often than the book, where no balance of the bank proves them: the user is asked, or
-    // they are taken or left out without a word.
-    enum class eRepeats { Ask, Take, LeaveOut };
-    void SetRepeats(eRepeats repeats) { m_repeats = repeats; }
-
-    // What an account held before its first statement: the user is asked whether that becomes its start balance, or it
-    // does or does not without a word.
-    enum class eStart { Ask, Take, Leave };
-    void SetStart(eStart start) { m_start = start; }
-
-    // A file in another currency than the book, of an account that had none in it: the user is asked, or it is taken or
-    // refused without a word.
-    enum class eCurrency { Ask, Take, Refuse };
-    void SetCurrency(eCurrency currency) { m_currency = currency; }
+    // Whether the user is asked, or it is taken or left without a word.
+    enum class eWish { Ask, Take, Leave };
+    // Rows that a file has more often than the book, where no balance of the bank proves them.
+    void SetRepeats(eWish repeats) { m_repeats = repeats; }
+    // What an account held before its first statement, as its start balance.
+    void SetStart(eWish start) { m_start = start; }
+    // A file in another currency than the book, of an account that had none in it.
+    void SetCurrency(eWish currency) { m_currency = currency; }
 
     // Asks which accounts of the book the numbers belong to, as far as that is not known, and what these began with.
     void AskAccounts(const QStringList& numbers);
@@ -141,7 +135,6 @@ private:
     [[nodiscard]] bool AreNamesWanted(const cForeignNames& missing);
     void AskUnknown(const QStringList& numbers);
     void OfferStart(const QStringList& numbers);
-    [[nodiscard]] QStringList DueStarts(const cRun& run);
     void KeepLeftOut(const cImportResult& result);
     void SettleRepeats(cRun& run);
     [[nodiscard]] bool AreWanted(const QList<cRepeat>& repeats);
@@ -159,7 +152,7 @@ private:
     bool m_isRunning = false;
     QList<cFile> m_last;
     QList<cLeftOut> m_leftOut;
-    eRepeats m_repeats = eRepeats::Ask;
-    eStart m_start = eStart::Ask;
-    eCurrency m_currency = eCurrency::Ask;
+    eWish m_repeats = eWish::Ask;
+    eWish m_start = eWish::Ask;
+    eWish m_currency = eWish::Ask;
 };

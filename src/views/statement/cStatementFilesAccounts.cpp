@@ -69,7 +69,7 @@ bool cStatementFiles::AreNamesWanted(const cForeignNames& missing)
 
 void cStatementFiles::OfferStart(const QStringList& numbers)
 {
-    if (m_start == eStart::Leave || m_tools.Data.IsReadOnly()) {
+    if (m_start == eWish::Leave || m_tools.Data.IsReadOnly()) {
         return;
     }
     const cOpeningBalance opening(m_tools);
@@ -77,7 +77,7 @@ void cStatementFiles::OfferStart(const QStringList& numbers)
     for (const QString& number : numbers) {
         const std::optional<cOpeningBalance::cOffer> offer = opening.For(number);
         const bool isWanted = offer
-            && (m_start == eStart::Take
+            && (m_start == eWish::Take
                 || m_tools.User.Ask({.Text = opening.Question(*offer), .Title = cText::Tr("Startguthaben")})
                     == eAnswer::Yes);
         isTaken = (isWanted && opening.Take(*offer)) || isTaken; // of a refusal the user has been told

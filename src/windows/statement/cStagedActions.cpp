@@ -172,7 +172,7 @@ void cStagedActions::ChooseCategory(const QList<int>& ids)
     const std::unique_ptr<cManyChange> change = m_review.StartChange(ids);
     if (change == nullptr) {
         frmUmsatzKategorie(m_review, ids, &m_page).exec();
-    } else if (frmMehrere(*change, &m_page).exec() == QDialog::Accepted) {
+    } else if (change->HasAny() && frmMehrere(*change, &m_page).exec() == QDialog::Accepted) {
         m_review.FollowEntries();
     }
 }
