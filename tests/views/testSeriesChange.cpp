@@ -68,7 +68,8 @@ private Q_SLOTS:
     {
         cRentBook book;
         QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 8, 10), 1000, {}, QDate(2026, 6, 5)));
-        const QString named = u"gehört auch, was auf einen Tag davor verschoben ist: 05.06.2026 (geplant am 10.08.2026)."_s;
+        const QString named =
+            u"gehört auch, was auf einen Tag davor verschoben ist: 05.06.2026 (geplant am 10.08.2026)."_s;
         (void)book.Change.AskWhatToEdit(book.Rent, QDate(2026, 7, 10));
         QVERIFY(book.User.LastDecision.Text.endsWith(named));
         QVERIFY(!cEntryDelete(book.Tools).Delete({{book.Rent, QDate(2026, 7, 10)}}));
@@ -281,7 +282,7 @@ private Q_SLOTS:
         fields.Amount = u"20"_s;
         QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         QTEST(Corrections(book, book.Editor.SavedId()), "stored");
-        QVERIFY(book.Data.Journal().UndoName().endsWith(u"schon gebucht hat (2 Mal)"));
+        QVERIFY(book.Data.Journal().UndoName().endsWith(u"behält seinen Betrag (2 Mal)"));
         QVERIFY(book.Data.Journal().Undo());
         QCOMPARE(Corrections(book, book.Rent), before);
     }

@@ -350,8 +350,8 @@ std::optional<cSeriesMatch> cSeriesFinder::Match(const cEntryItem& series, const
         usual.EntryValue = series.EntryValue; // left out, because this statement was read late
     }
     const bool isLike = IsAbout(row.ImportValue, usual.EntryValue)
-        || (MayBe(row.ImportValue, usual.EntryValue)
-            && std::abs(modOccurrence::Days(usual, row.ImportDate)) <= nearDays && !HasPayment(usual, row));
+        || (MayBe(row.ImportValue, usual.EntryValue) && std::abs(modOccurrence::Days(usual, row.ImportDate)) <= nearDays
+            && !HasPayment(usual, row));
     return isLike ? std::optional(cSeriesMatch{series, *occurrence}) : std::nullopt;
 }
 

@@ -305,7 +305,7 @@ QString cEntryEditor::StepName(const cEntryItem& entry, int kept) const
 {
     const QString name = entry.Name();
     if (kept > 0) {
-        return cText::Tr("Eintrag '{0}' geändert, der Betrag gilt nicht für das, was die Bank schon gebucht hat ({1})",
+        return cText::Tr("Eintrag '{0}' geändert; was die Bank schon gebucht hat, behält seinen Betrag ({1})",
                          {name, modCount::Times(kept)});
     }
     return IsNew() ? cText::Tr("Eintrag '{0}' angelegt", {name}) : cText::Tr("Eintrag '{0}' geändert", {name});

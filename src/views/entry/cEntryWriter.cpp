@@ -164,9 +164,8 @@ QSet<QDate> cEntryWriter::PaidPeriods(const cEntryItem& series, const cEntryItem
     for (const cImportEntry& row : rows) {
         const bool isMeant =
             row.ImportAssigned && row.ImportAssignedEntry == series.ID && std::abs(row.ImportValue) != cents;
-        const std::optional<cEntryItem> paid = isMeant
-            ? modOccurrence::Nearest(series, row.ImportDate, fixMods)
-            : std::nullopt;
+        const std::optional<cEntryItem> paid =
+            isMeant ? modOccurrence::Nearest(series, row.ImportDate, fixMods) : std::nullopt;
         if (paid) {
             starts.insert(modSeries::CorrectionFor(*paid).EntryStartDate);
         }

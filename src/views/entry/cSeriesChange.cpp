@@ -124,9 +124,9 @@ QString cSeriesChange::EarlierText(int entryId, QDate from)
             days.append(DayText(entryId, occurrence->EntryDate));
         }
     }
-    return days.isEmpty() ? QString()
-                          : cText::Tr("Zu \"Ab hier\" gehört auch, was auf einen Tag davor verschoben ist: {0}.",
-                                      {days.join(u", "_s)});
+    return days.isEmpty()
+        ? QString()
+        : cText::Tr("Zu \"Ab hier\" gehört auch, was auf einen Tag davor verschoben ist: {0}.", {days.join(u", "_s)});
 }
 
 std::optional<cSeriesChange::cPeriodFields> cSeriesChange::StartPeriod(int entryId, QDate day, QDate today)
