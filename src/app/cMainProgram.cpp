@@ -205,6 +205,12 @@ void cMainProgram::Finish()
 
 bool cMainProgram::OpenBook(cStartUp& startUp)
 {
+    // What is opened without a book is meant for the one that the user sees.
+    const bool isForUsed = m_request.Book.isEmpty() && m_request.HasWork();
+    const QString used = isForUsed ? cSingleInstance::LastUsed(m_ports.Shell.StateFolder()) : QString();
+    if (!used.isEmpty() && cSingleInstance::HandOver(used, m_request)) {
+        return false;
+    }
     const cStartUp::cFound found = m_request.Book.isEmpty()
         ? startUp.FindDatabase()
         : cStartUp::cFound{QDir::cleanPath(QDir().absoluteFilePath(m_request.Book))};
@@ -215,10 +221,23 @@ bool cMainProgram::OpenBook(cStartUp& startUp)
     if (m_book.Path() != found.Path && !m_book.IsReadOnly() && m_lock.Take(m_book.Path()) == eLockState::Foreign) {
         return OpenForeign(m_book.Path());
     }
+    Listen();
+    return true;
+}
+
+void cMainProgram::Listen()
+{
     if (m_lock.IsHeld()) {
         m_instance.Listen(m_book.Path());
+        NoteUsed();
     }
-    return true;
+}
+
+void cMainProgram::NoteUsed()
+{
+    if (m_lock.IsHeld() && QGuiApplication::applicationState() == Qt::ApplicationActive) {
+        cSingleInstance::NoteUsed(m_ports.Shell.StateFolder(), m_book.Path());
+    }
 }
 
 bool cMainProgram::OpenLocked(cStartUp& startUp, const QString& path, bool isFresh)
@@ -266,6 +285,7 @@ void cMainProgram::BuildWindow()
     QObject::connect(m_window.get(), &frmMain::Closing, m_window.get(), [this] { m_backups.CopyIfChanged(); });
     QObject::connect(&m_instance, &cSingleInstance::Requested, m_window.get(),
                      [this](const cStartRequest& request) { Take(request); });
+    QObject::connect(qApp, &QGuiApplication::applicationStateChanged, m_window.get(), [this] { NoteUsed(); });
     QObject::connect(&m_navigation->National(), &cNationalSettings::LanguageChanged, &tmrLanguage,
                      [this] { tmrLanguage.start(0); }); // when the menu or form that said so is done
 }
@@ -409,9 +429,7 @@ void cMainProgram::TellDamage()
 void cMainProgram::ShowOtherBook(bool isNewVersion)
 {
     m_backups.BookOpened();
-    if (m_lock.IsHeld()) {
-        m_instance.Listen(m_book.Path());
-    }
+    Listen();
     m_format.CultureChanged();
     m_model->BookSwitched(m_book.Path(), isNewVersion);
     m_window->RestoreLayout();

@@ -56,8 +56,9 @@ public:
     ~cMainProgram();
 
     // Runs the start-up with its questions, shows the window and does what the request wants. Without a book it is the
-    // database of the configuration. False when the program has to end: the user declined every remedy, or the book is
-    // already open in another window, which was brought to the front and got the request.
+    // database of the configuration, or with something to do that of the window used last. False when the program has
+    // to end: the user declined every remedy, or the book is already open in another window, which was brought to the
+    // front and got the request.
     [[nodiscard]] bool Start(const cStartRequest& request);
 
     // For whoever ends the program from outside. Save keeps what would be lost, layout and typed contents, and leaves
@@ -76,6 +77,8 @@ public:
 
 private:
     [[nodiscard]] bool OpenBook(cStartUp& startUp);
+    void Listen();
+    void NoteUsed();
     void Serve();
     void Take(const cStartRequest& request);
     [[nodiscard]] bool OpenLocked(cStartUp& startUp, const QString& path, bool isFresh);

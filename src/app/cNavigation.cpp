@@ -282,6 +282,7 @@ void cNavigation::ShowSaved(int entryId)
     BookChanged();
     if (const std::optional<cEntryItem> entry = m_parts.Tools.Data.LoadEntry(entryId)) {
         m_window->ShowEntry({entry->ID, entry->EntryDate});
+        Q_EMIT m_model->Told(m_parts.Tools.Data.Journal().UndoName() + u'.');
     }
 }
 

@@ -60,6 +60,13 @@ modPeriod::cRange modPeriod::Range(const QString& name, QDate today, const cRang
     return name == modWord::FreierZeitraum ? free : cRange{};
 }
 
+modPeriod::cRange modPeriod::Typed(const cRange& typed, const cRange& before)
+{
+    const bool isTurned = typed.End.isValid() && typed.Start > typed.End;
+    const QDate day = typed.Start != before.Start ? typed.Start : typed.End;
+    return isTurned ? cRange{day, day} : typed;
+}
+
 bool modPeriod::IsNext(const QString& name)
 {
     return name == u"Nächster Monat" || name == u"Nächstes Quartal" || name == u"Nächstes Jahr";

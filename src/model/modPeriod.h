@@ -23,6 +23,9 @@ struct cRange
 // The range of a period name. "Alle Buchungen" and unknown names are open on both sides; "Freier Zeitraum" is `free`.
 [[nodiscard]] cRange Range(const QString& name, QDate today, const cRange& free);
 
+// The free period after its days were typed: one that ends before it starts becomes the day that is new in it.
+[[nodiscard]] cRange Typed(const cRange& typed, const cRange& before);
+
 // True for the three names that lie wholly in the future.
 [[nodiscard]] bool IsNext(const QString& name);
 

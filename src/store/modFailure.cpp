@@ -15,10 +15,15 @@ QString Reason(eDatabaseFault fault, const QString& text)
                          "es gleich noch einmal.");
     case eDatabaseFault::Damaged:
         return cText::Tr("Die Datei der Datenbank ist beschädigt. Bitte spielen Sie eine Sicherung zurück.");
-    case eDatabaseFault::ReadOnly: return cText::Tr("Die Datenbank kann nur gelesen werden.");
+    case eDatabaseFault::ReadOnly:
+        return cText::Tr("Die Datenbank kann nur gelesen werden. Bitte prüfen Sie die Zugriffsrechte der Datei und "
+                         "ihres Ordners und versuchen Sie es noch einmal.");
     case eDatabaseFault::Full:
         return cText::Tr("Der Datenträger ist voll. Bitte schaffen Sie Platz und versuchen Sie es noch einmal.");
-    case eDatabaseFault::NoAccess: return cText::Tr("Auf die Datei der Datenbank kann nicht zugegriffen werden.");
+    case eDatabaseFault::NoAccess:
+        return cText::Tr(
+            "Auf die Datei der Datenbank kann nicht zugegriffen werden. Bitte prüfen Sie die Zugriffsrechte "
+            "der Datei und ihres Ordners und versuchen Sie es noch einmal.");
     case eDatabaseFault::Device:
         return cText::Tr("Der Datenträger meldet einen Fehler beim Lesen oder Schreiben ({0}).", {text});
     case eDatabaseFault::RolledBack:

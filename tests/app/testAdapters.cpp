@@ -242,7 +242,11 @@ private Q_SLOTS:
         QSignalSpy asked(&first, &cSingleInstance::Requested);
         connect(&first, &cSingleInstance::Requested, this, [&](const cStartRequest& request) { got = request; });
         bool isAnswered = false;
-        std::thread second([&] { isAnswered = cSingleInstance::HandOver(path, wanted); });
+        cSingleInstance::NoteUsed(u"/home/a"_s, NewFile(u"before.db"_s));
+        cSingleInstance::NoteUsed(u"/home/a"_s, path);
+        cSingleInstance::NoteUsed(u"/stick"_s, NewFile(u"other.db"_s));
+        std::thread second(
+            [&] { isAnswered = cSingleInstance::HandOver(cSingleInstance::LastUsed(u"/home/a"_s), wanted); });
         QVERIFY(asked.wait());
         second.join();
         QVERIFY(isAnswered);

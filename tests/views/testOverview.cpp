@@ -155,6 +155,8 @@ private Q_SLOTS:
                  QStringList(
                      {u"Haushalt; Reinigung | 5,00 € zu viel"_s, u"Haushalt; Seife | noch 34,00 €, 2,00 € je Tag"_s}));
         QCOMPARE(scene.Behind(scene.Card(eOverviewCard::Limits).Lines.at(1)), u"-16,00 €"_s);
+        scene.Card(eOverviewCard::Limits).Follow();
+        QCOMPARE(scene.Navigator.Opened, QStringList(QString::number(modCommand::Budget)));
     }
 
     void ActsOnWhatIsDue()
@@ -180,6 +182,8 @@ private Q_SLOTS:
         cEntryQuery march{QDate(2026, 3, 1), QDate(2026, 3, 31), {}, {}, rent.EntryCategory};
         QCOMPARE(scene.Book.Data.GetEntries(march).at(0).EntryDate, today);
         QCOMPARE(scene.Book.Data.GetEntries(march).at(0).EntryValue, 70000);
+        scene.Show();
+        QVERIFY(scene.Lines(eOverviewCard::Due).isEmpty()); // both have happened now
         lines.at(1).Actions.at(1).Run();
         QCOMPARE(scene.Navigator.Opened, QStringList(u"Korrektur %1 2026-03-20"_s.arg(rent.ID)));
         lines.at(1).Actions.at(2).Run();

@@ -1,6 +1,7 @@
 #include "cEditorBook.h"
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "views/entry/cEntryDelete.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/entry/modCorrections.h"
 
@@ -61,6 +62,23 @@ private Q_SLOTS:
         book.User.Decisions = {choice};
         QTEST(int(cSeriesChange(book.Tools).AskWhatToEdit(id, day)), "edit");
         QTEST(book.User.LastDecision.Options.size(), "options");
+    }
+
+    void NamesWhatWasMovedBefore()
+    {
+        cRentBook book;
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 8, 10), 1000, {}, QDate(2026, 6, 5)));
+        const QString named =
+            u"gehört auch, was auf einen Tag davor verschoben ist: 05.06.2026 (geplant am 10.08.2026)."_s;
+        (void)book.Change.AskWhatToEdit(book.Rent, QDate(2026, 7, 10));
+        QVERIFY(book.User.LastDecision.Text.endsWith(named));
+        QVERIFY(!cEntryDelete(book.Tools).Delete({{book.Rent, QDate(2026, 7, 10)}}));
+        QVERIFY(book.User.LastDecision.Text.contains(named));
+        book.User.Answers = {eAnswer::No, eAnswer::No};
+        for (const QDate day : {QDate(2026, 7, 10), QDate(2026, 5, 10)}) {
+            QVERIFY(!cEntryDelete(book.Tools).Delete({book.Rent, day}, eSeriesPart::FromHere));
+            QCOMPARE(book.User.Asked.constLast().endsWith(named), day.month() == 7);
+        }
     }
 
     void CorrectsOnePeriod()
@@ -242,8 +260,9 @@ private Q_SLOTS:
         const cTestRows<QDate, QStringList> row("from", "stored");
         const QString corrected = u"2026-06-01 900 kleiner"_s;
         const QString paid = u"2026-07-01 1000 "_s;
-        row("whole series", {}, {u"2026-04-01 2000 "_s, u"2026-05-01 2000 "_s, corrected, paid});
-        row("from the moved one on", QDate(2026, 5, 10), {u"2026-05-01 2000 "_s, corrected, paid});
+        const QString onItsDay = u"2026-09-01 1000 Laut Kontoauszug"_s;
+        row("whole series", {}, {u"2026-04-01 2000 "_s, u"2026-05-01 2000 "_s, corrected, paid, onItsDay});
+        row("from the moved one on", QDate(2026, 5, 10), {u"2026-05-01 2000 "_s, corrected, paid, onItsDay});
     }
 
     void MovedOnesFollowTheAmount()
@@ -255,12 +274,15 @@ private Q_SLOTS:
         QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 6, 10), 900, u"kleiner"_s, QDate(2026, 6, 12)));
         QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 7, 10), 1000, {}, QDate(2026, 8, 2)));
         book.Stage({}, QDate(2026, 8, 2), 1000, {}, book.Rent);
+        book.Stage({}, QDate(2026, 9, 10), 1000, {}, book.Rent);
+        book.Stage({}, QDate(2026, 10, 10), -2000, {}, book.Rent); // what the series should have been
         const QStringList before = Corrections(book, book.Rent);
         cEntryFields fields =
             (from.isValid() ? book.Editor.LoadFrom(book.Rent, from) : book.Editor.Load(book.Rent)).value();
         fields.Amount = u"20"_s;
         QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         QTEST(Corrections(book, book.Editor.SavedId()), "stored");
+        QVERIFY(book.Data.Journal().UndoName().endsWith(u"behält seinen Betrag (2 Mal)"));
         QVERIFY(book.Data.Journal().Undo());
         QCOMPARE(Corrections(book, book.Rent), before);
     }

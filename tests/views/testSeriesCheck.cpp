@@ -78,7 +78,7 @@ private Q_SLOTS:
             {u"'Miete' (Girokonto), fällig am 01.02.2026: noch nicht gebucht; wird auf den "
              "16.03.2026 verschoben"_s},
             u"2025-11-01 2025-12-01 2026-01-01 2026-03-01 2026-03-16 2026-04-01 2026-05-01"_s);
-        row("left out in between", start, u"2025-11-01 2026-01-01 2026-02-01"_s, u"2026-02-20"_s,
+        row("left out in between", start, u"2025-11-01 2026-01-01 2026-02-01"_s, u"2026-02-05"_s,
             {u"'Miete' (Girokonto), fällig am 01.12.2025: nicht gebucht; wird ausgelassen"_s},
             u"2025-11-01 2026-01-01 2026-02-01 2026-03-01 2026-04-01 2026-05-01"_s);
         row("never paid", start, {}, u"2025-10-15 2026-02-20"_s,

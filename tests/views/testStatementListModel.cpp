@@ -272,6 +272,8 @@ private Q_SLOTS:
         const QString today = modDate::ToText(statement.Today());
         QCOMPARE(statement.Lines().at(1), u"Zeitraum: Buchungen bis heute (%1)"_s.arg(today));
         statement.ChoosePeriod(modWord::FreierZeitraum);
+        statement.ChooseFreeRange({QDate(2026, 6, 4), QDate(2026, 5, 3)});
+        QCOMPARE(Column(statement, cStatementListModel::Day), u"04.06.2026"_s);
         statement.ChooseFreeRange({QDate(2026, 5, 3), QDate(2026, 6, 4)});
         QCOMPARE(Column(statement, cStatementListModel::Day), u"04.06.2026"_s);
         QSignalSpy typed(&statement, &cStatementListModel::Changed);

@@ -488,6 +488,22 @@ private Q_SLOTS:
         QVERIFY(isBack && box.IsCancelled());
     }
 
+    // What the work says while it stands still would lie behind it.
+    void ABoxAppearsOnlyWithAStep()
+    {
+        QWidget page;
+        page.show();
+        cProgressBox box(&page, u"Buchen"_s, 0);
+        for (int run = 0; run < 2; ++run) {
+            box.showProgressBar(2);
+            QCoreApplication::processEvents();
+            QVERIFY(QApplication::activeModalWidget() == nullptr);
+            box.addProgressValue(1);
+            QVERIFY(QApplication::activeModalWidget() != nullptr);
+            box.hideProgressBar();
+        }
+    }
+
     void EveryButtonHasALetterOrAKey()
     {
         const QList<QAbstractButton*> buttons = m_scene->Page.findChildren<QAbstractButton*>();

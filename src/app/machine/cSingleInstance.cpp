@@ -3,7 +3,9 @@
 #include "app/machine/cFileLock.h"
 #include "base/modMD5.h"
 
+#include <QFile>
 #include <QLocalSocket>
+#include <QSaveFile>
 #include <QStandardPaths>
 
 using namespace Qt::Literals::StringLiterals;
@@ -13,16 +15,25 @@ namespace {
 constexpr int WaitMilliseconds = 1000;
 constexpr qint64 MostBytes = 1'000'000; // of a request
 
-// In the folder of the signed-in user, which nobody else can look into or put anything in. Without one the socket would
+// In the folder of the signed-in user, which nobody else can look into or put anything in. Without one the file would
 // lie where everybody writes; then the name names no place, and nobody answers.
-QString ServerName(const QString& database)
+QString InUsersFolder(const QString& name)
 {
     QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
     if (const QString sandbox = qEnvironmentVariable("FLATPAK_ID"); !folder.isEmpty() && !sandbox.isEmpty()) {
         folder += u"/app/"_s % sandbox; // of that folder each start in the sandbox has its own, but for this part
     }
-    const QString name = u"kontorelle-"_s + modMD5::Hex(cFileLock::CanonicalPath(database));
     return folder.isEmpty() ? QString() : QString(folder % u'/' % name);
+}
+
+QString ServerName(const QString& database)
+{
+    return InUsersFolder(u"kontorelle-"_s + modMD5::Hex(cFileLock::CanonicalPath(database)));
+}
+
+QString UsedName(const QString& profile)
+{
+    return InUsersFolder(u"kontorelle-used-"_s + modMD5::Hex(profile));
 }
 
 } // namespace
@@ -47,6 +58,21 @@ void cSingleInstance::Listen(const QString& database)
         QLocalServer::removeServer(name);
         m_server.listen(name);
     }
+}
+
+void cSingleInstance::NoteUsed(const QString& profile, const QString& database)
+{
+    QSaveFile file(UsedName(profile)); // the book is found without it, only not while it is open
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(database.toUtf8());
+        (void)file.commit();
+    }
+}
+
+QString cSingleInstance::LastUsed(const QString& profile)
+{
+    QFile file(UsedName(profile));
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 void cSingleInstance::Take(QLocalSocket& caller)

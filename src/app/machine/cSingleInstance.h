@@ -19,6 +19,10 @@ public:
     // Waits for other starts on this database. To be called by the holder of the file's lock only.
     void Listen(const QString& database);
 
+    // The database whose window was used last, of those that a profile opened.
+    static void NoteUsed(const QString& profile, const QString& database);
+    [[nodiscard]] static QString LastUsed(const QString& profile); // may be closed by now; empty: none
+
     // Asks the program that has this database open to come to the front and to do what is wanted. False when none
     // answers.
     [[nodiscard]] static bool HandOver(const QString& database, const cStartRequest& request);

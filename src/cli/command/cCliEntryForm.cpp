@@ -7,6 +7,7 @@
 #include "cli/command/modCliFlow.h"
 #include "cli/console/modCliEntryList.h"
 #include "model/modWord.h"
+#include "views/entry/cSeriesChange.h"
 #include "views/entry/modSplitParts.h"
 
 #include <algorithm>
@@ -258,6 +259,8 @@ void cCliEntryForm::Print(const cEntryFields& fields, int id) const
     const bool isTable = !Has("json");
     if (isTable) {
         modConsole::Out(file.LastStep() + u'\n');
+        const QString earlier = cSeriesChange(m_context.Book->Tools).EarlierText(id, m_from);
+        modConsole::Out(earlier.isEmpty() ? QString() : earlier + u'\n');
     }
     modCliEntryList::Print(m_context, parts.isEmpty() && entry ? cEntryItemList{*entry} : parts);
     const cEntryEditor::cPreview preview = m_editor.Preview(fields);

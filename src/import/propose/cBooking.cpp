@@ -150,7 +150,10 @@ cBooking::eOutcome cBooking::BookRow(int rowId, cProposal proposal, cSeriesFinde
     const bool isSingle = !modRecurrence::IsRecurring(proposal.Entry.EntryInterval);
     if (proposal.BookedAs.isEmpty() && !(isSingle && IsJoiningTransfer(proposal))) {
         if (const std::optional<cSeriesMatch> match = series.Find(*row, proposal.Entry)) {
-            if (match->IsExtended && !m_data.ChangeEntry(match->Series)) {
+            const bool isStored = (!match->IsExtended || m_data.ChangeEntry(match->Series))
+                && std::all_of(match->Missed.begin(), match->Missed.end(),
+                               [this](const cEntryItemFixMod& fixMod) { return m_data.AddNewEntryMod(fixMod); });
+            if (!isStored) {
                 return eOutcome::Failed;
             }
             series.Learn(*row, match->Series);

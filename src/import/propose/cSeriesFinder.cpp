@@ -207,12 +207,27 @@ std::optional<cSeriesMatch> cSeriesFinder::Reopen(const cEntryItemList& alike, c
     series.EntryDateEnd = modRecurrence::OpenEnd;
     const QList<QDate> next = modSeries::Next(series, latest->EntryDateEnd.addDays(1), mostMissed);
     std::optional<cSeriesMatch> match = Match(series, row);
-    if (!match || !next.contains(match->Occurrence.Planned())
-        || !IsAbout(row.ImportValue, match->Occurrence.EntryValue)) {
+    const qsizetype place = match ? next.indexOf(match->Occurrence.Planned()) : -1;
+    if (place < 0 || !IsAbout(row.ImportValue, match->Occurrence.EntryValue)) {
         return std::nullopt;
     }
     match->IsExtended = true;
+    match->Missed = Missed(series, next.first(place), row);
     return match;
+}
+
+cEntryItemFixModList cSeriesFinder::Missed(cEntryItem occurrence, const QList<QDate>& days, const cImportEntry& row)
+{
+    cEntryItemFixModList missed;
+    for (const QDate day : days) {
+        occurrence.EntryDate = day;
+        if (!HasPayment(occurrence, row)) {
+            cEntryItemFixMod& fixMod = missed.emplace_back(modSeries::CorrectionFor(occurrence));
+            fixMod.EntryDay = day;
+            fixMod.EntryComment = modSeries::MissedComment();
+        }
+    }
+    return missed;
 }
 
 // The first of about that amount that begins behind the row. Its start goes back by whole intervals, so its other
@@ -330,10 +345,14 @@ std::optional<cSeriesMatch> cSeriesFinder::Match(const cEntryItem& series, const
     if (!occurrence || IsTaken(series, *occurrence, fixMods, row)) {
         return std::nullopt;
     }
-    const bool isLike = IsAbout(row.ImportValue, occurrence->EntryValue)
-        || (MayBe(row.ImportValue, occurrence->EntryValue)
-            && std::abs(modOccurrence::Days(*occurrence, row.ImportDate)) <= nearDays && !HasPayment(*occurrence, row));
-    return isLike ? std::optional(cSeriesMatch{series, *occurrence, false}) : std::nullopt;
+    cEntryItem usual = *occurrence;
+    if (usual.EntryValue == 0 && modSeries::IsFromBank(usual.CorrectionComment)) {
+        usual.EntryValue = series.EntryValue; // left out, because this statement was read late
+    }
+    const bool isLike = IsAbout(row.ImportValue, usual.EntryValue)
+        || (MayBe(row.ImportValue, usual.EntryValue) && std::abs(modOccurrence::Days(usual, row.ImportDate)) <= nearDays
+            && !HasPayment(usual, row));
+    return isLike ? std::optional(cSeriesMatch{series, *occurrence}) : std::nullopt;
 }
 
 bool cSeriesFinder::IsTaken(const cEntryItem& series, const cEntryItem& occurrence, const cEntryItemFixModList& fixMods,

@@ -22,6 +22,8 @@ struct cSeriesMatch
     cEntryItem Series;
     cEntryItem Occurrence;   // as corrected so far
     bool IsExtended = false; // the series as stored ends before this row, or begins after it
+    // Of a series that goes on: what it leaves out between its former end and this row.
+    cEntryItemFixModList Missed{};
 };
 
 // Finds the series that a transaction belongs to, so that the rent of the second month becomes an occurrence of the
@@ -73,6 +75,8 @@ private:
     [[nodiscard]] std::optional<cSeriesMatch> Match(const cEntryItem& series, const cImportEntry& row);
     [[nodiscard]] std::optional<cSeriesMatch> Reopen(const cEntryItemList& alike, const cImportEntry& row);
     [[nodiscard]] std::optional<cSeriesMatch> Precede(const cEntryItemList& alike, const cImportEntry& row);
+    // Corrections that leave out what nothing pays of these days.
+    [[nodiscard]] cEntryItemFixModList Missed(cEntryItem occurrence, const QList<QDate>& days, const cImportEntry& row);
     [[nodiscard]] bool HasPayment(const cEntryItem& series, const cImportEntry& row);
     [[nodiscard]] bool IsTaken(const cEntryItem& series, const cEntryItem& occurrence,
                                const cEntryItemFixModList& fixMods, const cImportEntry& wanted);

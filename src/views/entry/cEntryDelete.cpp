@@ -181,7 +181,9 @@ QString cEntryDelete::Question(const cDeleteTargetList& targets, eSeriesPart par
                          {name, day})
             + LostCorrection(first.Entry, first.Days.first());
     }
-    return cText::Tr("Möchten Sie die Serie '{0}' ab dem {1} löschen?\nDie Vorkommen davor bleiben.", {name, day});
+    const QString earlier = cSeriesChange(m_tools).EarlierText(first.Entry.ID, first.Days.first());
+    return cText::Tr("Möchten Sie die Serie '{0}' ab dem {1} löschen?\nDie Vorkommen davor bleiben.", {name, day})
+        + (earlier.isEmpty() ? QString() : u'\n' + earlier);
 }
 
 QString cEntryDelete::LostCorrection(const cEntryItem& entry, QDate day) const
@@ -239,6 +241,10 @@ QString cEntryDelete::PartQuestion(const cDeleteTargetList& targets, const QStri
         + cText::Tr("{0}: Der Betrag wird null, alles andere bleibt.", {options.first()});
     if (options.size() > 2) {
         text += u'\n' + cText::Tr("{0}: Was davor liegt, bleibt.", {options.at(1)});
+        for (const cDeleteTarget& target : targets) {
+            const QString earlier = cSeriesChange(m_tools).EarlierText(target.Entry.ID, target.Days.value(0));
+            text += earlier.isEmpty() ? QString() : u' ' + earlier;
+        }
     }
     return text + u'\n'
         + cText::Tr("{0}: Auch alles Vergangene verschwindet, mit allen Korrekturen.", {options.last()});

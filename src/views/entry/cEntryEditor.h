@@ -148,7 +148,7 @@ private:
     [[nodiscard]] cEntryItemFixModList CorrectionsOf(const cEntryItem& stored, const cFields& fields) const;
     [[nodiscard]] bool HasCorrections(const cFields& fields) const;
     void KeepReceipts(QList<cEntryWrite>& rows, const QList<int>& removed) const;
-    [[nodiscard]] QString StepName(const cEntryItem& entry) const;
+    [[nodiscard]] QString StepName(const cEntryItem& entry, int kept) const;
     void Remember(const QList<cEntryWrite>& rows);
     [[nodiscard]] QString ProposedAccount() const;
     [[nodiscard]] bool Refuse(const QString& text) const;

@@ -267,7 +267,8 @@ cEntryEditor::eSaved cEntryEditor::Store(const cFields& fields)
         KeepReceipts(rows, removed);
     }
     cReconciledGuard guard(m_tools);
-    cUndoStep step(m_tools.Data, StepName(rows.first().Entry));
+    const int kept = removed.isEmpty() ? writer.KeepPaid(rows) : 0;
+    cUndoStep step(m_tools.Data, StepName(rows.first().Entry, kept));
     // Files are copied last: a question that is declined leaves none behind.
     const bool isWritten = writer.Write(rows, removed, m_from) && guard.Allows()
         && std::all_of(rows.begin(), rows.end(),
@@ -300,9 +301,13 @@ void cEntryEditor::KeepReceipts(QList<cEntryWrite>& rows, const QList<int>& remo
     modReceiptName::Set(rows.first().Entry, names);
 }
 
-QString cEntryEditor::StepName(const cEntryItem& entry) const
+QString cEntryEditor::StepName(const cEntryItem& entry, int kept) const
 {
     const QString name = entry.Name();
+    if (kept > 0) {
+        return cText::Tr("Eintrag '{0}' geändert; was die Bank schon gebucht hat, behält seinen Betrag ({1})",
+                         {name, modCount::Times(kept)});
+    }
     return IsNew() ? cText::Tr("Eintrag '{0}' angelegt", {name}) : cText::Tr("Eintrag '{0}' geändert", {name});
 }
 

@@ -7,10 +7,14 @@
 #include "model/modContract.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
+#include "model/modSplit.h"
+#include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cSplitGroup.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 namespace {
 
@@ -21,6 +25,13 @@ const cEntryItemFixMod* Find(const cEntryItemFixModList& fixMods, QDate start)
     const auto found = std::find_if(fixMods.begin(), fixMods.end(),
                                     [&](const cEntryItemFixMod& fixMod) { return fixMod.EntryStartDate == start; });
     return found == fixMods.end() ? nullptr : &*found;
+}
+
+// What the bank knows of a purchase.
+qint64 Whole(const cEntryItemList& parts)
+{
+    const cEntryItem& first = parts.first();
+    return first.EntryType == modWord::Umbuchung ? first.EntryValue : modSplit::Net(parts);
 }
 
 // What the bank said of an occurrence stays true as long as the series has it; nobody would enter it again.
@@ -88,21 +99,73 @@ void cEntryWriter::FollowAmount(cEntryWrite& row) const
             moved.append(&fixMod);
         }
     }
-    const QSet<QDate> paid = moved.isEmpty() ? QSet<QDate>() : PaidPeriods(*stored, before);
+    const QSet<QDate> paid = moved.isEmpty() ? QSet<QDate>() : PaidPeriods(*stored, before, row.Entry.EntryValue);
     for (cEntryItemFixMod* fixMod : moved) {
         fixMod->EntryValue = paid.contains(fixMod->EntryStartDate) ? fixMod->EntryValue : row.Entry.EntryValue;
     }
 }
 
-// The starts of the periods for which the bank has booked.
-QSet<QDate> cEntryWriter::PaidPeriods(const cEntryItem& series, const cEntryItemFixModList& fixMods) const
+int cEntryWriter::KeepPaid(QList<cEntryWrite>& rows) const
+{
+    cEntryItemList before;
+    cEntryItemList after;
+    for (const cEntryWrite& row : rows) {
+        const std::optional<cEntryItem> stored = m_data.LoadEntry(row.Entry.ID);
+        if (!stored || !modRecurrence::IsRecurring(stored->EntryInterval)) {
+            return 0;
+        }
+        before.append(*stored);
+        after.append(row.Entry);
+    }
+    const qint64 cents = Whole(after);
+    if (Whole(before) == cents) {
+        return 0; // also a purchase that is only divided anew
+    }
+    QSet<QDate> paid;
+    for (const cEntryItem& series : std::as_const(before)) {
+        paid += PaidPeriods(series, m_data.GetEntryMods(series.ID), std::abs(cents));
+    }
+    QSet<QDate> kept;
+    for (qsizetype place = 0; place < rows.size(); ++place) {
+        if (before.at(place).EntryValue != after.at(place).EntryValue) {
+            kept += KeepAmounts(before.at(place), paid, rows[place]);
+        }
+    }
+    return static_cast<int>(kept.size());
+}
+
+// The periods out of `paid` that the row goes on having.
+QSet<QDate> cEntryWriter::KeepAmounts(const cEntryItem& stored, const QSet<QDate>& paid, cEntryWrite& row) const
+{
+    const cEntryItemFixModList before = m_data.GetEntryMods(stored.ID);
+    QSet<QDate> kept;
+    for (const QDate start : paid) {
+        const std::optional<cEntryItem> occurrence = modSeries::OccurrenceAt(stored, start);
+        cEntryItemFixMod fixMod = modSeries::CorrectionFor(occurrence.value_or(stored));
+        if (!occurrence || !modSeries::HasPeriod(row.Entry, fixMod)) {
+            continue;
+        }
+        if (Find(before, fixMod.EntryStartDate) == nullptr && Find(row.Corrections, fixMod.EntryStartDate) == nullptr) {
+            fixMod.EntryValue = stored.EntryValue;
+            fixMod.EntryDay = occurrence->EntryDate;
+            fixMod.EntryComment = modSeries::BankComment();
+            row.Corrections.append(fixMod);
+        }
+        kept.insert(start);
+    }
+    return kept;
+}
+
+// The starts of the periods for which the bank has booked another amount than these cents.
+QSet<QDate> cEntryWriter::PaidPeriods(const cEntryItem& series, const cEntryItemFixModList& fixMods, qint64 cents) const
 {
     QSet<QDate> starts;
     const cImportEntryList rows = m_data.GetImportEntries();
     for (const cImportEntry& row : rows) {
-        const std::optional<cEntryItem> paid = row.ImportAssigned && row.ImportAssignedEntry == series.ID
-            ? modOccurrence::Nearest(series, row.ImportDate, fixMods)
-            : std::nullopt;
+        const bool isMeant =
+            row.ImportAssigned && row.ImportAssignedEntry == series.ID && std::abs(row.ImportValue) != cents;
+        const std::optional<cEntryItem> paid =
+            isMeant ? modOccurrence::Nearest(series, row.ImportDate, fixMods) : std::nullopt;
         if (paid) {
             starts.insert(modSeries::CorrectionFor(*paid).EntryStartDate);
         }

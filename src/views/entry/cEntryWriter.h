@@ -28,6 +28,10 @@ public:
     // False when the user declines. `from` as in Write.
     [[nodiscard]] bool AskLosses(QList<cEntryWrite>& rows, QDate from);
 
+    // Where stored series get another amount, the occurrences that the bank has paid keep theirs by corrections. Their
+    // number. For rows without parts that are new or removed.
+    [[nodiscard]] int KeepPaid(QList<cEntryWrite>& rows) const;
+
     // Adds, changes and removes. With a valid `from`, the stored series end the day before and new ones begin; what was
     // assigned or corrected from then on goes along. Occurrences that were only moved get a new amount. Sets the IDs.
     // On failure the caller takes its undo step back.
@@ -43,7 +47,9 @@ private:
 
     [[nodiscard]] bool Loses(const cEntryWrite& row, QDate from) const;
     void FollowAmount(cEntryWrite& row) const;
-    [[nodiscard]] QSet<QDate> PaidPeriods(const cEntryItem& series, const cEntryItemFixModList& fixMods) const;
+    [[nodiscard]] QSet<QDate> KeepAmounts(const cEntryItem& stored, const QSet<QDate>& paid, cEntryWrite& row) const;
+    [[nodiscard]] QSet<QDate> PaidPeriods(const cEntryItem& series, const cEntryItemFixModList& fixMods,
+                                          qint64 cents) const;
     [[nodiscard]] bool WriteRow(cEntryWrite& row);
     [[nodiscard]] bool Change(const cEntryItem& entry);
     [[nodiscard]] bool WriteFrom(cEntryWrite& row, QDate from);

@@ -17,6 +17,8 @@
 
 #include <cstdlib>
 
+using namespace Qt::Literals::StringLiterals;
+
 namespace {
 
 QString LeftOut()
@@ -69,10 +71,12 @@ cSeriesChange::eEdit cSeriesChange::AskWhatToEdit(int entryId, QDate day)
     }
     edits.append(eEdit::Entry);
     options.append(cText::Tr("Ganze Serie"));
+    const QString earlier = EarlierText(entryId, day);
     const int choice = m_tools.User.Decide(
         {.Text = cText::Tr("'{0}' vom {1} gehört zu einer Serie ({2} seit {3}).\nWas möchten Sie ändern?",
                            {series->Name(), DayText(entryId, day), modWord::Intervals().ToShown(series->EntryInterval),
-                            modDate::ToText(series->EntryDate)}),
+                            modDate::ToText(series->EntryDate)})
+             + (earlier.isEmpty() || options.size() < 3 ? QString() : u"\n\n"_s + earlier),
          .Title = cText::Tr("Serie bearbeiten"),
          .Options = options});
     return edits.value(choice, eEdit::Nothing);
@@ -100,6 +104,29 @@ QString cSeriesChange::DayText(int entryId, QDate day)
     return moved.isValid() && moved != day
         ? cText::Tr("{0} (geplant am {1})", {modDate::ToText(moved), modDate::ToText(day)})
         : modDate::ToText(day);
+}
+
+QString cSeriesChange::EarlierText(int entryId, QDate from)
+{
+    const std::optional<cEntryItem> first = Occurrence(entryId, from);
+    if (!first) {
+        return {};
+    }
+    const QDate start = modSeries::CorrectionFor(*first).EntryStartDate;
+    const cEntryItemFixModList fixMods = m_data.GetEntryMods(entryId);
+    const QDate moved = Correction(entryId, from).value_or(cEntryItemFixMod{}).EntryDay;
+    const QDate shown = moved.isValid() ? moved : first->EntryDate;
+    QStringList days;
+    for (const cEntryItemFixMod& fixMod : fixMods) {
+        const bool isEarlier = fixMod.EntryStartDate > start && fixMod.EntryDay.isValid() && fixMod.EntryDay < shown;
+        const auto occurrence = isEarlier ? Occurrence(entryId, fixMod.EntryStartDate) : std::nullopt;
+        if (occurrence) {
+            days.append(DayText(entryId, occurrence->EntryDate));
+        }
+    }
+    return days.isEmpty()
+        ? QString()
+        : cText::Tr("Zu \"Ab hier\" gehört auch, was auf einen Tag davor verschoben ist: {0}.", {days.join(u", "_s)});
 }
 
 std::optional<cSeriesChange::cPeriodFields> cSeriesChange::StartPeriod(int entryId, QDate day, QDate today)

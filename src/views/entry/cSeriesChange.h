@@ -55,6 +55,10 @@ public:
     // The day on which lists show the occurrence, and behind it the planned one where that is another.
     [[nodiscard]] QString DayText(int entryId, QDate day);
 
+    // A sentence that names what is planned behind the occurrence of `from` and was moved before it; empty without any.
+    // A series that is divided or ends there takes it along.
+    [[nodiscard]] QString EarlierText(int entryId, QDate from);
+
     [[nodiscard]] std::optional<cPeriodFields> StartPeriod(int entryId, QDate day, QDate today = {});
     [[nodiscard]] eSaved SavePeriod(const cPeriodFields& fields);
     [[nodiscard]] eAnswer AskToSave() const; // see modUnsaved

@@ -148,7 +148,7 @@ void cStatementListModel::ChoosePeriod(const QString& period)
 void cStatementListModel::ChooseFreeRange(const modPeriod::cRange& range)
 {
     if (IsFreePeriod() && m_free != range) {
-        m_free = range;
+        m_free = modPeriod::Typed(range, m_free);
         Show();
     }
 }

@@ -294,9 +294,7 @@ void cMainModel::ChooseFreeRange(const modPeriod::cRange& range)
     if (!IsFreePeriod() || range == m_view.Free) {
         return;
     }
-    const bool isTurned = range.End.isValid() && range.Start > range.End;
-    const QDate chosen = range.Start != m_view.Free.Start ? range.Start : range.End;
-    m_view.Free = isTurned ? modPeriod::cRange{chosen, chosen} : range;
+    m_view.Free = modPeriod::Typed(range, m_view.Free);
     RefreshView();
 }
 

@@ -224,6 +224,7 @@ void cMainModel::ManyChanged(const QList<cEntryListModel::cKey>& keys, const QLi
 void cMainModel::CellWritten()
 {
     BookChanged();
+    Q_EMIT Told(m_tools.Data.Journal().UndoName() + u'.');
     Q_EMIT StagedRowsReleased(); // rows of the bank may have gone along with the later part of a series
 }
 

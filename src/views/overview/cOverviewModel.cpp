@@ -342,6 +342,8 @@ cOverviewCard cOverviewModel::Due()
 cOverviewCard cOverviewModel::Limits()
 {
     cOverviewCard card{eOverviewCard::Limits, cText::Tr("Limits dieses Monats")};
+    card.FollowText = cText::Tr("Zeigt das Budget.");
+    card.Follow = Command(modCommand::Budget);
     for (const cReportGroup& group : std::as_const(m_book->Limits.Expense.Groups)) {
         for (const cReportCategory& category : group.Categories) {
             const cReportAmount& amount = category.Amount;
@@ -370,7 +372,7 @@ cOverviewCard cOverviewModel::Limits()
     if (card.Lines.size() > mostLimits) {
         const QString more = cText::Tr("und {0} weitere", {QString::number(card.Lines.size() - mostLimits)});
         card.Lines.resize(mostLimits);
-        card.Lines.append({more, {}, eOverviewTone::Quiet});
+        card.Lines.append({more, {}, eOverviewTone::Quiet, card.Follow});
     }
     return card;
 }

@@ -3,6 +3,7 @@
 #include "model/cTemplateItem.h"
 #include "model/modBudget.h"
 #include "model/modRecurrence.h"
+#include "model/modSeries.h"
 #include "model/modWord.h"
 
 #include <QMap>
@@ -51,6 +52,15 @@ int CountMonths(const cEntryItemList& entries, QDate today)
 void Add(modOverview::cSums& sums, const cEntryItem& entry)
 {
     (entry.EntryType == modWord::Einnahme ? sums.Income : sums.Expense) += entry.EntryValue;
+}
+
+// What was brought forward to today has been booked, as what was entered for today has; what was put off until today is
+// still to come.
+bool IsToCome(const cEntryItem& entry, QDate today)
+{
+    return entry.EntryDate > today
+        || (entry.EntryDate == today && modRecurrence::IsRecurring(entry.EntryInterval) && entry.Planned() <= today
+            && !modSeries::IsBooked(entry.CorrectionComment));
 }
 
 } // namespace
@@ -116,9 +126,7 @@ cEntryItemList modOverview::Due(const cEntryItemList& entries, QDate today, int 
 {
     cEntryItemList due;
     std::copy_if(entries.begin(), entries.end(), std::back_inserter(due), [&](const cEntryItem& entry) {
-        const bool isPlanned =
-            entry.EntryDate > today || (entry.EntryDate == today && modRecurrence::IsRecurring(entry.EntryInterval));
-        return isPlanned && entry.EntryDate < today.addDays(days) && entry.EntryValue != 0
+        return IsToCome(entry, today) && entry.EntryDate < today.addDays(days) && entry.EntryValue != 0
             && entry.EntryCategory != modWord::Startguthaben;
     });
     std::stable_sort(due.begin(), due.end(),

@@ -50,7 +50,8 @@ struct cChange
 [[nodiscard]] QList<cChange> Changes(const cEntryItemList& entries, QDate today, int most);
 
 // What is to come within so many days, today included, by day: occurrences of series, and what was entered for a later
-// day. What was left out (0) is not due.
+// day. What was left out (0) is not due, nor is an occurrence that was brought forward to today or that the bank has
+// booked.
 [[nodiscard]] cEntryItemList Due(const cEntryItemList& entries, QDate today, int days);
 
 // What may be spent on each day that the month has left, today included; 0 when nothing is left.

@@ -251,7 +251,9 @@ QList<cSeriesCheck::cFinding> cSeriesCheck::FindIn(const cSeries& series)
             cFinding finding = base;
             finding.IsLate = true;
             finding.Occurrence = planned;
-            finding.MoveTo = DayToMoveTo(series.Entry.EntryInterval, planned, covered.End, m_tools.Clock.Today());
+            if (isTrailing) { // else a later one was paid, and nothing of it is owed
+                finding.MoveTo = DayToMoveTo(series.Entry.EntryInterval, planned, covered.End, m_tools.Clock.Today());
+            }
             late.append(finding);
         }
     }

@@ -156,6 +156,7 @@ void frmKontoauszug::Connect()
     for (cDayEdit* edit : {m_start, m_end}) {
         connect(edit, &cDayEdit::DayChosen, this, [this] {
             m_statement.ChooseFreeRange({m_start->Chosen(), m_end->Chosen()});
+            ShowDays();
         });
     }
     connect(m_filter, &QLineEdit::textChanged, &m_statement, &cStatementListModel::TypeFilter);

@@ -2,6 +2,7 @@
 
 #include "base/cProgress.h"
 
+#include <QElapsedTimer>
 #include <QString>
 
 #include <memory>
@@ -14,7 +15,8 @@ class QWidget;
 class cProgressBox final : public cProgress
 {
 public:
-    cProgressBox(QWidget* parent, const QString& text);
+    // `patience`: milliseconds before it appears.
+    cProgressBox(QWidget* parent, const QString& text, int patience = 400);
     ~cProgressBox() override;
 
     void showProgressBar(int maximum) override;
@@ -25,4 +27,6 @@ public:
 
 private:
     std::unique_ptr<QProgressDialog> m_dialog;
+    QElapsedTimer m_since;
+    int m_patience;
 };
