@@ -415,13 +415,13 @@ private Q_SLOTS:
         cNoProgress progress;
         cImportOptions own;
         own.DefaultAccount = u"4711"_s;
-        QVERIFY(import.ImportText(u"a.csv"_s, interest, own, progress).Doubt);
+        QVERIFY(import.ImportSource({u"a.csv"_s, {}, interest}, own, progress).Doubt);
         const QString turned = head + u"01.04.2025;Kauf;5,00;995,00\n02.04.2025;Kauf;10,00;985,00"_s;
-        QCOMPARE(import.ImportText(u"a.csv"_s, turned, own, progress).Staged, 2);
-        QCOMPARE(import.ImportText(u"a.csv"_s, interest, own, progress).Staged, 1);
+        QCOMPARE(import.ImportSource({u"a.csv"_s, {}, turned}, own, progress).Staged, 2);
+        QCOMPARE(import.ImportSource({u"a.csv"_s, {}, interest}, own, progress).Staged, 1);
         QCOMPARE(book.Data.GetImportEntries().constLast().ImportValue, -2493);
         own.DefaultAccount = u"4712"_s;
-        QVERIFY(import.ImportText(u"a.csv"_s, interest, own, progress).Doubt);
+        QVERIFY(import.ImportSource({u"a.csv"_s, {}, interest}, own, progress).Doubt);
     }
 
     void ConfirmedColumnsAreRemembered()
