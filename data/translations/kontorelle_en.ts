@@ -5565,9 +5565,12 @@ Shall these stay open? With No, they are booked too.</translation>
         <source>1 Serie</source>
         <translation>1 series</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>{0} Serien</source>
-        <translation>{0} series</translation>
+        <translation>
+            <numerusform>{0} series</numerusform>
+            <numerusform>{0} series</numerusform>
+        </translation>
     </message>
     <message>
         <source>&apos;{0}&apos; ab {1} gelöscht</source>
@@ -5876,16 +5879,8 @@ Do you want to continue?</translation>
         <translation>The file of the database is damaged. Please restore a backup.</translation>
     </message>
     <message>
-        <source>Die Datenbank kann nur gelesen werden.</source>
-        <translation>The database can only be read.</translation>
-    </message>
-    <message>
         <source>Der Datenträger ist voll. Bitte schaffen Sie Platz und versuchen Sie es noch einmal.</source>
         <translation>The disk is full. Please make room and try again.</translation>
-    </message>
-    <message>
-        <source>Auf die Datei der Datenbank kann nicht zugegriffen werden.</source>
-        <translation>The file of the database cannot be accessed.</translation>
     </message>
     <message>
         <source>Der Datenträger meldet einen Fehler beim Lesen oder Schreiben ({0}).</source>
@@ -7686,14 +7681,6 @@ Change it all the same?</translation>
         <translation>Load layout</translation>
     </message>
     <message>
-        <source>Kategorie eines Eintrags geändert</source>
-        <translation>Category of an entry changed</translation>
-    </message>
-    <message>
-        <source>Kategorie von {0} Einträgen geändert</source>
-        <translation>Category of {0} entries changed</translation>
-    </message>
-    <message>
         <source>Ein Eintrag steht nun unter &apos;{0}&apos;.</source>
         <translation>One entry is now filed under &apos;{0}&apos;.</translation>
     </message>
@@ -9217,9 +9204,12 @@ Quit the program and open this file to install the new version.</translation>
         <source>1 Beleg</source>
         <translation>1 receipt</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>{0} Belege</source>
-        <translation>{0} receipts</translation>
+        <translation>
+            <numerusform>{0} receipts</numerusform>
+            <numerusform>{0} receipts</numerusform>
+        </translation>
     </message>
     <message>
         <source>zeigt PDF-Belege</source>
@@ -10438,10 +10428,6 @@ A click shows more.</translation>
         <translation>PDF statement of &apos;{0}&apos; replaced</translation>
     </message>
     <message>
-        <source>Ein Startguthaben lässt sich nur einzeln ändern: Öffnen Sie es mit der Eingabetaste.</source>
-        <translation>An opening balance can only be changed by itself: open it with the Enter key.</translation>
-    </message>
-    <message>
         <source>Ein Startguthaben legen Sie für jedes Konto einzeln fest. Bitte wählen Sie eine andere Kategorie.</source>
         <translation>An opening balance is set for each account by itself. Please choose another category.</translation>
     </message>
@@ -10648,10 +10634,6 @@ What shall be done?</translation>
     <message>
         <source>Gebuchte Umsätze behalten ihre Kategorie, solange offene mit markiert sind.</source>
         <translation>Booked transactions keep their category as long as open ones are selected with them.</translation>
-    </message>
-    <message>
-        <source>Umbuchungen und aufgeteilte Einträge behalten ihre Kategorie.</source>
-        <translation>Transfers and split entries keep their category.</translation>
     </message>
     <message>
         <source>Bitte ansehen: {4}.  {0}  →  {1}, {3}</source>
@@ -10947,9 +10929,12 @@ Is it to be read all the same?</translation>
         <source>1 Konto</source>
         <translation>1 account</translation>
     </message>
-    <message>
+    <message numerus="yes">
         <source>{0} Konten</source>
-        <translation>{0} accounts</translation>
+        <translation>
+            <numerusform>{0} accounts</numerusform>
+            <numerusform>{0} accounts</numerusform>
+        </translation>
     </message>
     <message>
         <source>In der Zeile fehlen Tag, Buchungsart, Konto, Zielkonto oder Betrag.</source>
@@ -11242,6 +11227,88 @@ Create it in another folder, or open one that is there already.</translation>
     <message>
         <source>Seiten&amp;ansicht</source>
         <translation>Print pre&amp;view</translation>
+    </message>
+    <message>
+        <source>Die Seiten werden vorbereitet …</source>
+        <translation>The pages are being prepared …</translation>
+    </message>
+    <message>
+        <source>kopiert die Belege der Einträge in den Ordner &quot;NAME-Belege&quot; neben der Datei</source>
+        <translation>copies the receipts of the entries into the folder &quot;NAME-Belege&quot; beside the file</translation>
+    </message>
+    <message>
+        <source>Sie wäre unvollständig. Es fehlt: {0}</source>
+        <translation>It would be incomplete. Missing: {0}</translation>
+    </message>
+    <message>
+        <source>Der Beleg &apos;{0}&apos; fehlt im Ordner &apos;{1}&apos;.</source>
+        <translation>The receipt &apos;{0}&apos; is missing in the folder &apos;{1}&apos;.</translation>
+    </message>
+    <message>
+        <source>zu dieser Umbuchung passt ein anderer Umsatz besser</source>
+        <translation>another transaction fits this transfer better</translation>
+    </message>
+    <message>
+        <source>{0}; die Kategorie steht nicht zur Auswahl</source>
+        <translation>{0}; the category is not offered</translation>
+    </message>
+    <message>
+        <source>Die Datensicherung &apos;{0}&apos; ist unvollständig. Es fehlt: {1}</source>
+        <translation>The backup &apos;{0}&apos; is incomplete. Missing: {1}</translation>
+    </message>
+    <message>
+        <source>Die Datenbank kann nur gelesen werden. Bitte prüfen Sie die Zugriffsrechte der Datei und ihres Ordners und versuchen Sie es noch einmal.</source>
+        <translation>The database can only be read. Please check the access rights of the file and its folder and try again.</translation>
+    </message>
+    <message>
+        <source>Auf die Datei der Datenbank kann nicht zugegriffen werden. Bitte prüfen Sie die Zugriffsrechte der Datei und ihres Ordners und versuchen Sie es noch einmal.</source>
+        <translation>The file of the database cannot be accessed. Please check the access rights of the file and its folder and try again.</translation>
+    </message>
+    <message>
+        <source>Die Datenbank &apos;{0}&apos; ist unvollständig. Es fehlt: {1}. &quot;kontorelle-cli restore DATEI&quot; lädt eine Datensicherung, das Fenster von Kontorelle auch; mit --database nennen Sie eine andere Datei.</source>
+        <translation>The database &apos;{0}&apos; is incomplete. Missing: {1}. &quot;kontorelle-cli restore FILE&quot; loads a backup, the window of Kontorelle does as well; name another file with --database.</translation>
+    </message>
+    <message>
+        <source>Die Datei der Datenbank &apos;{0}&apos; ist unvollständig. Es fehlt: {1}
+Was Sie sehen, stimmt deshalb nur zum Teil, und es wird nichts gespeichert.
+
+{2}
+
+Möchten Sie eine Datensicherung laden? Die unvollständige Datei bleibt unter anderem Namen erhalten.</source>
+        <translation>The file of the database &apos;{0}&apos; is incomplete. Missing: {1}
+What you see is therefore only partly right, and nothing is saved.
+
+{2}
+
+Do you want to load a backup? The incomplete file is kept under another name.</translation>
+    </message>
+    <message>
+        <source>Die Datenbank ist unvollständig</source>
+        <translation>The database is incomplete</translation>
+    </message>
+    <message>
+        <source>Eintrag &apos;{0}&apos; geändert; was die Bank schon gebucht hat, behält seinen Betrag ({1})</source>
+        <translation>Entry &apos;{0}&apos; changed; what the bank has already booked keeps its amount ({1})</translation>
+    </message>
+    <message>
+        <source>Zu &quot;Ab hier&quot; gehört auch, was auf einen Tag davor verschoben ist: {0}.</source>
+        <translation>&quot;From here on&quot; also includes what has been moved to a day before: {0}.</translation>
+    </message>
+    <message>
+        <source>An diesen Einträgen hängen Belege (Zahl der Dateien: {0}). Möchten Sie sie in den Ordner &apos;{1}&apos; kopieren?</source>
+        <translation>These entries have receipts (number of files: {0}). Do you want to copy them into the folder &apos;{1}&apos;?</translation>
+    </message>
+    <message>
+        <source>Laut Kontoauszug waren am {1} {2} auf dem Konto &apos;{0}&apos;. Ist seither etwas dazugekommen, lesen Sie bitte den nächsten Kontoauszug ein.</source>
+        <translation>According to the statement, the account &apos;{0}&apos; held {2} on {1}. If anything has been added since, please import the next statement.</translation>
+    </message>
+    <message>
+        <source>Zeigt das Budget.</source>
+        <translation>Shows the budget.</translation>
+    </message>
+    <message>
+        <source>Ein Startguthaben lässt sich nur einzeln ändern: Öffnen Sie seinen Eintrag mit der Eingabetaste.</source>
+        <translation>A start balance can only be changed by itself: open its entry with the Enter key.</translation>
     </message>
 </context>
 </TS>
