@@ -9207,7 +9207,7 @@ Quit the program and open this file to install the new version.</translation>
     <message numerus="yes">
         <source>{0} Belege</source>
         <translation>
-            <numerusform>{0} receipts</numerusform>
+            <numerusform>{0} receipt</numerusform>
             <numerusform>{0} receipts</numerusform>
         </translation>
     </message>
@@ -10932,7 +10932,7 @@ Is it to be read all the same?</translation>
     <message numerus="yes">
         <source>{0} Konten</source>
         <translation>
-            <numerusform>{0} accounts</numerusform>
+            <numerusform>{0} account</numerusform>
             <numerusform>{0} accounts</numerusform>
         </translation>
     </message>

@@ -532,8 +532,9 @@ bool TakePrinted(cCamera& camera)
     model.ChooseGrouping(u"Nach Monat"_s);
     camera.TakeDialog(u"seitenansicht"_s, [&] { stage.Program().Navigation().Open(modCommand::PrintPreview); });
 
-    cListPrinter printer(model.Entries(), stage.Program().Window().EntryColumns(),
-                         {u"Buchungen"_s, {u"Konto: Girokonto"_s}, u"Haushalt"_s, {{u"Summe"_s, model.SumTexts().Total}}});
+    cListPrinter printer(
+        model.Entries(), stage.Program().Window().EntryColumns(),
+        {u"Buchungen"_s, {u"Konto: Girokonto"_s}, u"Haushalt"_s, {{u"Summe"_s, model.SumTexts().Total}}});
     TakePages(camera, printer, u"druck"_s);
     return true;
 }
