@@ -99,6 +99,15 @@ private Q_SLOTS:
         }
     }
 
+    // Entries came with their payer, the persons did not.
+    void NobodyOwesInABookOfNobody() const
+    {
+        const auto shares = [](const QString& /*account*/) { return modPeople::cShares(); };
+        const cSettlement settlement =
+            modSettlement::Figures({Entry(modWord::Ausgabe, u"G"_s, u"Anna"_s, 100)}, {}, shares);
+        QVERIFY(settlement.Payments.isEmpty() && settlement.Counted.isEmpty());
+    }
+
     void SplitsToTheCent_data()
     {
         const cTestRows<qint64, QList<int>, QList<qint64>> row("cents", "shares", "parts");

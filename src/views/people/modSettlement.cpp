@@ -30,6 +30,9 @@ public:
         const bool isTransfer = entry.EntryType == modWord::Umbuchung;
         const qint64 cents = modBudget::SpentCents(entry);
         const modPeople::cShares shares = isTransfer ? m_shares(entry.EntryAccountMove) : Bearers(entry, payer);
+        if (shares.isEmpty()) {
+            return; // a book of nobody, whose entries came with their payers from another
+        }
         Of(payer).*(isTransfer ? &cPersonSum::Settled : &cPersonSum::Paid) += cents;
         Add(isTransfer ? m_received : m_borne, shares, cents);
         m_settlement.Counted.append({entry, payer, shares, cents});

@@ -311,6 +311,7 @@ void frmMain::ShowView()
     }
     const QString hint = m_model.Hint();
     m_hint->setVisible(!hint.isEmpty());
+    m_hint->clear(); // a link keeps the colour that it had when its text was new
     m_hint->setText(
         u"%1 <a href=\"#\">%2</a>"_s.arg(hint.toHtmlEscaped(), cText::Tr("Zukünftige ausblenden").toHtmlEscaped()));
     m_database->setText(m_model.DatabaseText());
@@ -471,6 +472,14 @@ void frmMain::resizeEvent(QResizeEvent* event)
 {
     QMainWindow::resizeEvent(event);
     ShareWidth();
+}
+
+void frmMain::changeEvent(QEvent* event)
+{
+    QMainWindow::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange && isVisible()) {
+        QMetaObject::invokeMethod(this, &frmMain::ShowView, Qt::QueuedConnection); // when the link has its palette, too
+    }
 }
 
 void frmMain::closeEvent(QCloseEvent* event)

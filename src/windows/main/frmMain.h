@@ -74,6 +74,7 @@ Q_SIGNALS:
     void RowsRegrouped(const QList<cEntryListModel::cKey>& rows, const QString& category); // onto another group
 
 protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void dragEnterEvent(QDragEnterEvent* event) override;
