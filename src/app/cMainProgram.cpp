@@ -25,6 +25,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QScopedValueRollback>
+#include <QThread>
 #include <QTimer>
 
 #include <chrono>
@@ -242,13 +243,18 @@ void cMainProgram::NoteUsed()
 
 bool cMainProgram::OpenLocked(cStartUp& startUp, const QString& path, bool isFresh)
 {
-    if (m_lock.Take(path) == eLockState::Foreign) {
+    constexpr int pause = 100; // milliseconds
+    eLockState state = m_lock.Take(path);
+    // A program that was started a moment ago holds the book and does not listen yet: it is asked for a second.
+    for (int tries = 10; state == eLockState::Foreign && tries > 0; --tries) {
         if (cSingleInstance::HandOver(path, m_request)) {
             return false;
         }
-        if (!cBookSwitch::TakeOver(m_lock, path, m_ports.User)) {
-            return OpenForeign(path);
-        }
+        QThread::msleep(pause);
+        state = m_lock.Take(path);
+    }
+    if (state == eLockState::Foreign && !cBookSwitch::TakeOver(m_lock, path, m_ports.User)) {
+        return OpenForeign(path);
     }
     return startUp.OpenBook(m_book, {path, isFresh});
 }

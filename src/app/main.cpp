@@ -39,6 +39,7 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 constexpr std::array displays{"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"};
+constexpr const char* screenFault = "KONTORELLE_SCREEN_FAULT"; // from one start to the next
 
 // Without a screen the toolkit would end the process with a message that helps nobody.
 bool HasDisplay()
@@ -52,7 +53,7 @@ bool HasDisplay()
 }
 
 // The same message where a screen is named that cannot be reached, which only the toolkit finds out: the program is
-// started anew as if none were named. What the toolkit says about it on the way is kept to itself.
+// started anew as if none were named, with what the toolkit said about it.
 class cScreenWatch
 {
 public:
@@ -86,7 +87,9 @@ private:
             for (const char* name : displays) {
                 qunsetenv(name);
             }
+            qputenv(screenFault, Said());
             execv("/proc/self/exe", Arguments());
+            std::fputs(Said().constData(), stderr); // and the toolkit ends the program
         }
         Said() += qFormatLogMessage(type, context, text).toLocal8Bit() + '\n';
     }
@@ -138,15 +141,20 @@ int RunWithoutDisplay(int argc, char** argv)
     NameApplication();
     QCommandLineParser parser;
     ReadArguments(parser, application);
+    const bool isGerman = modLocale::Messages() == u"de";
     std::fputs(
-        modLocale::Messages() == u"de"
-            ? "Kontorelle: Hier gibt es keinen Bildschirm (DISPLAY und WAYLAND_DISPLAY sind nicht gesetzt oder nicht "
-              "zu "
-              "erreichen).\n"
+        isGerman
+            ? "Kontorelle: Es ist kein Bildschirm da (DISPLAY und WAYLAND_DISPLAY fehlen, sind nicht zu erreichen, "
+              "oder dem System fehlt etwas, um sie zu benutzen).\n"
               "Das Befehlszeilenprogramm kann dasselbe ohne Fenster: kontorelle-cli --help\n"
-            : "Kontorelle: There is no screen here (DISPLAY and WAYLAND_DISPLAY are not set or cannot be reached).\n"
+            : "Kontorelle: There is no screen here (DISPLAY and WAYLAND_DISPLAY are not set, cannot be reached, or "
+              "the system lacks something to use them).\n"
               "The command line program does the same without windows: kontorelle-cli --help\n",
         stderr);
+    if (const QByteArray fault = qgetenv(screenFault); !fault.isEmpty()) {
+        std::fputs(isGerman ? "Was das System dazu meldet:\n" : "What the system says about it:\n", stderr);
+        std::fputs(fault.constData(), stderr);
+    }
     return 2;
 }
 

@@ -4,6 +4,7 @@
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
+#include "store/cDataAccess.h"
 #include "store/cDatabase.h"
 #include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
@@ -301,6 +302,29 @@ private Q_SLOTS:
         QCOMPARE(program->Window().Page(), frmMain::ePage::Statements);
     }
 
+    // Into the book that was dropped with it, and nowhere while that one cannot be opened.
+    void StatementFollowsItsBook()
+    {
+        const auto program = m_machine->Start();
+        const QString other = m_machine->File.Make({}, u"other.db"_s);
+        const QString statement = m_machine->File.Path(u"giro.sta"_s);
+        cTestFile::Write(statement,
+                         ":20:A\n:25:10020030/4711\n:60F:C260930EUR100,00\n:61:2610051005D35,00NMSC\n"
+                         ":86:106?20Korn\n:62F:C261005EUR65,00\n-\n");
+        {
+            cFileLock somebodys;
+            QCOMPARE(somebodys.Take(other), eLockState::Held);
+            Q_EMIT program->Window().FilesDropped({other, statement});
+            QCOMPARE(program->Tools().Data.GetImportEntries().size(), 0);
+        }
+        Q_EMIT program->Window().FilesDropped({other, statement});
+        QCOMPARE(QFileInfo(program->Model().DatabaseText()).fileName(), u"other.db"_s);
+        QTRY_COMPARE(program->Tools().Data.GetImportEntries().size(), 1);
+        cDatabase former;
+        former.Open(m_machine->Book, eOpenMode::ReadOnly);
+        QCOMPARE(cTestFile::Value(former, "SELECT COUNT(*) FROM import"), u"0"_s);
+    }
+
     // Dropped on the account statement, listed in the window that its button opens, and taken back by the menu.
     void PapersHangAtTheirAccount()
     {
@@ -520,8 +544,8 @@ private Q_SLOTS:
         QVERIFY(program.waitForFinished());
         QCOMPARE(program.exitCode(), code);
         const QByteArray said = program.readAllStandardError();
-        QCOMPARE(said.startsWith("Kontorelle: Hier gibt es keinen Bildschirm"), code == 2);
-        QVERIFY2(!said.contains("platform plugin"), said.constData());
+        QCOMPARE(said.startsWith("Kontorelle: Es ist kein Bildschirm da"), code == 2);
+        QCOMPARE(said.contains("Was das System dazu meldet:\n"), code == 2);
     }
 
 private:

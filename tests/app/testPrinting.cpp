@@ -12,9 +12,11 @@
 #include <QAction>
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPrintDialog>
 #include <QPrinter>
+#include <QPrintPreviewWidget>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QToolBar>
@@ -146,7 +148,12 @@ private Q_SLOTS:
         QTimer::singleShot(0, this, [&] {
             QWidget* preview = QApplication::activeModalWidget();
             QVERIFY(QTest::qWaitForWindowActive(preview));
-            QCOMPARE(preview->findChild<QComboBox*>()->currentText().count(u" %"_s), 1);
+            auto* zoom = preview->findChild<QComboBox*>()->lineEdit();
+            QVERIFY(!zoom->text().contains(u'.') && zoom->text().endsWith(u'%'));
+            zoom->selectAll();
+            QTest::keyClicks(zoom, u"75"_s);
+            QTest::keyClick(zoom, Qt::Key_Return);
+            QCOMPARE(preview->findChild<QPrintPreviewWidget*>()->zoomFactor(), 0.75);
             int pictures = 0; // as many as the program has in their order
             for (const QAction* action : preview->findChild<QToolBar*>()->actions()) {
                 pictures += action->icon().isNull() ? 0 : 1;

@@ -3,6 +3,7 @@
 #include "support/cTestRows.h"
 #include "support/testBook.h"
 #include "views/entry/cEntryDelete.h"
+#include "views/entry/cEntrySuggestions.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -379,4 +380,3 @@ private Q_SLOTS:
 
 TEST_CLASS(testEntryFlows, QCoreApplication)
 #include "testEntryFlows.moc"
-#include "views/entry/cEntrySuggestions.h"

@@ -49,6 +49,13 @@ QImage Drawn(const cFlatStyle& style, const QString& what, QStyle::State state, 
         style.drawPrimitive(QStyle::PE_IndicatorCheckBox, &button, &painter, nullptr);
     } else if (what == u"radio") {
         style.drawPrimitive(QStyle::PE_IndicatorRadioButton, &button, &painter, nullptr);
+    } else if (what == u"line" || what == u"chosen line") {
+        const bool isChosen = what == u"chosen line";
+        image.fill(button.palette.color(isChosen ? QPalette::Highlight : QPalette::Base));
+        button.state.setFlag(QStyle::State_Selected, isChosen);
+        if (button.state.testFlag(QStyle::State_HasFocus)) {
+            style.drawPrimitive(QStyle::PE_FrameFocusRect, &button, &painter, nullptr);
+        }
     } else if (what == u"tab") {
         style.drawControl(QStyle::CE_TabBarTabShape, &tab, &painter, nullptr);
     } else if (what == u"header") {
@@ -104,6 +111,8 @@ private Q_SLOTS:
         QTest::addRow("button with focus") << u"button"_s << (usable | QStyle::State_HasFocus);
         QTest::addRow("default button with focus") << u"default"_s << (usable | QStyle::State_HasFocus);
         QTest::addRow("box with focus") << u"box"_s << (usable | QStyle::State_HasFocus);
+        QTest::addRow("line with focus") << u"line"_s << (usable | QStyle::State_HasFocus);
+        QTest::addRow("chosen line with focus") << u"chosen line"_s << (usable | QStyle::State_HasFocus);
         QTest::addRow("pressed button") << u"button"_s << (usable | QStyle::State_Sunken);
         QTest::addRow("pressed default button") << u"default"_s << (usable | QStyle::State_Sunken);
         QTest::addRow("tool that is on") << u"tool"_s << (usable | QStyle::State_On);

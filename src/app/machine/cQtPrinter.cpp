@@ -88,8 +88,9 @@ QAction* Adapt(QPrintPreviewDialog& dialog)
     }
     auto* zoom = dialog.findChild<QComboBox*>()->lineEdit();
     QObject::connect(zoom, &QLineEdit::textChanged, zoom, [zoom](const QString& text) {
-        if (text.contains(u'.') && text.endsWith(u'%')) {
-            zoom->setText(u"%1 %"_s.arg(qRound(text.chopped(1).toDouble())));
+        // Without a blank before the sign, which the field would not take back.
+        if (text.contains(u'.') && text.endsWith(u'%') && !zoom->isModified()) {
+            zoom->setText(u"%1%"_s.arg(qRound(text.chopped(1).toDouble())));
         }
     });
     QAction* print = bar->actions().constLast();

@@ -263,11 +263,11 @@ void cBookFlow::TellDamage()
 {
     const std::optional<cBackupPlan::cCopy> copy = NewestGood(PlanOf(m_parts).Copies());
     QStringList options{cText::Tr("&Andere Sicherung wählen …"), cText::Tr("&Nur lesen")};
-    QString offer =
-        cText::Tr("Eine unbeschädigte Sicherung liegt nicht im Ordner '{0}'.", {Shown(PlanOf(m_parts).Folder())});
+    QString offer = cText::Tr("Eine vollständige, unbeschädigte Sicherung liegt nicht im Ordner '{0}'.",
+                              {Shown(PlanOf(m_parts).Folder())});
     if (copy) {
         options.prepend(cText::Tr("Sicherung vom {0} &laden", {modDate::ToText(copy->Day)}));
-        offer = cText::Tr("Die neueste unbeschädigte Sicherung ist vom {0}. Sie enthält:\n{1}.",
+        offer = cText::Tr("Die neueste vollständige, unbeschädigte Sicherung ist vom {0}. Sie enthält:\n{1}.",
                           {modDate::ToText(copy->Day), modBookFile::Describe(modBookFile::Look(copy->Path))});
     }
     const QString file = Shown(m_parts.Book.Path());

@@ -43,8 +43,6 @@ public:
         box.state.setFlag(check.toInt() == Qt::Checked ? QStyle::State_On : QStyle::State_Off);
         box.state.setFlag(QStyle::State_HasFocus, false);
         option.widget->style()->drawPrimitive(QStyle::PE_IndicatorItemViewItemCheck, &box, painter, option.widget);
-        painter->setPen(modTone::Quiet(option.palette)); // on a dark ground the style's own edge cannot be seen
-        painter->drawRect(box.rect.adjusted(0, 0, -1, -1));
     }
 
     // Wide enough for the sums, which are bold.

@@ -118,7 +118,8 @@ void frmBuchung::ShowCorrections()
     const cEntryFields fields = m_form->Read();
     const bool hasPage = m_editor.ShowsCorrections(fields);
     m_pages->setTabVisible(correctionsPage, hasPage);
-    m_pages->tabBar()->setVisible(hasPage); // one page alone needs no tab
+    m_pages->tabBar()->setVisible(hasPage);                                  // one page alone needs no tab
+    m_pages->tabBar()->setFocusPolicy(hasPage ? Qt::TabFocus : Qt::NoFocus); // hidden, it would end the way of Tab
     m_pages->setTabText(correctionsPage, cText::Tr("Korrekturen ({0})", {QString::number(fields.Corrections.size())}));
     m_corrections->ShowLines();
 }

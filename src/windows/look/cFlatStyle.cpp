@@ -15,6 +15,7 @@ namespace {
 
 const QString plainStyle = u"fusion"_s;
 constexpr int arrowRoom = 14;
+constexpr int buttonRoom = 18; // beside the words of a button
 
 // An arrow where the plain style would draw a filled triangle.
 bool DrawArrow(QStyle::PrimitiveElement element, const QStyleOption& option, QPainter& painter)
@@ -70,6 +71,11 @@ bool DrawBox(QStyle::PrimitiveElement element, const QStyleOption& option, QPain
         }
         return true;
     case QStyle::PE_Frame: modFlat::Frame(painter, option); return true;
+    case QStyle::PE_FrameMenu: modFlat::Frame(painter, option); return true;
+    case QStyle::PE_PanelMenu:
+        painter.fillRect(option.rect, option.palette.color(QPalette::Base));
+        modFlat::Frame(painter, option);
+        return true;
     case QStyle::PE_FrameGroupBox: modFlat::GroupFrame(painter, option); return true;
     case QStyle::PE_PanelScrollAreaCorner:
         painter.fillRect(option.rect, option.palette.color(QPalette::Window));
@@ -109,6 +115,7 @@ QRect HandleOf(const QStyleOptionSlider& bar, int leastLength)
 
 cFlatStyle::cFlatStyle() : QProxyStyle(plainStyle)
 {
+    m_running.start();
 }
 
 bool cFlatStyle::IsPlain(const QPalette& palette)
@@ -134,9 +141,10 @@ QSize cFlatStyle::sizeFromContents(ContentsType type, const QStyleOption* option
     if (type == CT_HeaderSection) {
         made.rheight() += 6;
     }
-    const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
-    if (type == CT_PushButton && button != nullptr && button->features.testFlag(QStyleOptionButton::HasMenu)) {
-        made.rwidth() += 8; // between the text and its arrow
+    if (const auto* button = qstyleoption_cast<const QStyleOptionButton*>(option);
+        type == CT_PushButton && button != nullptr && !button->text.isEmpty()) {
+        const bool hasMenu = button->features.testFlag(QStyleOptionButton::HasMenu);
+        made.setWidth(std::max(made.width(), size.width() + (hasMenu ? buttonRoom + arrowRoom / 2 : buttonRoom)));
     }
     if (type == CT_ToolButton && IsMenuTool(*option)) {
         made.rwidth() += arrowRoom;
@@ -218,6 +226,18 @@ void cFlatStyle::drawControl(ControlElement element, const QStyleOption* option,
             return;
         }
         break;
+    case CE_MenuItem:
+        if (const auto* item = qstyleoption_cast<const QStyleOptionMenuItem*>(option);
+            item != nullptr && item->menuItemType == QStyleOptionMenuItem::Separator && item->text.isEmpty()) {
+            modFlat::MiddleLine(*painter, *option);
+            return;
+        }
+        break;
+    case CE_ProgressBarContents:
+        if (const auto* bar = qstyleoption_cast<const QStyleOptionProgressBar*>(option)) {
+            DrawProgress(*bar, *painter, widget);
+        }
+        return;
     case CE_ProgressBarGroove: modFlat::Groove(*painter, *option, option->rect, 0.15); return;
     default: break;
     }
@@ -246,7 +266,10 @@ void cFlatStyle::DrawSpinBox(const QStyleOptionSpinBox& box, QPainter& painter, 
     }
     const auto draw = [&](SubControl part, QAbstractSpinBox::StepEnabledFlag step, Qt::ArrowType direction) {
         const QRect place = proxy()->subControlRect(CC_SpinBox, &box, part, widget);
-        QStyleOption arrow(box);
+        QStyleOption arrow;
+        arrow.palette = box.palette;
+        arrow.fontMetrics = box.fontMetrics;
+        arrow.state = box.state;
         arrow.state.setFlag(State_Enabled, box.state.testFlag(State_Enabled) && box.stepEnabled.testFlag(step));
         if (arrow.state.testFlag(State_Enabled) && box.activeSubControls == part) {
             modFlat::Shade(painter, box, place.adjusted(0, 1, -1, -1), box.state.testFlag(State_Sunken) ? 0.2 : 0.1);
@@ -274,6 +297,29 @@ void cFlatStyle::DrawMenuTool(const QStyleOptionToolButton& button, QPainter& pa
     proxy()->drawControl(CE_ToolButtonLabel, &text, &painter, widget);
     const QRect end(button.rect.right() - arrowRoom, button.rect.top(), arrowRoom, button.rect.height());
     modFlat::Arrow(painter, button, visualRect(button.direction, button.rect, end), Qt::DownArrow);
+}
+
+void cFlatStyle::DrawProgress(const QStyleOptionProgressBar& bar, QPainter& painter, const QWidget* widget) const
+{
+    const auto part = [&](double from, double to) {
+        const auto at = [&](double share) { return int(share * bar.rect.width()); };
+        const QRect place(bar.rect.left() + at(from), bar.rect.top(), at(to) - at(from), bar.rect.height());
+        modFlat::Filled(painter, bar, visualRect(bar.direction, bar.rect, place));
+    };
+    const qint64 range = qint64(bar.maximum) - bar.minimum;
+    if (range > 0) {
+        part(0, double(qint64(bar.progress) - bar.minimum) / double(range));
+        return;
+    }
+    painter.save(); // how far it is nobody knows: the plain style has it painted again and again, unseen
+    painter.setClipRect(QRect());
+    QProxyStyle::drawControl(CE_ProgressBarContents, &bar, &painter, widget);
+    painter.restore();
+    constexpr int way = 1600; // milliseconds there and back
+    constexpr double length = 0.25;
+    const double share = double(m_running.elapsed() % way) / way;
+    const double start = (1 - length) * (share < 0.5 ? 2 * share : 2 - 2 * share);
+    part(start, start + length);
 }
 
 void cFlatStyle::DrawScrollBar(const QStyleOptionSlider& bar, QPainter& painter, const QWidget* widget) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QElapsedTimer>
 #include <QPalette>
 #include <QProxyStyle>
 
@@ -7,6 +8,7 @@ class QPainter;
 class QStyleOption;
 class QStyleOptionComboBox;
 class QStyleOptionComplex;
+class QStyleOptionProgressBar;
 class QStyleOptionSlider;
 class QStyleOptionSpinBox;
 class QStyleOptionToolButton;
@@ -43,5 +45,8 @@ private:
     void DrawComboBox(const QStyleOptionComboBox& box, QPainter& painter, const QWidget* widget) const;
     void DrawSpinBox(const QStyleOptionSpinBox& box, QPainter& painter, const QWidget* widget) const;
     void DrawMenuTool(const QStyleOptionToolButton& button, QPainter& painter, const QWidget* widget) const;
+    void DrawProgress(const QStyleOptionProgressBar& bar, QPainter& painter, const QWidget* widget) const;
     void DrawScrollBar(const QStyleOptionSlider& bar, QPainter& painter, const QWidget* widget) const;
+
+    QElapsedTimer m_running; // for what moves
 };

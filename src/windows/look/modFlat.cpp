@@ -9,8 +9,8 @@
 namespace {
 
 constexpr double corner = 4;
-constexpr double softEdge = 0.22; // shares of the text over the ground
-constexpr double strongEdge = 0.42;
+constexpr double softEdge = 0.3; // shares of the text over the ground
+constexpr double strongEdge = 0.55;
 constexpr double quietEdge = 0.14;
 constexpr double underPointer = 0.07;
 constexpr double pressed = 0.14;
@@ -156,9 +156,11 @@ void modFlat::Shade(QPainter& painter, const QStyleOption& option, const QRect& 
 
 void modFlat::Focus(QPainter& painter, const QStyleOption& option)
 {
-    QColor fill = Accent(option);
-    fill.setAlphaF(0.1F);
-    Rounded(painter, option.rect, AccentEdge(option), fill);
+    const bool isOnAccent = Is(option, QStyle::State_Selected); // where the accent itself could not be seen
+    const QColor edge = isOnAccent ? option.palette.color(QPalette::HighlightedText) : AccentEdge(option);
+    QColor fill = edge;
+    fill.setAlphaF(0.12F);
+    Rounded(painter, option.rect, edge, fill);
 }
 
 void modFlat::Frame(QPainter& painter, const QStyleOption& option)
@@ -172,7 +174,7 @@ void modFlat::Frame(QPainter& painter, const QStyleOption& option)
 
 void modFlat::GroupFrame(QPainter& painter, const QStyleOption& option)
 {
-    const int title = option.fontMetrics.height() + 3; // as much as the plain style leaves it
+    const int title = option.fontMetrics.height() + 3; // about what the plain style leaves it
     Rounded(painter, option.rect.adjusted(0, title, 0, 0), Ink(option, softEdge), Qt::NoBrush);
 }
 
@@ -216,7 +218,8 @@ void modFlat::Arrow(QPainter& painter, const QStyleOption& option, const QRect& 
     case Qt::RightArrow: painter.rotate(-90); break;
     default: break;
     }
-    QColor ink = option.palette.color(QPalette::ButtonText);
+    const bool isOnAccent = Is(option, QStyle::State_Selected);
+    QColor ink = option.palette.color(isOnAccent ? QPalette::HighlightedText : QPalette::ButtonText);
     ink.setAlphaF(Is(option, QStyle::State_Enabled) ? 0.75F : 0.35F);
     painter.setPen(QPen(ink, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     painter.setBrush(Qt::NoBrush);
@@ -257,6 +260,12 @@ void modFlat::BottomLine(QPainter& painter, const QStyleOption& option)
 {
     const QRect& place = option.rect;
     painter.fillRect(place.left(), place.bottom(), place.width(), 1, Ink(option, softEdge));
+}
+
+void modFlat::MiddleLine(QPainter& painter, const QStyleOption& option)
+{
+    const QRect& place = option.rect;
+    painter.fillRect(place.left() + 6, place.center().y(), place.width() - 12, 1, Ink(option, softEdge));
 }
 
 void modFlat::Groove(QPainter& painter, const QStyleOption& option, const QRect& place, double share)

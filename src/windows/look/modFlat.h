@@ -5,8 +5,6 @@
 class QPainter;
 class QRect;
 class QStyleOption;
-class QStyleOptionButton;
-class QStyleOptionHeader;
 
 // The shapes that the flat look is made of. All colours are mixed from the option's palette, so they follow light, dark
 // and the desktop's own colours.
@@ -39,6 +37,8 @@ void HeaderGround(QPainter& painter, const QStyleOption& option, bool isHorizont
 void Tab(QPainter& painter, const QStyleOption& option);
 // A line of the edge's colour along the bottom of the option's place.
 void BottomLine(QPainter& painter, const QStyleOption& option);
+// The same in the middle of it: between two parts of a menu.
+void MiddleLine(QPainter& painter, const QStyleOption& option);
 
 // A rounded bar without an edge: of scroll bars and of progress.
 void Groove(QPainter& painter, const QStyleOption& option, const QRect& place, double share);

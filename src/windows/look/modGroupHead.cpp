@@ -11,13 +11,14 @@
 
 namespace {
 
-void PaintFocus(const QTreeView& view, QPainter& painter, const QStyleOptionViewItem& option)
+void PaintFocus(const QTreeView& view, QPainter& painter, const QStyleOptionViewItem& option, bool isSelected)
 {
     QStyleOptionFocusRect focus;
     focus.QStyleOption::operator=(option);
     focus.rect = option.rect;
     focus.state |= QStyle::State_KeyboardFocusChange | QStyle::State_Item;
-    focus.backgroundColor = option.palette.color(QPalette::Button);
+    focus.state.setFlag(QStyle::State_Selected, isSelected);
+    focus.backgroundColor = option.palette.color(isSelected ? QPalette::Highlight : QPalette::Window);
     view.style()->drawPrimitive(QStyle::PE_FrameFocusRect, &focus, &painter, &view);
 }
 
@@ -33,18 +34,19 @@ void modGroupHead::Paint(const QTreeView& view, QPainter& painter, const QStyleO
 {
     const QRect line = option.rect;
     const bool isSelected = view.selectionModel()->isSelected(head);
-    painter.fillRect(line, isSelected ? option.palette.highlight() : option.palette.button());
+    painter.fillRect(line, isSelected ? option.palette.highlight() : option.palette.window());
     QStyleOption arrow;
     arrow.rect = ArrowIn(line);
     arrow.palette = option.palette;
     arrow.state = QStyle::State_Enabled;
+    arrow.state.setFlag(QStyle::State_Selected, isSelected);
     const QStyle::PrimitiveElement shape =
         view.isExpanded(head) ? QStyle::PE_IndicatorArrowDown : QStyle::PE_IndicatorArrowRight;
     view.style()->drawPrimitive(shape, &arrow, &painter, &view);
     QFont font = option.font;
     font.setBold(true);
     painter.setFont(font);
-    painter.setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::ButtonText));
+    painter.setPen(option.palette.color(isSelected ? QPalette::HighlightedText : QPalette::WindowText));
     // A sum that is wider than its column takes room from the name: without its sign it would be another one.
     const QString sum = head.siblingAtColumn(sumColumn).data().toString();
     const int margin = view.style()->pixelMetric(QStyle::PM_FocusFrameHMargin, nullptr, &view) + 1; // as cells have it
@@ -63,6 +65,6 @@ void modGroupHead::Paint(const QTreeView& view, QPainter& painter, const QStyleO
     const QString name = painter.fontMetrics().elidedText(head.data().toString(), Qt::ElideRight, width);
     painter.drawText(QRect(left, line.top(), width, line.height()), Qt::AlignLeft | Qt::AlignVCenter, name);
     if (view.hasFocus() && view.currentIndex().siblingAtColumn(0) == head) {
-        PaintFocus(view, painter, option);
+        PaintFocus(view, painter, option, isSelected);
     }
 }

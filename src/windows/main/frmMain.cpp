@@ -91,6 +91,7 @@ void frmMain::BuildCommands()
         action->setIcon(modIcon::Get(QString::fromUtf8(command.Icon)));
         action->setStatusTip(cText::Tr(command.Hint));
         action->setCheckable(command.Setting != nullptr || modCommand::Has(command, modCommand::OneOf));
+        action->setIconVisibleInMenu(!action->isCheckable()); // the picture would stand in the place of the tick
         if (modCommand::Has(command, modCommand::OneOf)) {
             action->setActionGroup(menu.findChild<QActionGroup*>());
         }
