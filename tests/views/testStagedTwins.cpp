@@ -189,8 +189,8 @@ private Q_SLOTS:
         later.ImportDate = later.ImportDate.addDays(2);
         cImportEntryList rows{First(), later, other, second};
         rows.removeIf([](const cImportEntry& row) { return row.ID == 10 && row.isEqual(First()); });
-        const auto twins = modStagedTwins::Find(
-            rows, {.AccountOf = [](const QString& number) { return number; }, .FileOf = FileOf});
+        const auto twins =
+            modStagedTwins::Find(rows, {.AccountOf = [](const QString& number) { return number; }, .FileOf = FileOf});
         QCOMPARE(twins.value(later.ID).RowId, second.ID);
     }
 
