@@ -71,22 +71,13 @@ private:
         return false;
     }
 
-    // The first statement may hold nothing, or only what came before: what is valued in the days up to its balance and
-    // entered behind it comes with the next one. No older balance could fit again.
-    [[nodiscard]] bool IsBeforeAll(qsizetype index) const
-    {
-        const cBankBalance& balance = m_balances.at(index);
-        return index == 0 && balance.Valued() + m_error == m_result.Opening
-            && m_rows.front().Day.daysTo(balance.Day) <= passingDays;
-    }
-
     [[nodiscard]] cPoint Judge(qsizetype index)
     {
         const cBankBalance& balance = m_balances.at(index);
         const qint64 evening = m_result.Opening + m_sums[Behind(balance.Day)];
         cPoint point{balance.Day, balance.Cents, evening + balance.Moved(), eVerdict::Differs, balance.Moved()};
         const bool fits = Fits(balance);
-        if (!fits && (IsPassing(index) || IsBeforeAll(index))) {
+        if (!fits && IsPassing(index)) {
             point.Verdict = eVerdict::Passing;
             return point;
         }

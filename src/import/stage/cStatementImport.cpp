@@ -538,7 +538,7 @@ void cStatementImport::KeepBalances(const cStatementRead& read, const cKnownAcco
             result.FirstBalances.append(account);
         }
     }
-    if (!m_balances->Add(read.Balances, read.Entries)) {
+    if (!m_balances->Add(read.Balances, read.Entries) || !m_balances->AddEarly(read.EarlyRows)) {
         result.Problems.append({0, cText::Tr("Der Kontostand der Bank konnte nicht gespeichert werden.")});
     }
 }
