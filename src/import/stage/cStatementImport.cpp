@@ -427,9 +427,6 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
     result.Skipped = read.Skipped;
     result.Accounts = cImportHive::AccountsOf(read.Entries);
     result.Book = modForeignNames::Of(read, options.DefaultAccount);
-    if (options.Run == eStagingRun::Try) {
-        result.Rows.reserve(result.Read);
-    }
     cTally tally(result);
     cGate gate(staging, options.Duplicates, memory);
     for (int i = 0; i < result.Read; ++i) {
