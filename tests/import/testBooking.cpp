@@ -449,6 +449,8 @@ private Q_SLOTS:
             1);
         row("other words", {u"Miete Anna"_s, u"Mietzahlung"_s, flat}, nobody, 2); // the first may be the only one
         row("named later", {u"Miete Januar 2026"_s, u"Miete Februar 2026"_s, u"Miete März 2026"_s}, last, 1);
+        const QString whole = u"Tann Miete Hof Ref.: NOTPROVIDED"_s; // as a bank without a column of names has it
+        row("named apart later", {whole, whole, u"Miete Hof"_s}, last, 1);
         row("somebody else", {flat, flat, u"Miete"_s}, last, 2);
         row("account without a name", {flat, flat, u"Miete"_s}, {{}, {}, u"/DE05"_s}, 2);
         row("account later", {flat, flat, flat}, {u"Tann"_s, u"Tann"_s, u"Tann/DE05"_s}, 1);

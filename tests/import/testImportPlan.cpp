@@ -364,6 +364,22 @@ private Q_SLOTS:
         QCOMPARE(isPaying(other), account.isEmpty());
     }
 
+    // Its other side, of which the bank names no account, fits a transfer to somewhere else.
+    void ATransferHasTwoAccounts()
+    {
+        cBank bank;
+        QVERIFY(bank.Accounts.Assign(u"333"_s, u"Depot"_s));
+        const int saved = bank.Stage(day, 20000, u"Ole Muster"_s, u"111"_s, u"222"_s);
+        cNoProgress progress;
+        const int entry = bank.Booking.Book({saved}, bank.Booking.Propose({saved}), progress).EntryIds.constFirst();
+        const int out = bank.Stage(day, -20000, u"Ole Muster"_s, {});
+        const int in = bank.Stage(day.addDays(1), 20000, u"Ole Muster"_s, u"111"_s, u"333"_s);
+        const QHash<int, cRowPlan> plans = bank.Make({out, in});
+        QCOMPARE(MatchOf(plans.value(out)), entry);
+        QCOMPARE(plans.value(in).Proposal.ExistingEntry, 0);
+        QCOMPARE(plans.value(in).Proposal.Entry.EntryType, modWord::Einnahme);
+    }
+
     // Both sides came in two formats, one of which has the days of the values: each row is nearest to a double.
     void DoublesLeaveTheTransfer()
     {

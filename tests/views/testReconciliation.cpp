@@ -99,6 +99,9 @@ private Q_SLOTS:
             {u"C260601EUR846,62 260607D30,00"_s, u"10.01.2026;-10,00"_s, u"05.03.2026;-2000,00"_s});
         row("a balance between",
             {u"10.01.2026;-10,00"_s, u"C260601EUR4846,62 260607D30,00"_s, u"C260301EUR2846,62 260305C2000,00"_s});
+        row("behind a balance that came without rows",
+            {u"C260101EUR2856,62\n:62F:C260101EUR2856,62"_s, u"C260601EUR846,62 260607D30,00"_s,
+             u"05.03.2026;-2000,00"_s, u"10.01.2026;-10,00"_s});
         row("a row that may be there twice", {u"C260101EUR2856,62 260102D12,34"_s, u"30.12.2025;-12,34"_s});
     }
 

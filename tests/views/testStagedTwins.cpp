@@ -168,20 +168,29 @@ private Q_SLOTS:
         QCOMPARE(twins.value(archive.ID).RowId, value.ID);
     }
 
+    void EachOfTwoEqualRowsHasItsTwin_data()
+    {
+        const cTestRows<QString> row("name"); // in the format that has both on one day
+        row("other words", u"SWT"_s);
+        row("the same words, so that only the second was staged", First().ImportBeneficiary);
+    }
+
     // Two equal purchases of a day: one format says so, the other names their value days.
     void EachOfTwoEqualRowsHasItsTwin()
     {
         cImportEntry other = First();
         other.ID = 10;
-        other.ImportBeneficiary = u"SWT"_s;
+        QFETCH(QString, name);
+        other.ImportBeneficiary = name;
         cImportEntry second = other;
         second.ID = 11;
         cImportEntry later = First();
         later.ID = 2;
         later.ImportDate = later.ImportDate.addDays(2);
+        cImportEntryList rows{First(), later, other, second};
+        rows.removeIf([](const cImportEntry& row) { return row.ID == 10 && row.isEqual(First()); });
         const auto twins =
-            modStagedTwins::Find({First(), later, other, second},
-                                 {.AccountOf = [](const QString& number) { return number; }, .FileOf = FileOf});
+            modStagedTwins::Find(rows, {.AccountOf = [](const QString& number) { return number; }, .FileOf = FileOf});
         QCOMPARE(twins.value(later.ID).RowId, second.ID);
     }
 

@@ -87,7 +87,7 @@ const QHash<QString, QString> texts{
      "30.10.2026;01.11.2026;Petrol;-10,00\n05.10.2026;05.10.2026;Korn;-40,00\n"_s},
     {u"11.csv"_s,
      u"Konto:;1234567\nKontostand vom 30.11.2026:;32,00 EUR\n\nBuchungstag;Wertstellung;Verwendungszweck;Betrag\n"
-     "10.11.2026;10.11.2026;Korn;-20,00\n02.11.2026;31.10.2026;Interest;2,00\n"_s},
+     "10.11.2026;10.11.2026;Korn;-20,00\n02.11.2026;30.10.2026;Interest;2,00\n"_s},
     {u"all.csv"_s,
      u"Konto:;1234567\n\nWertstellung;Verwendungszweck;Betrag;Saldo\n"
      "31.10.2026;Interest;2,00;52,00\n01.11.2026;Petrol;-10,00;50,00\n05.10.2026;Korn;-40,00;60,00\n"_s}};

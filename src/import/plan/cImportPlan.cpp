@@ -290,7 +290,9 @@ void cImportPlan::TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cP
         return;
     }
     const cRowPlan other = partner->IsSecond ? pass.Plans.value(partner->Twin->RowId) : *partner;
-    if (other.Match && IsTransfer(other.Match->Entry)) {
+    const QString account = m_knowledge->Parts.Accounts.AccountOf(row.ImportAccount);
+    if (other.Match && IsTransfer(other.Match->Entry)
+        && (other.Match->Entry.EntryAccount == account || other.Match->Entry.EntryAccountMove == account)) {
         plan.Proposal.ExistingEntry = other.Match->Entry.ID;
         plan.Proposal.PartnerRow = 0;
         plan.Group = other.Group;

@@ -283,6 +283,7 @@ private:
     }
 
     // A row of the other kind tells of one only: of two equal purchases of a day the second may be told of another day.
+    // One that was staged although its equal was there is the second: the first was left out of its file.
     [[nodiscard]] bool IsToldBy(cTold& told, QChar kind) const
     {
         if (!told.Others) {
@@ -298,6 +299,7 @@ private:
                     ++told.Before;
                 } else {
                     told.Others->append(other->Kind);
+                    told.Before += other->Row->ID < told.Row->ID && other->Row->isEqual(*told.Row) ? 1 : 0;
                 }
             }
         }

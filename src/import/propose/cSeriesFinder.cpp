@@ -67,11 +67,11 @@ bool IsMonth(const QString& word)
     return modTextDate::Read(QString(u"1 "_s + word + u" 2000"_s)).isValid();
 }
 
-// All of the purpose but numbers, dates and months.
-QString WordsOf(const cImportEntry& row)
+// All but numbers, dates and months.
+QString WordsOf(const QString& text)
 {
     QStringList words;
-    const QList<modTextWords::cWord> all = modTextWords::Of(row.ImportPurpose);
+    const QList<modTextWords::cWord> all = modTextWords::Of(text);
     for (const modTextWords::cWord& word : all) {
         if (!modTextWords::HasDigits(word.Folded, 1) && !IsMonth(word.Folded)) {
             words.append(word.Folded);
@@ -109,7 +109,7 @@ void cSeriesFinder::Note(const cImportEntry& row, int series)
     if (const QString name = modCounterparty::NameKey(row); !name.isEmpty() && name != key) {
         m_named[name].insert(series);
     }
-    if (const QString words = key.isEmpty() ? WordsOf(row) : QString(); !words.isEmpty()) {
+    if (const QString words = key.isEmpty() ? WordsOf(row.ImportPurpose) : QString(); !words.isEmpty()) {
         m_unnamed[words].insert(series);
     }
 }
@@ -169,6 +169,20 @@ QSet<int> cSeriesFinder::SeriesOf(const cImportEntry& row) const
     return name.isEmpty() ? m_entries.value(key) : m_entries.value(key) + others; // nobody has no name of his own
 }
 
+// A bank without a column for them puts names before the purpose and references behind it.
+QSet<int> cSeriesFinder::UnnamedLike(const cImportEntry& row) const
+{
+    QSet<int> series = m_unnamed.value(WordsOf(row.ImportPurpose));
+    if (WordsOf(row.ImportBeneficiary).isEmpty()) {
+        return series;
+    }
+    const QString whole = WordsOf(row.ImportBeneficiary + u' ' + row.ImportPurpose);
+    for (auto at = m_unnamed.lowerBound(whole); at != m_unnamed.cend() && at.key().startsWith(whole); ++at) {
+        series += at.value();
+    }
+    return series;
+}
+
 // A row that names nobody may pay any of them, because its words change; one that does, those that rows without a name
 // have paid in the same words: who comes with others may be somebody new. Whoever pays for two flats has two series:
 // the one of the nearer amount first.
@@ -177,7 +191,7 @@ cEntryItemList cSeriesFinder::Alike(const cImportEntry& row, const cEntryItem& e
     const bool isNamed = !modCounterparty::Key(row).isEmpty();
     QList<int> ids = SeriesOf(row).values();
     if (modRecurrence::IsRecurring(entry.EntryInterval)) {
-        ids = isNamed ? (SeriesOf(row) + m_unnamed.value(WordsOf(row))).values() : m_series.keys();
+        ids = isNamed ? (SeriesOf(row) + UnnamedLike(row)).values() : m_series.keys();
     }
     std::sort(ids.begin(), ids.end());
     cEntryItemList alike;

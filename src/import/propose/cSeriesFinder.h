@@ -71,6 +71,8 @@ private:
     // Whether another payment near the row is about that high.
     [[nodiscard]] static bool HasAbout(const cPayments& payments, qint64 cents, const cImportEntry& row, int reach);
     [[nodiscard]] QSet<int> SeriesOf(const cImportEntry& row) const; // that rows of its counterparty have paid
+    // That rows without a name have paid in its words.
+    [[nodiscard]] QSet<int> UnnamedLike(const cImportEntry& row) const;
     [[nodiscard]] cEntryItemList Alike(const cImportEntry& row, const cEntryItem& entry);
     [[nodiscard]] std::optional<cSeriesMatch> Match(const cEntryItem& series, const cImportEntry& row);
     [[nodiscard]] std::optional<cSeriesMatch> Reopen(const cEntryItemList& alike, const cImportEntry& row);
@@ -86,7 +88,7 @@ private:
     bool m_isBuilt = false;
     QHash<QString, QSet<int>> m_entries; // counterparty to the IDs of its series
     QHash<QString, QSet<int>> m_named;   // names to those that rows with an account as well have paid
-    QHash<QString, QSet<int>> m_unnamed; // words of a purpose to those that rows without a name have paid
+    QMap<QString, QSet<int>> m_unnamed;  // words of a purpose to those that rows without a name have paid
     QHash<int, cEntryItem> m_series;     // by ID
     bool m_hasDays = false;
     QHash<QString, QHash<QString, cDays>> m_days; // counterparty and own account number to its rows

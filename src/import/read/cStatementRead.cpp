@@ -39,6 +39,7 @@ void cStatementRead::Append(cStatementRead more)
     Problems += more.Problems;
     Skipped += more.Skipped;
     Balances += more.Balances;
+    EarlyRows += more.EarlyRows;
     BankCodes.insert(more.BankCodes);
     ClosingBalance = more.ClosingBalance ? more.ClosingBalance : ClosingBalance;
     NeedsAccount = NeedsAccount || more.NeedsAccount;

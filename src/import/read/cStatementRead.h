@@ -45,6 +45,15 @@ struct cAccountBalance
     bool operator==(const cAccountBalance&) const = default;
 };
 
+// A row that the bank entered behind its day. Balances between the two lack it, also those of earlier statements.
+struct cEarlyRow
+{
+    QString Account;
+    QDate Day;
+    QDate Booked;
+    qint64 Cents = 0;
+};
+
 // A booking in parts, and the row that would be all of it.
 struct cWholeBooking
 {
@@ -64,6 +73,7 @@ struct cStatementRead
     QList<cReadProblem> Problems;
     QList<cSkippedRow> Skipped;
     QList<cAccountBalance> Balances;  // by account, where the format has them; the closing one comes last
+    QList<cEarlyRow> EarlyRows;       // of tables that name no balance before them
     QString Refusal;                  // German; why nothing could be read at all. Empty when the file was read
     bool NeedsAccount = false;        // no account in the file and none was given: nothing may be staged
     bool IsAccountRemembered = false; // the file names none: it is the one that such files were given before

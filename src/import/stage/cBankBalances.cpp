@@ -109,6 +109,30 @@ bool cBankBalances::Add(const QList<cAccountBalance>& balances, const cImportEnt
     return isDone;
 }
 
+bool cBankBalances::AddEarly(const QList<cEarlyRow>& rows)
+{
+    QMap<QString, QList<cEarlyRow>> byAccount;
+    for (const cEarlyRow& row : rows) {
+        byAccount[row.Account].append(row);
+    }
+    bool isDone = true;
+    for (auto account = byAccount.constKeyValueBegin(); account != byAccount.constKeyValueEnd(); ++account) {
+        cBankBalanceList known = Of(account->first);
+        for (cBankBalance& balance : known) {
+            balance = {balance.Day, balance.Cents};
+            for (const cEarlyRow& row : account->second) {
+                if (row.Day <= balance.Day && balance.Day < row.Booked) {
+                    balance.Early.Cents += row.Cents;
+                    ++balance.Early.Count;
+                }
+            }
+        }
+        known.removeIf([](const cBankBalance& balance) { return balance.Early.Count == 0; });
+        isDone = Add(account->first, known) && isDone;
+    }
+    return isDone;
+}
+
 bool cBankBalances::Add(const QString& account, const cBankBalanceList& balances)
 {
     const cBankBalanceList before = Of(account);

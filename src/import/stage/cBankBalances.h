@@ -3,10 +3,12 @@
 #include "model/bank/cBankBalance.h"
 #include "model/cImportEntry.h"
 
+#include <QList>
 #include <QString>
 
 class cSettings;
 struct cAccountBalance;
+struct cEarlyRow;
 
 // The balances that statements named, kept per account and day in the settings "SALDO:" + number: with the transactions
 // alone nobody would see that one is missing. Beside them the bank codes of account numbers, "KTOBLZ:" + number.
@@ -27,6 +29,8 @@ public:
     // Keeps the balances of a statement. One without a day gets that of the account's newest transaction in `entries`;
     // without either, or without an account, it is dropped. False when the database refuses.
     bool Add(const QList<cAccountBalance>& balances, const cImportEntryList& entries);
+    // Notes with the balances that are known what these lack. False when the database refuses.
+    [[nodiscard]] bool AddEarly(const QList<cEarlyRow>& rows);
 
     // Of the bank at which a staged account has this number; empty when no statement has named it.
     [[nodiscard]] QString BankCodeOf(const QString& number) const;

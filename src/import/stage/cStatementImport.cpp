@@ -421,9 +421,6 @@ void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options
     result.Skipped = read.Skipped;
     result.Accounts = cImportHive::AccountsOf(read.Entries);
     result.Book = modForeignNames::Of(read, options.DefaultAccount);
-    if (options.Run == eStagingRun::Try) {
-        result.Rows.reserve(result.Read);
-    }
     cTally tally(result);
     cGate gate(staging, options.Duplicates, memory);
     for (int i = 0; i < result.Read; ++i) {
@@ -532,7 +529,7 @@ void cStatementImport::KeepBalances(const cStatementRead& read, const cKnownAcco
             result.FirstBalances.append(account);
         }
     }
-    if (!m_balances->Add(read.Balances, read.Entries)) {
+    if (!m_balances->Add(read.Balances, read.Entries) || !m_balances->AddEarly(read.EarlyRows)) {
         result.Problems.append({0, cText::Tr("Der Kontostand der Bank konnte nicht gespeichert werden.")});
     }
 }

@@ -13,6 +13,9 @@ void cRowBalances::AddRow(const cImportEntry& entry, QDate booked, std::optional
     if (booked.isValid() && booked < entry.ImportDate) {
         m_late.push_back({booked, entry.ImportDate, entry.ImportValue});
     }
+    if (booked.isValid() && booked > entry.ImportDate) {
+        m_early.append({entry.ImportAccount, entry.ImportDate, booked, entry.ImportValue});
+    }
 }
 
 // Banks list the newest row first or last; the balances themselves say which it is, else the days.
@@ -40,7 +43,9 @@ cBankBalance::cMoved cRowBalances::LateOn(QDate day) const
 
 void cRowBalances::KeepIn(cStatementRead& read, const QString& account, const std::optional<cAccountBalance>& above)
 {
-    if (!m_points.empty() && IsNewestFirst()) {
+    if (m_points.empty()) {
+        read.EarlyRows = m_early;
+    } else if (IsNewestFirst()) {
         std::reverse(m_points.begin(), m_points.end());
     }
     if (!m_closing && !m_points.empty()) {

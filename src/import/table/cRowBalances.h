@@ -42,5 +42,6 @@ private:
 
     std::vector<cPoint> m_points; // rows with a balance
     std::vector<cLate> m_late;    // rows that are valued after they were entered
+    QList<cEarlyRow> m_early;
     std::optional<cAccountBalance> m_closing;
 };
