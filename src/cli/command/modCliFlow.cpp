@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "cli/cCliBook.h"
 #include "cli/console/cCliReader.h"
+#include "views/statement/cSeriesCheck.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -79,6 +80,11 @@ int modCliFlow::ReportBooked(const cCliContext& context, const cStatementDesk::c
     QStringList lines = booked.Lines;
     if (booked.Left > 0) {
         lines.append(cText::Tr("Offen bleiben: {0}; \"propose\" zeigt, warum.", {QString::number(booked.Left)}));
+    }
+    if (booked.IsDone && !context.Book->Statements.Series().Find().isEmpty()) {
+        lines.append(
+            cText::Tr("Bei wenigstens einer Serie sind Buch und Bank nicht einig; \"series --dry-run\" zeigt sie, "
+                      "\"series\" gleicht sie an."));
     }
     for (const QString& line : lines) {
         context.Call.Has(u"json"_s) ? modConsole::Error(line) : modConsole::Out(line + u'\n');
