@@ -1,6 +1,7 @@
 #include "base/cProgress.h"
 #include "base/modAmount.h"
 #include "model/modSettingKey.h"
+#include "model/modSplit.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 #include "support/testBook.h"
@@ -468,6 +469,42 @@ private Q_SLOTS:
         QCOMPARE(m_page->Data.GetEntryMods(rent).value(0).EntryValue, 66000);
         QVERIFY(m_page->Data.Journal().Undo());
         QCOMPARE(m_page->Data.GetEntryMods(rent).size(), 0);
+    }
+
+    void ALeftOutMonthIsPaidAfterAll_data() const
+    {
+        // parts: of a series of 650 euros whose March no statement told of
+        const cTestRows<QList<int>, double, std::deque<int>> row("parts", "booked", "decisions");
+        row("no amount to ask about", {65000}, -650, {0});
+        row("both parts", {60000, 5000}, -650, {0});
+        row("another amount that the user does not want", {65000}, -660, {0, 2});
+    }
+
+    void ALeftOutMonthIsPaidAfterAll()
+    {
+        QFETCH(const QList<int>, parts);
+        QFETCH(const double, booked);
+        QFETCH(const std::deque<int>, decisions);
+        const QDate first = day.addMonths(-1);
+        QList<int> ids;
+        for (const int cents : parts) {
+            cEntryItem part = m_page->cTestBook::Spend(first, cents, u"Miete Tann"_s, u"Monatlich"_s);
+            ids.append(part.ID);
+            modSplit::SetGroup(part, parts.size() > 1 ? ids.constFirst() : 0);
+            QVERIFY(m_page->Data.ChangeEntry(part));
+            QVERIFY(m_page->Data.AddNewEntryMod({0, part.ID, modWord::Betrag, QDate(2026, 3, 1), QDate(2026, 3, 31), 0,
+                                                 u"Laut Kontoauszug nicht gebucht"_s, day}));
+        }
+        for (const QDate paid : {first, day.addMonths(1)}) {
+            m_page->cTestBook::Stage(u"1234567"_s, paid, -65000, u"Miete Tann"_s, ids.constFirst());
+        }
+        m_page->User.Decisions = decisions;
+        QVERIFY(m_page->Review.Book({m_page->Stage(booked, u"Miete Tann"_s)}, m_page->Progress));
+        QCOMPARE(m_page->User.Asked.size(), static_cast<qsizetype>(decisions.size()));
+        QCOMPARE(m_page->Data.CountEntries(), parts.size());
+        cEntryQuery query;
+        query.Start = query.End = day;
+        QCOMPARE(modSplit::Net(m_page->Data.GetEntries(query)), -65000);
     }
 
     void SaysWhyThereIsNoEntry()

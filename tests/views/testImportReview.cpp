@@ -458,8 +458,10 @@ private Q_SLOTS:
         cEntryItem part = m_page->Data.GetEntries({}).value(0);
         modSplit::SetGroup(part, part.ID);
         QVERIFY(m_page->Data.ChangeEntry(part) && m_page->Data.AddNewEntry(part));
-        QCOMPARE(m_page->Review.StartChange({id})->Count(), 2);         // the whole purchase
-        QVERIFY(!m_page->Review.Choose({id}, u"Wohnung; Miete"_s, {})); // the user says no
+        QCOMPARE(m_page->Review.StartChange({id})->Count(), 2); // the whole purchase
+        // as many rows as parts
+        const int second = m_page->Stage({}, QDate(2026, 1, 2), -100, {}, modSplit::Group(part)).ID;
+        QVERIFY(!m_page->Review.Choose({id, second}, u"Wohnung; Miete"_s, {})); // the user says no
         QVERIFY(m_page->User.Asked.constLast().startsWith(u"Ändern: 2 Einträge\n"_s));
         QVERIFY(m_page->Data.DeleteEntry(part.ID)); // the added one
         part = m_page->Data.GetEntries({}).value(0);

@@ -261,8 +261,9 @@ private Q_SLOTS:
         const QString corrected = u"2026-06-01 900 kleiner"_s;
         const QString paid = u"2026-07-01 1000 "_s;
         const QString onItsDay = u"2026-09-01 1000 Laut Kontoauszug"_s;
-        row("whole series", {}, {u"2026-04-01 2000 "_s, u"2026-05-01 2000 "_s, corrected, paid, onItsDay});
-        row("from the moved one on", QDate(2026, 5, 10), {u"2026-05-01 2000 "_s, corrected, paid, onItsDay});
+        const QString notAsPaid = u"2026-11-01 1000 "_s; // nothing the bank has said
+        row("whole series", {}, {u"2026-04-01 2000 "_s, u"2026-05-01 2000 "_s, corrected, paid, onItsDay, notAsPaid});
+        row("from the moved one on", QDate(2026, 5, 10), {u"2026-05-01 2000 "_s, corrected, paid, onItsDay, notAsPaid});
     }
 
     void MovedOnesFollowTheAmount()
@@ -276,13 +277,14 @@ private Q_SLOTS:
         book.Stage({}, QDate(2026, 8, 2), 1000, {}, book.Rent);
         book.Stage({}, QDate(2026, 9, 10), 1000, {}, book.Rent);
         book.Stage({}, QDate(2026, 10, 10), -2000, {}, book.Rent); // what the series should have been
+        book.Stage({}, QDate(2026, 11, 10), -1500, {}, book.Rent);
         const QStringList before = Corrections(book, book.Rent);
         cEntryFields fields =
             (from.isValid() ? book.Editor.LoadFrom(book.Rent, from) : book.Editor.Load(book.Rent)).value();
         fields.Amount = u"20"_s;
         QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         QTEST(Corrections(book, book.Editor.SavedId()), "stored");
-        QVERIFY(book.Data.Journal().UndoName().endsWith(u"behält seinen Betrag (2 Mal)"));
+        QVERIFY(book.Data.Journal().UndoName().endsWith(u"behält seinen Betrag (3 Mal)"));
         QVERIFY(book.Data.Journal().Undo());
         QCOMPARE(Corrections(book, book.Rent), before);
     }

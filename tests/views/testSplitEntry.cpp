@@ -1,4 +1,5 @@
 #include "cEditorBook.h"
+#include "model/modSplit.h"
 #include "support/cTestClass.h"
 #include "views/entry/modSplitParts.h"
 
@@ -158,6 +159,7 @@ private Q_SLOTS:
         } else {
             fields.Parts.removeFirst();
             fields.Amount = u"10"_s;
+            book.User.Answers = {eAnswer::Yes}; // where the month that is paid becomes another
         }
         QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         const cImportEntry stored = book.Data.GetImportEntries().constFirst();
@@ -237,6 +239,52 @@ private Q_SLOTS:
         }
         QCOMPARE(book.Data.LoadEntry(4)->EntryDate, QDate(2026, 6, 10));
         QCOMPARE(book.Data.LoadEntry(5)->EntryDateEnd, modRecurrence::OpenEnd);
+    }
+
+    void PaidMonthsOfASeriesStay_data() const
+    {
+        // in cents: a new part; more for the second one; that one goes
+        const cTestRows<bool, int, int, int, qsizetype> row("isMoved", "added", "changed", "taken", "asked");
+        row("a new part", false, 800, 0, 0, 0);
+        row("a new part where the month was moved", true, 800, 0, 0, 0);
+        row("a part becomes dearer where the month was moved", true, 0, 200, 0, 0);
+        row("a part goes, and the user says no", false, 0, 0, 1300, 1);
+    }
+
+    // Whichever part the bank's row hangs at.
+    void PaidMonthsOfASeriesStay()
+    {
+        QFETCH(const bool, isMoved);
+        QFETCH(const int, added);
+        QFETCH(const int, changed);
+        QFETCH(const int, taken);
+        cEditorBook book;
+        cEntryFields fields = Purchase();
+        fields.Interval = u"Monatlich"_s;
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        const QDate paid(2026, 4, isMoved ? 3 : 10);
+        for (const auto& [id, cents] : {std::pair(1, 4000), std::pair(2, 1300), std::pair(3, 300)}) {
+            QVERIFY(!isMoved
+                    || book.Data.AddNewEntryMod(
+                        {0, id, modWord::Betrag, QDate(2026, 4, 1), QDate(2026, 4, 30), cents, {}, paid}));
+        }
+        book.Stage(u"1"_s, paid, -5000, {}, 1);
+        fields = book.Editor.Load(2).value();
+        fields.Amount = QString::number((5000 + added + changed - taken) / 100);
+        fields.Parts[1].Amount = QString::number((1300 + changed) / 100);
+        if (added > 0) {
+            fields.Parts.append({0, u"Haushalt; Lebensmittel"_s, u"Käse"_s, QString::number(added / 100)});
+        } else if (taken > 0) {
+            fields.Parts.remove(1);
+        }
+        (void)book.Editor.Save(fields);
+        QTEST(book.User.Asked.size(), "asked");
+        for (const int month : {4, 5}) {
+            cEntryQuery query;
+            query.Start = QDate(2026, month, 1);
+            query.End = query.Start.addDays(29);
+            QCOMPARE(modSplit::Net(book.Data.GetEntries(query)), month == 4 ? -5000 : -5000 - added - changed);
+        }
     }
 
     void CorrectedEntriesAndTransfersStayWhole()

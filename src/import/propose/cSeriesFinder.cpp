@@ -360,9 +360,7 @@ std::optional<cSeriesMatch> cSeriesFinder::Match(const cEntryItem& series, const
         return std::nullopt;
     }
     cEntryItem usual = *occurrence;
-    if (usual.EntryValue == 0 && modSeries::IsFromBank(usual.CorrectionComment)) {
-        usual.EntryValue = series.EntryValue; // left out, because this statement was read late
-    }
+    usual.EntryValue = modOccurrence::Usual(series, *occurrence);
     const bool isLike = IsAbout(row.ImportValue, usual.EntryValue)
         || (MayBe(row.ImportValue, usual.EntryValue) && std::abs(modOccurrence::Days(usual, row.ImportDate)) <= nearDays
             && !HasPayment(usual, row));

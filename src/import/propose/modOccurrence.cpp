@@ -84,3 +84,11 @@ bool modOccurrence::ReplacesOwn(const cEntryItem& occurrence, const cEntryItemFi
     return (occurrence.IsCorrected && fixMod.EntryValue != occurrence.EntryValue)
         || (occurrence.PlannedDate.isValid() && fixMod.EntryDay != occurrence.EntryDate);
 }
+
+qint64 modOccurrence::Usual(const cEntryItem& series, const cEntryItem& occurrence)
+{
+    const QString& comment = occurrence.CorrectionComment;
+    const bool isLeftOut =
+        occurrence.EntryValue == 0 && modSeries::IsFromBank(comment) && !modSeries::IsBooked(comment);
+    return isLeftOut ? series.EntryValue : occurrence.EntryValue;
+}

@@ -32,6 +32,9 @@ enum class eCorrect { AmountAndDay, Day };
 [[nodiscard]] std::optional<cEntryItemFixMod> CorrectionTo(const cEntryItem& occurrence, const cImportEntry& row,
                                                            eCorrect what = eCorrect::AmountAndDay);
 
+// What the occurrence comes to: that of the series where it was left out because no statement had told of it yet.
+[[nodiscard]] qint64 Usual(const cEntryItem& series, const cEntryItem& occurrence);
+
 // True when that would take back an amount or a day that the user gave this occurrence.
 [[nodiscard]] bool ReplacesOwn(const cEntryItem& occurrence, const cEntryItemFixMod& fixMod);
 

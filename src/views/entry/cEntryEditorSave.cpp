@@ -266,9 +266,12 @@ cEntryEditor::eSaved cEntryEditor::Store(const cFields& fields)
     if (!removed.isEmpty()) {
         KeepReceipts(rows, removed);
     }
+    const std::optional<int> kept = writer.KeepPaid(rows, removed);
+    if (!kept) {
+        return eSaved::Refused;
+    }
     cReconciledGuard guard(m_tools);
-    const int kept = removed.isEmpty() ? writer.KeepPaid(rows) : 0;
-    cUndoStep step(m_tools.Data, StepName(rows.first().Entry, kept));
+    cUndoStep step(m_tools.Data, StepName(rows.first().Entry, *kept));
     // Files are copied last: a question that is declined leaves none behind.
     const bool isWritten = writer.Write(rows, removed, m_from) && guard.Allows()
         && std::all_of(rows.begin(), rows.end(),

@@ -2,6 +2,7 @@
 
 #include "base/cText.h"
 #include "base/cUser.h"
+#include "base/modCount.h"
 #include "import/propose/modCorrected.h"
 #include "import/propose/modOccurrence.h"
 #include "model/modContract.h"
@@ -32,6 +33,15 @@ qint64 Whole(const cEntryItemList& parts)
 {
     const cEntryItem& first = parts.first();
     return first.EntryType == modWord::Umbuchung ? first.EntryValue : modSplit::Net(parts);
+}
+
+cEntryItemList EntriesOf(const QList<cEntryWrite>& rows)
+{
+    cEntryItemList entries;
+    for (const cEntryWrite& row : rows) {
+        entries.append(row.Entry);
+    }
+    return entries;
 }
 
 // What the bank said of an occurrence stays true as long as the series has it; nobody would enter it again.
@@ -84,100 +94,139 @@ bool cEntryWriter::AskLosses(QList<cEntryWrite>& rows, QDate from)
 
 // A correction stores an amount even where it only moves an occurrence. That one is the series' own and follows it;
 // what the bank has paid stays.
-void cEntryWriter::FollowAmount(cEntryWrite& row) const
+void cEntryWriter::FollowAmounts(QList<cEntryWrite>& rows, const QList<int>& removed) const
 {
-    const std::optional<cEntryItem> stored = m_data.LoadEntry(row.Entry.ID);
-    if (!stored || stored->EntryValue == row.Entry.EntryValue) {
-        return;
-    }
-    const cEntryItemFixModList before = m_data.GetEntryMods(stored->ID);
-    QList<cEntryItemFixMod*> moved;
-    for (cEntryItemFixMod& fixMod : row.Corrections) {
-        const cEntryItemFixMod* known = Find(before, fixMod.EntryStartDate);
-        if (known != nullptr && known->EntryDay.isValid() && known->EntryValue == stored->EntryValue
-            && fixMod.EntryValue == known->EntryValue && !modSeries::IsBooked(fixMod.EntryComment)) {
-            moved.append(&fixMod);
+    QList<std::pair<cEntryItemFixMod*, qint64>> moved; // and what the series comes to
+    for (cEntryWrite& row : rows) {
+        const std::optional<cEntryItem> stored = m_data.LoadEntry(row.Entry.ID);
+        if (!stored || stored->EntryValue == row.Entry.EntryValue) {
+            continue;
+        }
+        const cEntryItemFixModList before = m_data.GetEntryMods(stored->ID);
+        for (cEntryItemFixMod& fixMod : row.Corrections) {
+            const cEntryItemFixMod* known = Find(before, fixMod.EntryStartDate);
+            if (known != nullptr && known->EntryDay.isValid() && known->EntryValue == stored->EntryValue
+                && fixMod.EntryValue == known->EntryValue && !modSeries::IsBooked(fixMod.EntryComment)) {
+                moved.append({&fixMod, row.Entry.EntryValue});
+            }
         }
     }
-    const QSet<QDate> paid = moved.isEmpty() ? QSet<QDate>() : PaidPeriods(*stored, before, row.Entry.EntryValue);
-    for (cEntryItemFixMod* fixMod : moved) {
-        fixMod->EntryValue = paid.contains(fixMod->EntryStartDate) ? fixMod->EntryValue : row.Entry.EntryValue;
+    const cPaid paid = moved.isEmpty() ? cPaid() : PaidPeriods(StoredSeries(rows, removed), rows);
+    for (const auto& [fixMod, cents] : std::as_const(moved)) {
+        fixMod->EntryValue = paid.contains(fixMod->EntryStartDate) ? fixMod->EntryValue : cents;
     }
 }
 
-int cEntryWriter::KeepPaid(QList<cEntryWrite>& rows) const
+std::optional<int> cEntryWriter::KeepPaid(QList<cEntryWrite>& rows, const QList<int>& removed)
 {
-    cEntryItemList before;
-    cEntryItemList after;
-    for (const cEntryWrite& row : rows) {
-        const std::optional<cEntryItem> stored = m_data.LoadEntry(row.Entry.ID);
-        if (!stored || !modRecurrence::IsRecurring(stored->EntryInterval)) {
-            return 0;
-        }
-        before.append(*stored);
-        after.append(row.Entry);
-    }
-    const qint64 cents = Whole(after);
-    if (Whole(before) == cents) {
+    const cEntryItemList before = StoredSeries(rows, removed);
+    if (before.isEmpty() || Whole(before) == Whole(EntriesOf(rows))) {
         return 0; // also a purchase that is only divided anew
     }
-    QSet<QDate> paid;
-    for (const cEntryItem& series : std::as_const(before)) {
-        paid += PaidPeriods(series, m_data.GetEntryMods(series.ID), std::abs(cents));
+    const cPaid paid = PaidPeriods(before, rows);
+    if (!removed.isEmpty()) {
+        return AskLosing(before.first(), paid, rows.first().Entry) ? std::optional(0) : std::nullopt;
     }
     QSet<QDate> kept;
-    for (qsizetype place = 0; place < rows.size(); ++place) {
-        if (before.at(place).EntryValue != after.at(place).EntryValue) {
-            kept += KeepAmounts(before.at(place), paid, rows[place]);
+    for (cEntryWrite& row : rows) {
+        const auto own = std::find_if(before.begin(), before.end(),
+                                      [&](const cEntryItem& series) { return series.ID == row.Entry.ID; });
+        if (own == before.end()) {
+            kept += KeepAmounts(before.first(), 0, paid, row); // a new part, which was not among what was paid
+        } else if (own->EntryValue != row.Entry.EntryValue) {
+            kept += KeepAmounts(*own, own->EntryValue, paid, row);
         }
     }
     return static_cast<int>(kept.size());
 }
 
-// The periods out of `paid` that the row goes on having.
-QSet<QDate> cEntryWriter::KeepAmounts(const cEntryItem& stored, const QSet<QDate>& paid, cEntryWrite& row) const
+// What a part that goes was of a payment has no place any more. True when that is none, or the user agrees.
+bool cEntryWriter::AskLosing(const cEntryItem& stored, const cPaid& paid, const cEntryItem& after)
+{
+    const QList<QDate> starts = paid.keys();
+    const auto count = std::count_if(starts.begin(), starts.end(), [&](QDate start) {
+        const std::optional<cEntryItem> occurrence = modSeries::OccurrenceAt(stored, start);
+        return occurrence && modSeries::HasPeriod(after, modSeries::CorrectionFor(*occurrence));
+    });
+    return count == 0
+        || m_user.Ask(
+               {.Text = cText::Tr("Ein Teil dieser Serie fällt weg. Damit ändert sich auch, was die Bank schon "
+                                  "gebucht hat ({0}), und der Saldo stimmt nicht mehr mit ihr überein.\nSoll der "
+                                  "Eintrag trotzdem gespeichert werden?",
+                                  {modCount::Times(count)}),
+                .Title = {}})
+        == eAnswer::Yes;
+}
+
+// Gives the row this amount for the periods out of `paid` that it has; these.
+QSet<QDate> cEntryWriter::KeepAmounts(const cEntryItem& stored, qint64 cents, const cPaid& paid, cEntryWrite& row) const
 {
     const cEntryItemFixModList before = m_data.GetEntryMods(stored.ID);
     QSet<QDate> kept;
-    for (const QDate start : paid) {
-        const std::optional<cEntryItem> occurrence = modSeries::OccurrenceAt(stored, start);
+    for (auto period = paid.cbegin(); period != paid.cend(); ++period) {
+        const std::optional<cEntryItem> occurrence = modSeries::OccurrenceAt(stored, period.key());
         cEntryItemFixMod fixMod = modSeries::CorrectionFor(occurrence.value_or(stored));
         if (!occurrence || !modSeries::HasPeriod(row.Entry, fixMod)) {
             continue;
         }
-        if (Find(before, fixMod.EntryStartDate) == nullptr && Find(row.Corrections, fixMod.EntryStartDate) == nullptr) {
-            fixMod.EntryValue = stored.EntryValue;
-            fixMod.EntryDay = occurrence->EntryDate;
-            fixMod.EntryComment = modSeries::BankComment();
+        const cEntryItemFixMod* known = Find(before, fixMod.EntryStartDate);
+        const bool isFree = known == nullptr || row.Entry.ID != stored.ID;
+        if (isFree && Find(row.Corrections, fixMod.EntryStartDate) == nullptr) {
+            fixMod.EntryValue = cents;
+            fixMod.EntryDay = known != nullptr && known->EntryDay.isValid() ? known->EntryDay : occurrence->EntryDate;
+            fixMod.EntryComment = *period ? modSeries::BankComment() : QString();
             row.Corrections.append(fixMod);
         }
-        kept.insert(start);
+        kept.insert(period.key());
     }
     return kept;
 }
 
-// The starts of the periods for which the bank has booked another amount than these cents.
-QSet<QDate> cEntryWriter::PaidPeriods(const cEntryItem& series, const cEntryItemFixModList& fixMods, qint64 cents) const
+// Also those that go. None when it is no series.
+cEntryItemList cEntryWriter::StoredSeries(const QList<cEntryWrite>& rows, const QList<int>& removed) const
 {
-    QSet<QDate> starts;
-    const cImportEntryList rows = m_data.GetImportEntries();
-    for (const cImportEntry& row : rows) {
-        const bool isMeant =
-            row.ImportAssigned && row.ImportAssignedEntry == series.ID && std::abs(row.ImportValue) != cents;
-        const std::optional<cEntryItem> paid =
-            isMeant ? modOccurrence::Nearest(series, row.ImportDate, fixMods) : std::nullopt;
-        if (paid) {
-            starts.insert(modSeries::CorrectionFor(*paid).EntryStartDate);
+    QList<int> ids;
+    for (const cEntryWrite& row : rows) {
+        ids.append(row.Entry.ID);
+    }
+    ids += removed;
+    cEntryItemList series;
+    for (const int id : std::as_const(ids)) {
+        const std::optional<cEntryItem> stored = m_data.LoadEntry(id);
+        if (stored && !modRecurrence::IsRecurring(stored->EntryInterval)) {
+            return {};
+        }
+        series += stored ? cEntryItemList{*stored} : cEntryItemList();
+    }
+    return series;
+}
+
+// The starts of the periods for which the bank has booked something else than the rows come to together, whichever part
+// its row hangs at; true where it is what is stored.
+cEntryWriter::cPaid cEntryWriter::PaidPeriods(const cEntryItemList& before, const QList<cEntryWrite>& rows) const
+{
+    cPaid paid;
+    const cImportEntryList imports = before.isEmpty() ? cImportEntryList() : m_data.GetImportEntries();
+    const qint64 cents = std::abs(Whole(EntriesOf(rows)));
+    for (const cEntryItem& series : before) {
+        const cEntryItemFixModList fixMods = m_data.GetEntryMods(series.ID);
+        for (const cImportEntry& row : imports) {
+            const qint64 booked = std::abs(row.ImportValue);
+            const bool isMeant = row.ImportAssigned && row.ImportAssignedEntry == series.ID && booked != cents;
+            const std::optional<cEntryItem> occurrence =
+                isMeant ? modOccurrence::Nearest(series, row.ImportDate, fixMods) : std::nullopt;
+            if (occurrence) {
+                bool& isAsStored = paid[modSeries::CorrectionFor(*occurrence).EntryStartDate];
+                isAsStored = isAsStored || booked == std::abs(Whole(before));
+            }
         }
     }
-    return starts;
+    return paid;
 }
 
 bool cEntryWriter::Write(QList<cEntryWrite>& rows, const QList<int>& removed, QDate from)
 {
-    for (cEntryWrite& row : rows) {
-        FollowAmount(row);
-    }
+    FollowAmounts(rows, removed);
     const auto remove = [&](int id) { return Remove(id, from, rows.constFirst().Entry.ID); };
     const auto write = [&](cEntryWrite& row) {
         return from.isValid() && row.Entry.ID > 0 ? WriteFrom(row, from) : WriteRow(row);
@@ -303,9 +352,5 @@ bool cEntryWriter::WriteCorrections(const cEntryWrite& row)
 
 bool cEntryWriter::MarkGroup(QList<cEntryWrite>& rows)
 {
-    cEntryItemList entries;
-    for (const cEntryWrite& row : rows) {
-        entries.append(row.Entry);
-    }
-    return cSplitGroup(m_data).Mark(entries);
+    return cSplitGroup(m_data).Mark(EntriesOf(rows));
 }

@@ -5,7 +5,10 @@
 
 #include <QDate>
 #include <QList>
+#include <QMap>
 #include <QSet>
+
+#include <optional>
 
 class cDataAccess;
 class cUser;
@@ -28,9 +31,10 @@ public:
     // False when the user declines. `from` as in Write.
     [[nodiscard]] bool AskLosses(QList<cEntryWrite>& rows, QDate from);
 
-    // Where stored series get another amount, the occurrences that the bank has paid keep theirs by corrections. Their
-    // number. For rows without parts that are new or removed.
-    [[nodiscard]] int KeepPaid(QList<cEntryWrite>& rows) const;
+    // Where a stored series, or all of its parts together, gets another amount, the occurrences that the bank has paid
+    // keep theirs by corrections. Their number. Parts that are removed cannot keep any, so the user is asked: empty
+    // when he declines.
+    [[nodiscard]] std::optional<int> KeepPaid(QList<cEntryWrite>& rows, const QList<int>& removed);
 
     // Adds, changes and removes. With a valid `from`, the stored series end the day before and new ones begin; what was
     // assigned or corrected from then on goes along. Occurrences that were only moved get a new amount. Sets the IDs.
@@ -45,11 +49,15 @@ private:
     // What becomes of the contract behind a series that ends: one that goes on is told of by the series that follows.
     enum class eContract { Ends, GoesOn };
 
+    using cPaid = QMap<QDate, bool>; // see PaidPeriods
+
     [[nodiscard]] bool Loses(const cEntryWrite& row, QDate from) const;
-    void FollowAmount(cEntryWrite& row) const;
-    [[nodiscard]] QSet<QDate> KeepAmounts(const cEntryItem& stored, const QSet<QDate>& paid, cEntryWrite& row) const;
-    [[nodiscard]] QSet<QDate> PaidPeriods(const cEntryItem& series, const cEntryItemFixModList& fixMods,
-                                          qint64 cents) const;
+    void FollowAmounts(QList<cEntryWrite>& rows, const QList<int>& removed) const;
+    [[nodiscard]] bool AskLosing(const cEntryItem& stored, const cPaid& paid, const cEntryItem& after);
+    [[nodiscard]] QSet<QDate> KeepAmounts(const cEntryItem& stored, qint64 cents, const cPaid& paid,
+                                          cEntryWrite& row) const;
+    [[nodiscard]] cEntryItemList StoredSeries(const QList<cEntryWrite>& rows, const QList<int>& removed) const;
+    [[nodiscard]] cPaid PaidPeriods(const cEntryItemList& before, const QList<cEntryWrite>& rows) const;
     [[nodiscard]] bool WriteRow(cEntryWrite& row);
     [[nodiscard]] bool Change(const cEntryItem& entry);
     [[nodiscard]] bool WriteFrom(cEntryWrite& row, QDate from);

@@ -36,6 +36,7 @@ public:
     cManyChange(const cBookTools& tools, const QList<cEntryListModel::cKey>& rows, eParts parts = eParts::Chosen);
 
     [[nodiscard]] qsizetype Count() const { return m_entries.size(); } // of entries that can be changed
+    [[nodiscard]] bool HasMore() const { return m_hasMore; }           // parts that were not chosen themselves
     // Whether there is any; else the user is told what to do instead.
     [[nodiscard]] bool HasAny() const;
     // How many entries that is, what is meant by the lines of a series, and what is left out.
@@ -69,4 +70,5 @@ private:
     cEntrySuggestions m_suggestions;
     cEntryItemList m_entries; // each once
     qsizetype m_startBalances = 0;
+    bool m_hasMore = false;
 };

@@ -169,12 +169,15 @@ cCorrectionFlow::cChanges cCorrectionFlow::Collect(const QList<cMatch>& matches)
 {
     cChanges changes;
     QList<cMatch> own;
-    const auto add = [&changes](const cMatchCandidate& candidate) {
-        cEntryItemFixMod fixMod = modSeries::CorrectionFor(candidate.Entry);
-        fixMod.EntryValue = candidate.Entry.EntryValue;
-        fixMod.EntryDay = candidate.Entry.EntryDate;
+    const auto add = [&](const cMatchCandidate& candidate) {
+        cEntryItem occurrence = candidate.Entry;
+        const cEntryItem series = m_tools.Data.LoadEntry(occurrence.ID).value_or(occurrence);
+        occurrence.EntryValue = modOccurrence::Usual(series, occurrence); // no amount to ask about
+        cEntryItemFixMod fixMod = modSeries::CorrectionFor(occurrence);
+        fixMod.EntryValue = occurrence.EntryValue;
+        fixMod.EntryDay = occurrence.EntryDate;
         fixMod.EntryComment = modSeries::BankComment();
-        changes.push_back({candidate.Entry, candidate.Correction.value_or(fixMod)});
+        changes.push_back({occurrence, candidate.Correction.value_or(fixMod)});
     };
     for (const cMatch& match : matches) {
         const cMatchCandidate& candidate = match.Candidate;
@@ -325,15 +328,13 @@ bool cCorrectionFlow::Write(const cChange& change)
     }
     cEntryItemFixMod fixMod = change.FixMod;
     fixMod.EntryRelation = series->ID;
-    fixMod.EntryValue = change.Amount == eAmount::Keep ? now->EntryValue : fixMod.EntryValue;
+    fixMod.EntryValue = change.Amount == eAmount::Keep ? change.Occurrence.EntryValue : fixMod.EntryValue;
     const QDate day = fixMod.EntryDay.isValid() ? fixMod.EntryDay : now->Planned();
     const bool isOther = fixMod.EntryValue != now->EntryValue;
-    m_done.Amounts += change.Amount == eAmount::Once ? 1 : 0;
+    m_done.Amounts += isOther && change.Amount != eAmount::FromHere ? 1 : 0;
     m_done.Days += day != change.Occurrence.EntryDate ? 1 : 0;
-    if (modSplit::Group(*series) != 0 && !isOther) {
-        return day == now->EntryDate || WriteParts(change);
-    }
-    return (!isOther && day == now->EntryDate) || m_tools.Data.AddNewEntryMod(fixMod);
+    const bool isWhole = modSplit::Group(*series) != 0 && change.Amount == eAmount::Same;
+    return (!isOther && day == now->EntryDate) || (isWhole ? WriteParts(change) : m_tools.Data.AddNewEntryMod(fixMod));
 }
 
 // The bank knows only the whole of a split entry: all its parts move.
@@ -346,7 +347,7 @@ bool cCorrectionFlow::WriteParts(const cChange& change)
             return true; // a part that ended before
         }
         cEntryItemFixMod fixMod = modSeries::CorrectionFor(*occurrence);
-        fixMod.EntryValue = occurrence->EntryValue;
+        fixMod.EntryValue = modOccurrence::Usual(part, *occurrence);
         fixMod.EntryDay = change.FixMod.EntryDay;
         fixMod.EntryComment = change.FixMod.EntryComment;
         return m_tools.Data.AddNewEntryMod(fixMod);

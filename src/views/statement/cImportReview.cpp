@@ -273,8 +273,7 @@ bool cImportReview::ChangeCategory(const QList<int>& rowIds, const QString& cate
         return false;
     }
     const cManyFields wish{.Category = path};
-    const bool hasParts = change->Count() > rowIds.size();
-    if ((hasParts ? change->AskAndSave(wish) : change->Save(wish)) != cManyChange::eSaved::Saved) {
+    if ((change->HasMore() ? change->AskAndSave(wish) : change->Save(wish)) != cManyChange::eSaved::Saved) {
         return false;
     }
     const QString count = QString::number(change->Count());
