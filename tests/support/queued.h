@@ -4,8 +4,8 @@
 #include <QEventLoop>
 #include <QTimer>
 
-// Lets run what is queued, the timers without delay, and what these queue in turn. Unlike a wait it cannot be too
-// short.
+// Lets run what is queued, the timers without delay, and what these queue in turn. Rounds are counted, no milliseconds,
+// so a busy machine changes nothing.
 inline void RunQueued()
 {
     for (int round = 0; round < 3; ++round) {

@@ -159,17 +159,6 @@ private Q_SLOTS:
         QVERIFY(model.Hint().isEmpty()); // there is nothing that could reach to 2050
     }
 
-    // Only the period is stored, as a book of an older version may have it.
-    void MissingSwitchesAreOn()
-    {
-        m_scene->Book.Settings->Set(modSettingKey::MainPeriod, u"Letztes Jahr"_s);
-        m_scene->Start();
-        QCOMPARE(m_scene->Model->Entries().rowCount(), 1);
-        QCOMPARE(m_scene->Model->SumTexts().Total, Euro(u"500,00"_s));
-        QVERIFY(m_scene->Balances().contains(u"Gesamt "_s + Euro(u"400,00"_s)));
-        QVERIFY(m_scene->Model->IsChecked(modSettingKey::ViewStart));
-    }
-
     void ResetAsksFirst()
     {
         m_scene->Model->ChooseAccount(u"Sparkonto"_s);
