@@ -9,6 +9,7 @@
 #include "support/cFakeMachine.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
+#include "support/queued.h"
 #include "views/ledger/cStatementListModel.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
@@ -368,7 +369,7 @@ private Q_SLOTS:
         {
             const auto program = m_machine->Start();
             const auto* mark = program->Window().statusBar()->findChild<QToolButton*>(u"cmdFehlerprotokoll"_s);
-            QTest::qWait(50);
+            RunQueued();
             QCOMPARE(m_machine->User.Asked, QStringList());
             QVERIFY(!mark->isVisible());
             program->Tools().User.Show(eTone::Critical, u"Der Name ist zu lang."_s);
@@ -378,7 +379,7 @@ private Q_SLOTS:
         }
         for (int start = 0; start < 2; ++start) {
             const auto program = m_machine->Start();
-            QTest::qWait(50);
+            RunQueued();
             QCOMPARE(m_machine->User.Asked.size(), 1);
             QVERIFY(m_machine->User.Asked[0].contains(u"nicht ordentlich beendet"_s));
         }

@@ -53,7 +53,7 @@ private Q_SLOTS:
         QFETCH(const int, opened);
         cMachine machine;
         machine.Shell.Currency = symbol;
-        machine.User.Answers = {answer};
+        machine.User.Usual = answer;
         machine.StartUp.CheckCurrency();
         QCOMPARE(machine.User.Asked.size(), asked);
         QCOMPARE(machine.Shell.RegionalSettingsOpened, opened);

@@ -289,7 +289,6 @@ private Q_SLOTS:
         QVERIFY(QFile::setPermissions(machine.Path(), file) && QFile::setPermissions(machine.file.Folder(), folder));
         {
             const auto restore = AsOrdinaryUser();
-            machine.User.Answers = {eAnswer::No};
             QCOMPARE(machine.Run(), result);
             QCOMPARE(machine.User.Shown.value(0), message.arg(machine.Path()));
             QCOMPARE(machine.Database.IsOpen(), result == eOpenResult::OpenedReadOnly);

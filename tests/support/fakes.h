@@ -17,16 +17,29 @@
 
 #include <deque>
 
-// A user whose answers are queued beforehand and who remembers every text.
+// A user whose answers are queued beforehand and who remembers every text. An answer that no question took fails the
+// test: the question is gone, or the answer was never needed.
 class cFakeUser final : public cUser
 {
 public:
+    cFakeUser() = default;
+    ~cFakeUser() override
+    {
+        if (Answers.size() + Choices.size() + Decisions.size() + Ticks.size() > 0) {
+            LeftOver(Asked);
+        }
+    }
+    Q_DISABLE_COPY_MOVE(cFakeUser)
+
+    // Told the questions that were asked, by a user who has answers left; the runner of the tests looks after it.
+    static inline void (*LeftOver)(const QStringList& asked) = [](const QStringList&) {};
+
     void Show(eTone /*tone*/, const QString& text, const QString& /*title*/ = {}) override { Shown.append(text); }
 
     eAnswer Ask(const cQuestion& question) override
     {
         Asked.append(question.Text);
-        return Answers.empty() ? eAnswer::Cancel : Take(Answers);
+        return Answers.empty() ? Usual : Take(Answers);
     }
 
     std::optional<QString> Choose(const cChoice& choice) override
@@ -67,7 +80,8 @@ public:
 
     QStringList Shown;
     QStringList Asked;
-    std::deque<eAnswer> Answers;                // an empty queue answers Cancel
+    std::deque<eAnswer> Answers;
+    eAnswer Usual = eAnswer::Cancel;            // of an empty queue, as often as asked
     std::deque<std::optional<QString>> Choices; // an empty queue gives up
     QStringList Files;
     cChoice LastChoice;

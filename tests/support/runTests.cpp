@@ -1,4 +1,5 @@
 #include "support/cTestClass.h"
+#include "support/fakes.h"
 
 #include <cstdio>
 #include <cstring>
@@ -7,7 +8,19 @@ namespace {
 
 cTestClass* first = nullptr;
 
+void FailForAnswers(const QStringList& asked)
+{
+    // A scene that stays until the next one is made tells it there, the last one after the last test.
+    const QByteArray text = "An answer is left over, here or in the test before. Asked: " + asked.join(u" | ").toUtf8();
+    if (QTest::currentTestFunction() == nullptr) {
+        qFatal("%s", text.constData());
+    }
+    if (!QTest::currentTestFailed()) {
+        QTest::qFail(text.constData(), __FILE__, __LINE__);
+    }
 }
+
+} // namespace
 
 cTestClass::cTestClass(const char* name, Function run) : m_name(name), m_run(run), m_next(first)
 {
@@ -31,5 +44,6 @@ int cTestClass::Run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
+    cFakeUser::LeftOver = FailForAnswers;
     return cTestClass::Run(argc, argv);
 }

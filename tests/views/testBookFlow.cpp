@@ -103,7 +103,7 @@ private Q_SLOTS:
         }
         m_machine->Rescue.Backup = m_machine->File.Make(oneEntry, u"my.backup"_s);
         m_machine->User.Decisions = {chosen};
-        m_machine->User.Answers = {eAnswer::Yes};
+        m_machine->User.Usual = eAnswer::Yes;
         m_machine->Flow.TellDamage();
         QVERIFY(
             m_machine->User.Asked[0].contains(sql.isEmpty() ? u"ist beschädigt"_s : u"Es fehlt: Tabelle template\n"_s));
@@ -201,7 +201,7 @@ private Q_SLOTS:
         m_machine->SetList(hasList ? QStringList(m_machine->File.Make({}, u"first.db"_s)) : QStringList());
         const QString before = m_machine->List();
         m_machine->Rescue.Database = m_machine->File.Make({}, u"other.db"_s);
-        m_machine->User.Choices = {u"Andere Datei wählen …"_s};
+        m_machine->User.Choices.assign(hasList ? 1 : 0, u"Andere Datei wählen …"_s);
         m_machine->Flow.SwitchBook();
         QCOMPARE(m_machine->Host.Switched, m_machine->Path(u"other.db"_s));
         QCOMPARE(m_machine->List().startsWith(m_machine->Path(u"other.db"_s)), works);

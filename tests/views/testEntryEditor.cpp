@@ -184,7 +184,7 @@ private Q_SLOTS:
         cEntryEditor::cFields fields = m_book->Editor.Load(series.ID).value();
         fields.Description = u"neu"_s;
         fields.Date = changesDate ? fields.Date.addDays(1) : fields.Date;
-        m_book->User.Answers = {static_cast<eAnswer>(answer)};
+        m_book->User.Usual = static_cast<eAnswer>(answer);
         const bool isSaved = m_book->Editor.Save(fields) == cEntryEditor::eSaved::Saved;
         QCOMPARE(isSaved, !description.isEmpty());
         QTEST(m_book->Data.GetEntryMods(series.ID).size(), "corrections");

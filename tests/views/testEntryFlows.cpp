@@ -240,14 +240,15 @@ private Q_SLOTS:
     {
         QFETCH(QList<int>, ids);
         QFETCH(int, choice);
+        QFETCH(QStringList, options);
         cTestBook book;
         Fill(book);
         cEntryDelete flow(book.Tools);
-        book.User.Decisions = {choice};
-        book.User.Answers = {eAnswer::Yes};
+        book.User.Decisions.assign(options.isEmpty() ? 0 : 1, choice);
+        book.User.Usual = eAnswer::Yes;
         QCOMPARE(flow.Delete(ids), choice >= 0);
         QCOMPARE(book.User.Asked.size(), 1);
-        QTEST(book.User.LastDecision.Options, "options");
+        QCOMPARE(book.User.LastDecision.Options, options);
         QStringList left;
         for (int id = 1; id <= 4; ++id) {
             if (const std::optional<cEntryItem> entry = book.Data.LoadEntry(id)) {

@@ -182,7 +182,6 @@ private Q_SLOTS:
         QCOMPARE(m_page->Reason(0), u"passt zu 'Haushalt; Lebensmittel' vom 03.03. (80 %)"_s);
         m_page->Review.Match({}, m_page->Progress);
         QCOMPARE(m_page->Assigned(), QList<int>{-1});
-        m_page->User.Answers = {eAnswer::Yes};
         m_page->Review.AcceptProposals(m_page->Progress);
         QVERIFY(m_page->User.Shown.last().contains(u"Offen bleiben: 1 wahrscheinlich schon im Haushaltsbuch."));
         // It is no longer true when the entry is gone.

@@ -96,7 +96,8 @@ private Q_SLOTS:
             m_page->WriteFile(u"a.qif"_s,
                               "!Account\nNGirokonto\n^\n!Type:Bank\nD30.1.26\nT-5\nPHolle\nLHobby:Zug\n^\n"
                               "D31.1.26\nT-7\nPHolle\nL[Depot]\n^\n");
-        m_page->User.Answers = {answer, eAnswer::Yes};
+        m_page->User.Answers = {answer};
+        m_page->User.Usual = eAnswer::Yes;
         m_page->Review.Files().ImportFiles({path}, m_page->Progress);
         QCOMPARE(m_page->User.Asked.value(0),
                  u"Noch nicht im Buch sind aus der Datei: 1 Kategorie, 1 Konto\n\nDepot\nHobby; Zug\n\n"

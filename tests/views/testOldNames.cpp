@@ -74,7 +74,7 @@ private Q_SLOTS:
         cOldBook scene;
         cTemplateManager& manager = scene.Manager;
         QSignalSpy renamed(&manager, &cTemplateManager::AccountRenamed);
-        scene.Book.User.Answers = {eAnswer::Yes};
+        scene.Book.User.Usual = eAnswer::Yes;
         const auto limit = [](cTemplateFields& fields) { fields.Amount = fields.Limit = u"500"_s; };
         const QString old = u"Haus & Hof"_s;
         switch (action) {

@@ -111,7 +111,7 @@ private Q_SLOTS:
         cTestBook book;
         book.Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
         (void)book.Spend(QDate(2026, 3, 9), 5000, u"REWE"_s); // older than the oldest row, or in between
-        book.User.Answers = std::deque<eAnswer>(9, eAnswer::Yes);
+        book.User.Usual = eAnswer::Yes;
         cImportReview review(book.Tools);
         cNoProgress progress;
         const cTestFile folder;

@@ -57,11 +57,12 @@ private Q_SLOTS:
         QFETCH(QString, interval);
         QFETCH(QDate, day);
         QFETCH(int, choice);
+        QFETCH(qsizetype, options);
         cTestBook book;
         const int id = book.Add([&](cEntryItem& entry) { entry.EntryInterval = interval; }).ID;
-        book.User.Decisions = {choice};
+        book.User.Decisions.assign(options > 0 ? 1 : 0, choice);
         QTEST(int(cSeriesChange(book.Tools).AskWhatToEdit(id, day)), "edit");
-        QTEST(book.User.LastDecision.Options.size(), "options");
+        QCOMPARE(book.User.LastDecision.Options.size(), options);
     }
 
     void NamesWhatWasMovedBefore()

@@ -222,7 +222,7 @@ private Q_SLOTS:
         QFETCH(QString, account);
         cScene scene;
         const cEntryItem transfer = scene.Book.Move(u"Girokonto"_s, u"Sparkonto"_s);
-        scene.Book.User.Answers = {eAnswer::Yes};
+        scene.Book.User.Usual = eAnswer::Yes;
         const QByteArray bytes = modRowDrag::ToBytes({{transfer.ID, transfer.EntryDate}}, shown);
         cManyChange change(scene.Book.Tools, modRowDrag::FromBytes(bytes));
         (void)change.AskAndSave({.Account = account}, modRowDrag::ShownFromBytes(bytes));

@@ -38,7 +38,7 @@ private Q_SLOTS:
         const cEntryItem out = book.Add([](cEntryItem& e) { e.EntryAccount = u"Bargeld"_s; });
         const cEntryItem in = book.Move(u"Girokonto"_s, u"Bargeld"_s);
         const cEntryItem lower = book.Add([](cEntryItem& e) { e.EntryAccount = u"bargeld"_s; }); // another account
-        book.User.Answers = {static_cast<eAnswer>(answer)};
+        book.User.Usual = static_cast<eAnswer>(answer);
         cTemplateFlow(book.Tools).RenameAccount(u"Bargeld"_s, name);
 
         QVERIFY(book.Data.FindAccount(account));

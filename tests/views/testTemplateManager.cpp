@@ -115,7 +115,6 @@ private Q_SLOTS:
     {
         QFETCH(int, action);
         cTemplateScene scene;
-        scene.Book.User.Answers = {eAnswer::Yes};
         cTemplateManager& manager = scene.Manager;
         const QString start = modWord::Startguthaben;
         switch (action) {
@@ -198,7 +197,7 @@ private Q_SLOTS:
             each.Look = {u"#112233"_s, u"reise"_s};
         }));
         QCOMPARE(look(u"Urlaub; See"_s), u"#112233 reise"_s);
-        scene.Book.User.Answers = {eAnswer::Yes};
+        scene.Book.User.Usual = eAnswer::Yes;
         const bool isMerge = scene.Manager.Mains().contains(to);
         QVERIFY(to.isEmpty()  ? scene.Manager.DeleteCategory(from)
                     : isMerge ? scene.Manager.MergeCategory(from, to)

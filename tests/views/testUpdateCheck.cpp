@@ -225,7 +225,7 @@ private Q_SLOTS:
         schedule.AskOnce();
         QVERIFY(scene.Book.User.Asked.isEmpty()); // the second day
         scene.Book.Clock.Day = QDate(2026, 3, 21);
-        scene.Book.User.Answers = {eAnswer::No, eAnswer::Yes};
+        scene.Book.User.Answers = {eAnswer::No};
         schedule.AskOnce();
         schedule.AskOnce();
         QCOMPARE(scene.Book.User.Asked.size(), 1);

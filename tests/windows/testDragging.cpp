@@ -1,6 +1,7 @@
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
+#include "support/queued.h"
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
 #include "views/statement/cImportReview.h"
@@ -11,6 +12,7 @@
 #include "windows/statement/frmImport.h"
 
 #include <QApplication>
+#include <QDrag>
 #include <QSignalSpy>
 #include <QTimer>
 #include <QWindow>
@@ -35,14 +37,30 @@ void Drag(const cLine& from, const cLine& to)
     QWindow* window = from.Tree.window()->windowHandle();
     const QPoint start = from.Place();
     const QPoint end = to.Place();
-    // A drag has an event loop of its own, in which the mouse goes on.
-    QTimer::singleShot(100, window, [=] { QTest::mouseMove(window, end - QPoint(0, 2)); });
-    QTimer::singleShot(200, window, [=] { QTest::mouseMove(window, end); });
-    QTimer::singleShot(400, window, [=] { QTest::mouseRelease(window, Qt::LeftButton, {}, end); });
+    // A drag has an event loop of its own, in which the mouse goes on, a step in each round.
+    QTimer hand;
+    int step = 0;
+    const auto goOn = [&] {
+        if (++step < 3) {
+            QTest::mouseMove(window, end - QPoint(0, 2 - step));
+        } else {
+            QTest::mouseRelease(window, Qt::LeftButton, {}, end);
+            hand.stop();
+        }
+    };
+    QObject::connect(&hand, &QTimer::timeout, window, [&] {
+        if (from.Tree.findChild<QDrag*>() != nullptr) {
+            goOn();
+        }
+    });
+    hand.start(0);
     QTest::mousePress(window, Qt::LeftButton, {}, start);
     QTest::mouseMove(window, start + QPoint(0, QApplication::startDragDistance()));
     QTest::mouseMove(window, start + QPoint(0, 2 * QApplication::startDragDistance()));
-    QTest::qWait(600);
+    while (step < 3) { // where nothing can be dragged
+        goOn();
+    }
+    RunQueued();
 }
 
 } // namespace
@@ -74,7 +92,7 @@ private Q_SLOTS:
         others = others.first(2);
         tree.SelectIds(others);
         Drag({tree, rows.IndexOf(others.last())}, {tree, rows.HeadNamed(u"Freizeit; Geschenke"_s)});
-        QTRY_COMPARE(inGroup(), 3);
+        QCOMPARE(inGroup(), 3);
         QCOMPARE(tree.SelectedIds().size(), 2);
     }
 
@@ -100,7 +118,7 @@ private Q_SLOTS:
         window.show();
         model.RestoreView(false);
         QVERIFY(QTest::qWaitForWindowExposed(&window));
-        QTest::qWait(50); // the accounts are added up a moment later
+        RunQueued(); // the accounts are added up a moment later
         const auto& tree = *window.findChild<cEntryTree*>();
         const auto& accounts = *window.findChild<cAccountPanel*>()->findChild<QTreeView*>();
         const QSignalSpy dropped(&window, &frmMain::RowsDropped);

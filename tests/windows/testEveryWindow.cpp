@@ -9,6 +9,7 @@
 #include "support/cPseudoLanguage.h"
 #include "support/cTestClass.h"
 #include "support/modUpdateAnswer.h"
+#include "support/queued.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "support/windowHands.h"
@@ -277,7 +278,7 @@ QStringList FaultsOfAllPages(QWidget& window,
 {
     QStringList faults;
     modWindowHands::ForEachPage(window, [&] {
-        QTest::qWait(5);
+        RunQueued();
         faults += find(window);
     });
     faults.removeDuplicates();

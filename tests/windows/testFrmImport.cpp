@@ -1,6 +1,7 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
+#include "support/queued.h"
 #include "support/testBook.h"
 #include "support/windowHands.h"
 #include "views/statement/cAssignListModel.h"
@@ -242,7 +243,7 @@ private Q_SLOTS:
             m_scene->Book.User.Asked.clear();
             QTest::keyClick(m_scene->Field(), Qt::Key_Return, with); // asks each time
             QTRY_COMPARE(m_scene->Book.User.Asked.size(), 1);
-            QTest::qWait(1);
+            RunQueued();
             QCOMPARE(m_scene->Book.User.Asked.size(), 1);
             QCOMPARE(m_scene->Review.Rows().Counts().Open, 1);
             QVERIFY(m_scene->Field() != nullptr
@@ -303,7 +304,7 @@ private Q_SLOTS:
         QTest::keyClick(m_scene->Field(), Qt::Key_Delete);
         for (const Qt::Key key : keys) {
             QTest::keyClick(m_scene->Field(), key, key == Qt::Key_Return ? last : Qt::NoModifier);
-            QTest::qWait(1); // what the field tells comes a moment later
+            RunQueued(); // what the field tells comes a moment later
         }
         if (keys.isEmpty()) {
             QTest::mouseClick(&modWindowHands::Button(m_scene->Page, u"Buchen"_s), Qt::LeftButton);
@@ -327,7 +328,7 @@ private Q_SLOTS:
         QTest::keyClick(m_scene->Field(), Qt::Key_Delete);
         bool isKept = false;
         QTimer::singleShot(0, &m_scene->Page, [&] {
-            QTest::qWait(1); // what the field tells comes a moment later
+            RunQueued(); // what the field tells comes a moment later
             isKept = m_scene->Tree.IsFieldOpen() && m_scene->Tree.IsFieldEmpty();
             QApplication::activePopupWidget()->close();
         });
@@ -367,7 +368,7 @@ private Q_SLOTS:
         m_scene->Book.User.Answers = {eAnswer::Yes};
         QTest::keyClick(m_scene->Field(), Qt::Key_B, Qt::ControlModifier);
         QTRY_COMPARE(m_scene->Book.User.Asked.size(), 1);
-        QTest::qWait(1);
+        RunQueued();
         QCOMPARE(m_scene->Review.Rows().Counts().Open, 2);
         const QModelIndex row = m_scene->Review.Rows().IndexOf(ids.value(0));
         QCOMPARE(row.siblingAtColumn(cStagedListModel::Category).data().toString(), u"Ponyhof"_s);
@@ -386,7 +387,7 @@ private Q_SLOTS:
         QTest::keyClicks(m_scene->Field(), u"Ponyhof"_s);
         QTest::keyClick(m_scene->Field(), Qt::Key_Return);
         QTRY_VERIFY(m_scene->Review.Summary().join(u' ').startsWith(u"Die Kategorie 'Ponyhof' ist ausgeblendet."_s));
-        QTest::qWait(1);
+        RunQueued();
         QCOMPARE(m_scene->Review.Rows().Counts().Open, 2);
         QTRY_VERIFY(m_scene->Field() != nullptr && m_scene->Field()->currentText() == u"Ponyhof");
     }
@@ -564,7 +565,7 @@ private Q_SLOTS:
         cMatchScene scene;
         scene.Tree.clearSelection();
         scene.AssignWith(Qt::Key_Escape);
-        QTest::qWait(1);
+        RunQueued();
         QVERIFY(!scene.HasOpened);
         const cStagedActions& actions = scene.Page.findChild<cStagedPanel*>()->Actions();
         for (const cStagedActions::eId id : {cStagedActions::Book, cStagedActions::Assign, cStagedActions::Release}) {

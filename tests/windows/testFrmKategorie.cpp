@@ -1,5 +1,6 @@
 #include "model/modSettingKey.h"
 #include "support/cTestClass.h"
+#include "support/queued.h"
 #include "support/testBook.h"
 #include "support/windowFaults.h"
 #include "support/windowHands.h"
@@ -239,7 +240,7 @@ private Q_SLOTS:
         m_scene->Manager.Refresh();
         for (const QString& line : {food, u"Auto"_s, u"Haushalt; Altes"_s, u"Girokonto"_s}) {
             QVERIFY(m_scene->Window.Select(line));
-            QTest::qWait(1);
+            RunQueued();
             QCOMPARE(modWindowFaults::All(m_scene->Window).join(u"; "), QString());
         }
     }

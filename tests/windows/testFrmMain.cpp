@@ -2,6 +2,7 @@
 #include "support/cFakeNavigator.h"
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
+#include "support/queued.h"
 #include "support/testBook.h"
 #include "support/windowHands.h"
 #include "views/main/cMainModel.h"
@@ -49,7 +50,7 @@ struct cScene
         Window.RestoreLayout();
         Window.show();
         Model.RestoreView(false);
-        QTest::qWait(5);
+        RunQueued();
         modWindowHands::Bring(Window);
         Tree().setFocus();
     }
@@ -104,7 +105,7 @@ private Q_SLOTS:
             *std::find_if(edits.begin(), edits.end(), [](const auto* edit) { return edit->isClearButtonEnabled(); });
         filter->setFocus();
         QTest::keyClicks(filter, u"wochen"_s);
-        QTest::qWait(5);
+        RunQueued();
         QCOMPARE(m_scene->Model.Entries().rowCount(), 1);
         QTest::keyClick(filter, Qt::Key_Home);
         QTest::keyClick(filter, Qt::Key_Delete);
@@ -126,7 +127,7 @@ private Q_SLOTS:
                     QTest::mouseClick(m_scene->Tree().viewport(), Qt::LeftButton, Qt::NoModifier, label);
                 }
             }
-            QTest::qWait(5);
+            RunQueued();
         };
         click();
         QCOMPARE(m_scene->Model.Entries().rowCount(), 1);
@@ -306,7 +307,7 @@ private Q_SLOTS:
         const auto type = [](const QString& text, Qt::Key key) {
             QTest::keyClicks(QApplication::focusWidget(), text);
             QTest::keyClick(QApplication::focusWidget(), key);
-            QTest::qWait(5);
+            RunQueued();
         };
         QTest::keyClick(&m_scene->Tree(), Qt::Key_F2);
         type({}, Qt::Key_Tab); // the category stays
@@ -344,7 +345,7 @@ private Q_SLOTS:
         QPointer<QWidget> field = QApplication::focusWidget();
         QTest::keyClicks(field, u"zwei"_s);
         QTest::keyClick(field, Qt::Key_Return);
-        QTest::qWait(5);
+        RunQueued();
         QVERIFY(field != nullptr && field->hasFocus() && modBadField::IsMarked(*field));
         QCOMPARE(qobject_cast<QLineEdit*>(field)->text(), u"zwei"_s);
         QVERIFY(!field->accessibleName().isEmpty());
@@ -358,7 +359,7 @@ private Q_SLOTS:
         QTest::keyClicks(QApplication::focusWidget(), u"Markt"_s);
         const QRect other = m_scene->Tree().visualRect(m_scene->Model.Entries().index(1, 0));
         QTest::mouseClick(m_scene->Tree().viewport(), Qt::LeftButton, {}, other.center());
-        QTest::qWait(5);
+        RunQueued();
         QCOMPARE(m_scene->Book.Data.LoadEntry(m_scene->First.ID)->EntryDescription, u"Markt"_s);
         QCOMPARE(m_scene->Model.Selection().size(), 1);
         QCOMPARE(m_scene->Model.Selection().first().ID, m_scene->Second.ID);
@@ -401,7 +402,7 @@ private Q_SLOTS:
                                        : std::make_unique<QSignalSpy>(&m_scene->Window, &frmMain::RowsRegrouped);
         const QPoint place = tree.visualRect(index).center();
         QCOMPARE(modWindowHands::Drop(*tree.viewport(), place, data), !target.isEmpty());
-        QTest::qWait(5);
+        RunQueued();
         QCOMPARE(dropped->size(), target.isEmpty() ? 0 : 1);
         QCOMPARE(target.isEmpty() || dropped->first().at(0).value<QList<cEntryListModel::cKey>>() == rows, true);
         QCOMPARE(target.isEmpty() ? target : dropped->first().at(1).toString(), target);
@@ -494,12 +495,12 @@ private Q_SLOTS:
         m_scene->Model.BookChanged();
         frmMain& window = m_scene->Window;
         window.resize(1600, 900);
-        QTest::qWait(5);
+        RunQueued();
         const QList<int> printed = window.EntryColumns();
         const QFontMetrics metrics = window.fontMetrics();
         window.resize(metrics.averageCharWidth() * 85, metrics.height() * 31);
         window.findChild<QSplitter*>()->setSizes({metrics.averageCharWidth() * 10, 1000});
-        QTest::qWait(5);
+        RunQueued();
         const auto& accounts = *window.findChild<cAccountPanel*>()->findChild<QTreeView*>();
         const int last = accounts.model()->rowCount() - 1;
         const QModelIndex total = accounts.model()->index(last, cAccountListModel::Balance);

@@ -1,6 +1,7 @@
 #include "support/cTestClass.h"
 #include "support/cTestRows.h"
 #include "support/fakes.h"
+#include "support/queued.h"
 #include "support/testFormat.h"
 #include "support/windowHands.h"
 #include "views/help/cManualBrowser.h"
@@ -258,7 +259,7 @@ private Q_SLOTS:
         QCOMPARE(scene.View.SelectedText(), u"Miete (Wohnung):\t700,00\u00a0€"_s);
         QTest::keyClick(&scene.View, Qt::Key_C, Qt::ControlModifier);
         QCOMPARE(QApplication::clipboard()->text(), scene.View.SelectedText());
-        QTest::qWait(5);
+        RunQueued();
         QCOMPARE(scene.Clicks.size(), 0);
         QTest::mouseDClick(scene.View.viewport(), Qt::LeftButton, {}, scene.PointOf(u"Haushalt"_s));
         QVERIFY(scene.View.SelectedText().startsWith(u"Haushalt"_s));
