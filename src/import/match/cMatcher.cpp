@@ -106,7 +106,7 @@ struct cMatcher::cKnowledge
         if (!m_proposer) {
             m_proposer = std::make_unique<cProposer>(Data, Hive, Accounts);
         }
-        return m_proposer->ProposeBest(row);
+        return m_proposer->Propose(row);
     }
 
     void ReadIndex(const QString& account, const modPeriod::cRange& range)

@@ -170,7 +170,7 @@ const cProposal& cImportPlan::ProposalFor(const cImportEntry& row)
 {
     auto known = m_knowledge->Proposals.find(row.ID);
     if (known == m_knowledge->Proposals.end()) {
-        known = m_knowledge->Proposals.insert(row.ID, m_knowledge->Proposer.ProposeBest(row));
+        known = m_knowledge->Proposals.insert(row.ID, m_knowledge->Proposer.Propose(row));
     }
     return *known;
 }

@@ -3,7 +3,6 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/modLog.h"
-#include "import/propose/cProposer.h"
 #include "import/propose/cSeriesFinder.h"
 #include "import/propose/modOccurrence.h"
 #include "import/stage/cAccountMap.h"
@@ -77,18 +76,6 @@ cBooking::cBooking(cDataAccess& data, cImportHiveCache& hive, const cAccountMap&
       m_hive(hive),
       m_accounts(accounts)
 {
-}
-
-QHash<int, cProposal> cBooking::Propose(const QList<int>& rowIds)
-{
-    QHash<int, cProposal> proposals;
-    cProposer proposer(m_data, m_hive, m_accounts);
-    for (const int rowId : rowIds) {
-        if (const std::optional<cImportEntry> row = OpenRow(m_hive, rowId)) {
-            proposals.insert(rowId, proposer.ProposeBest(*row));
-        }
-    }
-    return proposals;
 }
 
 // Banks write the newest row first, but a series begins with the oldest.
