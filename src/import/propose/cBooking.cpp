@@ -37,7 +37,7 @@ bool HasAssigned(cImportHiveCache& hive, cImportEntry row, int entryId)
 
 bool IsJoiningTransfer(const cProposal& proposal)
 {
-    return proposal.ExistingEntry != 0 && proposal.Entry.EntryType == modWord::Umbuchung;
+    return proposal.ExistingEntry != 0 && proposal.Entry.IsTransfer();
 }
 
 // What the user has chosen for a row goes to its entry, also where another row brought that.
@@ -181,7 +181,7 @@ cBooking::eOutcome cBooking::BookNew(const cImportEntry& row, const cProposal& p
         return eOutcome::Failed;
     }
     ++result.Entries;
-    result.Bare += proposal.IsDefault && entry.EntryType != modWord::Umbuchung ? 1 : 0;
+    result.Bare += proposal.IsDefault && !entry.IsTransfer() ? 1 : 0;
     ++result.Rows;
     result.EntryIds.append(entry.ID);
     series.Learn(row, entry);

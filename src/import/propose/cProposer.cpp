@@ -127,7 +127,7 @@ struct cProposer::cKnowledge
     void Doubt(cProposal& proposal) const
     {
         const cEntryItem& entry = proposal.Entry;
-        if (proposal.IsSure && proposal.ExistingEntry == 0 && entry.EntryType != modWord::Umbuchung
+        if (proposal.IsSure && proposal.ExistingEntry == 0 && !entry.IsTransfer()
             && !Offered.contains(entry.EntryCategory)) {
             proposal.IsSure = false;
             proposal.Reason = cText::Tr("{0}; die Kategorie steht nicht zur Auswahl", {proposal.Reason});
@@ -229,7 +229,7 @@ void TakeCategoryOfFile(cProposal& proposal, const QString& category, bool isSec
 void TakeUnknown(cProposal& proposal, const cImportEntry& row, const QString& category)
 {
     const QString named = modBookRow::CategoryOf(row);
-    if (modBookRow::IsTransfer(row) && proposal.Entry.EntryType != modWord::Umbuchung) {
+    if (modBookRow::IsTransfer(row) && !proposal.Entry.IsTransfer()) {
         proposal.IsSure = false;
         proposal.Reason = cText::Tr("in der Datei eine Umbuchung mit {0}", {row.ImportBeneficiaryAccount});
     } else if (!named.isEmpty() && category.isEmpty() && proposal.IsDefault) {
@@ -294,7 +294,7 @@ void TakeOwnRule(cProposal& proposal, const cOwnRule& rule)
         proposal.IsSure = true;
     }
     // Where the rest comes from, or that it is a transfer, remains worth knowing.
-    const bool isAll = !rule.Category.isEmpty() && entry.EntryType != modWord::Umbuchung;
+    const bool isAll = !rule.Category.isEmpty() && !entry.IsTransfer();
     proposal.Reason = isAll || proposal.Reason.isEmpty() ? reason : proposal.Reason + u"; "_s + reason;
     entry.EntryInterval = rule.Interval.isEmpty() ? entry.EntryInterval : rule.Interval;
     entry.EntryDescription = rule.Description.isEmpty() ? entry.EntryDescription : rule.Description;
@@ -339,7 +339,7 @@ void TakeBooked(cProposal& proposal, const cTransferFinder::cTransfer& transfer,
 // be looked at once more.
 void TakeAgreement(cProposal& proposal, const cLearned::cChoice& choice, const cImportEntry& whole)
 {
-    if (proposal.IsSure || choice.HasOthers || proposal.Entry.EntryType == modWord::Umbuchung) {
+    if (proposal.IsSure || choice.HasOthers || proposal.Entry.IsTransfer()) {
         return;
     }
     const cHint hint = HintOf(whole);
