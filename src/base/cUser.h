@@ -65,6 +65,13 @@ public:
     // Shows a message and waits until it is closed. An empty title is the program's name.
     virtual void Show(eTone tone, const QString& text, const QString& title = {}) = 0;
 
+    // Shows an objection; false, for a caller that is asked whether something is right.
+    bool Refuse(const QString& text)
+    {
+        Show(eTone::Objection, text);
+        return false;
+    }
+
     // A failure that a window tells of in its own place. Shows nothing; it is for those who keep a log.
     virtual void Note(const QString& /*operation*/, const QString& /*text*/) {}
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "model/modWord.h"
+
 #include <QDate>
 #include <QList>
 #include <QString>
@@ -26,6 +28,13 @@ struct cEntryItem
 
     // How it is called in lists and messages.
     [[nodiscard]] QString Name() const { return EntryDescription.isEmpty() ? EntryCategory : EntryDescription; }
+    // Of other kinds a target account may be left over; it says nothing.
+    [[nodiscard]] bool IsTransfer() const { return EntryType == modWord::Umbuchung; }
+    // Where its money lies: "Girokonto", of a transfer "Girokonto → Sparkonto".
+    [[nodiscard]] QString Accounts() const
+    {
+        return IsTransfer() ? EntryAccount + u" → " + EntryAccountMove : EntryAccount;
+    }
     // The day of the series. It tells the period of an occurrence and its correction, whatever day it moved to.
     [[nodiscard]] QDate Planned() const { return PlannedDate.isValid() ? PlannedDate : EntryDate; }
     [[nodiscard]] bool HasCorrection() const { return IsCorrected || PlannedDate.isValid(); }

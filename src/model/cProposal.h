@@ -13,7 +13,7 @@ struct cProposal
     cEntryItem Entry;       // complete but for EntryAccount where the row's account number is not assigned yet
     QString Reason;         // "gelernt aus 5 Buchungen an REWE", "Eigene Regel: rewe"; empty for the mere default
     bool IsDefault = false; // nothing is known about the category
-    bool IsSure = false;    // can be booked unseen; see cProposer::ProposeBest
+    bool IsSure = false;    // can be booked unseen
     int PartnerRow = 0;     // the other staged row of a transfer between own accounts; 0 when there is none
     int ExistingEntry = 0;  // entry in the book that the row belongs to (its series, or the transfer that waits for its
                             // second row); 0 when a new one is to be made

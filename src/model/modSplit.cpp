@@ -3,7 +3,6 @@
 #include "model/modBalance.h"
 #include "model/modFlags.h"
 #include "model/modRecurrence.h"
-#include "model/modWord.h"
 
 #include <algorithm>
 
@@ -29,7 +28,7 @@ bool modSplit::IsWhole(const cEntryItemList& parts)
         const cEntryItem& first = parts.first();
         return part.EntryDate == first.EntryDate && part.EntryInterval == first.EntryInterval
             && modRecurrence::EffectiveEnd(part.EntryDateEnd) == modRecurrence::EffectiveEnd(first.EntryDateEnd)
-            && part.EntryAccount == first.EntryAccount && part.EntryType != modWord::Umbuchung;
+            && part.EntryAccount == first.EntryAccount && !part.IsTransfer();
     });
 }
 

@@ -55,7 +55,7 @@ public:
         note(isSeries && LacksDays(entry), eEntryFault::Length);
         note(!modRow::ReadCents(row.Bytes(8)), eEntryFault::Amount);
         note(entry.EntryAccount.isEmpty(), eEntryFault::Account);
-        note(entry.EntryType == modWord::Umbuchung && entry.EntryAccountMove.isEmpty(), eEntryFault::Target);
+        note(entry.IsTransfer() && entry.EntryAccountMove.isEmpty(), eEntryFault::Target);
         return found;
     }
 

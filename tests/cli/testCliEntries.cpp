@@ -34,6 +34,20 @@ private Q_SLOTS:
         QTEST(Stored(u"add|--json|"_s + options).join(u'\n'), "stored");
     }
 
+    // The target of what was a transfer once.
+    void LeftOverTargetIsNotShown()
+    {
+        (void)Add(u"--amount|5|--category|Haushalt; Getränke|--to-account|Sparkonto|--date|1.3.2026"_s);
+        const QString list = u"search|--period|Alle Buchungen"_s;
+        QVERIFY(Do(list).Out.contains(u"Girokonto → Sparkonto"_s));
+        {
+            cDatabase database;
+            database.Open(Book(), eOpenMode::ReadWrite);
+            database.Execute("UPDATE data SET EntryType = 'Ausgabe'");
+        }
+        QVERIFY(!Do(list).Out.contains(u"Sparkonto"_s));
+    }
+
     void AddRemembersDescriptions()
     {
         (void)Add(u"--amount|5|--category|Haushalt; Getränke|--account|Bargeld|--date|1.3.2026|--text|Saftladen"_s);

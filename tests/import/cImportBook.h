@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/cProgress.h"
+#include "import/plan/cImportPlan.h"
 #include "import/propose/cBooking.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cBankBalances.h"
@@ -22,17 +23,50 @@ struct cImportBook : cTestBook
         other.Execute(sql);
     }
 
+    // What the program makes of rows, each of which came with a file of its own.
+    [[nodiscard]] QHash<int, cRowPlan> Plan(const QList<int>& rows)
+    {
+        cNoProgress progress;
+        const auto fileOf = [this](int id) { return modStagedTwins::cFile{id, Kinds.value(id)}; };
+        return cImportPlan({Data, Hive, Accounts, fileOf}).Make(rows, progress);
+    }
+
+    [[nodiscard]] cRowPlan PlanOf(int row) { return Plan({row}).value(row); }
+    [[nodiscard]] cProposal Propose(int row) { return PlanOf(row).Proposal; }
+
+    // Rows whose entry is there go to it, the others become entries.
+    [[nodiscard]] cBookingResult BookAll(const QList<int>& rows)
+    {
+        QHash<int, cProposal> proposals;
+        int assigned = 0;
+        const QHash<int, cRowPlan> plans = Plan(rows);
+        for (const cRowPlan& plan : plans) {
+            if (plan.Match) {
+                assigned += Booking.Assign(plan.RowId, plan.Match->Entry.ID) ? 1 : 0;
+            } else {
+                proposals.insert(plan.RowId, plan.Proposal);
+            }
+        }
+        cNoProgress progress;
+        cBookingResult result = Booking.Book(proposals.keys(), proposals, progress);
+        result.Rows += assigned;
+        result.Joined += assigned;
+        return result;
+    }
+
     // Books a row as the user wants it.
-    [[nodiscard]] static cBookingResult BookAs(cBooking& booking, int row, const cEntryItem& entry)
+    [[nodiscard]] bool BookAs(int row, const cEntryItem& entry)
     {
         cNoProgress progress;
         cProposal proposal;
         proposal.Entry = entry;
-        return booking.Book({row}, {{row, proposal}}, progress);
+        return Booking.Book({row}, {{row, proposal}}, progress).Rows == 1;
     }
 
     cImportHiveCache Hive{Data};
     cAccountMap Accounts{Data, *Settings};
+    cBooking Booking{Data, Hive, Accounts};
+    QHash<int, QChar> Kinds; // of the formats of rows that two files tell of different days
 };
 
 // A row as a statement brings it.

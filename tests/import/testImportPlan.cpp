@@ -1,5 +1,4 @@
 #include "cImportBook.h"
-#include "import/plan/cImportPlan.h"
 #include "model/modSplit.h"
 #include "support/cTestClass.h"
 
@@ -22,21 +21,6 @@ struct cBank : cBankBook
     {
         return Spend(date, cents, text, interval).ID;
     }
-
-    QHash<int, cRowPlan> Make(const QList<int>& rows)
-    {
-        cNoProgress progress;
-        return cImportPlan({Data, Hive, Accounts,
-                            [this](int id) {
-                                return modStagedTwins::cFile{id, Kinds.value(id)};
-                            }})
-            .Make(rows, progress);
-    }
-
-    cRowPlan PlanOf(int row) { return Make({row}).value(row); }
-
-    cBooking Booking{Data, Hive, Accounts};
-    QHash<int, QChar> Kinds; // of the formats of rows that two files tell of different days
 };
 
 using fnChange = std::function<void(cEntryItem&, cImportEntry&)>;
@@ -63,7 +47,7 @@ private Q_SLOTS:
         const int likely = bank.Stage(day, -5000, u"Jana"_s);
         const int sure = bank.Stage(day, -999, u"REWE"_s);
         const int unknown = bank.Stage(day, -777, u"Quirrlix"_s);
-        const QHash<int, cRowPlan> plans = bank.Make({certain, likely, sure, unknown});
+        const QHash<int, cRowPlan> plans = bank.Plan({certain, likely, sure, unknown});
         QCOMPARE(plans.value(certain).Group, eRowGroup::InBook);
         QCOMPARE(MatchOf(plans.value(certain)), food);
         QCOMPARE(plans.value(likely).Group, eRowGroup::Look);
@@ -93,7 +77,7 @@ private Q_SLOTS:
         QVERIFY(bank.Booking.Assign(bank.Stage(day, -5000, u"Licht GmbH"_s, u"DE05"_s), power));
         const int dear = bank.Stage(day.addMonths(1), -9900, u"Licht GmbH"_s, u"DE05"_s);
         const int second = bank.Stage(day.addMonths(1).addDays(1), -9900, u"Licht GmbH"_s, u"DE05"_s);
-        const QHash<int, cRowPlan> plans = bank.Make({dear, second});
+        const QHash<int, cRowPlan> plans = bank.Plan({dear, second});
         QCOMPARE(plans.value(dear).Group, eRowGroup::InBook);
         QCOMPARE(MatchOf(plans.value(dear)), power);
         QCOMPARE(plans.value(dear).Match->Correction.value_or(cEntryItemFixMod()).EntryValue, 9900);
@@ -111,7 +95,7 @@ private Q_SLOTS:
         QVERIFY(bank.Booking.Assign(bank.Stage(day.addDays(29), -5000, u"Tann GmbH"_s, u"DE05"_s), rent));
         const int older = bank.Stage(day, -5000, u"Tann GmbH"_s, u"DE05"_s);
         const int extra = bank.Stage(day.addDays(14), -5000, u"Tann GmbH"_s, u"DE05"_s);
-        const QHash<int, cRowPlan> plans = bank.Make({older, extra});
+        const QHash<int, cRowPlan> plans = bank.Plan({older, extra});
         QCOMPARE(plans.value(older).Proposal.ExistingEntry, rent);
         QCOMPARE(MatchOf(plans.value(extra)), 0);
         QCOMPARE(plans.value(extra).Proposal.Entry.EntryInterval, modWord::Einmalig);
@@ -144,7 +128,7 @@ private Q_SLOTS:
         }
         const int out = bank.Stage(day, -20000, u"Ich"_s, u"222"_s);
         const int in = bank.Stage(day.addDays(2), 20000, u"Ich"_s, u"111"_s, u"222"_s);
-        const QHash<int, cRowPlan> plans = bank.Make({in, out});
+        const QHash<int, cRowPlan> plans = bank.Plan({in, out});
         QCOMPARE(MatchOf(plans.value(out)), entry);
         QTEST(plans.value(in).Group, "group");
         QTEST(plans.value(in).Proposal.Entry.EntryType, "type");
@@ -189,7 +173,7 @@ private Q_SLOTS:
         QFETCH(const int, days);
         const int out = stage(u"111"_s, day, -1299, texts);
         const int in = stage(number, day.addDays(days), 1299, other);
-        const QHash<int, cRowPlan> plans = bank.Make({out, in});
+        const QHash<int, cRowPlan> plans = bank.Plan({out, in});
         QCOMPARE(plans.value(out).Proposal.PartnerRow, isTransfer ? in : 0);
         QCOMPARE(plans.value(in).Proposal.PartnerRow, isTransfer ? out : 0);
         QCOMPARE(plans.value(in).Proposal.Entry.EntryType, isTransfer ? modWord::Umbuchung : modWord::Einnahme);
@@ -274,9 +258,9 @@ private Q_SLOTS:
             entry.EntryCategory = u"A"_s;
             change(entry, row);
             QVERIFY(bank.Hive.Change(row));
-            QCOMPARE(cImportBook::BookAs(bank.Booking, row.ID, entry).Rows, 1);
+            QVERIFY(bank.BookAs(row.ID, entry));
         }
-        const QHash<int, cRowPlan> plans = bank.Make(open);
+        const QHash<int, cRowPlan> plans = bank.Plan(open);
         QHash<int, cProposal> proposals;
         for (const int row : std::as_const(open)) {
             QCOMPARE(plans.value(row).Group, isTurned ? eRowGroup::InBook : eRowGroup::Look);
@@ -296,19 +280,6 @@ private Q_SLOTS:
         }
     }
 
-    // The row of the account that gets the money was there first: the transfer moves to the day on which it left.
-    void ATransferHasTheDayOfTheDebit()
-    {
-        cBank bank;
-        const int in = bank.Stage(day.addDays(2), 20000, u"Ich"_s, u"111"_s, u"222"_s);
-        cNoProgress progress;
-        QCOMPARE(bank.Booking.Book({in}, bank.Booking.Propose({in}), progress).Entries, 1);
-        const int out = bank.Stage(day, -20000, u"Ich"_s, u"222"_s);
-        QCOMPARE(bank.Booking.Book({out}, bank.Booking.Propose({out}), progress).Joined, 1);
-        QCOMPARE(bank.Data.GetEntries({}).size(), 1);
-        QCOMPARE(bank.Data.GetEntries({}).constFirst().EntryDate, day);
-    }
-
     void ADoubleIsNoSideOfATransfer_data()
     {
         // account: that the first of two equal debits names
@@ -325,12 +296,10 @@ private Q_SLOTS:
         QFETCH(const bool, isBooked);
         cBank bank;
         const int first = bank.Stage(day, -20000, u"Quirrlix"_s, account);
-        cNoProgress progress;
-        const int booked =
-            isBooked ? bank.Booking.Book({first}, bank.Booking.Propose({first}), progress).EntryIds.constFirst() : 0;
+        const int booked = isBooked ? bank.BookAll({first}).EntryIds.constFirst() : 0;
         const int second = bank.Stage(day, -20000, u"Quirrlix GmbH"_s, u"222"_s);
         const int in = bank.Stage(day, 20000, u"Quirrlix"_s, u"111"_s, u"222"_s);
-        const QHash<int, cRowPlan> plans = bank.Make({first, second, in});
+        const QHash<int, cRowPlan> plans = bank.Plan({first, second, in});
         QVERIFY(plans.value(isBooked ? second : first).IsSecond);
         const cProposal proposal = plans.value(in).Proposal;
         QTEST(proposal.Entry.EntryType, "type");
@@ -352,11 +321,10 @@ private Q_SLOTS:
         cBank bank;
         QVERIFY(bank.Accounts.Assign(u"333"_s, u"Depot"_s));
         const int in = bank.Stage(day.addDays(1), 20000, u"Ole Muster"_s, u"111"_s, u"222"_s);
-        cNoProgress progress;
-        const int entry = bank.Booking.Book({in}, bank.Booking.Propose({in}), progress).EntryIds.constFirst();
+        const int entry = bank.BookAll({in}).EntryIds.constFirst();
         const int out = bank.Stage(day, -20000, u"Ole Muster"_s, u"222"_s);
         const int other = bank.Stage(day.addDays(1), -20000, u"Ole Muster"_s, account);
-        const QHash<int, cRowPlan> plans = bank.Make({out, other});
+        const QHash<int, cRowPlan> plans = bank.Plan({out, other});
         const auto isPaying = [&](int row) {
             return MatchOf(plans.value(row)) == entry || plans.value(row).Proposal.ExistingEntry == entry;
         };
@@ -389,7 +357,7 @@ private Q_SLOTS:
         const int secondOut = bank.Stage(day.addDays(1), -20000, u"Ich"_s, u"222"_s);
         const int secondIn = bank.Stage(day, 20000, u"Ich"_s, u"111"_s, u"222"_s);
         bank.Kinds = {{out, u'v'}, {in, u'b'}, {secondOut, u'b'}, {secondIn, u'v'}};
-        const QHash<int, cRowPlan> plans = bank.Make({out, in, secondOut, secondIn});
+        const QHash<int, cRowPlan> plans = bank.Plan({out, in, secondOut, secondIn});
         QVERIFY(plans.value(secondOut).IsSecond && plans.value(secondIn).IsSecond);
         QCOMPARE(plans.value(out).Proposal.PartnerRow, in);
         QCOMPARE(plans.value(in).Proposal.PartnerRow, out);
@@ -405,7 +373,7 @@ private Q_SLOTS:
         const int first = bank.Stage(day, -20000, u"Quirrlix"_s);
         const int second = bank.Stage(day, -20000, u"Quirrlix GmbH"_s, u"222"_s);
         const int in = bank.Stage(day, 20000, u"Quirrlix"_s, u"111"_s, u"222"_s);
-        const QHash<int, cRowPlan> plans = bank.Make({first, second, in});
+        const QHash<int, cRowPlan> plans = bank.Plan({first, second, in});
         QCOMPARE(MatchOf(plans.value(first)), entry);
         QVERIFY(plans.value(second).IsSecond);
         QCOMPARE(plans.value(in).Proposal.Entry.EntryType, modWord::Einnahme);
@@ -417,10 +385,10 @@ private Q_SLOTS:
         cBank bank;
         const int first = bank.Stage(day, -2310, u"Quirrlix"_s, u"DE05"_s);
         const int second = bank.Stage(day, -2310, u"Quirrlix GmbH"_s, u"DE05"_s);
-        QVERIFY(!bank.Make({first, second}).value(first).IsSecond);
+        QVERIFY(!bank.Plan({first, second}).value(first).IsSecond);
         QVERIFY(bank.PlanOf(second).IsSecond);
         bank.Enter(day, 2310, u"Quirrlix GmbH"_s);
-        const QHash<int, cRowPlan> plans = bank.Make({first, second});
+        const QHash<int, cRowPlan> plans = bank.Plan({first, second});
         const bool isFirstThere = MatchOf(plans.value(first)) != 0;
         QVERIFY(isFirstThere != (MatchOf(plans.value(second)) != 0));
         QCOMPARE(plans.value(isFirstThere ? second : first).IsSecond, true);

@@ -89,7 +89,8 @@ private Q_SLOTS:
         QFETCH(QString, text);
         QFETCH(double, value);
         QFETCH(eRestriction, restriction);
-        const modKeywordRules::cMatch match = modKeywordRules::Match(text, modAmount::ToCents(value), restriction);
+        const modKeywordRules::cMatch match =
+            modKeywordRules::Last(modKeywordRules::Hits(text, modAmount::ToCents(value)), restriction);
         QTEST(match.Category, "category");
         QTEST(match.Interval, "interval");
         QTEST(match.Keyword, "keyword");

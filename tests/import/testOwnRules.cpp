@@ -29,11 +29,7 @@ cOwnRule Food(const QString& text)
 
 struct cBank : cBankBook
 {
-    cProposal Propose(const cImportEntry& row)
-    {
-        const int id = Stage(row);
-        return cBooking(Data, Hive, Accounts).Propose({id}).value(id);
-    }
+    cProposal Propose(const cImportEntry& row) { return cImportBook::Propose(Stage(row)); }
 
     void Keep(const QList<cOwnRule>& rules) { QVERIFY(cOwnRules(*Settings).Save(rules)); }
 };
@@ -176,11 +172,10 @@ private Q_SLOTS:
     void BeforeWhatWasLearned() const
     {
         cBank bank;
-        cBooking booking(bank.Data, bank.Hive, bank.Accounts);
         const int first = bank.Stage(Row(-5, u"Korn"_s, u"Brot"_s));
-        cEntryItem entry = booking.Propose({first}).value(first).Entry;
+        cEntryItem entry = bank.cImportBook::Propose(first).Entry;
         entry.EntryCategory = u"Freizeit"_s;
-        QCOMPARE(cImportBook::BookAs(booking, first, entry).Rows, 1);
+        QVERIFY(bank.BookAs(first, entry));
         QCOMPARE(bank.Propose(Row(-6, u"Korn"_s, u"Brot"_s)).Entry.EntryCategory, u"Freizeit"_s);
         bank.Keep({Food(u"brot"_s)});
         QCOMPARE(bank.Propose(Row(-7, u"Korn"_s, u"Brot"_s)).Entry.EntryCategory, u"Haushalt; Lebensmittel"_s);
@@ -224,9 +219,8 @@ private Q_SLOTS:
     {
         cBank bank;
         bank.Keep({Food(u"penny"_s)});
-        cBooking booking(bank.Data, bank.Hive, bank.Accounts);
         const int first = bank.Stage(Row(-10, u"REWE Markt"_s, {}));
-        QCOMPARE(cImportBook::BookAs(booking, first, booking.Propose({first}).value(first).Entry).Rows, 1);
+        QCOMPARE(bank.BookAll({first}).Rows, 1);
         const QStringList names{u"Edeka"_s, u"REWE Markt"_s, u"Penny"_s}; // by a keyword, learned, by the rule
         for (const QString& name : names) {
             QVERIFY2(bank.Propose(Row(-12, name, {})).IsSure, qPrintable(name));

@@ -56,7 +56,7 @@ cScore Judge(const QList<cExample>& examples)
     cProposer proposer(book.Data, book.Hive, book.Accounts);
     cScore score;
     for (const cExample& example : examples) {
-        const cProposal proposal = proposer.ProposeBest(example.Row);
+        const cProposal proposal = proposer.Propose(example.Row);
         const bool isRight = example.Expected.contains(proposal.Entry.EntryCategory);
         score.Right += isRight ? 1 : 0;
         score.Sure += proposal.IsSure ? 1 : 0;
@@ -196,7 +196,7 @@ private Q_SLOTS:
         QFETCH(double, value);
         cImportBook book;
         cProposer proposer(book.Data, book.Hive, book.Accounts);
-        const cProposal proposal = proposer.ProposeBest(Row(value, name, purpose));
+        const cProposal proposal = proposer.Propose(Row(value, name, purpose));
         QTEST(proposal.Entry.EntryCategory, "category");
         QTEST(proposal.IsSure, "isSure");
     }

@@ -1,6 +1,7 @@
 #include "core/cBackup.h"
 #include "core/cBook.h"
 #include "core/cSettings.h"
+#include "import/plan/cImportPlan.h"
 #include "import/propose/cBooking.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
@@ -68,7 +69,8 @@ void WorkWith(const cTestFile& file)
             .IsRefused);
     cBooking booking(book.Data(), hive, accounts);
     const int row = book.Data().GetImportEntries().constFirst().ID;
-    QCOMPARE(booking.Book({row}, booking.Propose({row}), progress).Entries, 1);
+    cImportPlan plan({book.Data(), hive, accounts, [](int) { return modStagedTwins::cFile{}; }});
+    QCOMPARE(booking.Book({row}, {{row, plan.Make({row}, progress).value(row).Proposal}}, progress).Entries, 1);
     QCOMPARE(cBackup(book.Database(), shell).Make(file.Path(u"Tresor.backup"_s)), QString());
 }
 

@@ -82,7 +82,7 @@ struct cLessonScene : cTestBook
 
     QString CategoryOf(const cImportEntry& row)
     {
-        return cProposer(Data, Hive, Accounts).ProposeBest(row).Entry.EntryCategory;
+        return cProposer(Data, Hive, Accounts).Propose(row).Entry.EntryCategory;
     }
 
     cImportHiveCache Hive{Data};
@@ -193,6 +193,23 @@ private Q_SLOTS:
         QCOMPARE(scene.User.Asked, QStringList());
         QVERIFY(scene.Data.Journal().Undo());
         QCOMPARE(scene.Entries(), u"03-10 25"_s);
+    }
+
+    // The row of the account that gets the money was there first: the transfer moves to the day on which it left.
+    void ATransferHasTheDayOfTheDebit() const
+    {
+        cScene scene;
+        scene.Settings->Set(modSettingKey::BankNumber.Of(u"222"_s), u"Sparkonto"_s);
+        cEntryItem transfer = scene.Move(u"Girokonto"_s, u"Sparkonto"_s, 20000, QDate(2026, 3, 10));
+        transfer.EntryDescription = u"Rücklage"_s;
+        QVERIFY(scene.Data.ChangeEntry(transfer));
+        scene.cTestBook::Stage(u"222"_s, QDate(2026, 3, 12), 20000, u"Rücklage"_s);
+        QVERIFY(scene.Pay());
+        QCOMPARE(scene.Entries(), u"03-10 200"_s);
+        scene.cTestBook::Stage(u"111"_s, QDate(2026, 3, 9), -20000, u"Rücklage"_s);
+        QVERIFY(scene.Pay());
+        QCOMPARE(scene.Entries(), u"03-09 200"_s);
+        QCOMPARE(scene.Data.GetImportEntries().constFirst().ImportAssignedEntry, transfer.ID);
     }
 
     void PartsOfASplitSeriesMoveTogether() const

@@ -52,10 +52,12 @@ bool AllOpen(const QList<int>& ids, const QList<int>& open)
     return isOpen;
 }
 
-QString AccountText(const cEntryItem& entry)
+QString AccountText(cEntryItem entry)
 {
-    const QString source = entry.EntryAccount.isEmpty() ? cText::Tr("(unbekannt)") : entry.EntryAccount;
-    return entry.EntryAccountMove.isEmpty() ? source : source + u" → "_s + entry.EntryAccountMove;
+    if (entry.EntryAccount.isEmpty()) {
+        entry.EntryAccount = cText::Tr("(unbekannt)");
+    }
+    return entry.Accounts();
 }
 
 // The entry of the book that the row belongs to; 0 when a new one is to be made.

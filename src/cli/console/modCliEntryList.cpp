@@ -46,11 +46,8 @@ QString ToTable(const cCliBook& book, const cEntryItemList& entries)
                      {cText::Tr("Intervall")},
                      {cText::Tr("Text")}});
     for (const cEntryItem& entry : entries) {
-        const QString account = entry.EntryAccountMove.isEmpty()
-            ? entry.EntryAccount
-            : entry.EntryAccount + u" → "_s + entry.EntryAccountMove;
         table.Add({QString::number(entry.ID), modDate::ToText(entry.EntryDate), entry.EntryType,
-                   book.AmountText(entry.EntryValue), account, entry.EntryCategory, entry.EntryInterval,
+                   book.AmountText(entry.EntryValue), entry.Accounts(), entry.EntryCategory, entry.EntryInterval,
                    entry.EntryDescription});
     }
     return table.ToString();

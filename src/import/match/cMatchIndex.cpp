@@ -117,7 +117,7 @@ void cMatchIndex::NoteTakers(const cImportHive& hive, const cIsHere& isHere)
         for (const cImportEntry& row : rows) {
             const cItem& first = m_items[entry->front().Number];
             // A transfer has a row in each of its accounts.
-            if (!row.ImportAssigned || (first.Entry.EntryType == modWord::Umbuchung && !isHere(row))) {
+            if (!row.ImportAssigned || (first.Entry.IsTransfer() && !isHere(row))) {
                 continue;
             }
             if (const std::optional<size_t> number = Nearest(*entry, row.ImportDate)) {

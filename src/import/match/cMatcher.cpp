@@ -12,7 +12,6 @@
 #include "model/modCutText.h"
 #include "model/modRecurrence.h"
 #include "model/modSplit.h"
-#include "model/modWord.h"
 #include "store/cDataAccess.h"
 
 #include <algorithm>
@@ -34,7 +33,7 @@ struct cRowSense
     cRowSense(const cImportEntry& row, cProposal proposal) : Proposal(std::move(proposal))
     {
         // The default category says nothing, and neither does that of a transfer.
-        const bool isKnown = !Proposal.IsDefault && Proposal.Entry.EntryType != modWord::Umbuchung;
+        const bool isKnown = !Proposal.IsDefault && !Proposal.Entry.IsTransfer();
         const cImportEntry whole = modCutText::WholeWords(row);
         Text = cMatchText(whole.ImportBeneficiary, whole.ImportPurpose,
                           isKnown ? Proposal.Entry.EntryCategory : QString());
@@ -42,8 +41,7 @@ struct cRowSense
 
     [[nodiscard]] cMatchText::cLikeness Compare(const cEntryItem& entry, const cMatchText& text) const
     {
-        if (entry.EntryType == modWord::Umbuchung && Proposal.Entry.EntryType == modWord::Umbuchung
-            && entry.EntryAccount == Proposal.Entry.EntryAccount
+        if (entry.IsTransfer() && Proposal.Entry.IsTransfer() && entry.EntryAccount == Proposal.Entry.EntryAccount
             && entry.EntryAccountMove == Proposal.Entry.EntryAccountMove) {
             return {1.0, modMatchScore::eTextMatch::OwnAccount};
         }
@@ -68,7 +66,7 @@ modMatchScore::cEvidence EvidenceOf(const cImportEntry& row, const cMatchIndex::
 // A transfer with another own account than the one that the row names.
 bool IsWithAnother(const cEntryItem& entry, const QString& account)
 {
-    return entry.EntryType == modWord::Umbuchung && !account.isEmpty() && entry.EntryAccount != account
+    return entry.IsTransfer() && !account.isEmpty() && entry.EntryAccount != account
         && entry.EntryAccountMove != account;
 }
 
@@ -106,7 +104,7 @@ struct cMatcher::cKnowledge
         if (!m_proposer) {
             m_proposer = std::make_unique<cProposer>(Data, Hive, Accounts);
         }
-        return m_proposer->ProposeBest(row);
+        return m_proposer->Propose(row);
     }
 
     void ReadIndex(const QString& account, const modPeriod::cRange& range)

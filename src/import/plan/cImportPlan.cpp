@@ -33,11 +33,6 @@ cOccurrence OccurrenceOf(const cMatchCandidate& candidate)
     return {candidate.Entry.ID, candidate.Entry.Planned()};
 }
 
-bool IsTransfer(const cEntryItem& entry)
-{
-    return entry.EntryType == modWord::Umbuchung;
-}
-
 } // namespace
 
 struct cImportPlan::cKnowledge
@@ -170,7 +165,7 @@ const cProposal& cImportPlan::ProposalFor(const cImportEntry& row)
 {
     auto known = m_knowledge->Proposals.find(row.ID);
     if (known == m_knowledge->Proposals.end()) {
-        known = m_knowledge->Proposals.insert(row.ID, m_knowledge->Proposer.ProposeBest(row));
+        known = m_knowledge->Proposals.insert(row.ID, m_knowledge->Proposer.Propose(row));
     }
     return *known;
 }
@@ -239,7 +234,7 @@ void cImportPlan::TakeMatches(const cMatchResult& matches, cPass& pass)
 // something else, and a second series beside the first one is hardly ever meant.
 void cImportPlan::TakeSeries(const cImportEntry& row, cRowPlan& plan, cPass& pass, cMatcher& matcher)
 {
-    if (plan.Match || plan.Proposal.ExistingEntry == 0 || IsTransfer(plan.Proposal.Entry)) {
+    if (plan.Match || plan.Proposal.ExistingEntry == 0 || plan.Proposal.Entry.IsTransfer()) {
         return;
     }
     const cOccurrence paid{plan.Proposal.ExistingEntry, plan.Proposal.Occurrence};
@@ -266,7 +261,7 @@ void cImportPlan::TakeSeries(const cImportEntry& row, cRowPlan& plan, cPass& pas
 bool cImportPlan::IsCrosswise(const cRowPlan& plan, const cRowPlan& other, const cPass& pass)
 {
     const cRowPlan third = pass.Plans.value(other.Proposal.PartnerRow);
-    return !other.Match && !other.IsSecond && IsTransfer(other.Proposal.Entry)
+    return !other.Match && !other.IsSecond && other.Proposal.Entry.IsTransfer()
         && (third.RowId == plan.RowId || (third.IsSecond && third.Twin->RowId == plan.RowId));
 }
 
@@ -274,7 +269,7 @@ bool cImportPlan::IsCrosswise(const cRowPlan& plan, const cRowPlan& other, const
 // for, or a new one.
 void cImportPlan::TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cPass& pass)
 {
-    if (plan.Match || !IsTransfer(plan.Proposal.Entry)) {
+    if (plan.Match || !plan.Proposal.Entry.IsTransfer()) {
         return;
     }
     plan.Reason = plan.Proposal.Reason;
@@ -291,7 +286,7 @@ void cImportPlan::TakeTransfer(const cImportEntry& row, cRowPlan& plan, const cP
     }
     const cRowPlan other = partner->IsSecond ? pass.Plans.value(partner->Twin->RowId) : *partner;
     const QString account = m_knowledge->Parts.Accounts.AccountOf(row.ImportAccount);
-    if (other.Match && IsTransfer(other.Match->Entry)
+    if (other.Match && other.Match->Entry.IsTransfer()
         && (other.Match->Entry.EntryAccount == account || other.Match->Entry.EntryAccountMove == account)) {
         plan.Proposal.ExistingEntry = other.Match->Entry.ID;
         plan.Proposal.PartnerRow = 0;
@@ -340,7 +335,7 @@ void cImportPlan::TakeTwin(cRowPlan& plan, const cPass& pass)
     const cRowPlan other = pass.Plans.value(twin->RowId);
     const auto rank = [](const cRowPlan& each) {
         const bool hasSide = each.Proposal.PartnerRow != 0 || each.Proposal.ExistingEntry != 0;
-        return each.Match ? 2 : IsTransfer(each.Proposal.Entry) && hasSide ? 1 : 0;
+        return each.Match ? 2 : each.Proposal.Entry.IsTransfer() && hasSide ? 1 : 0;
     };
     const bool isBehind =
         rank(plan) != rank(other) ? rank(plan) < rank(other) : !plan.Match && twin->RowId < plan.RowId;

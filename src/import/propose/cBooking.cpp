@@ -3,7 +3,6 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/modLog.h"
-#include "import/propose/cProposer.h"
 #include "import/propose/cSeriesFinder.h"
 #include "import/propose/modOccurrence.h"
 #include "import/stage/cAccountMap.h"
@@ -38,7 +37,7 @@ bool HasAssigned(cImportHiveCache& hive, cImportEntry row, int entryId)
 
 bool IsJoiningTransfer(const cProposal& proposal)
 {
-    return proposal.ExistingEntry != 0 && proposal.Entry.EntryType == modWord::Umbuchung;
+    return proposal.ExistingEntry != 0 && proposal.Entry.IsTransfer();
 }
 
 // What the user has chosen for a row goes to its entry, also where another row brought that.
@@ -77,18 +76,6 @@ cBooking::cBooking(cDataAccess& data, cImportHiveCache& hive, const cAccountMap&
       m_hive(hive),
       m_accounts(accounts)
 {
-}
-
-QHash<int, cProposal> cBooking::Propose(const QList<int>& rowIds)
-{
-    QHash<int, cProposal> proposals;
-    cProposer proposer(m_data, m_hive, m_accounts);
-    for (const int rowId : rowIds) {
-        if (const std::optional<cImportEntry> row = OpenRow(m_hive, rowId)) {
-            proposals.insert(rowId, proposer.ProposeBest(*row));
-        }
-    }
-    return proposals;
 }
 
 // Banks write the newest row first, but a series begins with the oldest.
@@ -194,7 +181,7 @@ cBooking::eOutcome cBooking::BookNew(const cImportEntry& row, const cProposal& p
         return eOutcome::Failed;
     }
     ++result.Entries;
-    result.Bare += proposal.IsDefault && entry.EntryType != modWord::Umbuchung ? 1 : 0;
+    result.Bare += proposal.IsDefault && !entry.IsTransfer() ? 1 : 0;
     ++result.Rows;
     result.EntryIds.append(entry.ID);
     series.Learn(row, entry);

@@ -46,11 +46,8 @@ class cBooking
 public:
     cBooking(cDataAccess& data, cImportHiveCache& hive, const cAccountMap& accounts);
 
-    // Proposals by row ID, in one batch. Rows that are assigned or gone get none.
-    [[nodiscard]] QHash<int, cProposal> Propose(const QList<int>& rowIds);
-
-    // Books the rows as proposed, by day; a proposal may have been edited by the user before. Both rows of a transfer
-    // go to one entry. After a failure all of it is taken back and counted as failed.
+    // Books the rows as proposed, by row ID, in the order of their days; a proposal may have been edited by the user
+    // before. Both rows of a transfer go to one entry. After a failure all of it is taken back and counted as failed.
     [[nodiscard]] cBookingResult Book(const QList<int>& rowIds, const QHash<int, cProposal>& proposals,
                                       cProgress& progress);
 

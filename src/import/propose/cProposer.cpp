@@ -7,6 +7,7 @@
 #include "import/propose/cSeriesFinder.h"
 #include "import/propose/cTransferFinder.h"
 #include "import/propose/modCash.h"
+#include "import/propose/modHint.h"
 #include "import/propose/modIntervalWord.h"
 #include "import/propose/modOwnRule.h"
 #include "import/read/modBookRow.h"
@@ -81,18 +82,6 @@ struct cProposer::cKnowledge
         return day;
     }
 
-    // What the program knows by itself.
-    [[nodiscard]] cHint BestHint(const cImportEntry& row) const
-    {
-        cHint hint = modHint::Best(row);
-        // A keyword knows how often such things are paid as a rule, the purpose may know it of this one.
-        if (modRecurrence::IsRecurring(hint.Interval)) {
-            const QString named = modIntervalWord::In(row.ImportPurpose);
-            hint.Interval = named.isEmpty() ? hint.Interval : named;
-        }
-        return hint;
-    }
-
     // The first one stands in the book, or waits before this row.
     [[nodiscard]] bool IsSecondStart(const QString& category, const QString& account, const cImportEntry& row)
     {
@@ -138,7 +127,7 @@ struct cProposer::cKnowledge
     void Doubt(cProposal& proposal) const
     {
         const cEntryItem& entry = proposal.Entry;
-        if (proposal.IsSure && proposal.ExistingEntry == 0 && entry.EntryType != modWord::Umbuchung
+        if (proposal.IsSure && proposal.ExistingEntry == 0 && !entry.IsTransfer()
             && !Offered.contains(entry.EntryCategory)) {
             proposal.IsSure = false;
             proposal.Reason = cText::Tr("{0}; die Kategorie steht nicht zur Auswahl", {proposal.Reason});
@@ -205,6 +194,19 @@ QString LearnedReason(const cLearned::cChoice& choice, const cImportEntry& row)
     return choice.HasOthers ? cText::Tr("{0}; unsicher, andere sind anders gebucht", {reason}) : reason;
 }
 
+// What the program knows by itself.
+cHint HintOf(const cImportEntry& whole)
+{
+    const cImportEntry row = modBookRow::Bare(whole);
+    cHint hint = modHint::Best(row);
+    // A keyword knows how often such things are paid as a rule, the purpose may know it of this one.
+    if (modRecurrence::IsRecurring(hint.Interval)) {
+        const QString named = modIntervalWord::In(row.ImportPurpose);
+        hint.Interval = named.isEmpty() ? hint.Interval : named;
+    }
+    return hint;
+}
+
 void TakeHint(cProposal& proposal, const cHint& hint)
 {
     proposal.Entry.EntryCategory = hint.Category;
@@ -227,7 +229,7 @@ void TakeCategoryOfFile(cProposal& proposal, const QString& category, bool isSec
 void TakeUnknown(cProposal& proposal, const cImportEntry& row, const QString& category)
 {
     const QString named = modBookRow::CategoryOf(row);
-    if (modBookRow::IsTransfer(row) && proposal.Entry.EntryType != modWord::Umbuchung) {
+    if (modBookRow::IsTransfer(row) && !proposal.Entry.IsTransfer()) {
         proposal.IsSure = false;
         proposal.Reason = cText::Tr("in der Datei eine Umbuchung mit {0}", {row.ImportBeneficiaryAccount});
     } else if (!named.isEmpty() && category.isEmpty() && proposal.IsDefault) {
@@ -292,7 +294,7 @@ void TakeOwnRule(cProposal& proposal, const cOwnRule& rule)
         proposal.IsSure = true;
     }
     // Where the rest comes from, or that it is a transfer, remains worth knowing.
-    const bool isAll = !rule.Category.isEmpty() && entry.EntryType != modWord::Umbuchung;
+    const bool isAll = !rule.Category.isEmpty() && !entry.IsTransfer();
     proposal.Reason = isAll || proposal.Reason.isEmpty() ? reason : proposal.Reason + u"; "_s + reason;
     entry.EntryInterval = rule.Interval.isEmpty() ? entry.EntryInterval : rule.Interval;
     entry.EntryDescription = rule.Description.isEmpty() ? entry.EntryDescription : rule.Description;
@@ -335,20 +337,20 @@ void TakeBooked(cProposal& proposal, const cTransferFinder::cTransfer& transfer,
 
 // One booking makes a lesson sure when the program would have proposed the same: else what was accepted would have to
 // be looked at once more.
-void TakeAgreement(cProposal& proposal, const cLearned::cChoice& choice, const std::function<cHint()>& knownHint)
+void TakeAgreement(cProposal& proposal, const cLearned::cChoice& choice, const cImportEntry& whole)
 {
-    if (proposal.IsSure || choice.HasOthers || proposal.Entry.EntryType == modWord::Umbuchung) {
+    if (proposal.IsSure || choice.HasOthers || proposal.Entry.IsTransfer()) {
         return;
     }
-    const cHint hint = knownHint();
+    const cHint hint = HintOf(whole);
     proposal.IsSure = hint.IsSure && hint.Category == choice.Category;
 }
 
-void TakeDefault(cProposal& proposal, eRestriction restriction)
+void TakeDefault(cProposal& proposal)
 {
     cEntryItem& entry = proposal.Entry;
     proposal.IsDefault = entry.EntryCategory.isEmpty();
-    if (proposal.IsDefault && restriction == eRestriction::None) {
+    if (proposal.IsDefault) {
         entry.EntryInterval = modWord::Einmalig;
         entry.EntryCategory = modWord::Allgemein;
     }
@@ -367,19 +369,7 @@ cProposer::cProposer(cDataAccess& data, cImportHiveCache& hive, const cAccountMa
 
 cProposer::~cProposer() = default;
 
-cProposal cProposer::Propose(const cImportEntry& row, eRestriction restriction)
-{
-    return Make(row, restriction,
-                [&] { return modHint::ByRule(modBookRow::Bare(modCutText::WholeWords(row)), restriction); });
-}
-
-cProposal cProposer::ProposeBest(const cImportEntry& row)
-{
-    return Make(row, eRestriction::None,
-                [&] { return m_knowledge->BestHint(modBookRow::Bare(modCutText::WholeWords(row))); });
-}
-
-cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, const std::function<cHint()>& knownHint)
+cProposal cProposer::Propose(const cImportEntry& row)
 {
     cProposal proposal;
     const cImportEntry whole = modCutText::WholeWords(row);
@@ -392,19 +382,19 @@ cProposal cProposer::Make(const cImportEntry& row, eRestriction restriction, con
         TakeCategoryOfFile(proposal, category, m_knowledge->IsSecondStart(category, proposal.Entry.EntryAccount, row));
     } else if (choice) {
         TakeLesson(proposal, *choice, whole, m_knowledge->Numbered);
-        TakeAgreement(proposal, *choice, knownHint);
+        TakeAgreement(proposal, *choice, whole);
     } else if (!transfer && !m_knowledge->Cash.isEmpty() && modCash::IsCash(modBookRow::Bare(row))) {
         TakeCash(proposal, m_knowledge->Cash, m_knowledge->CashStart);
     } else if (!transfer) {
         // What is written on a transfer between own accounts says nothing about a payee.
-        TakeHint(proposal, knownHint());
+        TakeHint(proposal, HintOf(whole));
         // A keyword alone makes no series where the other rows of the payee say that it is none.
         if (modRecurrence::IsRecurring(proposal.Entry.EntryInterval)
             && m_knowledge->Series.IsContradicted(row, proposal.Entry.EntryInterval)) {
             proposal.Entry.EntryInterval = modWord::Einmalig;
         }
     }
-    TakeDefault(proposal, restriction);
+    TakeDefault(proposal);
     TakeUnknown(proposal, row, category);
     const cOwnRule* own = m_knowledge->OwnRule(row, proposal.Entry.EntryAccount);
     if (transfer) {

@@ -1,8 +1,5 @@
 #pragma once
 
-#include "import/propose/modHint.h"
-#include "import/propose/modKeywordRules.h"
-#include "model/cImportEntry.h"
 #include "model/cProposal.h"
 
 #include <functional>
@@ -11,6 +8,7 @@
 class cAccountMap;
 class cDataAccess;
 class cImportHiveCache;
+struct cImportEntry;
 
 // Proposes entries for staged rows: by the user's own rules, from what the user did with earlier rows of the same
 // payee, from the keyword rules, from the list of payees, and finally a default. Cash goes to the purse. What it knows
@@ -27,17 +25,12 @@ public:
     cProposer(const cProposer&) = delete;
     cProposer& operator=(const cProposer&) = delete;
 
-    [[nodiscard]] cProposal Propose(const cImportEntry& row, eRestriction restriction = eRestriction::None);
-
-    // For rows that are to be booked. Whether money comes or goes is known of them, which leaves the keywords that are
-    // part of many words ("bar", "auto") for those of which nothing else is known: a surer rule goes before them. Only
-    // here a proposal may be called sure.
-    [[nodiscard]] cProposal ProposeBest(const cImportEntry& row);
+    // Whether money comes or goes is known of a row, which leaves the keywords that are part of many words ("bar",
+    // "auto") for those of which nothing else is known: a surer rule goes before them.
+    [[nodiscard]] cProposal Propose(const cImportEntry& row);
 
 private:
     struct cKnowledge;
-    [[nodiscard]] cProposal Make(const cImportEntry& row, eRestriction restriction,
-                                 const std::function<cHint()>& knownHint);
 
     std::unique_ptr<cKnowledge> m_knowledge;
 };

@@ -9,7 +9,6 @@
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modSplit.h"
-#include "model/modWord.h"
 #include "store/cDataAccess.h"
 
 #include <QStringList>
@@ -141,7 +140,7 @@ void cSeriesFinder::Learn(const cImportEntry& row, const cEntryItem& series)
 std::optional<cSeriesMatch> cSeriesFinder::Find(const cImportEntry& row, const cEntryItem& entry)
 {
     const bool isRecurring = modRecurrence::IsRecurring(entry.EntryInterval);
-    if (entry.EntryAccount.isEmpty() || (!isRecurring && entry.EntryType == modWord::Umbuchung)) {
+    if (entry.EntryAccount.isEmpty() || (!isRecurring && entry.IsTransfer())) {
         return std::nullopt;
     }
     if (!m_isBuilt) {

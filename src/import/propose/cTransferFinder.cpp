@@ -228,7 +228,7 @@ bool cTransferFinder::HasTaken(const cImportEntry& other, cTransfer& transfer)
     if (!entry) {
         return false;
     }
-    const bool isThis = entry->EntryType == modWord::Umbuchung
+    const bool isThis = entry->IsTransfer()
         && ((entry->EntryAccount == transfer.Own && entry->EntryAccountMove == transfer.Other)
             || (entry->EntryAccount == transfer.Other && entry->EntryAccountMove == transfer.Own));
     if (isThis && !IsHalf(*entry, other)) {

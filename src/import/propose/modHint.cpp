@@ -193,13 +193,6 @@ cHint FromRule(const cMatch& match, qint64 cents)
 
 } // namespace
 
-cHint modHint::ByRule(const cImportEntry& row, eRestriction restriction)
-{
-    const cMatch match = modKeywordRules::Match(modKeywordRules::MatchText(row), row.ImportValue, restriction);
-    const QString reason = match.Category.isEmpty() ? QString() : cText::Tr("Regel: {0}", {match.Keyword});
-    return {match.Category, match.Interval, reason, false};
-}
-
 cHint modHint::Best(const cImportEntry& row)
 {
     const cView view(row);

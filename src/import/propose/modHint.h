@@ -18,9 +18,6 @@ struct cHint
 
 namespace modHint {
 
-// The keyword rules as they stand. Nothing of it is called sure.
-[[nodiscard]] cHint ByRule(const cImportEntry& row, eRestriction restriction);
-
 // For rows that are to be booked. A keyword that stands inside a longer name of the list, or in the middle of another
 // word, goes behind what the list knows of the payee. Sure is only what nothing else speaks against.
 [[nodiscard]] cHint Best(const cImportEntry& row);

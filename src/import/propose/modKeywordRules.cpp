@@ -153,8 +153,3 @@ modKeywordRules::cMatch modKeywordRules::Last(const QList<cHit>& hits, eRestrict
     }
     return last;
 }
-
-modKeywordRules::cMatch modKeywordRules::Match(const QString& matchText, qint64 cents, eRestriction restriction)
-{
-    return Last(Hits(matchText, cents), restriction);
-}

@@ -30,13 +30,10 @@ struct cHit
     bool IsUncertain = false; // left out by callers that want sure proposals only
 };
 
-// All rules that match, in their order.
+// All rules that match, in their order. `cents` is the signed amount.
 [[nodiscard]] QList<cHit> Hits(const QString& matchText, qint64 cents);
 
 // What remains when each of them overwrites what earlier ones set.
 [[nodiscard]] cMatch Last(const QList<cHit>& hits, eRestriction restriction);
-
-// Applies all rules in their order; the last one that matches wins. `value` is the signed amount.
-[[nodiscard]] cMatch Match(const QString& matchText, qint64 cents, eRestriction restriction);
 
 } // namespace modKeywordRules

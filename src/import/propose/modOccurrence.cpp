@@ -3,7 +3,6 @@
 #include "model/modPeriod.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
-#include "model/modWord.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -58,11 +57,16 @@ std::optional<cEntryItem> modOccurrence::Nearest(const cEntryItem& series, QDate
     return isNear ? std::optional(*nearest) : std::nullopt;
 }
 
+QDate modOccurrence::DayBy(const cEntryItem& entry, const cImportEntry& row)
+{
+    const bool isCredit = entry.IsTransfer() && row.ImportValue > 0;
+    return isCredit || !row.ImportDate.isValid() ? entry.EntryDate : row.ImportDate;
+}
+
 std::optional<cEntryItemFixMod> modOccurrence::CorrectionTo(const cEntryItem& occurrence, const cImportEntry& row,
                                                             eCorrect what)
 {
-    const bool isCredit = occurrence.EntryType == modWord::Umbuchung && row.ImportValue > 0;
-    const QDate day = isCredit || !row.ImportDate.isValid() ? occurrence.EntryDate : row.ImportDate;
+    const QDate day = DayBy(occurrence, row);
     const qint64 cents = what == eCorrect::Day ? occurrence.EntryValue : std::abs(row.ImportValue);
     if (day == occurrence.EntryDate && cents == occurrence.EntryValue) {
         return std::nullopt;

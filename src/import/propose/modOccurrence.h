@@ -24,10 +24,12 @@ namespace modOccurrence {
 [[nodiscard]] std::optional<cEntryItem> Nearest(const cEntryItem& series, QDate day,
                                                 const cEntryItemFixModList& fixMods);
 
+// The day of the row that pays an entry. The day of a transfer is that of the debit, so a credit leaves it.
+[[nodiscard]] QDate DayBy(const cEntryItem& entry, const cImportEntry& row);
+
 // What brings the occurrence in line with the row that pays it: its amount and its day, the latter also written out
-// when it is the planned one. Empty when both agree. The day of a transfer is that of the debit, so a credit leaves it.
-// Of a part of a split entry (Day) only the day is corrected, because the bank knows the whole alone. A comment of the
-// user stays with a correction that only adds to it.
+// when it is the planned one. Empty when both agree. Of a part of a split entry (Day) only the day is corrected,
+// because the bank knows the whole alone. A comment of the user stays with a correction that only adds to it.
 enum class eCorrect { AmountAndDay, Day };
 [[nodiscard]] std::optional<cEntryItemFixMod> CorrectionTo(const cEntryItem& occurrence, const cImportEntry& row,
                                                            eCorrect what = eCorrect::AmountAndDay);

@@ -1,6 +1,7 @@
 #include "import/xml/modOfxRepair.h"
 
 #include "import/xml/modBytes.h"
+#include "import/xml/modXmlPieces.h"
 
 #include <QByteArrayView>
 #include <QHash>
@@ -32,24 +33,18 @@ bool IsBlank(char c)
     return c == ' ' || c == '\t' || c == '\r' || c == '\n';
 }
 
-qsizetype Behind(QByteArrayView text, QByteArrayView end, qsizetype from)
-{
-    const qsizetype found = text.indexOf(end, from);
-    return found < 0 ? text.size() : found + end.size();
-}
-
 // Comments, processing instructions and declarations: nothing of them is kept.
 cTag OtherAt(QByteArrayView text, qsizetype at)
 {
     const QByteArrayView rest = text.sliced(at);
     if (rest.startsWith("<!--")) {
-        return {eTag::Other, {}, Behind(text, "-->", at + 4)};
+        return {eTag::Other, {}, modXmlPieces::Behind(text, "-->", at + 4)};
     }
     if (rest.startsWith("<?")) {
-        return {eTag::Other, {}, Behind(text, "?>", at + 2)};
+        return {eTag::Other, {}, modXmlPieces::Behind(text, "?>", at + 2)};
     }
     const bool isDeclaration = rest.startsWith("<!D") || rest.startsWith("<!E");
-    return isDeclaration ? cTag{eTag::Other, {}, Behind(text, ">", at + 2)} : cTag();
+    return isDeclaration ? cTag{eTag::Other, {}, modXmlPieces::Behind(text, ">", at + 2)} : cTag();
 }
 
 // "<" that begins no tag is a part of a value.

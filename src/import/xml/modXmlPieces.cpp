@@ -14,13 +14,6 @@ qsizetype Find(QByteArrayView text, char wanted, qsizetype from)
     return found == nullptr ? -1 : static_cast<const char*>(found) - text.data();
 }
 
-// Where the text behind `end` begins; the end of the text when `end` never comes.
-qsizetype Behind(QByteArrayView text, QByteArrayView end, qsizetype from)
-{
-    const qsizetype found = text.indexOf(end, from);
-    return found < 0 ? text.size() : found + end.size();
-}
-
 // Behind the ">" of a tag; one inside a quoted attribute does not count.
 qsizetype BehindTag(QByteArrayView text, qsizetype from)
 {
@@ -138,9 +131,9 @@ private:
     {
         const QByteArrayView rest = m_xml.sliced(at);
         if (rest.startsWith("<!--")) {
-            return Behind(m_xml, "-->", at + 4);
+            return modXmlPieces::Behind(m_xml, "-->", at + 4);
         }
-        return rest.startsWith("<![CDATA[") ? Behind(m_xml, "]]>", at + 9) : at + 2;
+        return rest.startsWith("<![CDATA[") ? modXmlPieces::Behind(m_xml, "]]>", at + 9) : at + 2;
     }
 
     // Returns a place before the next "<": values of attributes hold none.
@@ -204,4 +197,10 @@ private:
 modXmlPieces::cPieces modXmlPieces::Cut(QByteArrayView xml, QByteArrayView name)
 {
     return cCutter(xml, name).Run();
+}
+
+qsizetype modXmlPieces::Behind(QByteArrayView text, QByteArrayView end, qsizetype from)
+{
+    const qsizetype found = text.indexOf(end, from);
+    return found < 0 ? text.size() : found + end.size();
 }

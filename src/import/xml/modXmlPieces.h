@@ -39,4 +39,7 @@ struct cPieces
 // and what is never closed stays where it is, so that the parser of the skeleton meets the mistake.
 [[nodiscard]] cPieces Cut(QByteArrayView xml, QByteArrayView name);
 
+// Where the text behind `end` begins; the end of the text when `end` never comes.
+[[nodiscard]] qsizetype Behind(QByteArrayView text, QByteArrayView end, qsizetype from);
+
 } // namespace modXmlPieces

@@ -62,7 +62,7 @@ private:
             return;
         }
         LineOf(entry.EntryAccount)[day] += modBalance::Effect(entry, entry.EntryAccount);
-        if (entry.EntryType == modWord::Umbuchung && entry.EntryAccountMove != entry.EntryAccount) {
+        if (entry.IsTransfer() && entry.EntryAccountMove != entry.EntryAccount) {
             LineOf(entry.EntryAccountMove)[day] += modBalance::Effect(entry, entry.EntryAccountMove);
         }
     }
@@ -142,14 +142,14 @@ modForecast::cAverage modForecast::Average(const cEntryItemList& entries, QDate 
     cAverage average;
     QDate first = today;
     for (const cEntryItem& entry : entries) {
-        const bool isSpending = entry.EntryType == modWord::Ausgabe || entry.EntryType == modWord::Umbuchung;
+        const bool isSpending = entry.EntryType == modWord::Ausgabe || entry.IsTransfer();
         if (!isSpending || entry.EntryInterval != modWord::Einmalig || entry.EntryCategory == modWord::Startguthaben
             || entry.EntryDate > today || entry.EntryDate < from) {
             continue;
         }
         first = std::min(first, entry.EntryDate);
         average.Cents[entry.EntryAccount] += modBalance::Effect(entry, entry.EntryAccount);
-        if (entry.EntryType == modWord::Umbuchung && entry.EntryAccountMove != entry.EntryAccount) {
+        if (entry.IsTransfer() && entry.EntryAccountMove != entry.EntryAccount) {
             average.Cents[entry.EntryAccountMove] += modBalance::Effect(entry, entry.EntryAccountMove);
         }
     }

@@ -53,16 +53,16 @@ bool cEntryCheck::CheckChoices(cEntryFields& fields)
         return false;
     }
     if (!HasCategory(fields)) {
-        return Refuse(cEntrySuggestions::VisibleCategories(m_tools.Data).isEmpty()
-                          ? cText::Tr("Bitte erst neue Kategorien anlegen und diese Buchung einordnen!")
-                          : cText::Tr("Bitte erst eine Kategorie wählen!"));
+        return m_tools.User.Refuse(cEntrySuggestions::VisibleCategories(m_tools.Data).isEmpty()
+                                       ? cText::Tr("Bitte erst neue Kategorien anlegen und diese Buchung einordnen!")
+                                       : cText::Tr("Bitte erst eine Kategorie wählen!"));
     }
     return CheckType(fields) && CheckAccount(fields) && (!IsSplit(fields) || CheckParts(fields));
 }
 
 bool cEntryCheck::CheckType(const cEntryFields& fields) const
 {
-    return !fields.Type.isEmpty() || Refuse(cText::Tr("Bitte erst eine Buchungsart wählen!"));
+    return !fields.Type.isEmpty() || m_tools.User.Refuse(cText::Tr("Bitte erst eine Buchungsart wählen!"));
 }
 
 // Categories that are typed and not there yet; false when the user does not want one. The kind has to be known, because
@@ -107,20 +107,20 @@ bool cEntryCheck::HasCategory(const cEntryFields& fields)
 bool cEntryCheck::CheckAccount(const cEntryFields& fields) const
 {
     return !fields.Account.isEmpty()
-        || Refuse(cEntrySuggestions::VisibleAccounts(m_tools.Data).isEmpty()
-                      ? cText::Tr("Bitte erst neue Konten anlegen und diese Buchung einordnen!")
-                      : cText::Tr("Bitte erst ein Konto wählen!"));
+        || m_tools.User.Refuse(cEntrySuggestions::VisibleAccounts(m_tools.Data).isEmpty()
+                                   ? cText::Tr("Bitte erst neue Konten anlegen und diese Buchung einordnen!")
+                                   : cText::Tr("Bitte erst ein Konto wählen!"));
 }
 
 bool cEntryCheck::CheckParts(const cEntryFields& fields) const
 {
     if (fields.Type == modWord::Umbuchung) {
-        return Refuse(cText::Tr("Eine Umbuchung kann nicht aufgeteilt werden."));
+        return m_tools.User.Refuse(cText::Tr("Eine Umbuchung kann nicht aufgeteilt werden."));
     }
     const qint64 rest = modSplitParts::Rest(fields).value_or(0);
     return rest == 0
-        || Refuse(cText::Tr("Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von {0}.",
-                            {m_tools.Format.Cents(rest)}));
+        || m_tools.User.Refuse(cText::Tr("Die Teile ergeben nicht den ganzen Betrag. Es bleibt ein Rest von {0}.",
+                                         {m_tools.Format.Cents(rest)}));
 }
 
 eEntrySaved cEntryCheck::CheckDays(const cEntryFields& fields) const
@@ -134,10 +134,4 @@ eEntrySaved cEntryCheck::CheckDays(const cEntryFields& fields) const
     }
     return isSeries && !modEntryFields::IsCancelByReadable(fields, m_tools.Clock.Today()) ? eEntrySaved::BadCancelBy
                                                                                           : eEntrySaved::Saved;
-}
-
-bool cEntryCheck::Refuse(const QString& text) const
-{
-    m_tools.User.Show(eTone::Objection, text);
-    return false;
 }

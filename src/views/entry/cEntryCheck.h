@@ -30,7 +30,6 @@ private:
     [[nodiscard]] bool CheckAccount(const cEntryFields& fields) const;
     [[nodiscard]] bool CheckParts(const cEntryFields& fields) const;
     [[nodiscard]] eEntrySaved CheckDays(const cEntryFields& fields) const;
-    [[nodiscard]] bool Refuse(const QString& text) const;
 
     const cBookTools& m_tools;
     cEntrySuggestions& m_suggestions;

@@ -151,7 +151,6 @@ private:
     [[nodiscard]] QString StepName(const cEntryItem& entry, int kept) const;
     void Remember(const QList<cEntryWrite>& rows);
     [[nodiscard]] QString ProposedAccount() const;
-    [[nodiscard]] bool Refuse(const QString& text) const;
 
     const cBookTools& m_tools;
     cEntrySuggestions m_suggestions;

@@ -73,11 +73,11 @@ std::optional<cFault> FaultOf(const cEntryFields& fields, QDate today)
 void cEntryEditor::UseSplit(cFields& fields) const
 {
     if (fields.Type == modWord::Umbuchung) {
-        (void)Refuse(cText::Tr("Eine Umbuchung kann nicht aufgeteilt werden."));
+        m_tools.User.Refuse(cText::Tr("Eine Umbuchung kann nicht aufgeteilt werden."));
         return;
     }
     if (HasCorrections(fields)) {
-        (void)Refuse(cText::Tr("Ein Eintrag mit manuellen Korrekturen kann nicht aufgeteilt werden."));
+        m_tools.User.Refuse(cText::Tr("Ein Eintrag mit manuellen Korrekturen kann nicht aufgeteilt werden."));
         return;
     }
     fields.Face = eEntryFace::Split;
@@ -91,7 +91,7 @@ void cEntryEditor::UseSplit(cFields& fields) const
 bool cEntryEditor::UseNormal(cFields& fields) const
 {
     if (HasCorrections(fields)) {
-        return Refuse(cText::Tr("Teile mit manuellen Korrekturen können nicht zusammengefasst werden."));
+        return m_tools.User.Refuse(cText::Tr("Teile mit manuellen Korrekturen können nicht zusammengefasst werden."));
     }
     const qsizetype parts = modSplitParts::CountFilled(fields);
     if (parts > 1) {
@@ -160,12 +160,6 @@ bool cEntryEditor::HasCorrections(const cFields& fields) const
         return !fields.Corrections.isEmpty();
     }
     return std::any_of(m_ids.begin(), m_ids.end(), [&](int id) { return !m_tools.Data.GetEntryMods(id).isEmpty(); });
-}
-
-bool cEntryEditor::Refuse(const QString& text) const
-{
-    m_tools.User.Show(eTone::Objection, text);
-    return false;
 }
 
 cEntryEditor::eSaved cEntryEditor::Save(cFields fields)
@@ -252,7 +246,7 @@ cEntryEditor::eSaved cEntryEditor::Store(const cFields& fields)
     if (rows.isEmpty()) {
         const cFault fault = FaultOf(fields, m_tools.Clock.Today())
                                  .value_or(cFault{eSaved::Refused, cText::Tr("Er wurde inzwischen gelöscht.")});
-        (void)Refuse(cText::Tr("Eintrag konnte nicht erstellt werden!") + u'\n' + fault.Why);
+        m_tools.User.Refuse(cText::Tr("Eintrag konnte nicht erstellt werden!") + u'\n' + fault.Why);
         return fault.Field;
     }
     cEntryWriter writer(m_tools.Data, m_tools.User);
@@ -324,7 +318,7 @@ void cEntryEditor::Remember(const QList<cEntryWrite>& rows)
         m_suggestions.Note(row.Entry);
     }
     const cEntryItem& first = entries.first();
-    const qint64 cents = first.EntryType == modWord::Umbuchung ? first.EntryValue : modSplit::Net(entries);
+    const qint64 cents = first.IsTransfer() ? first.EntryValue : modSplit::Net(entries);
     m_lastSaved.prepend(modDate::ToText(first.EntryDate) + u"  "_s + first.Name() + u"  "_s
                         + m_tools.Format.Cents(cents));
     m_lastSaved = m_lastSaved.mid(0, mostRemembered);

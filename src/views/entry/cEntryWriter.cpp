@@ -9,7 +9,6 @@
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modSplit.h"
-#include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cSplitGroup.h"
 
@@ -32,7 +31,7 @@ const cEntryItemFixMod* Find(const cEntryItemFixModList& fixMods, QDate start)
 qint64 Whole(const cEntryItemList& parts)
 {
     const cEntryItem& first = parts.first();
-    return first.EntryType == modWord::Umbuchung ? first.EntryValue : modSplit::Net(parts);
+    return first.IsTransfer() ? first.EntryValue : modSplit::Net(parts);
 }
 
 cEntryItemList EntriesOf(const QList<cEntryWrite>& rows)

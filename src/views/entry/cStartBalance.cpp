@@ -9,7 +9,7 @@
 
 bool cStartBalance::IsOne(const cEntryItem& entry) const
 {
-    if (entry.EntryCategory != modWord::Startguthaben || entry.EntryType == modWord::Umbuchung) {
+    if (entry.EntryCategory != modWord::Startguthaben || entry.IsTransfer()) {
         return false;
     }
     const std::optional<cEntryItem> stored = m_data.GetStartGuthaben(entry.EntryAccount);

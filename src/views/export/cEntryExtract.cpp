@@ -3,7 +3,6 @@
 #include "model/modBalance.h"
 #include "model/modPeople.h"
 #include "model/modReceiptName.h"
-#include "model/modWord.h"
 #include "views/list/cEntryListModel.h"
 
 #include <algorithm>
@@ -28,8 +27,7 @@ bool cEntryExtract::HasBalances() const
 
 bool cEntryExtract::HasTransfers() const
 {
-    return std::any_of(Rows.begin(), Rows.end(),
-                       [](const cRow& row) { return row.Entry.EntryType == modWord::Umbuchung; });
+    return std::any_of(Rows.begin(), Rows.end(), [](const cRow& row) { return row.Entry.IsTransfer(); });
 }
 
 bool cEntryExtract::HasPayers() const

@@ -56,7 +56,7 @@ QString IntervalText(const cRow& row)
 
 QString TargetText(const cRow& row)
 {
-    return row.Entry.EntryType == modWord::Umbuchung ? row.Entry.EntryAccountMove : QString();
+    return row.Entry.IsTransfer() ? row.Entry.EntryAccountMove : QString();
 }
 
 } // namespace

@@ -70,7 +70,7 @@ QString TransferText(const QString& other, const QString& path)
 // The entry as the account sees it.
 QByteArray Record(const cEntryItem& entry, const QString& account)
 {
-    const bool isTransfer = entry.EntryType == modWord::Umbuchung;
+    const bool isTransfer = entry.IsTransfer();
     const bool comesIn = isTransfer ? entry.EntryAccountMove == account : entry.EntryType == modWord::Einnahme;
     const QString& other = comesIn ? entry.EntryAccount : entry.EntryAccountMove;
     return Line('D', modDate::ToGerman(entry.EntryDate))
@@ -120,7 +120,7 @@ modExport::cResult modExport::Qif(const cJob& job)
     const bool isDone = ForEachRow(job, [&](qsizetype /*position*/, const cRow& row) {
         const cEntryItem& entry = row.Entry;
         QStringList accounts{entry.EntryAccount};
-        if (entry.EntryType == modWord::Umbuchung && entry.EntryAccountMove != entry.EntryAccount) {
+        if (entry.IsTransfer() && entry.EntryAccountMove != entry.EntryAccount) {
             accounts.append(entry.EntryAccountMove);
         }
         for (const QString& account : accounts) {

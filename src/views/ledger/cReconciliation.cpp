@@ -12,7 +12,6 @@
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modBalance.h"
-#include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/entry/cSplitGroup.h"
@@ -118,7 +117,7 @@ private:
     [[nodiscard]] static bool IsSame(QDate bank, const cEntryItem& entry)
     {
         const qint64 late = entry.EntryDate.daysTo(bank);
-        return late == 0 || (entry.EntryType == modWord::Umbuchung && late > 0 && late <= cTransferFinder::SlowestDays);
+        return late == 0 || (entry.IsTransfer() && late > 0 && late <= cTransferFinder::SlowestDays);
     }
 
     void AddIf(bool isWanted, const cReconcileItem& item)

@@ -33,9 +33,8 @@ struct cSharedHash
 
 QString Words(const cEntryItem& entry)
 {
-    return QStringList{modWord::EntryTypes().ToShown(entry.EntryType), entry.EntryCategory,
-                       cEntryFilter::AccountText(entry), modWord::Intervals().ToShown(entry.EntryInterval),
-                       modPeople::Payer(entry)}
+    return QStringList{modWord::EntryTypes().ToShown(entry.EntryType), entry.EntryCategory, entry.Accounts(),
+                       modWord::Intervals().ToShown(entry.EntryInterval), modPeople::Payer(entry)}
         .join(u'\n');
 }
 
@@ -85,16 +84,10 @@ cEntryItemList cEntryFilter::Search(const cEntryItemList& entries, const QString
     return results;
 }
 
-QString cEntryFilter::AccountText(const cEntryItem& entry)
-{
-    return entry.EntryType == modWord::Umbuchung ? entry.EntryAccount + u" → " + entry.EntryAccountMove
-                                                 : entry.EntryAccount;
-}
-
 qint64 cEntryFilter::ShownCents(const cEntryItem& entry, const QString& account)
 {
     const bool isExpense = entry.EntryType == modWord::Ausgabe;
-    const bool leavesAccount = entry.EntryType == modWord::Umbuchung && entry.EntryAccount == account;
+    const bool leavesAccount = entry.IsTransfer() && entry.EntryAccount == account;
     return isExpense || leavesAccount ? -entry.EntryValue : entry.EntryValue;
 }
 

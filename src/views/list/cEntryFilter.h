@@ -24,9 +24,6 @@ public:
     [[nodiscard]] static cEntryItemList Search(const cEntryItemList& entries, const QString& text,
                                                const QString& account, const cAmountFormat& format);
 
-    // The account as lists show it; of a transfer both accounts.
-    [[nodiscard]] static QString AccountText(const cEntryItem& entry);
-
     // The amount with the sign under which lists show it; a transfer is an expense of the account it leaves.
     [[nodiscard]] static qint64 ShownCents(const cEntryItem& entry, const QString& account);
 

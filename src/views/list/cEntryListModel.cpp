@@ -457,7 +457,7 @@ QString cEntryListModel::Text(int entry, int column) const
     case Date: return modDate::ToText(item.EntryDate);
     case Type: return modWord::EntryTypes().ToShown(item.EntryType);
     case Category: return item.EntryCategory;
-    case Account: return cEntryFilter::AccountText(item);
+    case Account: return item.Accounts();
     case Description: return item.EntryDescription;
     case Payer: return modPeople::Payer(item);
     case Tags: return modTag::Of(item.EntryDescription).join(u' ');

@@ -180,11 +180,6 @@ QString modImportText::Percent(double share)
     return cText::Tr("{0} %", {QString::number(std::lround(share * 100.0))});
 }
 
-QString modImportText::Accounts(const cEntryItem& entry)
-{
-    return entry.EntryAccountMove.isEmpty() ? entry.EntryAccount : entry.EntryAccount + u" → " + entry.EntryAccountMove;
-}
-
 QString modImportText::Reason(const cRowPlan& plan)
 {
     if (plan.Match && plan.Group == eRowGroup::InBook) {

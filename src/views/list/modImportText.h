@@ -64,9 +64,6 @@ namespace modImportText {
 // A share from 0 to 1: "85 %"
 [[nodiscard]] QString Percent(double share);
 
-// "Girokonto", for a transfer "Girokonto → Sparkonto"
-[[nodiscard]] QString Accounts(const cEntryItem& entry);
-
 // Why a row is to become what was planned: the entry that is there, or what speaks for the new one
 [[nodiscard]] QString Reason(const cRowPlan& plan);
 

@@ -26,6 +26,8 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <array>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -34,15 +36,18 @@ namespace {
 constexpr int pageTime = 100;  // milliseconds that the balances wait for a page in front to read what they need as well
 constexpr int saveDelay = 700; // milliseconds of quiet after which a typed filter is stored
 
+constexpr std::array switches{std::pair(&modSettingKey::ViewSingle, &cViewState::ShowsSingle),
+                              std::pair(&modSettingKey::ViewFix, &cViewState::ShowsFix),
+                              std::pair(&modSettingKey::ViewFuture, &cViewState::ShowsFuture),
+                              std::pair(&modSettingKey::ViewStart, &cViewState::ShowsStart),
+                              std::pair(&modSettingKey::ViewAllBalances, &cViewState::BalancesToToday)};
+
 // One of the five View... switches; null for another key.
 bool* Switch(cViewState& view, const cSettingKey& key)
 {
-    const QHash<QString, bool*> switches{{modSettingKey::ViewSingle.Name(), &view.ShowsSingle},
-                                         {modSettingKey::ViewFix.Name(), &view.ShowsFix},
-                                         {modSettingKey::ViewFuture.Name(), &view.ShowsFuture},
-                                         {modSettingKey::ViewStart.Name(), &view.ShowsStart},
-                                         {modSettingKey::ViewAllBalances.Name(), &view.BalancesToToday}};
-    return switches.value(key.Name());
+    const auto* const found =
+        std::find_if(switches.begin(), switches.end(), [&](const auto& known) { return *known.first == key; });
+    return found == switches.end() ? nullptr : &(view.*found->second);
 }
 
 } // namespace
@@ -91,7 +96,7 @@ void cMainModel::SaveLayout(const cPlacement& placement)
     const QStringList numbers{QString::number(placement.Left), QString::number(placement.Top),
                               QString::number(placement.Width), QString::number(placement.Height)};
     m_parts.Configuration.SaveSetting(modSettingKey::WindowSize, numbers.join(u'|'), eSettingPlace::Database);
-    m_parts.Configuration.SaveSetting(modSettingKey::WindowState, QString::number(placement.State),
+    m_parts.Configuration.SaveSetting(modSettingKey::WindowState, QString::number(static_cast<int>(placement.State)),
                                       eSettingPlace::Database);
 }
 
@@ -99,7 +104,7 @@ cMainModel::cPlacement cMainModel::RestoreLayout() const
 {
     const QStringList numbers = m_parts.Configuration.GetSetting(modSettingKey::WindowSize).split(u'|');
     cPlacement placement;
-    placement.State = m_parts.Configuration.GetSetting(modSettingKey::WindowState).toInt();
+    placement.State = static_cast<eWindow>(m_parts.Configuration.GetSetting(modSettingKey::WindowState).toInt());
     if (numbers.size() == 4 && numbers.at(2).toInt() > 0 && numbers.at(3).toInt() > 0) {
         placement.Left = numbers.at(0).toInt();
         placement.Top = numbers.at(1).toInt();

@@ -44,6 +44,7 @@ public:
     };
 
     enum class eSwitch { On, Off };
+    enum class eWindow { Normal, Minimised, Maximised }; // stored as a number
 
     // Place and state of the main window as they are stored.
     struct cPlacement
@@ -52,7 +53,7 @@ public:
         int Top = 0;
         int Width = 0; // 0 when nothing usable is stored
         int Height = 0;
-        int State = 0; // 0 normal, 1 minimised, 2 maximised
+        eWindow State = eWindow::Normal;
     };
 
     cMainModel(const cBookTools& tools, const cParts& parts, QObject* parent = nullptr);

@@ -115,21 +115,22 @@ std::optional<cSavedView> cSavedViews::Manage()
     const QString shown = chosen->Name;
     const QString key = number < mostKeys ? cText::Tr("Taste: Strg+{0}", {QString::number(number + 1)})
                                           : cText::Tr("Ohne Taste; die ersten neun haben eine.");
-    switch (m_tools.User.Decide({.Text = cText::Tr("Ansicht '{0}'", {chosen->Name}) + u'\n' + key,
-                                 .Title = title,
-                                 .Options = {cText::Tr("Zeigen"), cText::Tr("Umbenennen"),
-                                             cText::Tr("An die erste Stelle"), cText::Tr("Löschen")}})) {
-    case 0: return *chosen;
-    case 1: Rename(number); break;
-    case 2:
+    enum class eWay { Show, Rename, First, Delete }; // in the order of the buttons
+    switch (
+        static_cast<eWay>(m_tools.User.Decide({.Text = cText::Tr("Ansicht '{0}'", {chosen->Name}) + u'\n' + key,
+                                               .Title = title,
+                                               .Options = {cText::Tr("Zeigen"), cText::Tr("Umbenennen"),
+                                                           cText::Tr("An die erste Stelle"), cText::Tr("Löschen")}}))) {
+    case eWay::Show: return *chosen;
+    case eWay::Rename: Rename(number); break;
+    case eWay::First:
         std::rotate(views.begin(), chosen, chosen + 1);
         Store(views, cText::Tr("Ansicht '{0}' an die erste Stelle gesetzt", {shown}));
         break;
-    case 3:
+    case eWay::Delete:
         views.erase(chosen);
         Store(views, cText::Tr("Ansicht '{0}' gelöscht", {shown}));
         break;
-    default: break;
     }
     return std::nullopt;
 }

@@ -276,7 +276,7 @@ cOverviewLine cOverviewModel::DueLine(const cEntryItem& item)
 {
     const bool isSeries = cDueItems::IsSeries(item);
     const qint64 effect = modBalance::Effect(item, {});
-    const qint64 cents = item.EntryType == modWord::Umbuchung ? item.EntryValue : effect;
+    const qint64 cents = item.IsTransfer() ? item.EntryValue : effect;
     cOverviewLine line{modDate::ToShortText(item.EntryDate) + u"  "_s + item.Name(), Signed(cents),
                        effect > 0 ? eOverviewTone::Income : eOverviewTone::Plain};
     line.Follow = [this, item] { m_parts.Navigator.OpenEntry(item.ID, item.Planned()); };

@@ -1,7 +1,6 @@
 #include "views/people/modSettlement.h"
 
 #include "model/modBudget.h"
-#include "model/modWord.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -27,7 +26,7 @@ public:
         if (payer.isEmpty()) {
             return;
         }
-        const bool isTransfer = entry.EntryType == modWord::Umbuchung;
+        const bool isTransfer = entry.IsTransfer();
         const qint64 cents = modBudget::SpentCents(entry);
         const modPeople::cShares shares = isTransfer ? m_shares(entry.EntryAccountMove) : Bearers(entry, payer);
         if (shares.isEmpty()) {

@@ -121,7 +121,7 @@ QStringList modSettlementText::EntryTitles()
 QStringList modSettlementText::EntryTexts(const cCountedEntry& counted)
 {
     const cEntryItem& entry = counted.Entry;
-    return {modDate::ToText(entry.EntryDate), entry.Name(), cEntryFilter::AccountText(entry), counted.Payer,
+    return {modDate::ToText(entry.EntryDate), entry.Name(), entry.Accounts(), counted.Payer,
             cPeople::SharesText(counted.Shares)};
 }
 

@@ -90,8 +90,7 @@ bool cRuleEditor::Save()
 {
     const QString problem = modRuleText::Problem(m_draft);
     if (!problem.isEmpty()) {
-        m_tools.User.Show(eTone::Objection, problem);
-        return false;
+        return m_tools.User.Refuse(problem);
     }
     if (!m_draft.Category.isEmpty() && !modBookNames::UsedCategories(m_tools.Data).contains(m_draft.Category)) {
         const QString path = m_suggestions->OfferNew(m_draft.Category, TypeOf(m_draft));

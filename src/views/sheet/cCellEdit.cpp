@@ -80,7 +80,7 @@ std::optional<QString> cCellEdit::Start(const cEntryListModel::cKey& key, int co
 {
     m_suggestions.emplace(m_tools.Data, m_tools.User);
     if (!Takes(key, column)) {
-        (void)Refuse(cText::Tr("Von einem Startguthaben lässt sich in der Liste nur der Betrag ändern."));
+        m_tools.User.Refuse(cText::Tr("Von einem Startguthaben lässt sich in der Liste nur der Betrag ändern."));
         return std::nullopt;
     }
     return Text(key, column);
@@ -103,7 +103,7 @@ cCellEdit::eSaved cCellEdit::Save(const cEntryListModel::cKey& key, int column, 
         return eSaved::Unchanged; // it was deleted meanwhile
     }
     if (const QString fault = Fault(column, typed); !fault.isEmpty()) {
-        (void)Refuse(fault);
+        m_tools.User.Refuse(fault);
         return eSaved::Refused;
     }
     const bool isSame = column == eColumn::Amount
@@ -250,11 +250,6 @@ bool cCellEdit::FillPart(cEntryFields& fields, int id, int column, const QString
     const qint64 size = std::abs(modSum::Evaluate(typed, Decimal()).value_or(0));
     const bool isOpposite = modSum::Evaluate(part->Amount, Decimal()).value_or(0) < 0;
     return modSplitParts::SetAmount(part - fields.Parts.begin(), isOpposite ? -size : size, fields) >= 0
-        || Refuse(cText::Tr("Die Teile kämen zusammen unter null. Öffnen Sie den Eintrag, um alle Teile zu ändern."));
-}
-
-bool cCellEdit::Refuse(const QString& text) const
-{
-    m_tools.User.Show(eTone::Objection, text);
-    return false;
+        || m_tools.User.Refuse(
+            cText::Tr("Die Teile kämen zusammen unter null. Öffnen Sie den Eintrag, um alle Teile zu ändern."));
 }

@@ -56,7 +56,6 @@ private:
     [[nodiscard]] static int SavedIdOf(int id, const cEntryFields& fields, const cEntryEditor& editor);
     [[nodiscard]] bool Fill(cEntryFields& fields, int column, const QString& typed) const;
     [[nodiscard]] bool FillPart(cEntryFields& fields, int id, int column, const QString& typed) const;
-    [[nodiscard]] bool Refuse(const QString& text) const;
 
     const cBookTools& m_tools;
     std::optional<cEntrySuggestions>

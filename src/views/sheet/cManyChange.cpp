@@ -19,6 +19,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <functional>
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,15 +30,10 @@ bool IsSeries(const cEntryItem& entry)
     return modRecurrence::IsRecurring(entry.EntryInterval);
 }
 
-bool IsTransfer(const cEntryItem& entry)
-{
-    return entry.EntryType == modWord::Umbuchung;
-}
-
 // Whether the account by which a list shows the entry is the one where its money arrives.
 bool LeadsTo(const cEntryItem& entry, const QString& shown)
 {
-    return IsTransfer(entry) && !shown.isEmpty() && entry.EntryAccountMove == shown;
+    return entry.IsTransfer() && !shown.isEmpty() && entry.EntryAccountMove == shown;
 }
 
 cEntryItem Applied(cEntryItem entry, const cManyFields& fields, const QString& shown)
@@ -47,7 +43,7 @@ cEntryItem Applied(cEntryItem entry, const cManyFields& fields, const QString& s
     take(LeadsTo(entry, shown) ? entry.EntryAccountMove : entry.EntryAccount, fields.Account);
     take(entry.EntryDescription, fields.Description);
     take(entry.EntryType, fields.Type);
-    if (IsTransfer(entry)) {
+    if (entry.IsTransfer()) {
         take(entry.EntryAccountMove, fields.Target);
     } else {
         entry.EntryAccountMove.clear();
@@ -116,7 +112,7 @@ QStringList cManyChange::Accounts() const
 bool cManyChange::ShowsTarget(const QString& type) const
 {
     return type == modWord::Umbuchung
-        || (type.isEmpty() && std::any_of(m_entries.begin(), m_entries.end(), IsTransfer));
+        || (type.isEmpty() && std::any_of(m_entries.begin(), m_entries.end(), std::mem_fn(&cEntryItem::IsTransfer)));
 }
 
 // As they are stored, with the parts that have to go along.
@@ -203,13 +199,13 @@ cManyChange::eSaved cManyChange::Check(const cManyFields& fields, const cEntryIt
                       "Kategorie."));
     }
     const bool isSplit = std::any_of(changed.begin(), changed.end(), [](const cEntryItem& entry) {
-        return IsTransfer(entry) && modSplit::Group(entry) != 0;
+        return entry.IsTransfer() && modSplit::Group(entry) != 0;
     });
     if (isSplit) {
         return Refuse(cText::Tr("Eine Umbuchung kann nicht aufgeteilt werden."));
     }
     const auto fault = std::find_if(changed.begin(), changed.end(), [](const cEntryItem& entry) {
-        return IsTransfer(entry) && (entry.EntryAccountMove.isEmpty() || entry.EntryAccountMove == entry.EntryAccount);
+        return entry.IsTransfer() && (entry.EntryAccountMove.isEmpty() || entry.EntryAccountMove == entry.EntryAccount);
     });
     if (fault == changed.end()) {
         return eSaved::Saved;
@@ -237,7 +233,7 @@ bool cManyChange::Write(const cEntryItemList& changed) const
 QString cManyChange::TransferText(const cEntryItemList& changed, const cManyFields& fields, const QString& shown)
 {
     const auto to = [&](const cEntryItem& entry) { return LeadsTo(entry, fields.Account); };
-    const auto from = [&](const cEntryItem& entry) { return IsTransfer(entry) && !to(entry); };
+    const auto from = [&](const cEntryItem& entry) { return entry.IsTransfer() && !to(entry); };
     QString text;
     if (!fields.Account.isEmpty() && std::any_of(changed.begin(), changed.end(), to)) {
         text += u"\n\n"_s + cText::Tr("Umbuchungen nach '{0}' kommen dann auf '{1}' an.", {shown, fields.Account});

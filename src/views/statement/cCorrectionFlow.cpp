@@ -11,7 +11,6 @@
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modSplit.h"
-#include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cEntryWriter.h"
 #include "views/entry/cSplitGroup.h"
@@ -37,13 +36,10 @@ QString Named(const cEntryItem& entry)
     return cText::Tr("'{0}' vom {1}", {entry.Name(), modDate::ToText(entry.EntryDate)});
 }
 
-// The entry as its row tells it. A transfer keeps its day where the row is its credit: it lies on the day of the debit.
+// The entry as its row tells it.
 cEntryItem AsRow(cEntryItem entry, const cImportEntry& row)
 {
-    const bool isCredit = entry.EntryType == modWord::Umbuchung && row.ImportValue > 0;
-    if (!isCredit && row.ImportDate.isValid()) {
-        entry.EntryDate = row.ImportDate;
-    }
+    entry.EntryDate = modOccurrence::DayBy(entry, row);
     entry.EntryValue = std::abs(row.ImportValue);
     return entry;
 }

@@ -11,7 +11,6 @@
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modRecurrence.h"
-#include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/list/modImportText.h"
@@ -105,8 +104,8 @@ bool cMatchFlow::AssignSaved(int rowId, int partnerId, int entryId)
         return account == m_parts.Accounts.AccountOf(each.ImportAccount)
             && entry->EntryValue == std::abs(each.ImportValue);
     };
-    const bool isForBoth = entry && row && partner && !partner->ImportAssigned && entry->EntryType == modWord::Umbuchung
-        && isSide(*row) && isSide(*partner);
+    const bool isForBoth =
+        entry && row && partner && !partner->ImportAssigned && entry->IsTransfer() && isSide(*row) && isSide(*partner);
     return m_parts.Booking.Assign(rowId, entryId) && (!isForBoth || m_parts.Booking.Assign(partnerId, entryId));
 }
 

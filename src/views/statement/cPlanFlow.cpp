@@ -6,7 +6,6 @@
 #include "core/cBookTools.h"
 #include "import/propose/cBooking.h"
 #include "import/stage/cImportHiveCache.h"
-#include "model/modWord.h"
 #include "store/cUndoStep.h"
 #include "views/list/modImportText.h"
 #include "views/statement/cMatchFlow.h"
@@ -37,8 +36,8 @@ void CountPlan(const cRowPlan& plan, modReviewQuestion::cNumbers& numbers)
         return;
     }
     const cEntryItem& entry = plan.Proposal.Entry;
-    if (entry.EntryType == modWord::Umbuchung) {
-        ++numbers.Transfers[modImportText::Accounts(entry)];
+    if (entry.IsTransfer()) {
+        ++numbers.Transfers[entry.Accounts()];
     } else {
         ++(plan.Proposal.IsDefault ? numbers.Bare : numbers.Categories[entry.EntryCategory]);
     }

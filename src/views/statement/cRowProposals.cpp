@@ -24,8 +24,7 @@ constexpr qsizetype slice = 150;      // of a higher pile: what a list shows, an
 // Whether it says what an entry was for; a transfer needs none.
 bool HasCategory(const cEntryItem& entry)
 {
-    return entry.EntryType == modWord::Umbuchung
-        || (!entry.EntryCategory.isEmpty() && entry.EntryCategory != modWord::Allgemein);
+    return entry.IsTransfer() || (!entry.EntryCategory.isEmpty() && entry.EntryCategory != modWord::Allgemein);
 }
 
 } // namespace
@@ -104,12 +103,11 @@ cRowPlan cRowProposals::WithChoice(cRowPlan plan) const
     if (!choice.Category.isEmpty()) {
         cEntryItem& entry = plan.Proposal.Entry;
         const bool isLook = plan.Group == eRowGroup::Look && !plan.Match && !plan.IsSecond;
-        if (isLook && entry.EntryType == modWord::Umbuchung && entry.EntryCategory != choice.Category) {
+        if (isLook && entry.IsTransfer() && entry.EntryCategory != choice.Category) {
             // Of what may be no transfer the user has said what it was for.
             plan.Proposal.MakeSpent(choice.Row, m_parts.Accounts.AccountOf(choice.Row.ImportAccount));
         }
-        if (entry.EntryCategory != choice.Category && entry.EntryType != modWord::Umbuchung
-            && plan.Proposal.BookedAs.isEmpty()) {
+        if (entry.EntryCategory != choice.Category && !entry.IsTransfer() && plan.Proposal.BookedAs.isEmpty()) {
             plan.Proposal.ExistingEntry = 0; // the series that would go on has another category
         }
         entry.EntryCategory = choice.Category;
@@ -121,8 +119,7 @@ cRowPlan cRowProposals::WithChoice(cRowPlan plan) const
         plan.Proposal.Entry.EntryInterval = choice.Interval;
         // The series that it belonged to has another interval; an entry that becomes a transfer gets it.
         plan.Proposal.ExistingEntry = plan.Proposal.BookedAs.isEmpty() ? 0 : plan.Proposal.ExistingEntry;
-        plan.Proposal.IsAlone =
-            choice.Interval == modWord::Einmalig && plan.Proposal.Entry.EntryType != modWord::Umbuchung;
+        plan.Proposal.IsAlone = choice.Interval == modWord::Einmalig && !plan.Proposal.Entry.IsTransfer();
     }
     if (!choice.Description.isEmpty()) {
         plan.Proposal.Entry.EntryDescription = choice.Description;
@@ -178,7 +175,7 @@ cStagedInfo cRowProposals::Info(const cImportEntry& row)
     const bool isThere = plan.Match && plan.Group == eRowGroup::InBook;
     const cEntryItem& entry = isThere ? plan.Match->Entry : plan.Proposal.Entry;
     cStagedInfo info;
-    info.Account = modImportText::Accounts(entry);
+    info.Account = entry.Accounts();
     info.Category = entry.EntryCategory;
     info.Interval = entry.EntryInterval;
     info.HasCategory = HasCategory(entry);
@@ -193,7 +190,7 @@ cStagedInfo cRowProposals::BookedInfo(const cImportEntry& row)
 {
     cStagedInfo info;
     if (const std::optional<cEntryItem> entry = m_parts.Accounts.getAssignedEntry(row)) {
-        info.Account = modImportText::Accounts(*entry);
+        info.Account = entry->Accounts();
         info.Category = entry->EntryCategory;
         info.Interval = entry->EntryInterval;
         info.HasCategory = HasCategory(*entry);

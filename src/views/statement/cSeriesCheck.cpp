@@ -13,7 +13,6 @@
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modSplit.h"
-#include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/entry/cContracts.h"
@@ -147,8 +146,7 @@ cEntryItemList cSeriesCheck::SeriesOf(const QString& account, const QHash<QStrin
     cEntryItemList all = m_tools.Data.GetSeriesOfAccount(account);
     QSet<int> groups;
     all.removeIf([&](const cEntryItem& entry) {
-        const bool isHere = entry.EntryAccount == account
-            || (entry.EntryType == modWord::Umbuchung && !rows.contains(entry.EntryAccount));
+        const bool isHere = entry.EntryAccount == account || (entry.IsTransfer() && !rows.contains(entry.EntryAccount));
         const int group = modSplit::Group(entry);
         if (!isHere || !modRecurrence::IsRecurring(entry.EntryInterval) || !entry.EntryDate.isValid()
             || (group != 0 && groups.contains(group))) {

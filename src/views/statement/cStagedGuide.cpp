@@ -91,7 +91,7 @@ bool cStagedGuide::IsFieldEnough(const cImportEntry& row)
 {
     const cRowPlan plan = m_parts.Proposals.PlanOf(row);
     return plan.Group == eRowGroup::Look && !plan.Match && !plan.IsSecond && !plan.IsBeside
-        && plan.Proposal.Entry.EntryType != modWord::Umbuchung;
+        && !plan.Proposal.Entry.IsTransfer();
 }
 
 cStagedGuide::cStop cStagedGuide::LookAt(int id)

@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "import/read/cTableLayout.h"
 #include "import/table/modTableProfile.h"
+#include "views/statement/modTableOption.h"
 
 #include <algorithm>
 #include <array>
@@ -12,18 +13,6 @@ using namespace Qt::Literals::StringLiterals;
 namespace {
 
 using eField = cImportAssistant::eField;
-
-struct cCharset
-{
-    eCharset Charset;
-    const char16_t* Name;
-};
-
-constexpr std::array charsets = {
-    cCharset{eCharset::Utf8, u"UTF-8"},          cCharset{eCharset::Windows1252, u"Windows-1252"},
-    cCharset{eCharset::Cp850, u"CP850 (DOS)"},   cCharset{eCharset::Utf16LE, u"UTF-16"},
-    cCharset{eCharset::Utf16BE, u"UTF-16 (BE)"},
-};
 
 struct cSeparator
 {
@@ -38,19 +27,21 @@ constexpr std::array separators = {
     cSeparator{u'|', QT_TRANSLATE_NOOP("cText", "senkrechter Strich")},
 };
 
-QString Name(eCharset charset)
+// The item of a list behind "Automatisch"; 0 when it is not there.
+int ItemOf(eCharset charset)
 {
-    const auto* const found =
-        std::find_if(charsets.begin(), charsets.end(), [&](const cCharset& known) { return known.Charset == charset; });
-    return found == charsets.end() ? QString() : QString::fromUtf16(found->Name);
+    const auto& all = modTableOption::Charsets();
+    const auto found =
+        std::find_if(all.begin(), all.end(), [&](const auto& known) { return known.Charset == charset; });
+    return found == all.end() ? 0 : static_cast<int>(found - all.begin()) + 1;
 }
 
-QString Name(QChar separator)
+int ItemOf(QChar separator)
 {
     const auto* const found = std::find_if(separators.begin(), separators.end(), [&](const cSeparator& known) {
         return QChar(known.Separator) == separator;
     });
-    return found == separators.end() ? QString() : cText::Tr(found->Name);
+    return found == separators.end() ? 0 : static_cast<int>(found - separators.begin()) + 1;
 }
 
 QStringList Profiles()
@@ -60,19 +51,21 @@ QStringList Profiles()
 
 QStringList Charsets(eCharset found)
 {
-    QStringList items{modTableField::Automatic(Name(found))};
-    for (const cCharset& known : charsets) {
-        items.append(QString::fromUtf16(known.Name));
+    QStringList items{QString()};
+    for (const auto& known : modTableOption::Charsets()) {
+        items.append(known.Shown);
     }
+    items.first() = modTableField::Automatic(items.at(ItemOf(found)));
     return items;
 }
 
 QStringList Separators(QChar found)
 {
-    QStringList items{modTableField::Automatic(Name(found))};
+    QStringList items{QString()};
     for (const cSeparator& known : separators) {
         items.append(cText::Tr(known.Name));
     }
+    items.first() = modTableField::Automatic(items.at(ItemOf(found)));
     return items;
 }
 
@@ -114,17 +107,8 @@ int modTableField::Current(eField field, const cTableChoice& choice, const cTabl
 {
     switch (field) {
     case eField::Profile: return CurrentProfile(choice.Profile);
-    case eField::Charset: {
-        const auto* const found = std::find_if(charsets.begin(), charsets.end(),
-                                               [&](const cCharset& known) { return known.Charset == choice.Charset; });
-        return found == charsets.end() ? 0 : static_cast<int>(found - charsets.begin()) + 1;
-    }
-    case eField::Separator: {
-        const auto* const found = std::find_if(separators.begin(), separators.end(), [&](const cSeparator& known) {
-            return choice.Separator == QChar(known.Separator);
-        });
-        return found == separators.end() ? 0 : static_cast<int>(found - separators.begin()) + 1;
-    }
+    case eField::Charset: return ItemOf(choice.Charset);
+    case eField::Separator: return ItemOf(choice.Separator.value_or(QChar()));
     case eField::Number: return static_cast<int>(layout.Number);
     case eField::Date: return static_cast<int>(layout.Date);
     case eField::Sign: return static_cast<int>(layout.Sign);
@@ -135,12 +119,14 @@ int modTableField::Current(eField field, const cTableChoice& choice, const cTabl
 
 void modTableField::Choose(eField field, int item, cTableChoice& choice)
 {
-    const auto place = static_cast<std::size_t>(item - 1);
     switch (field) {
     case eField::Profile: choice.Profile = ProfileAt(item); break;
-    case eField::Charset: choice.Charset = item == 0 ? eCharset::Detect : charsets.at(place).Charset; break;
+    case eField::Charset:
+        choice.Charset = item == 0 ? eCharset::Detect : modTableOption::Charsets().at(item - 1).Charset;
+        break;
     case eField::Separator:
-        choice.Separator = item == 0 ? std::optional<QChar>() : QChar(separators.at(place).Separator);
+        choice.Separator =
+            item == 0 ? std::optional<QChar>() : QChar(separators.at(static_cast<std::size_t>(item - 1)).Separator);
         break;
     case eField::Number: choice.Number = static_cast<eNumberFormat>(item); break;
     case eField::Date: choice.Date = static_cast<eDateOrder>(item); break;

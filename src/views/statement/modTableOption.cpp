@@ -13,18 +13,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-struct cCharsetName
-{
-    eCharset Charset;
-    const char16_t* Name;
-};
-
-constexpr std::array charsets = {
-    cCharsetName{eCharset::Utf8, u"utf-8"},       cCharsetName{eCharset::Windows1252, u"windows-1252"},
-    cCharsetName{eCharset::Cp850, u"cp850"},      cCharsetName{eCharset::Utf16LE, u"utf-16"},
-    cCharsetName{eCharset::Utf16BE, u"utf-16be"},
-};
-
 struct cSignName
 {
     eSignRule Sign;
@@ -94,11 +82,21 @@ QString ColumnsFault(const QString& text)
 
 } // namespace
 
+const QList<modTableOption::cCharset>& modTableOption::Charsets()
+{
+    static const QList<cCharset> all{{eCharset::Utf8, u"UTF-8"_s, u"utf-8"_s},
+                                     {eCharset::Windows1252, u"Windows-1252"_s, u"windows-1252"_s},
+                                     {eCharset::Cp850, u"CP850 (DOS)"_s, u"cp850"_s},
+                                     {eCharset::Utf16LE, u"UTF-16"_s, u"utf-16"_s},
+                                     {eCharset::Utf16BE, u"UTF-16 (BE)"_s, u"utf-16be"_s}};
+    return all;
+}
+
 QStringList modTableOption::CharsetNames()
 {
     QStringList names;
-    for (const cCharsetName& known : charsets) {
-        names.append(QString::fromUtf16(known.Name));
+    for (const cCharset& known : Charsets()) {
+        names.append(known.Name);
     }
     return names;
 }
@@ -131,8 +129,9 @@ QString modTableOption::Fault(const cFileWish& wish)
 cTableChoice modTableOption::Choice(const cFileWish& wish)
 {
     cTableChoice choice;
-    const auto* const charset = std::find_if(charsets.begin(), charsets.end(), [&](const cCharsetName& known) {
-        return wish.Charset.compare(QStringView(known.Name), Qt::CaseInsensitive) == 0;
+    const QList<cCharset>& charsets = Charsets();
+    const auto charset = std::find_if(charsets.begin(), charsets.end(), [&](const cCharset& known) {
+        return wish.Charset.compare(known.Name, Qt::CaseInsensitive) == 0;
     });
     choice.Charset = charset == charsets.end() ? eCharset::Detect : charset->Charset;
     choice.Profile = wish.Profile;
@@ -156,9 +155,9 @@ cTableChoice modTableOption::Choice(const cFileWish& wish)
 
 QString modTableOption::CharsetName(eCharset charset)
 {
-    const auto* const found = std::find_if(charsets.begin(), charsets.end(),
-                                           [&](const cCharsetName& known) { return known.Charset == charset; });
-    return found == charsets.end() ? QString() : QString::fromUtf16(found->Name);
+    const auto found = std::find_if(Charsets().begin(), Charsets().end(),
+                                    [&](const cCharset& known) { return known.Charset == charset; });
+    return found == Charsets().end() ? QString() : found->Name;
 }
 
 QList<std::pair<QString, int>> modTableOption::Columns(const cColumnMap& map)

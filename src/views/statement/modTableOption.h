@@ -14,6 +14,15 @@ struct cTableChoice;
 // What can be said about a table in words of one line, as options of a command have them.
 namespace modTableOption {
 
+// A charset as lists show it and as an option names it.
+struct cCharset
+{
+    eCharset Charset;
+    QString Shown;
+    QString Name;
+};
+[[nodiscard]] const QList<cCharset>& Charsets();
+
 [[nodiscard]] QStringList CharsetNames();
 [[nodiscard]] QStringList ColumnNames();
 [[nodiscard]] QStringList SignNames(); // as the file has it, then the other way round

@@ -13,12 +13,6 @@
 
 #include <algorithm>
 
-bool cTemplateFlow::Refuse(const QString& text)
-{
-    m_tools.User.Show(eTone::Objection, text);
-    return false;
-}
-
 QString cTemplateFlow::AskRenameAccount(const QString& oldName)
 {
     const std::optional<QString> name =
@@ -37,7 +31,7 @@ bool cTemplateFlow::RenameAccount(const QString& oldName, const QString& newName
 {
     const QString name = modTemplate::TypedName(newName);
     if (name.isEmpty()) {
-        return Refuse(cText::Tr("Der Kontoname darf nicht leer sein!"));
+        return m_tools.User.Refuse(cText::Tr("Der Kontoname darf nicht leer sein!"));
     }
     std::optional<cTemplateItem> account = m_tools.Data.FindAccount(oldName);
     if (!account || name == oldName) {
@@ -45,7 +39,7 @@ bool cTemplateFlow::RenameAccount(const QString& oldName, const QString& newName
     }
     account->TemplateName = name;
     if (IsTaken(*account)) {
-        return Refuse(cText::Tr("Dieser Kontoname existiert bereits!"));
+        return m_tools.User.Refuse(cText::Tr("Dieser Kontoname existiert bereits!"));
     }
     eAnswer answer = eAnswer::No;
     if (m_tools.Data.CountEntriesByAccount().value(oldName) >= 1) { // also those that only lead to it
@@ -107,13 +101,13 @@ bool cTemplateFlow::RenameCategory(const cTemplateItem& category, const QString&
         return false;
     }
     if (modTemplateText::IsProtected(oldPath)) {
-        return Refuse(modTemplateText::ProtectedHint());
+        return m_tools.User.Refuse(modTemplateText::ProtectedHint());
     }
     if (renamed.TemplateName.isEmpty() && !category.TemplateName.isEmpty()) {
-        return Refuse(cText::Tr("Der Name der Kategorie darf nicht leer sein!"));
+        return m_tools.User.Refuse(cText::Tr("Der Name der Kategorie darf nicht leer sein!"));
     }
     if (IsTaken(renamed) || modTemplateText::IsProtected(newPath)) {
-        return Refuse(cText::Tr("Die Kategorie '{0}' existiert bereits!", {newPath}));
+        return m_tools.User.Refuse(cText::Tr("Die Kategorie '{0}' existiert bereits!", {newPath}));
     }
     cUndoStep step(m_tools.Data, cText::Tr("Kategorie '{0}' umbenannt", {oldPath}));
     return step.DoneIf(m_tools.Data.ChangeTemplate(renamed) && FollowPath(renamed.ID, oldPath));
@@ -168,16 +162,16 @@ bool cTemplateFlow::RenameMain(const QString& oldMain, const QString& newMain)
 {
     const QString main = modTemplate::TypedName(newMain);
     if (main.isEmpty()) {
-        return Refuse(cText::Tr("Der Name der Kategorie darf nicht leer sein!"));
+        return m_tools.User.Refuse(cText::Tr("Der Name der Kategorie darf nicht leer sein!"));
     }
     if (main == oldMain) {
         return false;
     }
     if (HoldsProtected(oldMain)) {
-        return Refuse(modTemplateText::ProtectedHint());
+        return m_tools.User.Refuse(modTemplateText::ProtectedHint());
     }
     if (IsMainTaken(main, oldMain)) {
-        return Refuse(cText::Tr("Die Hauptkategorie '{0}' existiert bereits!", {main}));
+        return m_tools.User.Refuse(cText::Tr("Die Hauptkategorie '{0}' existiert bereits!", {main}));
     }
     cUndoStep step(m_tools.Data, cText::Tr("Hauptkategorie '{0}' umbenannt", {oldMain}));
     return step.DoneIf(WriteMain(oldMain, main) && cOwnRules(m_tools.Settings).RenameMain(oldMain, main));

@@ -49,7 +49,6 @@ private:
     [[nodiscard]] bool WriteMain(const QString& oldMain, const QString& newMain);
     [[nodiscard]] bool HoldsProtected(const QString& main) const;
     [[nodiscard]] bool IsMainTaken(const QString& newMain, const QString& oldMain) const;
-    bool Refuse(const QString& text);
 
     const cBookTools& m_tools;
 };

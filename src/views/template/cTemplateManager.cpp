@@ -84,12 +84,6 @@ QDate cTemplateManager::Today() const
     return m_tools.Clock.Today();
 }
 
-bool cTemplateManager::Refuse(const QString& text)
-{
-    m_tools.User.Show(eTone::Objection, text);
-    return false;
-}
-
 QHash<int, QString> cTemplateManager::AccountNames() const
 {
     QHash<int, QString> names;
@@ -181,12 +175,12 @@ QString cTemplateManager::AddCategory(const QString& main, const QString& sub)
 {
     const cTemplateItem item = modTemplate::NewCategory(m_tools.Data.GetTemplates(), main, sub);
     if (item.TemplateCategory.isEmpty() && item.TemplateName.isEmpty()) {
-        (void)Refuse(cText::Tr("Der Name der Kategorie darf nicht leer sein!"));
+        m_tools.User.Refuse(cText::Tr("Der Name der Kategorie darf nicht leer sein!"));
         return {};
     }
     const QString path = modTemplate::Path(item);
     if (FindCategory(path)) {
-        (void)Refuse(cText::Tr("Die Kategorie '{0}' existiert bereits!", {path}));
+        m_tools.User.Refuse(cText::Tr("Die Kategorie '{0}' existiert bereits!", {path}));
         return {};
     }
     return Add(item, cText::Tr("Kategorie '{0}' angelegt", {path}), path);
@@ -213,11 +207,11 @@ QString cTemplateManager::AddAccount(const QString& name, const QString& group)
     item.TemplateCategory = modTemplate::TypedName(group);
     item.TemplateName = modTemplate::TypedName(name);
     if (item.TemplateName.isEmpty()) {
-        (void)Refuse(cText::Tr("Der Kontoname darf nicht leer sein!"));
+        m_tools.User.Refuse(cText::Tr("Der Kontoname darf nicht leer sein!"));
         return {};
     }
     if (cTemplateFlow(m_tools).IsTaken(item)) {
-        (void)Refuse(cText::Tr("Dieser Kontoname existiert bereits!"));
+        m_tools.User.Refuse(cText::Tr("Dieser Kontoname existiert bereits!"));
         return {};
     }
     return Add(item, cText::Tr("Konto '{0}' angelegt", {item.TemplateName}), item.TemplateName);
@@ -267,7 +261,7 @@ QString cTemplateManager::AskAddMain()
 {
     const QString name = AskName(cText::Tr("Name der neuen Hauptkategorie:"), cText::Tr("Neue Kategorie"));
     if (HasMain(modTemplate::TypedName(name))) {
-        (void)Refuse(cText::Tr("Die Hauptkategorie '{0}' existiert bereits!", {modTemplate::TypedName(name)}));
+        m_tools.User.Refuse(cText::Tr("Die Hauptkategorie '{0}' existiert bereits!", {modTemplate::TypedName(name)}));
         return {};
     }
     return name.isEmpty() ? QString() : AddCategory(name, {});
@@ -305,7 +299,7 @@ bool cTemplateManager::RenameCategory(const QString& oldPath, const QString& typ
     }
     const std::optional<cTemplateItem> category = FindCategory(oldPath);
     if (!category) {
-        return Refuse(cText::Tr("Die Kategorie '{0}' gibt es nicht.", {oldPath}));
+        return m_tools.User.Refuse(cText::Tr("Die Kategorie '{0}' gibt es nicht.", {oldPath}));
     }
     return Tell(flow.RenameCategory(*category, modTemplate::MainOf(newPath), sub));
 }
@@ -313,7 +307,7 @@ bool cTemplateManager::RenameCategory(const QString& oldPath, const QString& typ
 bool cTemplateManager::RenameAccount(const QString& oldName, const QString& newName)
 {
     if (!m_tools.Data.FindAccount(oldName)) {
-        return Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {oldName}));
+        return m_tools.User.Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {oldName}));
     }
     return Tell(cTemplateFlow(m_tools).RenameAccount(oldName, newName));
 }
@@ -322,7 +316,7 @@ bool cTemplateManager::SetLimit(const QString& account, std::optional<qint64> ce
 {
     std::optional<cTemplateItem> item = m_tools.Data.FindAccount(account);
     if (!item) {
-        return Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {account}));
+        return m_tools.User.Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {account}));
     }
     item->TemplateDefaultValue = cents ? modAmount::CentsToText(*cents) : QString();
     const QString name = cents ? cText::Tr("Kontolimit von '{0}' ist nun {1}", {account, m_tools.Format.Cents(*cents)})
@@ -343,7 +337,7 @@ bool cTemplateManager::DeleteCategory(const QString& path)
     }
     const std::optional<cTemplateItem> category = FindCategory(path);
     if (!category) {
-        return Refuse(cText::Tr("Die Kategorie '{0}' gibt es nicht.", {path}));
+        return m_tools.User.Refuse(cText::Tr("Die Kategorie '{0}' gibt es nicht.", {path}));
     }
     return Tell(removal.DeleteCategory(*category));
 }
@@ -351,7 +345,7 @@ bool cTemplateManager::DeleteCategory(const QString& path)
 bool cTemplateManager::DeleteAccount(const QString& name)
 {
     if (!m_tools.Data.FindAccount(name)) {
-        return Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {name}));
+        return m_tools.User.Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {name}));
     }
     return TellGone(cTemplateRemoval(m_tools).DeleteAccount(name), name, {});
 }

@@ -116,7 +116,6 @@ private:
     bool Tell(bool isDone);
     bool TellGone(bool isDone, const QString& oldName, const QString& newName);
     [[nodiscard]] QHash<int, QString> AccountNames() const; // by the ID of the definition
-    bool Refuse(const QString& text);
 
     const cBookTools& m_tools;
     cTemplateTreeModel m_categories;

@@ -40,12 +40,6 @@ cTemplateItemList CategoriesAt(const cTemplateItemList& items, const QString& pa
 
 } // namespace
 
-bool cTemplateRemoval::Refuse(const QString& text)
-{
-    m_tools.User.Show(eTone::Objection, text);
-    return false;
-}
-
 bool cTemplateRemoval::Ask(const QString& text, const QString& title)
 {
     return m_tools.User.Ask({.Text = text, .Title = title, .Default = eAnswer::No}) == eAnswer::Yes;
@@ -54,7 +48,7 @@ bool cTemplateRemoval::Ask(const QString& text, const QString& title)
 QString cTemplateRemoval::Choose(const QString& text, const QString& title, const QStringList& items)
 {
     if (items.isEmpty()) {
-        (void)Refuse(cText::Tr("Es gibt nichts, wohin die Buchungen gehen könnten."));
+        m_tools.User.Refuse(cText::Tr("Es gibt nichts, wohin die Buchungen gehen könnten."));
         return {};
     }
     const std::optional<QString> answer =
@@ -150,7 +144,7 @@ bool cTemplateRemoval::Delete(const cDoomed& doomed, const QString& onlyDelete)
     const QString title = cText::Tr("Kategorie löschen");
     if (std::any_of(doomed.Items.begin(), doomed.Items.end(),
                     [](const cTemplateItem& item) { return modTemplateText::IsProtected(modTemplate::Path(item)); })) {
-        return Refuse(modTemplateText::ProtectedHint());
+        return m_tools.User.Refuse(modTemplateText::ProtectedHint());
     }
     if (doomed.Entries == 0) {
         const QString text =
@@ -201,7 +195,7 @@ bool cTemplateRemoval::Remove(const cDoomed& doomed, const QString& target)
 bool cTemplateRemoval::AskMergeCategory(const QString& sourcePath)
 {
     if (modTemplateText::IsProtected(sourcePath)) {
-        return Refuse(modTemplateText::ProtectedHint());
+        return m_tools.User.Refuse(modTemplateText::ProtectedHint());
     }
     const QString target =
         Choose(cText::Tr("Kategorie, in der '{0}' aufgehen soll:", {modTemplateText::ShownPath(sourcePath)}),
@@ -214,10 +208,10 @@ bool cTemplateRemoval::MergeCategory(const QString& sourcePath, const QString& t
     const cTemplateItemList items = m_tools.Data.GetTemplates();
     const cTemplateItemList sources = CategoriesAt(items, sourcePath);
     if (modTemplateText::IsProtected(sourcePath) || modTemplateText::IsProtected(targetPath)) {
-        return Refuse(modTemplateText::ProtectedHint());
+        return m_tools.User.Refuse(modTemplateText::ProtectedHint());
     }
     if (sourcePath == targetPath || CategoriesAt(items, targetPath).isEmpty()) {
-        return Refuse(cText::Tr("Die Kategorie '{0}' gibt es nicht.", {targetPath}));
+        return m_tools.User.Refuse(cText::Tr("Die Kategorie '{0}' gibt es nicht.", {targetPath}));
     }
     const int count = m_tools.Data.CountEntriesByCategory().value(sourcePath);
     const QString shown = modTemplateText::ShownPath(sourcePath);
@@ -246,10 +240,10 @@ bool cTemplateRemoval::MergeMain(const QString& source, const QString& target)
 {
     const cDoomed doomed = CollectMain(source);
     if (doomed.Paths.contains(modWord::Startguthaben, Qt::CaseInsensitive)) {
-        return Refuse(modTemplateText::ProtectedHint());
+        return m_tools.User.Refuse(modTemplateText::ProtectedHint());
     }
     if (source == target || !Mains(source).contains(target)) {
-        return Refuse(cText::Tr("Die Hauptkategorie '{0}' gibt es nicht.", {target}));
+        return m_tools.User.Refuse(cText::Tr("Die Hauptkategorie '{0}' gibt es nicht.", {target}));
     }
     const QString text = cText::Tr(
         "Alles aus '{0}' kommt nach '{1}': {2} und {3}. Gleichnamige Unterkategorien werden "
@@ -296,7 +290,8 @@ bool cTemplateRemoval::DeleteAccount(const QString& name)
         return false;
     }
     if (m_tools.Data.GetAccounts().size() == 1) {
-        return Refuse(cText::Tr("Das letzte Konto kann nicht gelöscht werden: Jede Buchung braucht ein Konto."));
+        return m_tools.User.Refuse(
+            cText::Tr("Das letzte Konto kann nicht gelöscht werden: Jede Buchung braucht ein Konto."));
     }
     const int entries = m_tools.Data.CountEntriesByAccount().value(name);
     if (entries == 0) {
@@ -367,7 +362,7 @@ bool cTemplateRemoval::MergeAccount(const QString& source, const QString& target
 {
     const std::optional<cTemplateItem> account = m_tools.Data.FindAccount(source);
     if (source == target || !m_tools.Data.FindAccount(target)) {
-        return Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {target}));
+        return m_tools.User.Refuse(cText::Tr("Das Konto '{0}' gibt es nicht.", {target}));
     }
     const QStringList values{modTemplateText::Entries(m_tools.Data.CountEntriesByAccount().value(source)), source,
                              target};

@@ -63,7 +63,6 @@ private:
     // One of the items; empty, with a message where there is none, when the user gives up.
     [[nodiscard]] QString Choose(const QString& text, const QString& title, const QStringList& items);
     [[nodiscard]] bool Ask(const QString& text, const QString& title);
-    bool Refuse(const QString& text);
 
     const cBookTools& m_tools;
 };

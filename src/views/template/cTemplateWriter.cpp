@@ -112,12 +112,6 @@ bool IsBelow(const cTemplateItem& item, const QString& main)
 
 } // namespace
 
-bool cTemplateWriter::Refuse(const QString& text)
-{
-    m_tools.User.Show(eTone::Objection, text);
-    return false;
-}
-
 bool cTemplateWriter::Step(const QString& name, const fnWrite& write)
 {
     cUndoStep step(m_tools.Data, name);
@@ -181,14 +175,14 @@ cTemplateFields cTemplateWriter::LoadAccount(const cTemplateItem& item, QDate to
 bool cTemplateWriter::IsAmount(const QString& text)
 {
     return text.trimmed().isEmpty() || modSum::Evaluate(text, m_tools.Format.Decimal())
-        || Refuse(modSum::Fault(text, m_tools.Format.Decimal()));
+        || m_tools.User.Refuse(modSum::Fault(text, m_tools.Format.Decimal()));
 }
 
 bool cTemplateWriter::IsVat(const QString& old, const QString& text)
 {
     return text.trimmed().isEmpty() || text == old || ReadVat(text, m_tools.Format.Decimal())
-        || Refuse(cText::Tr("'{0}' ist kein Steuersatz. Bitte geben Sie Prozente ein, zum Beispiel 19 oder 7.",
-                            {text.trimmed()}));
+        || m_tools.User.Refuse(cText::Tr(
+            "'{0}' ist kein Steuersatz. Bitte geben Sie Prozente ein, zum Beispiel 19 oder 7.", {text.trimmed()}));
 }
 
 std::optional<QString> cTemplateWriter::Save(const cTemplateNode& node, const cTemplateFields& old,
@@ -247,7 +241,7 @@ bool cTemplateWriter::CanSaveMain(const QString& main, const cTemplateFields& fi
         return IsBelow(item, main) && modTemplate::Path(item) != main;
     });
     return hasSubs || fields.IsBookable
-        || Refuse(cText::Tr("Eine Hauptkategorie ohne Unterkategorien muss direkt bebuchbar sein."));
+        || m_tools.User.Refuse(cText::Tr("Eine Hauptkategorie ohne Unterkategorien muss direkt bebuchbar sein."));
 }
 
 std::optional<QString> cTemplateWriter::SaveMain(const cTemplateNode& node, const cTemplateFields& old,
@@ -316,7 +310,7 @@ bool cTemplateWriter::HasDay(const cTemplateFields& old, const cTemplateFields& 
 {
     const bool isUnchanged = fields.Amount == old.Amount && fields.Date == old.Date;
     return isUnchanged || fields.Amount.trimmed().isEmpty() || fields.Date.isValid()
-        || Refuse(cText::Tr("Bitte geben Sie den Tag des Startguthabens an, zum Beispiel 31.01.2026."));
+        || m_tools.User.Refuse(cText::Tr("Bitte geben Sie den Tag des Startguthabens an, zum Beispiel 31.01.2026."));
 }
 
 bool cTemplateWriter::StaysOpen(const cTemplateItem& account, const cTemplateFields& fields)
@@ -326,7 +320,8 @@ bool cTemplateWriter::StaysOpen(const cTemplateItem& account, const cTemplateFie
         return other.ID != account.ID && modTemplate::IsVisible(other);
     });
     return fields.IsVisible || isOtherOpen
-        || Refuse(cText::Tr("Das letzte offene Konto kann nicht geschlossen werden: Jede Buchung braucht ein Konto."));
+        || m_tools.User.Refuse(
+            cText::Tr("Das letzte offene Konto kann nicht geschlossen werden: Jede Buchung braucht ein Konto."));
 }
 
 bool cTemplateWriter::ConfirmNumbers(const QString& account, const QString& text)

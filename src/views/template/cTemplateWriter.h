@@ -72,7 +72,6 @@ private:
     [[nodiscard]] bool ConfirmNumbers(const QString& account, const QString& text);
     [[nodiscard]] bool IsAmount(const QString& text);                  // says so when it is none
     [[nodiscard]] bool IsVat(const QString& old, const QString& text); // says so when it is no rate
-    bool Refuse(const QString& text);
     // One step, taken back when `write` fails.
     [[nodiscard]] bool Step(const QString& name, const fnWrite& write);
 

@@ -245,7 +245,7 @@ void frmMain::RestoreLayout()
         const QRect place(placement.Left, placement.Top, placement.Width, placement.Height);
         setGeometry(modPlace::Visible(place, modPlace::FreeAreas(*screen())));
     }
-    if (placement.State == 2) {
+    if (placement.State == cMainModel::eWindow::Maximised) {
         setWindowState(Qt::WindowMaximized);
     }
     m_tree->SetLayoutText(m_model.Layout(modSettingKey::MainList));
@@ -450,7 +450,8 @@ void frmMain::Raise()
 void frmMain::SaveLayout()
 {
     const QRect place = isMaximized() || isMinimized() ? normalGeometry() : geometry();
-    const int state = isMaximized() ? 2 : isMinimized() ? 1 : 0;
+    using eWindow = cMainModel::eWindow;
+    const eWindow state = isMaximized() ? eWindow::Maximised : isMinimized() ? eWindow::Minimised : eWindow::Normal;
     m_model.SaveLayout({place.left(), place.top(), place.width(), place.height(), state});
     m_model.SaveListLayout(modSettingKey::MainList, m_tree->LayoutText());
     m_model.SaveListLayout(modSettingKey::ClosedGroups, m_tree->GroupText());
