@@ -114,11 +114,11 @@ private Q_SLOTS:
     void PayersOfAnotherBookBecomePersons()
     {
         m_page->Settings->Set(modSettingKey::People, u"Ben"_s);
-        const QString path = m_page->WriteFile(
-            u"a.csv"_s,
-            "Gruppe;Datum;Buchungsart;Kategorie;Konto;Zielkonto;Beschreibung;Bezahlt von;Betrag\r\n"
-            "2026;30.01.2026;Ausgabe;Haushalt;Girokonto;;Markt;Anna;-5,00\r\n"
-            "2026;31.01.2026;Ausgabe;Haushalt;Girokonto;;Markt;Ben;-7,00\r\n");
+        const QString path =
+            m_page->WriteFile(u"a.csv"_s,
+                              "Gruppe;Datum;Buchungsart;Kategorie;Konto;Zielkonto;Beschreibung;Bezahlt von;Betrag\r\n"
+                              "2026;30.01.2026;Ausgabe;Haushalt;Girokonto;;Markt;Anna;-5,00\r\n"
+                              "2026;31.01.2026;Ausgabe;Haushalt;Girokonto;;Markt;Ben;-7,00\r\n");
         m_page->User.Answers = {eAnswer::Yes, eAnswer::Yes, eAnswer::Yes};
         m_page->Review.Files().ImportFiles({path}, m_page->Progress);
         m_page->Review.AcceptProposals(m_page->Progress);

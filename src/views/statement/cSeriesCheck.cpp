@@ -218,8 +218,7 @@ cEntryItemList cSeriesCheck::OccurrencesOf(const cEntryItem& series, const modPe
     const QDate putOff = std::max(days.End, m_tools.Clock.Today().addDays(1));
     modRecurrence::Expand(series, {days.Start, putOff}, m_tools.Data.GetEntryMods(series.ID), occurrences);
     occurrences.removeIf([&](const cEntryItem& each) {
-        return each.EntryDate > days.End
-            && (each.Planned() > days.End || !modSeries::IsLate(each.CorrectionComment));
+        return each.EntryDate > days.End && (each.Planned() > days.End || !modSeries::IsLate(each.CorrectionComment));
     });
     return occurrences;
 }
