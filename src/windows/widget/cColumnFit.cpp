@@ -17,7 +17,7 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int enoughLetters = 11; // for a word such as a kind or an interval, where the title needs no more
+constexpr int enoughLetters = 11; // for a word such as a kind or an interval
 constexpr int mostLetters = 40;   // that a column of texts takes of room that is left
 constexpr int rowsToMeasure = 200;
 
@@ -59,8 +59,7 @@ int cColumnFit::Letter() const
 int cColumnFit::Wanted(int column) const
 {
     const int wanted = m_wanted.at(column);
-    const int letters = m_columns.at(static_cast<std::size_t>(column)).Letters * Letter();
-    return wanted > 0 ? wanted : std::max(letters, m_view.header()->sectionSizeHint(column));
+    return wanted > 0 ? wanted : m_columns.at(static_cast<std::size_t>(column)).Letters * Letter();
 }
 
 QString cColumnFit::WidestAmount(int column) const
@@ -181,8 +180,8 @@ void cColumnFit::Fit()
             const bool takesRest = column == m_rest && m_wanted.at(column) == 0;
             rest = takesRest ? static_cast<int>(shown.size()) : rest;
             const int least = column == m_dragged ? Wanted(column) : m_least.at(column);
-            const int enough = std::max(enoughLetters * Letter(), header.sectionSizeHint(column));
-            columns.append({Wanted(column), enough, least, Most(column)});
+            columns.append(
+                {Wanted(column), enoughLetters * Letter(), least, Most(column), header.sectionSizeHint(column)});
             shown.append(column);
         }
     }
