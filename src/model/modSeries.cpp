@@ -123,11 +123,15 @@ bool modSeries::IsBooked(const QString& comment)
     return comment == BankComment() || comment == u"Laut Kontoauszug";
 }
 
+bool modSeries::IsLate(const QString& comment)
+{
+    return comment == LateComment() || comment == u"Laut Kontoauszug noch nicht gebucht";
+}
+
 bool modSeries::IsFromBank(const QString& comment)
 {
-    const QStringList others{LateComment(), MissedComment(), u"Laut Kontoauszug noch nicht gebucht"_s,
-                             u"Laut Kontoauszug nicht gebucht"_s};
-    return IsBooked(comment) || others.contains(comment);
+    return IsBooked(comment) || IsLate(comment) || comment == MissedComment()
+        || comment == u"Laut Kontoauszug nicht gebucht";
 }
 
 bool modSeries::IsMoved(const cEntryItem& occurrence)

@@ -46,6 +46,7 @@ namespace modSeries {
 [[nodiscard]] QString MissedComment(); // and never will
 [[nodiscard]] bool IsFromBank(const QString& comment);
 [[nodiscard]] bool IsBooked(const QString& comment);      // the bank has booked the occurrence
+[[nodiscard]] bool IsLate(const QString& comment);        // not yet
 [[nodiscard]] bool IsMoved(const cEntryItem& occurrence); // by the user to another day
 
 } // namespace modSeries

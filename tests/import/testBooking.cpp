@@ -44,9 +44,9 @@ private Q_SLOTS:
     void FileOfBookSpeaksFirst_data()
     {
         const cTestRows<QString, QString, QString, QString> row("category", "other", "proposed", "reason");
-        row("known", u"haushalt; Lebensmittel"_s, {}, u"Haushalt; Lebensmittel"_s, u"Kategorie aus der Datei"_s);
         row("sign lost", u"Einkommen; Lohn - Gehalt"_s, {}, u"Einkommen; Lohn / Gehalt"_s,
             u"Kategorie aus der Datei"_s);
+        row("main category without a line", u"wohnung"_s, {}, u"Wohnung"_s, u"Kategorie aus der Datei"_s);
         row("unknown", u"Hobby; Modellbau"_s, {}, u"Allgemein"_s, u"in der Datei unter Hobby; Modellbau"_s);
         row("second start", modWord::Startguthaben, {}, modWord::Startguthaben,
             u"das Konto hat schon ein Startguthaben"_s);

@@ -338,11 +338,10 @@ private Q_SLOTS:
         cBank bank;
         QVERIFY(bank.Accounts.Assign(u"333"_s, u"Depot"_s));
         const int saved = bank.Stage(day, 20000, u"Ole Muster"_s, u"111"_s, u"222"_s);
-        cNoProgress progress;
-        const int entry = bank.Booking.Book({saved}, bank.Booking.Propose({saved}), progress).EntryIds.constFirst();
+        const int entry = bank.BookAll({saved}).EntryIds.constFirst();
         const int out = bank.Stage(day, -20000, u"Ole Muster"_s, {});
         const int in = bank.Stage(day.addDays(1), 20000, u"Ole Muster"_s, u"111"_s, u"333"_s);
-        const QHash<int, cRowPlan> plans = bank.Make({out, in});
+        const QHash<int, cRowPlan> plans = bank.Plan({out, in});
         QCOMPARE(MatchOf(plans.value(out)), entry);
         QCOMPARE(plans.value(in).Proposal.ExistingEntry, 0);
         QCOMPARE(plans.value(in).Proposal.Entry.EntryType, modWord::Einnahme);

@@ -1,4 +1,5 @@
 #include "base/cProgress.h"
+#include "model/modPeople.h"
 #include "model/modSettingKey.h"
 #include "model/modSplit.h"
 #include "support/cTestClass.h"
@@ -108,6 +109,24 @@ private Q_SLOTS:
             entries.append(QStringList{entry.EntryType, entry.EntryCategory, entry.EntryAccountMove}.join(u' '));
         }
         QTEST(entries, "entries");
+    }
+
+    // Who paid in another book could be neither chosen nor looked for in this one.
+    void PayersOfAnotherBookBecomePersons()
+    {
+        m_page->Settings->Set(modSettingKey::People, u"Ben"_s);
+        const QString path =
+            m_page->WriteFile(u"a.csv"_s,
+                              "Gruppe;Datum;Buchungsart;Kategorie;Konto;Zielkonto;Beschreibung;Bezahlt von;Betrag\r\n"
+                              "2026;30.01.2026;Ausgabe;Haushalt;Girokonto;;Markt;Anna;-5,00\r\n"
+                              "2026;31.01.2026;Ausgabe;Haushalt;Girokonto;;Markt;Ben;-7,00\r\n");
+        m_page->User.Answers = {eAnswer::Yes, eAnswer::Yes, eAnswer::Yes};
+        m_page->Review.Files().ImportFiles({path}, m_page->Progress);
+        m_page->Review.AcceptProposals(m_page->Progress);
+        QVERIFY(m_page->Review.Summary().contains(u"Als Personen angelegt: Anna"_s));
+        QCOMPARE(m_page->Settings->Get(modSettingKey::People), modPeople::ToText({u"Ben"_s, u"Anna"_s}));
+        QVERIFY(m_page->Data.Journal().Undo());
+        QCOMPARE(m_page->Settings->Get(modSettingKey::People), u"Ben"_s);
     }
 
     // Older rows of an account that the book has under this name would count on top of its start balance.

@@ -262,17 +262,22 @@ private Q_SLOTS:
     void FirstStepsBesideRows_data()
     {
         QTest::addColumn<bool>("isNamed"); // the bank names what it was at the end
+        QTest::addColumn<QString>("leftOut");
         QTest::addColumn<QString>("typed");
         QTest::addColumn<bool>("isTaken");
         QTest::addColumn<qint64>("start");
-        QTest::addRow("without a balance of the bank") << false << u"700,00"_s << true << qint64(65000);
-        QTest::addRow("what the bank says") << true << u"1.050,00"_s << true << qint64(100000);
-        QTest::addRow("not what the bank says") << true << u"700"_s << false << qint64(100000);
+        QTest::addRow("without a balance of the bank") << false << QString() << u"700,00"_s << true << qint64(65000);
+        QTest::addRow("a row left out") << false << u"2026-01-10=100"_s << u"700,00"_s << true << qint64(65000);
+        QTest::addRow("the bank's beside a row left out")
+            << true << u"2026-01-10=100"_s << u"1.050,00"_s << true << qint64(100000);
+        QTest::addRow("what the bank says") << true << QString() << u"1.050,00"_s << true << qint64(100000);
+        QTest::addRow("not what the bank says") << true << QString() << u"700"_s << false << qint64(100000);
     }
 
     void FirstStepsBesideRows()
     {
         QFETCH(const bool, isNamed);
+        QFETCH(const QString, leftOut);
         QFETCH(const QString, typed);
         QFETCH(const bool, isTaken);
         QFETCH(const qint64, start);
@@ -287,7 +292,10 @@ private Q_SLOTS:
         scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Girokonto"_s);
         scene.Book.Settings->Set(modSettingKey::BankBalances.Of(u"4711"_s),
                                  isNamed ? u"2026-01-20=105000"_s : QString());
-        (void)scene.Book.Data.SetStartGuthaben(u"Girokonto"_s, 100000, QDate(2026, 1, 9));
+        scene.Book.Settings->Set(modSettingKey::EqualLeftOut.Of(u"4711"_s), leftOut);
+        if (!isNamed || leftOut.isEmpty()) { // else the bank's is all there is
+            (void)scene.Book.Data.SetStartGuthaben(u"Girokonto"_s, 100000, QDate(2026, 1, 9));
+        }
         const cFirstSteps steps = scene.Model.FirstSteps();
         QList<cFirstSteps::cRow> rows = steps.Start();
         QCOMPARE(rows.at(0).Amount, u"1050,00"_s);

@@ -25,6 +25,7 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDropEvent>
+#include <QHeaderView>
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPointer>
@@ -479,13 +480,27 @@ private Q_SLOTS:
         row("half outside", left.translated(-700, 300), left.translated(-700, 300));
         row("screen is gone", left.translated(5000, 0), QRect(240, 200, 800, 600));
         row("edge above the screen", left.translated(0, -400), QRect(240, 200, 800, 600));
-        row("too large for what is left", QRect(5000, 0, 3000, 2000), QRect(0, 0, 1280, 1000));
+        row("too large for what is left", QRect(5000, 0, 3000, 2000), QRect(8, 40, 1264, 952));
+        row("larger than its screen", QRect(1651, 534, 2460, 690), QRect(1288, 302, 1264, 690));
+        row("over both screens", QRect(100, 100, 2300, 600), QRect(100, 100, 2300, 600));
     }
 
     void PlaceIsInReach()
     {
         QFETCH(QRect, Place);
         QTEST(modPlace::Visible(Place, {QRect(0, 0, 1280, 1000), QRect(1280, 0, 1280, 1000)}), "Shown");
+    }
+
+    // With room for the arrow of the column by which the list is sorted.
+    void TitlesAreWholeByDefault()
+    {
+        frmMain& window = m_scene->Window;
+        window.resize(window.fontMetrics().averageCharWidth() * 165, 690);
+        QTest::qWait(5);
+        const QHeaderView& header = *m_scene->Tree().header();
+        for (int column = 0; column < header.count(); ++column) {
+            QVERIFY2(header.sectionSize(column) >= header.sectionSizeHint(column), qPrintable(QString::number(column)));
+        }
     }
 
     // What must not be lost where the window is small and its type large.

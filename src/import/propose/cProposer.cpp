@@ -44,12 +44,18 @@ struct cProposer::cKnowledge
           Matcher(Rules),
           BookCategories(data.GetTemplates())
     {
+        QStringList offered;
+        QStringList hidden;
         const cTemplateItemList items = data.GetTemplates();
         for (const cTemplateItem& item : items) {
-            if (!modTemplate::IsAccount(item) && modTemplate::IsVisible(item)) {
-                Offered.insert(modTemplate::Path(item));
+            if (!modTemplate::IsAccount(item)) {
+                (modTemplate::IsVisible(item) ? offered : hidden).append(modTemplate::Path(item));
             }
         }
+        const QStringList withMains = modTemplate::WithMains(offered);
+        Offered = {offered.begin(), offered.end()};
+        OfFile = QSet(withMains.begin(), withMains.end()).subtract({hidden.begin(), hidden.end()});
+        OfFile.insert(modWord::Startguthaben);
     }
 
     // An account may have lent its name to a file that names no numbers.
@@ -123,12 +129,14 @@ struct cProposer::cKnowledge
         }
     }
 
-    // Whatever names it: nothing new goes unseen to a category that was deleted or hidden.
-    void Doubt(cProposal& proposal) const
+    // Whatever names it: nothing new goes unseen to a category that was deleted or hidden. `ofFile`: the one that the
+    // file names, which means what it says also with a main category that has no line of its own.
+    void Doubt(cProposal& proposal, const QString& ofFile) const
     {
         const cEntryItem& entry = proposal.Entry;
+        const QSet<QString>& known = entry.EntryCategory == ofFile ? OfFile : Offered;
         if (proposal.IsSure && proposal.ExistingEntry == 0 && !entry.IsTransfer()
-            && !Offered.contains(entry.EntryCategory)) {
+            && !known.contains(entry.EntryCategory)) {
             proposal.IsSure = false;
             proposal.Reason = cText::Tr("{0}; die Kategorie steht nicht zur Auswahl", {proposal.Reason});
         }
@@ -152,6 +160,7 @@ struct cProposer::cKnowledge
     QList<cOwnRule> Rules;
     cRuleMatcher Matcher;
     QSet<QString> Offered; // categories
+    QSet<QString> OfFile;  // those that a file of another book may name
     cBookCategories BookCategories;
 };
 
@@ -412,6 +421,6 @@ cProposal cProposer::Propose(const cImportEntry& row)
     if (proposal.ExistingEntry == 0 && !proposal.IsAlone) {
         m_knowledge->TakeSeries(proposal, row, choice && own == nullptr && choice->SeriesEnd >= row.ImportDate);
     }
-    m_knowledge->Doubt(proposal);
+    m_knowledge->Doubt(proposal, category);
     return proposal;
 }

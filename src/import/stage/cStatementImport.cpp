@@ -403,18 +403,26 @@ cStaging& cStatementImport::StagingFor(eStagingRun run)
     return m_trial ? *m_trial : m_trial.emplace(m_hive, run);
 }
 
+// What a row is, in the form in which the book knows it from other files.
+void cStatementImport::FitToBook(cStatementRead& read, cKnownAccounts& known, const cImportOptions& options,
+                                 eStatementFormat kind)
+{
+    known.UseIn(read);
+    if (options.Duplicates == eDuplicateTest::Test) {
+        cStaging& staging = StagingFor(options.Run);
+        modNamelessRows::UseIn(read, staging);
+        modWholeBookings::UseIn(read, staging);
+    }
+    modCategoryClass::CutFrom(read, kind, m_data);
+}
+
 void cStatementImport::Stage(cStatementRead& read, const cImportOptions& options, cProgress& progress,
                              cImportResult& result, const cFetchMemory* memory)
 {
     cStaging& staging = StagingFor(options.Run);
     staging.StartSource(read.Entries.size());
     cKnownAccounts known(staging.Accounts(), m_balances);
-    known.UseIn(read);
-    if (options.Duplicates == eDuplicateTest::Test) {
-        modNamelessRows::UseIn(read, staging);
-        modWholeBookings::UseIn(read, staging);
-    }
-    modCategoryClass::CutFrom(read, result.Kind, m_data);
+    FitToBook(read, known, options, result.Kind);
     result.Read = static_cast<int>(read.Entries.size());
     result.ClosingBalance = read.ClosingBalance;
     result.Problems = read.Problems;

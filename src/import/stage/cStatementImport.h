@@ -81,6 +81,7 @@ private:
     [[nodiscard]] cStaging& StagingFor(eStagingRun run);
     void StageAsOne(cStatementRead read, const cImportOptions& options, cProgress& progress, cImportResult& result,
                     const cFetchedStatement* fetched = nullptr);
+    void FitToBook(cStatementRead& read, cKnownAccounts& known, const cImportOptions& options, eStatementFormat kind);
     void Stage(cStatementRead& read, const cImportOptions& options, cProgress& progress, cImportResult& result,
                const cFetchMemory* memory);
     void SettleEqual(const cStatementRead& read, const cImportOptions& options, cImportResult& result,

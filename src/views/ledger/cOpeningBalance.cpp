@@ -89,6 +89,25 @@ qint64 ErrorOn(const modBalanceCheck::cResult& check, QDate day)
     return check.ErrorOn(named == check.Points.rend() ? day : named->Day);
 }
 
+bool IsOneAccount(cStatementLedger& ledger)
+{
+    return !ledger.AccountOf(ledger.Number()).isEmpty() && !ledger.Rows().isEmpty() && !ledger.IsShared();
+}
+
+QDate DayBefore(const cStatementLedger& ledger)
+{
+    return ledger.Rows().constFirst().ImportDate.addDays(-1);
+}
+
+// What was there before all rows, when it came to the cents by the end of the day.
+qint64 Before(const cStatementLedger& ledger, QDate day, qint64 cents)
+{
+    for (const cImportEntry& row : ledger.Rows()) {
+        cents -= row.ImportDate <= day ? row.ImportValue : 0;
+    }
+    return cents;
+}
+
 } // namespace
 
 QStringList cOpeningBalance::Due(QStringList numbers, int newestBefore, const QStringList& balanced) const
@@ -127,29 +146,43 @@ std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& numbe
 {
     cStatementLedger ledger(m_tools.Data, m_tools.Settings);
     ledger.LoadOnce(number);
+    if (!IsOneAccount(ledger)) {
+        return std::nullopt;
+    }
+    const std::optional<cEntryItem> stored = m_tools.Data.GetStartGuthaben(ledger.AccountOf(number));
+    const std::optional<qint64> bank = ledger.Check().IsAnchored ? Opening(ledger) : CountBack(ledger, stored);
+    return bank ? OfferOf(ledger, *bank, stored) : std::nullopt;
+}
+
+std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& number, QDate day, qint64 cents) const
+{
+    cStatementLedger ledger(m_tools.Data, m_tools.Settings);
+    ledger.LoadOnce(number);
+    if (!IsOneAccount(ledger)) {
+        return std::nullopt;
+    }
+    const std::optional<qint64> bank = ledger.Check().IsAnchored ? Opening(ledger) : std::nullopt;
+    return OfferOf(ledger, bank.value_or(Before(ledger, day, cents)),
+                   m_tools.Data.GetStartGuthaben(ledger.AccountOf(number)));
+}
+
+std::optional<cOpeningBalance::cOffer> cOpeningBalance::OfferOf(const cStatementLedger& ledger, qint64 bank,
+                                                                const std::optional<cEntryItem>& stored) const
+{
     cOffer offer;
-    offer.Account = ledger.AccountOf(number);
-    if (offer.Account.isEmpty() || ledger.Rows().isEmpty() || ledger.IsShared()) {
-        return std::nullopt;
-    }
-    offer.Day = ledger.Rows().constFirst().ImportDate.addDays(-1);
-    const std::optional<cEntryItem> stored = m_tools.Data.GetStartGuthaben(offer.Account);
-    const std::optional<qint64> bank =
-        ledger.Check().IsAnchored ? Opening(ledger, offer.Day) : CountBack(ledger, stored);
-    if (!bank) {
-        return std::nullopt;
-    }
-    offer.Bank = *bank;
+    offer.Account = ledger.AccountOf(ledger.Number());
+    offer.Day = DayBefore(ledger);
+    offer.Bank = bank;
     offer.LastDay = ledger.Rows().constLast().ImportDate;
     const modBalanceCheck::cResult& check = ledger.Check();
     if (check.IsAnchored && check.ErrorOn(offer.LastDay) != ErrorOn(check, offer.Day)) {
         offer.LastDay = offer.Day; // rows are missing in between, so the book will not come to what the bank says last
-        offer.Last = *bank;
+        offer.Last = bank;
     } else {
-        offer.Last = std::accumulate(ledger.Rows().begin(), ledger.Rows().end(), *bank,
+        offer.Last = std::accumulate(ledger.Rows().begin(), ledger.Rows().end(), bank,
                                      [](qint64 sum, const cImportEntry& row) { return sum + row.ImportValue; });
     }
-    offer.FormerDay = ledger.Check().IsAnchored ? QDate() : stored->EntryDate;
+    offer.FormerDay = ledger.Check().IsAnchored || !stored ? QDate() : stored->EntryDate;
     const cEntryItemList entries =
         m_tools.Data.GetEntries({{}, offer.Day.addDays(drawnDays), {}, offer.Account, {}, eBookingKind::All});
     const cHandEntries hand(entries, offer.Account, stored ? stored->ID : 0, offer.Day);
@@ -166,8 +199,9 @@ std::optional<cOpeningBalance::cOffer> cOpeningBalance::For(const QString& numbe
 
 // What the balances of the bank say; none where rows before the first of them were left out. Those that are missing
 // between two of them change nothing before.
-std::optional<qint64> cOpeningBalance::Opening(const cStatementLedger& ledger, QDate day) const
+std::optional<qint64> cOpeningBalance::Opening(const cStatementLedger& ledger) const
 {
+    const QDate day = DayBefore(ledger);
     const modBalanceCheck::cResult& check = ledger.Check();
     const bool isNamed = check.Points.constFirst().Day <= day;
     if (!isNamed && !cLeftOutRows(m_tools.Settings).Of(ledger.Number()).isEmpty()) {
@@ -185,11 +219,7 @@ std::optional<qint64> cOpeningBalance::CountBack(const cStatementLedger& ledger,
         || !cLeftOutRows(m_tools.Settings).Of(ledger.Number()).isEmpty()) {
         return std::nullopt;
     }
-    qint64 cents = modBalance::Effect(*stored, stored->EntryAccount);
-    for (const cImportEntry& row : ledger.Rows()) {
-        cents -= row.ImportDate <= stored->EntryDate ? row.ImportValue : 0;
-    }
-    return cents;
+    return Before(ledger, stored->EntryDate, modBalance::Effect(*stored, stored->EntryAccount));
 }
 
 // First what the user can see on the statement, because that is what he can answer; then how the book gets there.

@@ -39,6 +39,10 @@ public:
     // Nothing where the book agrees already, where the bank's balance before the first row is not certain, or where the
     // number has no account or shares it with another.
     [[nodiscard]] std::optional<cOffer> For(const QString& number) const;
+    // The same for who has been told what the account held at the end of a day: where the bank's balance before the
+    // first row is not certain, the rows that are there have led to it. Nothing where the book agrees already, or where
+    // the number has no account or shares it with another.
+    [[nodiscard]] std::optional<cOffer> For(const QString& number, QDate day, qint64 cents) const;
     [[nodiscard]] QString Question(const cOffer& offer) const;
     // "Startguthaben von 'Girokonto': 20,00 € am 30.04.2026, laut Kontoauszug."
     [[nodiscard]] QString Report(const cOffer& offer) const;
@@ -47,7 +51,9 @@ public:
 
 private:
     [[nodiscard]] bool IsDue(const QString& number, int newestBefore) const;
-    [[nodiscard]] std::optional<qint64> Opening(const cStatementLedger& ledger, QDate day) const;
+    [[nodiscard]] std::optional<cOffer> OfferOf(const cStatementLedger& ledger, qint64 bank,
+                                                const std::optional<cEntryItem>& stored) const;
+    [[nodiscard]] std::optional<qint64> Opening(const cStatementLedger& ledger) const;
     [[nodiscard]] std::optional<qint64> CountBack(const cStatementLedger& ledger,
                                                   const std::optional<cEntryItem>& stored) const;
 

@@ -31,12 +31,14 @@ QList<int> modColumnWidth::Share(const QList<cColumn>& columns, int rest, int ro
     QList<int> widths;
     QList<int> whole; // no text is cut
     QList<int> needed;
+    QList<int> titled;
     QList<int> enough;
     QList<int> least;
     for (const cColumn& column : columns) {
         least.append(column.Least);
         needed.append(std::max(column.Most > 0 ? std::min(column.Wanted, column.Most) : column.Wanted, column.Least));
         enough.append(std::clamp(column.Enough, column.Least, needed.constLast()));
+        titled.append(std::clamp(column.Title, enough.constLast(), needed.constLast()));
         whole.append(std::max(column.Most, needed.constLast()));
         widths.append(std::max(column.Wanted, whole.constLast()));
     }
@@ -44,7 +46,7 @@ QList<int> modColumnWidth::Share(const QList<cColumn>& columns, int rest, int ro
     if (lacking < 0 && rest >= 0) {
         widths[rest] -= lacking;
     }
-    for (const QList<int>& bounds : {whole, needed, enough, least}) {
+    for (const QList<int>& bounds : {whole, needed, titled, enough, least}) {
         lacking = lacking > 0 ? Shrink(widths, bounds, lacking) : 0;
     }
     return widths;

@@ -216,10 +216,10 @@ QString cFirstSteps::StoreBalance(const QString& account, qint64 cents) const
                          "Sie bitte den nächsten Kontoauszug ein.",
                          {account, modDate::ToText(told->Day), m_tools.Format.Cents(*shown)});
     }
-    if (!(told && told->IsBank) && !m_tools.Data.SetStartGuthaben(account, cents, m_tools.Clock.Today())) {
-        return Failure();
+    if (!told) {
+        return m_tools.Data.SetStartGuthaben(account, cents, m_tools.Clock.Today()) ? QString() : Failure();
     }
     const cOpeningBalance opening(m_tools);
-    const std::optional<cOpeningBalance::cOffer> offer = told ? opening.For(told->Number) : std::nullopt;
+    const auto offer = opening.For(told->Number, told->IsBank ? told->Day : m_tools.Clock.Today(), cents);
     return !offer || opening.Take(*offer) ? QString() : Failure();
 }

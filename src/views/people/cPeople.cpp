@@ -108,6 +108,21 @@ bool cPeople::Add(const QString& typed)
     return step.DoneIf(m_tools.Settings.Set(modSettingKey::People, modPeople::ToText(Names() << name)));
 }
 
+std::optional<QStringList> cPeople::AddPayers(const QList<int>& entryIds)
+{
+    QStringList names = Names();
+    const qsizetype known = names.size();
+    for (const int id : entryIds) {
+        const QString payer = modPeople::Payer(m_tools.Data.LoadEntry(id).value_or(cEntryItem()));
+        if (!payer.isEmpty() && !names.contains(payer, Qt::CaseInsensitive)) {
+            names.append(payer);
+        }
+    }
+    const bool isStored =
+        names.size() == known || m_tools.Settings.Set(modSettingKey::People, modPeople::ToText(names));
+    return isStored ? std::optional(names.mid(known)) : std::nullopt;
+}
+
 bool cPeople::Rename(const QString& oldName, const QString& typed)
 {
     if (!IsThere(oldName)) {

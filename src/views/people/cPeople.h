@@ -34,6 +34,9 @@ public:
     bool Add(const QString& typed);
     bool Rename(const QString& oldName, const QString& typed);
     bool Remove(const QString& name); // asks before
+    // Those who paid the entries and are no persons yet become some, within a step of the caller. Nothing when the
+    // database refuses.
+    [[nodiscard]] std::optional<QStringList> AddPayers(const QList<int>& entryIds);
     // Percentages as typed, in the order of the names, all empty for nothing set. They are stored once they come to
     // 100; until then what is wrong with them, else an empty text.
     QString TakeShares(const QString& account, const QStringList& percents);

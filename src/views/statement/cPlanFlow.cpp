@@ -8,11 +8,14 @@
 #include "import/stage/cImportHiveCache.h"
 #include "store/cUndoStep.h"
 #include "views/list/modImportText.h"
+#include "views/people/cPeople.h"
 #include "views/statement/cMatchFlow.h"
 #include "views/statement/cRowProposals.h"
 #include "views/statement/modReviewQuestion.h"
 
 #include <algorithm>
+
+using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
@@ -223,7 +226,8 @@ cPlanFlow::cOutcome cPlanFlow::Carry(const cWish& wish, cProgress& progress)
     progress.hideProgressBar();
     const auto corrected =
         result.Failed == 0 ? m_parts.Matching.Correct(wish.Assign + result.Corrections) : std::nullopt;
-    if (!step.DoneIf(corrected.has_value())) {
+    const auto people = corrected ? cPeople(m_tools).AddPayers(result.EntryIds) : std::nullopt;
+    if (!step.DoneIf(people.has_value())) {
         return {.Left = wish.Left, .Lines = {modImportText::Booked(cBookingResult::Nothing(count))}};
     }
     result.Rows += static_cast<int>(wish.Assign.size());
@@ -234,6 +238,9 @@ cPlanFlow::cOutcome cPlanFlow::Carry(const cWish& wish, cProgress& progress)
     }
     for (const QString& number : result.UnknownAccounts) {
         lines.append(modImportText::NoAccount(number));
+    }
+    if (!people->isEmpty()) {
+        lines.append(cText::Tr("Als Personen angelegt: {0}", {people->join(u", "_s)}));
     }
     lines += corrected->Lines() + m_parts.Matching.AssignedLines(wish.Assign);
     return {.IsDone = true, .Left = wish.Left, .Lines = lines, .UnknownAccounts = result.UnknownAccounts};

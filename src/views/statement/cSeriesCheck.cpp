@@ -208,28 +208,33 @@ QList<cSeriesCheck::cFinding> cSeriesCheck::Find(const QStringList& accounts)
     return findings;
 }
 
+// Those of the days. What a look before this one has put off behind today is among them, because it is still unpaid:
+// else who reads old statements one by one would put off each month of a series that has ended.
+cEntryItemList cSeriesCheck::OccurrencesOf(const cEntryItem& series, const modPeriod::cRange& days) const
+{
+    cEntryItemList occurrences;
+    const QDate putOff = std::max(days.End, m_tools.Clock.Today().addDays(1));
+    modRecurrence::Expand(series, {days.Start, putOff}, m_tools.Data.GetEntryMods(series.ID), occurrences);
+    occurrences.removeIf([&](const cEntryItem& each) {
+        return each.EntryDate > days.End && (each.Planned() > days.End || !modSeries::IsLate(each.CorrectionComment));
+    });
+    return occurrences;
+}
+
 QList<cSeriesCheck::cFinding> cSeriesCheck::FindIn(const cSeries& series)
 {
     const modPeriod::cRange& covered = series.Rows.Covered;
     const bool isHistory = covered.End.addDays(daysOfHistory) < m_tools.Clock.Today();
     const QDate known = isHistory ? m_tools.Clock.Today() : covered.End;
     const int reach = modOccurrence::Reach(series.Entry.EntryInterval);
-    cEntryItemList occurrences;
-    // What a look before this one has put off behind today is still unpaid: else who reads old statements one by one
-    // would put off each month of a series that has ended.
-    const QDate putOff = std::max(known, m_tools.Clock.Today().addDays(1));
-    modRecurrence::Expand(series.Entry, {covered.Start, putOff}, m_tools.Data.GetEntryMods(series.Entry.ID),
-                          occurrences);
-    occurrences.removeIf([&](const cEntryItem& each) {
-        return each.EntryDate > known && (each.Planned() > known || each.CorrectionComment != modSeries::LateComment());
-    });
+    const cEntryItemList occurrences = OccurrencesOf(series.Entry, {covered.Start, known});
     const QList<QDate> paid = series.Paid.keys();
     const QDate lastPaid = paid.isEmpty() ? QDate() : *std::max_element(paid.begin(), paid.end());
     cFinding base{series.Entry.ID, series.Account, series.Paid.value(lastPaid), {}, false, {}, {}};
     QList<cFinding> late;
     int missed = 0;
     bool mayGoOn = false;
-    for (const cEntryItem& occurrence : std::as_const(occurrences)) {
+    for (const cEntryItem& occurrence : occurrences) {
         const QDate planned = occurrence.Planned();
         if (series.Paid.contains(planned)) {
             continue;

@@ -75,6 +75,7 @@ private:
     [[nodiscard]] QList<int> Parts(const cEntryItem& entry) const;
     [[nodiscard]] QStringList AskAbout(const QList<cFinding>& findings);
     void NotePaid(cSeries& series);
+    [[nodiscard]] cEntryItemList OccurrencesOf(const cEntryItem& series, const modPeriod::cRange& days) const;
     [[nodiscard]] QList<cFinding> FindIn(const cSeries& series);
     [[nodiscard]] bool ApplyOne(const cFinding& finding, int entryId);
     [[nodiscard]] bool End(const cFinding& finding, const cEntryItem& series);

@@ -25,14 +25,14 @@ using eKind = cColumnFit::eKind;
 constexpr int wordLetters = 11; // what is shown in a narrow window can be read there
 
 const std::vector<cColumnFit::cColumn> columns{{14, eKind::Day},
-                                               {14, eKind::Text, wordLetters, 2},
+                                               {19, eKind::Text, wordLetters, 2},
                                                {27, eKind::Text, wordLetters},
                                                {23, eKind::Text, wordLetters, 1},
                                                {30, eKind::Text, wordLetters},
                                                {18, eKind::Text, wordLetters, 3},
                                                {16, eKind::Amount},
                                                {16, eKind::Amount},
-                                               {7, eKind::Text, 6, 4},
+                                               {11, eKind::Text, 6, 4},
                                                {24},
                                                {18}};
 

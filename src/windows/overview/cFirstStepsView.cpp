@@ -54,7 +54,8 @@ cFirstStepsView::cFirstStepsView(const cFirstSteps& steps, const QList<cWay>& wa
     m_problem->hide();
     layout->addWidget(m_problem);
     auto* save = new QPushButton(cText::Tr("Konten über&nehmen"), this);
-    save->setToolTip(cText::Tr("Legt neue Konten an und trägt die Kontostände als Startguthaben von heute ein."));
+    save->setToolTip(cText::Tr("Legt neue Konten an und trägt die Kontostände als Startguthaben von heute ein. Stehen "
+                               "schon Umsätze der Bank da, wird auf den Tag davor zurückgerechnet."));
     connect(save, &QPushButton::clicked, this, &cFirstStepsView::Save);
     layout->addWidget(save, 0, Qt::AlignLeft);
     layout->addSpacing(12);

@@ -180,7 +180,8 @@ void cColumnFit::Fit()
             const bool takesRest = column == m_rest && m_wanted.at(column) == 0;
             rest = takesRest ? static_cast<int>(shown.size()) : rest;
             const int least = column == m_dragged ? Wanted(column) : m_least.at(column);
-            columns.append({Wanted(column), enoughLetters * Letter(), least, Most(column)});
+            columns.append(
+                {Wanted(column), enoughLetters * Letter(), least, Most(column), header.sectionSizeHint(column)});
             shown.append(column);
         }
     }

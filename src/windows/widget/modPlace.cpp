@@ -2,10 +2,13 @@
 
 #include <QFontMetrics>
 #include <QGuiApplication>
+#include <QRegion>
 #include <QScreen>
 #include <QWidget>
 
 #include <algorithm>
+#include <functional>
+#include <numeric>
 
 namespace {
 
@@ -46,15 +49,24 @@ int modPlace::WidthOfTitle(const QWidget& window)
 QRect modPlace::Visible(const QRect& place, const QList<QRect>& screens)
 {
     const QRect edge(place.left(), place.top(), place.width(), gripHeight);
-    const bool isInReach = std::any_of(screens.begin(), screens.end(), [&](const QRect& screen) {
+    const auto around = std::find_if(screens.begin(), screens.end(), [&](const QRect& screen) {
         const QRect seen = screen.intersected(edge);
         return seen.width() >= std::min(gripWidth, place.width()) && seen.height() == gripHeight;
     });
-    if (isInReach || screens.isEmpty()) {
+    const bool isInReach = around != screens.end();
+    const QRegion hidden = std::accumulate(screens.begin(), screens.end(), QRegion(place), std::minus());
+    if (screens.isEmpty() || hidden.isEmpty()
+        || (isInReach && place.size() == place.size().boundedTo(around->size()))) {
         return place;
     }
-    QRect moved(QPoint(), place.size().boundedTo(screens.constFirst().size()));
-    moved.moveCenter(screens.constFirst().center());
+    const QRect& screen = isInReach ? *around : screens.constFirst();
+    const QRect room = screen.adjusted(frameWidth / 2, frameHeight - frameWidth / 2, -frameWidth / 2, -frameWidth / 2);
+    QRect moved(place.topLeft(), place.size().boundedTo(room.size()));
+    if (!isInReach) {
+        moved.moveCenter(screen.center());
+    }
+    moved.moveTo(qBound(room.left(), moved.left(), room.right() + 1 - moved.width()),
+                 qBound(room.top(), moved.top(), room.bottom() + 1 - moved.height()));
     return moved;
 }
 

@@ -9,8 +9,9 @@ class QWidget;
 // Where a window may stand.
 namespace modPlace {
 
-// The place itself when enough of its upper edge to take hold of lies on one of the screens; else the same size, as far
-// as it fits, in the middle of the first screen. `screens` are the areas that are free for windows.
+// The place itself when enough of its upper edge to take hold of lies on one of the screens, there as large as it fits
+// when it reaches beyond them and is larger; else the same size, as far as it fits, in the middle of the first screen.
+// `screens` are the areas that are free for windows.
 [[nodiscard]] QRect Visible(const QRect& place, const QList<QRect>& screens);
 
 // The areas for windows of all screens, the one of `first` in front.
