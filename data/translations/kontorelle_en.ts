@@ -5949,18 +5949,8 @@ Do you want to use one of these files as your book again?</translation>
         <translation>&amp;Read only</translation>
     </message>
     <message>
-        <source>Eine unbeschädigte Sicherung liegt nicht im Ordner &apos;{0}&apos;.</source>
-        <translation>There is no undamaged backup in the folder &apos;{0}&apos;.</translation>
-    </message>
-    <message>
         <source>Sicherung vom {0} &amp;laden</source>
         <translation>&amp;Load the backup of {0}</translation>
-    </message>
-    <message>
-        <source>Die neueste unbeschädigte Sicherung ist vom {0}. Sie enthält:
-{1}.</source>
-        <translation>The newest undamaged backup is of {0}. It contains:
-{1}.</translation>
     </message>
     <message>
         <source>Die Datei der Datenbank &apos;{0}&apos; ist beschädigt. Was Sie sehen, kann unvollständig sein, und es wird nichts mehr gespeichert.
@@ -8855,10 +8845,6 @@ Quit the program and open this file to install the new version.</translation>
         <translation>Balance today</translation>
     </message>
     <message>
-        <source>Legt neue Konten an und trägt die Kontostände als Startguthaben von heute ein.</source>
-        <translation>Adds new accounts and stores the balances as today&apos;s start balances.</translation>
-    </message>
-    <message>
         <source>2. Was ist seither geschehen?</source>
         <translation>2. What has happened since?</translation>
     </message>
@@ -11309,6 +11295,34 @@ Do you want to load a backup? The incomplete file is kept under another name.</t
     <message>
         <source>Ein Startguthaben lässt sich nur einzeln ändern: Öffnen Sie seinen Eintrag mit der Eingabetaste.</source>
         <translation>A start balance can only be changed by itself: open its entry with the Enter key.</translation>
+    </message>
+    <message>
+        <source>Bei wenigstens einer Serie sind Buch und Bank nicht einig; &quot;series --dry-run&quot; zeigt sie, &quot;series&quot; gleicht sie an.</source>
+        <translation>At least one series does not agree with the bank; &quot;series --dry-run&quot; shows it, &quot;series&quot; adjusts it.</translation>
+    </message>
+    <message>
+        <source>Eine vollständige, unbeschädigte Sicherung liegt nicht im Ordner &apos;{0}&apos;.</source>
+        <translation>There is no complete, undamaged backup in the folder &apos;{0}&apos;.</translation>
+    </message>
+    <message>
+        <source>Die neueste vollständige, unbeschädigte Sicherung ist vom {0}. Sie enthält:
+{1}.</source>
+        <translation>The newest complete, undamaged backup is of {0}. It holds:
+{1}.</translation>
+    </message>
+    <message>
+        <source>Ein Teil dieser Serie fällt weg. Damit ändert sich auch, was die Bank schon gebucht hat ({0}), und der Saldo stimmt nicht mehr mit ihr überein.
+Soll der Eintrag trotzdem gespeichert werden?</source>
+        <translation>A part of this series goes. That also changes what the bank has already booked ({0}), and the balance no longer agrees with it.
+Save the entry all the same?</translation>
+    </message>
+    <message>
+        <source>Als Personen angelegt: {0}</source>
+        <translation>Added as persons: {0}</translation>
+    </message>
+    <message>
+        <source>Legt neue Konten an und trägt die Kontostände als Startguthaben von heute ein. Stehen schon Umsätze der Bank da, wird auf den Tag davor zurückgerechnet.</source>
+        <translation>Creates new accounts and stores the balances as today&apos;s start balances. Where bank transactions are there already, they are counted back to the day before.</translation>
     </message>
 </context>
 </TS>

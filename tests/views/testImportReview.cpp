@@ -120,7 +120,7 @@ private Q_SLOTS:
                               "Gruppe;Datum;Buchungsart;Kategorie;Konto;Zielkonto;Beschreibung;Bezahlt von;Betrag\r\n"
                               "2026;30.01.2026;Ausgabe;Haushalt;Girokonto;;Markt;Anna;-5,00\r\n"
                               "2026;31.01.2026;Ausgabe;Haushalt;Girokonto;;Markt;Ben;-7,00\r\n");
-        m_page->User.Answers = {eAnswer::Yes, eAnswer::Yes, eAnswer::Yes};
+        m_page->User.Answers = {eAnswer::Yes};
         m_page->Review.Files().ImportFiles({path}, m_page->Progress);
         m_page->Review.AcceptProposals(m_page->Progress);
         QVERIFY(m_page->Review.Summary().contains(u"Als Personen angelegt: Anna"_s));

@@ -159,7 +159,7 @@ private Q_SLOTS:
         } else {
             fields.Parts.removeFirst();
             fields.Amount = u"10"_s;
-            book.User.Answers = {eAnswer::Yes}; // where the month that is paid becomes another
+            book.User.Usual = eAnswer::Yes; // where the month that is paid becomes another
         }
         QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
         const cImportEntry stored = book.Data.GetImportEntries().constFirst();
