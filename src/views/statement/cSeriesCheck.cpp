@@ -78,6 +78,11 @@ QDate EndCovered(const cImportEntryList& rows, const QString& number, QDate end,
     return behind <= newest.Late.Count ? newest.Day : std::max(end, newest.Day);
 }
 
+QDate LastOf(const QList<QDate>& days)
+{
+    return days.isEmpty() ? QDate() : *std::max_element(days.begin(), days.end());
+}
+
 } // namespace
 
 cSeriesCheck::cSeriesCheck(const cBookTools& tools, cImportHiveCache& hive, const cAccountMap& accounts)
@@ -228,8 +233,7 @@ QList<cSeriesCheck::cFinding> cSeriesCheck::FindIn(const cSeries& series)
     const QDate known = isHistory ? m_tools.Clock.Today() : covered.End;
     const int reach = modOccurrence::Reach(series.Entry.EntryInterval);
     const cEntryItemList occurrences = OccurrencesOf(series.Entry, {covered.Start, known});
-    const QList<QDate> paid = series.Paid.keys();
-    const QDate lastPaid = paid.isEmpty() ? QDate() : *std::max_element(paid.begin(), paid.end());
+    const QDate lastPaid = LastOf(series.Paid.keys());
     cFinding base{series.Entry.ID, series.Account, series.Paid.value(lastPaid), {}, false, {}, {}};
     QList<cFinding> late;
     int missed = 0;

@@ -70,7 +70,7 @@ bool DrawBox(QStyle::PrimitiveElement element, const QStyleOption& option, QPain
             modFlat::Focus(painter, option);
         }
         return true;
-    case QStyle::PE_Frame: modFlat::Frame(painter, option); return true;
+    case QStyle::PE_Frame:
     case QStyle::PE_FrameMenu: modFlat::Frame(painter, option); return true;
     case QStyle::PE_PanelMenu:
         painter.fillRect(option.rect, option.palette.color(QPalette::Base));
