@@ -119,12 +119,13 @@ private Q_SLOTS:
             m_page->WriteFile(u"a.csv"_s,
                               "Gruppe;Datum;Buchungsart;Kategorie;Konto;Zielkonto;Beschreibung;Bezahlt von;Betrag\r\n"
                               "2026;30.01.2026;Ausgabe;Haushalt;Girokonto;;Markt;Anna;-5,00\r\n"
-                              "2026;31.01.2026;Ausgabe;Haushalt;Girokonto;;Markt;Ben;-7,00\r\n");
+                              "2026;31.01.2026;Ausgabe;Haushalt;Girokonto;;Markt;ben;-7,00\r\n");
         m_page->User.Answers = {eAnswer::Yes};
         m_page->Review.Files().ImportFiles({path}, m_page->Progress);
         m_page->Review.AcceptProposals(m_page->Progress);
         QVERIFY(m_page->Review.Summary().contains(u"Als Personen angelegt: Anna"_s));
         QCOMPARE(m_page->Settings->Get(modSettingKey::People), modPeople::ToText({u"Ben"_s, u"Anna"_s}));
+        QCOMPARE(modPeople::Payer(m_page->Data.GetEntries({}).constLast()), u"Ben"_s);
         QVERIFY(m_page->Data.Journal().Undo());
         QCOMPARE(m_page->Settings->Get(modSettingKey::People), u"Ben"_s);
     }

@@ -287,6 +287,29 @@ private Q_SLOTS:
         }
     }
 
+    // The parts that kept their amount for it stand beside others that did not have to.
+    void PaidMonthsStayWhenDividedAnew()
+    {
+        cEditorBook book;
+        cEntryFields fields = Purchase();
+        fields.Interval = u"Monatlich"_s;
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        book.Stage(u"1"_s, QDate(2026, 4, 10), -5000, {}, 1);
+        for (const auto& [first, second] : {std::pair(u"40"_s, u"15"_s), {u"38"_s, u"17"_s}}) {
+            fields = book.Editor.Load(2).value();
+            fields.Amount = u"52"_s;
+            fields.Parts[0].Amount = first;
+            fields.Parts[1].Amount = second;
+            QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        }
+        for (const int month : {4, 5}) {
+            cEntryQuery query;
+            query.Start = QDate(2026, month, 1);
+            query.End = query.Start.addDays(29);
+            QCOMPARE(modSplit::Net(book.Data.GetEntries(query)), month == 4 ? -5000 : -5200);
+        }
+    }
+
     void CorrectedEntriesAndTransfersStayWhole()
     {
         cEditorBook book;

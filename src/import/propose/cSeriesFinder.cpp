@@ -177,7 +177,8 @@ QSet<int> cSeriesFinder::UnnamedLike(const cImportEntry& row) const
     }
     const QString whole = WordsOf(row.ImportBeneficiary + u' ' + row.ImportPurpose);
     for (auto at = m_unnamed.lowerBound(whole); at != m_unnamed.cend() && at.key().startsWith(whole); ++at) {
-        series += at.value();
+        const bool isWholeWord = at.key().size() == whole.size() || at.key().at(whole.size()) == u' ';
+        series += isWholeWord ? at.value() : QSet<int>();
     }
     return series;
 }

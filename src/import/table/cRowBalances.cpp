@@ -44,7 +44,10 @@ cBankBalance::cMoved cRowBalances::LateOn(QDate day) const
 void cRowBalances::KeepIn(cStatementRead& read, const QString& account, const std::optional<cAccountBalance>& above)
 {
     if (m_points.empty()) {
-        read.EarlyRows = m_early;
+        const std::optional<cAccountBalance>& told = m_closing ? m_closing : above;
+        if (!told || told->Date.isValid()) { // one without a day holds every row of the file
+            read.EarlyRows = m_early;
+        }
     } else if (IsNewestFirst()) {
         std::reverse(m_points.begin(), m_points.end());
     }

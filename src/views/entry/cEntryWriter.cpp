@@ -119,8 +119,8 @@ void cEntryWriter::FollowAmounts(QList<cEntryWrite>& rows, const QList<int>& rem
 std::optional<int> cEntryWriter::KeepPaid(QList<cEntryWrite>& rows, const QList<int>& removed)
 {
     const cEntryItemList before = StoredSeries(rows, removed);
-    if (before.isEmpty() || Whole(before) == Whole(EntriesOf(rows))) {
-        return 0; // also a purchase that is only divided anew
+    if (before.isEmpty()) {
+        return 0;
     }
     const cPaid paid = PaidPeriods(before, rows);
     if (!removed.isEmpty()) {

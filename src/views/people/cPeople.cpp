@@ -113,9 +113,21 @@ std::optional<QStringList> cPeople::AddPayers(const QList<int>& entryIds)
     QStringList names = Names();
     const qsizetype known = names.size();
     for (const int id : entryIds) {
-        const QString payer = modPeople::Payer(m_tools.Data.LoadEntry(id).value_or(cEntryItem()));
-        if (!payer.isEmpty() && !names.contains(payer, Qt::CaseInsensitive)) {
+        cEntryItem entry = m_tools.Data.LoadEntry(id).value_or(cEntryItem());
+        const QString payer = modPeople::Payer(entry);
+        const auto person = std::find_if(names.begin(), names.end(), [&](const QString& name) {
+            return name.compare(payer, Qt::CaseInsensitive) == 0;
+        });
+        if (payer.isEmpty() || (person != names.end() && *person == payer)) {
+            continue;
+        }
+        if (person == names.end()) {
             names.append(payer);
+            continue;
+        }
+        modPeople::SetPayer(entry, *person); // in other letters it would be somebody else
+        if (!m_tools.Data.ChangeEntry(entry)) {
+            return std::nullopt;
         }
     }
     const bool isStored =

@@ -70,9 +70,12 @@ cManyChange::cManyChange(const cBookTools& tools, const QList<cEntryListModel::c
             Take(each);
         }
     }
-    m_hasMore = std::any_of(m_entries.begin(), m_entries.end(), [&](const cEntryItem& entry) {
-        return std::none_of(rows.begin(), rows.end(), [&](const auto& row) { return row.ID == entry.ID; });
-    });
+    QSet<int> chosen;
+    for (const cEntryListModel::cKey& row : rows) {
+        chosen.insert(row.ID);
+    }
+    m_hasMore = std::any_of(m_entries.begin(), m_entries.end(),
+                            [&](const cEntryItem& entry) { return !chosen.contains(entry.ID); });
 }
 
 void cManyChange::Take(const cEntryItem& entry)
