@@ -26,13 +26,13 @@ public:
     ~cFakeUser() override
     {
         if (Answers.size() + Choices.size() + Decisions.size() + Ticks.size() > 0) {
-            LeftOver(Asked);
+            s_leftOver(Asked);
         }
     }
     Q_DISABLE_COPY_MOVE(cFakeUser)
 
     // Told the questions that were asked, by a user who has answers left; the runner of the tests looks after it.
-    static inline void (*LeftOver)(const QStringList& asked) = [](const QStringList&) {};
+    static inline void (*s_leftOver)(const QStringList& asked) = [](const QStringList&) {};
 
     void Show(eTone /*tone*/, const QString& text, const QString& /*title*/ = {}) override { Shown.append(text); }
 

@@ -44,6 +44,6 @@ int cTestClass::Run(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    cFakeUser::LeftOver = FailForAnswers;
+    cFakeUser::s_leftOver = FailForAnswers;
     return cTestClass::Run(argc, argv);
 }
