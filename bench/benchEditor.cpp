@@ -2,6 +2,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cEntryEditor.h"
+#include "views/list/modBookNames.h"
 
 #include <benchmark/benchmark.h>
 
@@ -24,7 +25,6 @@ void OpenEditor(benchmark::State& state)
     for (auto _ : state) {
         cScene scene;
         benchmark::DoNotOptimize(scene.Editor.Start(u"Girokonto"_s));
-        benchmark::DoNotOptimize(scene.Editor.Categories());
         benchmark::DoNotOptimize(scene.Editor.Accounts());
         benchmark::DoNotOptimize(scene.Editor.Suggestions().Descriptions());
         benchmark::DoNotOptimize(scene.Editor.Suggestions().Categories({}));
@@ -39,7 +39,7 @@ void LoadPartOfSplit(benchmark::State& state)
     fields.Face = eEntryFace::Split;
     fields.Amount = u"3"_s;
     fields.Type = modWord::Ausgabe;
-    const QString category = scene.Editor.Categories().value(0);
+    const QString category = modBookNames::Categories(scene.Data).value(0);
     fields.Parts = {{0, category, u"a"_s, u"1"_s}, {0, category, u"b"_s, u"2"_s}};
     if (scene.Editor.Save(fields) != eEntrySaved::Saved) {
         state.SkipWithError("not saved");
@@ -72,7 +72,7 @@ void SaveInOpenEditor(benchmark::State& state)
     fields.Amount = u"12,50"_s;
     fields.Type = modWord::Ausgabe;
     for (auto _ : state) {
-        fields.Category = scene.Editor.Categories().value(0);
+        fields.Category = modBookNames::Categories(scene.Data).value(0);
         fields.Description = u"Einkauf"_s;
         benchmark::DoNotOptimize(scene.Editor.Save(fields));
         fields = scene.Editor.Next(fields);

@@ -2,8 +2,6 @@
 #include "bench/cBenchBook.h"
 #include "core/cSettings.h"
 #include "import/mt940/modMT940.h"
-#include "import/propose/cBooking.h"
-#include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "import/stage/cStatementImport.h"
 #include "store/cDataAccess.h"
@@ -74,7 +72,7 @@ void Stage(cBook& book, int first, int count)
     cImportHiveCache hive(book.Data());
     cNoProgress progress;
     const cImportResult result =
-        cStatementImport(book.Data(), hive).ImportText(u"bench.sta"_s, Statement(first, count), {}, progress);
+        cStatementImport(book.Data(), hive).ImportSource({u"bench.sta"_s, {}, Statement(first, count)}, {}, progress);
     if (result.Staged != count) {
         qFatal("staged %d of %d", result.Staged, count);
     }
@@ -108,7 +106,7 @@ void StageIntoEmpty(benchmark::State& state)
         cNoProgress progress;
         state.ResumeTiming();
         const cImportResult result =
-            cStatementImport(book.Book().Data(), hive).ImportText(u"bench.sta"_s, text, {}, progress);
+            cStatementImport(book.Book().Data(), hive).ImportSource({u"bench.sta"_s, {}, text}, {}, progress);
         state.counters["staged"] = result.Staged;
     }
 }
@@ -125,29 +123,10 @@ void StageOnTopOf90000(benchmark::State& state)
         cNoProgress progress;
         state.ResumeTiming();
         const cImportResult result =
-            cStatementImport(book.Book().Data(), hive).ImportText(u"bench.sta"_s, text, {}, progress);
+            cStatementImport(book.Book().Data(), hive).ImportSource({u"bench.sta"_s, {}, text}, {}, progress);
         state.counters["staged"] = result.Staged;
     }
 }
 BENCHMARK(StageOnTopOf90000)->Iterations(2)->Unit(benchmark::kMillisecond);
-
-void ProposeForRows(benchmark::State& state)
-{
-    cBenchBook book(12000);
-    Stage(book.Book(), 0, Rows);
-    cImportHiveCache hive(book.Book().Data());
-    const cAccountMap accounts(book.Book().Data(), book.Book().Settings());
-    QList<int> ids;
-    const cImportEntryList open = hive.GetImportHive().GetImportEntriesByAssignedID(-1);
-    for (const cImportEntry& row : open) {
-        ids.append(row.ID);
-    }
-    for (auto _ : state) {
-        cBooking booking(book.Book().Data(), hive, accounts);
-        benchmark::DoNotOptimize(booking.Propose(ids));
-    }
-    state.counters["rows"] = static_cast<double>(ids.size());
-}
-BENCHMARK(ProposeForRows)->Unit(benchmark::kMillisecond);
 
 } // namespace
