@@ -1,8 +1,8 @@
 #include "bench/cBenchBook.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "views/common/modBookNames.h"
 #include "views/entry/cEntryEditor.h"
-#include "views/list/modBookNames.h"
 
 #include <benchmark/benchmark.h>
 

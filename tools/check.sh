@@ -84,6 +84,7 @@ hits=$(find . -name CMakeLists.txt -not -path './build/*' | xargs -d '\n' -n1 ba
 
 if [ "${1:-}" = --all ]; then
   hits=$(tools/includes.py) || fail 'include it, or declare the class' "$hits"
+  hits=$(tools/rooms.py) || fail 'rooms know each other in a circle: move what both need below them' "$hits"
 fi
 
 if command -v clang-format >/dev/null; then

@@ -5,8 +5,8 @@
 #include "app/machine/cQtShell.h"
 #include "base/cClock.h"
 #include "base/cHttps.h"
-#include "cli/cCliPaint.h"
-#include "cli/modCliCommands.h"
+#include "cli/call/cCliPaint.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/modCliMain.h"
 
 #include <unistd.h>

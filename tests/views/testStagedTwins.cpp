@@ -2,7 +2,7 @@
 #include "import/stage/modStatementFormat.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
-#include "views/statement/cImportRuns.h"
+#include "views/ledger/cImportRuns.h"
 
 #include <functional>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/cCliPaint.h"
+#include "cli/call/cCliPaint.h"
 
 #include <QDate>
 

@@ -3,7 +3,7 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/cUser.h"
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileWrite.h"
 #include "windows/look/modIcon.h"
 #include "windows/print/cPrintable.h"
 #include "windows/print/modPages.h"

@@ -8,7 +8,7 @@
 #include "app/machine/modBuild.h"
 #include "app/machine/modLocale.h"
 #include "base/modModule.h"
-#include "cli/modCliCommands.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/modCliMain.h"
 
 #include <QCoreApplication>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/console/cCliReader.h"
+#include "cli/argument/cCliReader.h"
 #include "views/entry/cEntryEditor.h"
 
 #include <QDate>

@@ -1,6 +1,6 @@
 #include "base/cText.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/command/cCliEntryForm.h"
-#include "cli/modCliCommands.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,10 +1,10 @@
 #include "base/cText.h"
 #include "base/modDate.h"
-#include "cli/cCliBook.h"
+#include "cli/argument/cCliReader.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/command/modCliFlow.h"
-#include "cli/console/cCliReader.h"
 #include "cli/console/cConsoleUser.h"
-#include "cli/modCliCommands.h"
 #include "views/statement/cMatchFlow.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -2,9 +2,9 @@
 #include "base/cShell.h"
 #include "base/cText.h"
 #include "base/modDate.h"
-#include "cli/cCliBook.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/console/cConsoleUser.h"
-#include "cli/modCliCommands.h"
 #include "views/book/modBookCopy.h"
 
 #include <QDir>

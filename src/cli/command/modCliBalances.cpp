@@ -1,10 +1,10 @@
 #include "base/cClock.h"
 #include "base/cText.h"
-#include "cli/cCliBook.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/console/cCliTable.h"
 #include "cli/console/cConsoleUser.h"
 #include "cli/console/cJsonObject.h"
-#include "cli/modCliCommands.h"
 #include "views/main/modAccountLines.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,8 +1,8 @@
 #include "base/cText.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/console/cCliTable.h"
 #include "cli/console/cConsoleUser.h"
 #include "cli/console/cJsonObject.h"
-#include "cli/modCliCommands.h"
 #include "views/bank/cBankDirectory.h"
 
 #include <algorithm>

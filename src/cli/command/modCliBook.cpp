@@ -1,12 +1,12 @@
 #include "base/cText.h"
 #include "base/modDate.h"
-#include "cli/cCliBook.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/command/modCliFlow.h"
 #include "cli/console/cCliTable.h"
 #include "cli/console/cConsoleUser.h"
 #include "cli/console/modCliRecord.h"
-#include "cli/modCliCommands.h"
-#include "views/list/modImportText.h"
+#include "views/ledger/modImportText.h"
 #include "views/statement/modReviewQuestion.h"
 
 #include <optional>

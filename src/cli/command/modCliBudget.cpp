@@ -1,14 +1,14 @@
 #include "base/cClock.h"
 #include "base/cText.h"
-#include "cli/cCliBook.h"
+#include "cli/argument/cCliReader.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/command/modCliFlow.h"
-#include "cli/console/cCliReader.h"
 #include "cli/console/cCliTable.h"
 #include "cli/console/cConsoleUser.h"
 #include "cli/console/cJsonObject.h"
-#include "cli/modCliCommands.h"
 #include "views/budget/cBudgetEdit.h"
-#include "views/list/modUnread.h"
+#include "views/common/modUnread.h"
 
 using namespace Qt::Literals::StringLiterals;
 

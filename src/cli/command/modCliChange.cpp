@@ -1,9 +1,9 @@
 #include "base/cText.h"
-#include "cli/cCliBook.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/command/cCliEntryForm.h"
 #include "cli/command/modCliCorrect.h"
 #include "cli/command/modCliFlow.h"
-#include "cli/modCliCommands.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -1,9 +1,9 @@
 #include "base/cClock.h"
 #include "base/cText.h"
 #include "base/modCount.h"
-#include "cli/cCliBook.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/console/cConsoleUser.h"
-#include "cli/modCliCommands.h"
 #include "views/book/cBookCheck.h"
 
 using namespace Qt::Literals::StringLiterals;

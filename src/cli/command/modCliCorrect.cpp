@@ -2,9 +2,9 @@
 
 #include "base/cText.h"
 #include "base/modDate.h"
-#include "cli/cCliBook.h"
+#include "cli/argument/cCliReader.h"
+#include "cli/call/cCliBook.h"
 #include "cli/command/modCliFlow.h"
-#include "cli/console/cCliReader.h"
 #include "cli/console/cCliTable.h"
 #include "cli/console/modCliRecord.h"
 #include "views/entry/cSeriesChange.h"

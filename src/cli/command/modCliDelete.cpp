@@ -1,8 +1,8 @@
 #include "base/cText.h"
-#include "cli/cCliBook.h"
+#include "cli/argument/cCliReader.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/command/modCliFlow.h"
-#include "cli/console/cCliReader.h"
-#include "cli/modCliCommands.h"
 #include "views/entry/cEntryDelete.h"
 
 #include <algorithm>

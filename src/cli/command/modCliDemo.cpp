@@ -1,7 +1,7 @@
 #include "base/cClock.h"
 #include "base/cText.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/console/cConsoleUser.h"
-#include "cli/modCliCommands.h"
 #include "views/book/modBookCopy.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,11 +1,11 @@
 #include "base/cText.h"
 #include "base/modAmount.h"
-#include "cli/cCliBook.h"
-#include "cli/console/cCliReader.h"
+#include "cli/argument/cCliReader.h"
+#include "cli/argument/modCliTableChoice.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/console/cConsoleUser.h"
 #include "cli/console/cJsonObject.h"
-#include "cli/console/modCliTableChoice.h"
-#include "cli/modCliCommands.h"
 #include "views/statement/cFileReport.h"
 
 #include <algorithm>

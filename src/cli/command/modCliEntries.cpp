@@ -1,7 +1,7 @@
 #include "base/cText.h"
-#include "cli/console/modCliEntryList.h"
-#include "cli/console/modCliSelection.h"
-#include "cli/modCliCommands.h"
+#include "cli/argument/modCliEntryList.h"
+#include "cli/argument/modCliSelection.h"
+#include "cli/call/modCliCommands.h"
 
 using namespace Qt::Literals::StringLiterals;
 

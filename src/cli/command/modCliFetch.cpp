@@ -1,14 +1,14 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/modAmount.h"
-#include "cli/cCliBook.h"
-#include "cli/console/cCliReader.h"
+#include "cli/argument/cCliReader.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/console/cConsoleBankUser.h"
 #include "cli/console/cConsoleUser.h"
 #include "cli/console/cJsonObject.h"
-#include "cli/modCliCommands.h"
 #include "views/bank/cBankFetch.h"
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileWrite.h"
 #include "views/statement/cStatementFiles.h"
 
 #include <algorithm>

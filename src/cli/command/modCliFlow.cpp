@@ -1,8 +1,8 @@
 #include "cli/command/modCliFlow.h"
 
 #include "base/cText.h"
-#include "cli/cCliBook.h"
-#include "cli/console/cCliReader.h"
+#include "cli/argument/cCliReader.h"
+#include "cli/call/cCliBook.h"
 #include "views/statement/cSeriesCheck.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,8 +1,8 @@
 #pragma once
 
+#include "cli/call/modCliCommands.h"
 #include "cli/console/cConsoleUser.h"
-#include "cli/modCliCommands.h"
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileWrite.h"
 #include "views/statement/cStatementDesk.h"
 
 #include <QString>

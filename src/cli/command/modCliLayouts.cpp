@@ -1,10 +1,10 @@
 #include "base/cText.h"
-#include "cli/cCliBook.h"
-#include "cli/console/cCliReader.h"
+#include "cli/argument/cCliReader.h"
+#include "cli/argument/modCliTableChoice.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/console/cConsoleUser.h"
 #include "cli/console/cJsonObject.h"
-#include "cli/console/modCliTableChoice.h"
-#include "cli/modCliCommands.h"
 #include "views/statement/cLayoutTaken.h"
 
 #include <algorithm>

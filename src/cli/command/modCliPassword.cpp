@@ -1,7 +1,7 @@
 #include "base/cText.h"
-#include "cli/cCliBook.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/console/cConsoleUser.h"
-#include "cli/modCliCommands.h"
 #include "core/cConfiguration.h"
 #include "core/modPassword.h"
 

@@ -1,7 +1,7 @@
 #include "base/cText.h"
-#include "cli/cCliBook.h"
+#include "cli/argument/cCliReader.h"
+#include "cli/call/cCliBook.h"
 #include "cli/command/modCliFlow.h"
-#include "cli/console/cCliReader.h"
 #include "cli/console/modCliRecord.h"
 #include "views/statement/cSeriesCheck.h"
 

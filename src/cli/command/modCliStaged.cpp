@@ -1,10 +1,10 @@
 #include "base/cText.h"
 #include "base/modDate.h"
-#include "cli/cCliBook.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/console/cCliTable.h"
 #include "cli/console/cConsoleUser.h"
 #include "cli/console/modCliRecord.h"
-#include "cli/modCliCommands.h"
 #include "model/modCutText.h"
 
 using namespace Qt::Literals::StringLiterals;

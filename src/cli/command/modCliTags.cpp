@@ -1,14 +1,14 @@
 #include "base/cClock.h"
 #include "base/cText.h"
-#include "cli/cCliBook.h"
+#include "cli/argument/modCliSelection.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/console/cCliTable.h"
 #include "cli/console/cConsoleUser.h"
 #include "cli/console/cJsonObject.h"
-#include "cli/console/modCliSelection.h"
-#include "cli/modCliCommands.h"
 #include "views/export/modCsv.h"
 #include "views/report/modReport.h"
-#include "views/tag/modTagSums.h"
+#include "views/report/modTagSums.h"
 
 using namespace Qt::Literals::StringLiterals;
 

@@ -4,7 +4,7 @@
 #include "cli/console/cConsoleUser.h"
 #include "cli/console/modSecretLine.h"
 #include "views/bank/modBankQuestion.h"
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileWrite.h"
 
 #include <unistd.h>
 

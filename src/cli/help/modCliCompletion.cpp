@@ -1,10 +1,10 @@
 #include "base/cText.h"
-#include "cli/cCliBook.h"
+#include "cli/call/cCliBook.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/console/cConsoleUser.h"
 #include "cli/help/modCliHelp.h"
-#include "cli/modCliCommands.h"
 #include "model/modWord.h"
-#include "views/list/modBookNames.h"
+#include "views/common/modBookNames.h"
 
 #include <algorithm>
 

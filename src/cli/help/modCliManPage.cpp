@@ -1,8 +1,8 @@
 #include "base/cText.h"
+#include "cli/call/modCliCommands.h"
 #include "cli/console/cConsoleUser.h"
 #include "cli/help/modCliHelp.h"
 #include "cli/help/modRoff.h"
-#include "cli/modCliCommands.h"
 #include "views/main/modStartOption.h"
 
 using namespace Qt::Literals::StringLiterals;

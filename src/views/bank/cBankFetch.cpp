@@ -22,7 +22,7 @@
 #include "views/bank/modBankText.h"
 #include "views/ledger/cStatementLedger.h"
 #include "views/ledger/modBalanceText.h"
-#include "views/list/modImportText.h"
+#include "views/ledger/modImportText.h"
 #include "views/statement/cStatementFiles.h"
 
 #include <algorithm>

@@ -4,7 +4,7 @@
 #include "base/cShell.h"
 #include "base/cText.h"
 #include "base/cUser.h"
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileWrite.h"
 
 #include <QDate>
 #include <QDir>

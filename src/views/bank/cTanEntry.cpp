@@ -4,7 +4,7 @@
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "views/bank/modBankQuestion.h"
-#include "views/list/modSetting.h"
+#include "views/common/modSetting.h"
 
 #include <algorithm>
 #include <array>

@@ -10,8 +10,8 @@
 #include "core/cConfiguration.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
-#include "views/list/modFileSize.h"
-#include "views/list/modUnsaved.h"
+#include "views/common/modFileSize.h"
+#include "views/common/modUnsaved.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -9,8 +9,8 @@
 #include "core/cBookTools.h"
 #include "store/cDataAccess.h"
 #include "views/budget/modLimits.h"
-#include "views/list/modUnread.h"
-#include "views/list/modUnsaved.h"
+#include "views/common/modUnread.h"
+#include "views/common/modUnsaved.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "views/chart/cChartData.h"
 
 #include "base/cText.h"
-#include "views/list/modUnread.h"
+#include "views/common/modUnread.h"
 
 #include <QRegularExpression>
 

@@ -8,7 +8,7 @@
 #include "views/chart/cForecast.h"
 #include "views/chart/modChart.h"
 #include "views/chart/modForecast.h"
-#include "views/list/modUnread.h"
+#include "views/common/modUnread.h"
 #include "views/report/modReport.h"
 
 #include <algorithm>

@@ -5,7 +5,7 @@
 #include "base/modDate.h"
 #include "core/cBookTools.h"
 #include "views/chart/modChartTable.h"
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileWrite.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,7 +1,7 @@
 #include "base/cText.h"
 #include "views/chart/modChart.h"
 #include "views/report/modReport.h"
-#include "views/tag/modTagSums.h"
+#include "views/report/modTagSums.h"
 
 #include <algorithm>
 

@@ -12,9 +12,9 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/entry/cEntryWriter.h"
+#include "views/entry/cReconciledDays.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/entry/cSplitGroup.h"
-#include "views/ledger/cReconciledDays.h"
 
 #include <algorithm>
 

@@ -12,8 +12,8 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
-#include "views/ledger/cReconciledDays.h"
-#include "views/list/modUnsaved.h"
+#include "views/common/modUnsaved.h"
+#include "views/entry/cReconciledDays.h"
 
 #include <cstdlib>
 

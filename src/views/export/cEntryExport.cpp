@@ -7,7 +7,7 @@
 #include "core/cBookTools.h"
 #include "core/modReceiptFolder.h"
 #include "store/cDataAccess.h"
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileWrite.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -7,7 +7,7 @@
 #include "base/modDate.h"
 #include "core/cErrorLog.h"
 #include "core/modMaker.h"
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileWrite.h"
 
 #include <QDir>
 

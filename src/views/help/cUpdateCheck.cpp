@@ -6,7 +6,7 @@
 #include "core/cBookTools.h"
 #include "core/cConfiguration.h"
 #include "model/modSettingKey.h"
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileWrite.h"
 
 #include <QDir>
 #include <QLocale>

@@ -4,7 +4,7 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
-#include "views/ledger/cReconciledDays.h"
+#include "views/entry/cReconciledDays.h"
 #include "views/look/modMoneyTone.h"
 
 #include <array>

@@ -14,9 +14,9 @@
 #include "model/modBalance.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/entry/cReconciledDays.h"
 #include "views/entry/cSplitGroup.h"
 #include "views/ledger/cOpeningBalance.h"
-#include "views/ledger/cReconciledDays.h"
 #include "views/ledger/modBalanceText.h"
 
 #include <QHash>

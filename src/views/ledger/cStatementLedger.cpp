@@ -5,8 +5,8 @@
 #include "import/stage/cLeftOutRows.h"
 #include "model/modBalance.h"
 #include "store/cDataAccess.h"
-#include "views/list/modUnread.h"
-#include "views/statement/modRowTwins.h"
+#include "views/common/modUnread.h"
+#include "views/ledger/modRowTwins.h"
 
 #include <QMap>
 

@@ -12,12 +12,12 @@
 #include "model/modCutText.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "views/common/modUnread.h"
 #include "views/ledger/modBalanceText.h"
+#include "views/ledger/modImportText.h"
 #include "views/list/cListFilter.h"
-#include "views/list/modImportText.h"
-#include "views/list/modUnread.h"
 #include "views/look/modMoneyTone.h"
-#include "views/main/modViewText.h"
+#include "views/report/modPeriodText.h"
 
 #include <algorithm>
 #include <array>
@@ -336,7 +336,7 @@ QString cStatementListModel::Title() const
 
 QStringList cStatementListModel::Lines() const
 {
-    QStringList lines{cText::Tr("Kontonummer: {0}", {Number()}), modViewText::Period(m_period, Range())};
+    QStringList lines{cText::Tr("Kontonummer: {0}", {Number()}), modPeriodText::Named(m_period, Range())};
     if (!m_words.isEmpty()) {
         lines.append(cText::Tr("Suchtext: {0}", {m_typed}));
     }

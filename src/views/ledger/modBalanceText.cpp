@@ -4,8 +4,8 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "model/modCutText.h"
+#include "views/common/modUnread.h"
 #include "views/ledger/cStatementLedger.h"
-#include "views/list/modUnread.h"
 
 #include <algorithm>
 #include <cstdlib>

@@ -15,7 +15,7 @@
 #include "views/list/cListFilter.h"
 #include "views/list/modColumnWidth.h"
 #include "views/list/modEntryOrder.h"
-#include "views/tag/modTagTyping.h"
+#include "views/list/modTagTyping.h"
 
 #include <QHash>
 

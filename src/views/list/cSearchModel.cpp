@@ -10,9 +10,9 @@
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
-#include "views/list/modBookNames.h"
-#include "views/list/modSetting.h"
-#include "views/list/modUnread.h"
+#include "views/common/modBookNames.h"
+#include "views/common/modSetting.h"
+#include "views/common/modUnread.h"
 
 #include <cstdlib>
 #include <utility>

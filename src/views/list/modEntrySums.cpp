@@ -3,7 +3,7 @@
 #include "core/cAmountFormat.h"
 #include "model/modBalance.h"
 #include "model/modWord.h"
-#include "views/list/modUnread.h"
+#include "views/common/modUnread.h"
 
 void modEntrySums::Add(cEntrySums& sums, const cEntryItem& entry, qint64 effect)
 {

@@ -15,10 +15,10 @@
 #include "model/modTag.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "views/common/modSetting.h"
+#include "views/common/modUnread.h"
 #include "views/entry/cEntryDelete.h"
-#include "views/ledger/cReconciledDays.h"
-#include "views/list/modSetting.h"
-#include "views/list/modUnread.h"
+#include "views/entry/cReconciledDays.h"
 #include "views/main/modViewText.h"
 #include "views/template/cTemplateFlow.h"
 

@@ -5,7 +5,7 @@
 #include "model/modPeople.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
-#include "views/list/modSetting.h"
+#include "views/common/modSetting.h"
 
 #include <algorithm>
 

@@ -5,21 +5,11 @@
 #include "model/modPeople.h"
 #include "model/modWord.h"
 #include "views/main/cViewState.h"
-#include "views/report/modReport.h"
+#include "views/report/modPeriodText.h"
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-QString Days(const modPeriod::cRange& range)
-{
-    const QString end = modDate::ToText(range.End);
-    if (!modReport::HasStart(range) || range.Start == range.End) {
-        return end;
-    }
-    const QString start = modDate::ToText(range.Start);
-    return end.isEmpty() ? start : cText::Tr("{0} bis {1}", {start, end});
-}
 
 QStringList Hidden(const cViewState& view)
 {
@@ -63,17 +53,10 @@ QString modViewText::Balances(const cViewState& view, QDate today)
                                          : cText::Tr("Kontostände bis {0}", {modDate::ToText(end)});
 }
 
-QString modViewText::Period(const QString& name, const modPeriod::cRange& range)
-{
-    const QString shown = modWord::Periods().ToShown(name);
-    const QString days = Days(range);
-    return days.isEmpty() ? cText::Tr("Zeitraum: {0}", {shown}) : cText::Tr("Zeitraum: {0} ({1})", {shown, days});
-}
-
 QStringList modViewText::Lines(const cViewState& view, const modPeriod::cRange& range)
 {
     const QString account = view.FilterAccount();
-    QStringList lines{Period(view.Period, range),
+    QStringList lines{modPeriodText::Named(view.Period, range),
                       cText::Tr("Konto: {0}", {account.isEmpty() ? cText::Tr("Alle Konten") : account})};
     if (view.Type != modWord::AlleBuchungsarten) {
         lines.append(cText::Tr("Buchungsart: {0}", {modWord::ViewTypes().ToShown(view.Type)}));

@@ -19,9 +19,6 @@ namespace modViewText {
 // What the figures beside the accounts are.
 [[nodiscard]] QString Balances(const cViewState& view, QDate today);
 
-// "Zeitraum: Aktuelles Jahr (01.01.2026 bis 31.12.2026)": a period by name with its days.
-[[nodiscard]] QString Period(const QString& name, const modPeriod::cRange& range);
-
 // Period with its days and account, then one line each for whatever narrows or orders the list.
 [[nodiscard]] QStringList Lines(const cViewState& view, const modPeriod::cRange& range);
 

@@ -8,8 +8,8 @@
 #include "model/modSplit.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/entry/cReconciledDays.h"
 #include "views/entry/cSeriesChange.h"
-#include "views/ledger/cReconciledDays.h"
 #include "views/overview/modOverview.h"
 
 cEntryItemList cDueItems::Within(int days) const

@@ -10,7 +10,7 @@
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
-#include "views/list/modUnsaved.h"
+#include "views/common/modUnsaved.h"
 #include "views/list/modViewRecord.h"
 
 #include <algorithm>

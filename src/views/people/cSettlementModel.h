@@ -1,8 +1,8 @@
 #pragma once
 
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileWrite.h"
 #include "views/people/cPeople.h"
-#include "views/statistics/cStatisticsPeriod.h"
+#include "views/report/cStatisticsPeriod.h"
 
 #include <QByteArray>
 #include <QString>

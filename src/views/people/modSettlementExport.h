@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileWrite.h"
 #include "views/people/modSettlement.h"
 #include "views/report/cReportExport.h"
 

@@ -4,8 +4,8 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "views/chart/modChart.h"
+#include "views/common/modUnread.h"
 #include "views/list/cEntryFilter.h"
-#include "views/list/modUnread.h"
 #include "views/people/cPeople.h"
 
 #include <QRegularExpression>

@@ -8,7 +8,7 @@
 #include "core/modReceiptFolder.h"
 #include "model/modReceiptName.h"
 #include "store/cDataAccess.h"
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileWrite.h"
 
 #include <QDir>
 #include <QFile>

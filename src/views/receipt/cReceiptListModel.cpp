@@ -5,8 +5,8 @@
 #include "base/cUser.h"
 #include "core/cBookTools.h"
 #include "store/cDataAccess.h"
-#include "views/list/modFileSize.h"
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileSize.h"
+#include "views/common/modFileWrite.h"
 #include "views/receipt/cEntryReceipts.h"
 
 #include <QDir>

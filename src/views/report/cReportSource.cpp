@@ -8,7 +8,7 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/budget/modLimits.h"
-#include "views/list/modUnread.h"
+#include "views/common/modUnread.h"
 #include "views/report/modReport.h"
 #include "views/report/modReportHtml.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileWrite.h"
 #include "views/report/cReportFigures.h"
 
 #include <QByteArray>

@@ -3,7 +3,7 @@
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
-#include "views/list/modUnread.h"
+#include "views/common/modUnread.h"
 #include "views/report/modReport.h"
 #include "views/report/modReportLink.h"
 

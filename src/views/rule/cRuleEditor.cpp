@@ -7,10 +7,10 @@
 #include "import/propose/modOwnRule.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
+#include "views/common/modBookNames.h"
+#include "views/common/modUnsaved.h"
 #include "views/entry/cEntrySuggestions.h"
-#include "views/list/modBookNames.h"
-#include "views/list/modImportText.h"
-#include "views/list/modUnsaved.h"
+#include "views/ledger/modImportText.h"
 #include "views/rule/cRuleTrial.h"
 #include "views/rule/modRuleText.h"
 

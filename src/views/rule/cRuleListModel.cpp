@@ -9,7 +9,7 @@
 #include "import/stage/cImportHiveCache.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
-#include "views/list/modBookNames.h"
+#include "views/common/modBookNames.h"
 #include "views/rule/cRuleTrial.h"
 #include "views/rule/modRuleText.h"
 

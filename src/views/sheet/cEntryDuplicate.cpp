@@ -12,10 +12,10 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/entry/cReconciledDays.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/entry/cSplitGroup.h"
 #include "views/entry/cStartBalance.h"
-#include "views/ledger/cReconciledDays.h"
 
 #include <QMap>
 

@@ -10,11 +10,11 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
+#include "views/common/modUnsaved.h"
 #include "views/entry/cEntryWriter.h"
+#include "views/entry/cReconciledDays.h"
 #include "views/entry/cSplitGroup.h"
 #include "views/entry/cStartBalance.h"
-#include "views/ledger/cReconciledDays.h"
-#include "views/list/modUnsaved.h"
 
 #include <QSet>
 

@@ -7,7 +7,7 @@
 #include "import/match/cMatcher.h"
 #include "import/match/modMatchScore.h"
 #include "import/stage/cAccountMap.h"
-#include "views/list/modImportText.h"
+#include "views/ledger/modImportText.h"
 #include "views/look/modMoneyTone.h"
 
 #include <algorithm>

@@ -13,7 +13,7 @@
 #include "model/modRecurrence.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
-#include "views/list/modImportText.h"
+#include "views/ledger/modImportText.h"
 #include "views/statement/cRowProposals.h"
 
 #include <QHash>

@@ -7,7 +7,7 @@
 #include "import/propose/cBooking.h"
 #include "import/stage/cImportHiveCache.h"
 #include "store/cUndoStep.h"
-#include "views/list/modImportText.h"
+#include "views/ledger/modImportText.h"
 #include "views/people/cPeople.h"
 #include "views/statement/cMatchFlow.h"
 #include "views/statement/cRowProposals.h"

@@ -8,9 +8,9 @@
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cEntrySuggestions.h"
-#include "views/list/modImportText.h"
-#include "views/statement/cImportRuns.h"
-#include "views/statement/modRowTwins.h"
+#include "views/ledger/cImportRuns.h"
+#include "views/ledger/modImportText.h"
+#include "views/ledger/modRowTwins.h"
 
 #include <algorithm>
 

@@ -18,7 +18,7 @@
 #include "views/entry/cContracts.h"
 #include "views/entry/cEntryWriter.h"
 #include "views/entry/cSplitGroup.h"
-#include "views/statement/modRowTwins.h"
+#include "views/ledger/modRowTwins.h"
 
 #include <QSet>
 

@@ -6,8 +6,8 @@
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
+#include "views/common/modUnread.h"
 #include "views/entry/cEntrySuggestions.h"
-#include "views/list/modUnread.h"
 #include "views/main/cSavedViews.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/statement/cImportRuns.h"
+#include "views/ledger/cImportRuns.h"
 #include "views/statement/cStagedListModel.h"
 
 #include <QObject>

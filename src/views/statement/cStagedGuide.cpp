@@ -4,7 +4,7 @@
 #include "core/cAmountFormat.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modWord.h"
-#include "views/list/modImportText.h"
+#include "views/ledger/modImportText.h"
 #include "views/statement/cRowProposals.h"
 #include "views/statement/cStagedChoice.h"
 

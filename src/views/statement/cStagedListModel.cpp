@@ -5,8 +5,8 @@
 #include "core/cAmountFormat.h"
 #include "model/modCutText.h"
 #include "model/modWord.h"
+#include "views/ledger/modImportText.h"
 #include "views/list/modEntryOrder.h"
-#include "views/list/modImportText.h"
 #include "views/look/modMoneyTone.h"
 
 #include <algorithm>

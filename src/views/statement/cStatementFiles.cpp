@@ -19,7 +19,7 @@
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/ledger/cOpeningBalance.h"
-#include "views/list/modImportText.h"
+#include "views/ledger/modImportText.h"
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/modImportPreview.h"
 

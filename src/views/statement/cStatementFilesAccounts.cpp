@@ -7,7 +7,7 @@
 #include "import/stage/cImportResult.h"
 #include "store/cDataAccess.h"
 #include "views/ledger/cOpeningBalance.h"
-#include "views/list/modImportText.h"
+#include "views/ledger/modImportText.h"
 #include "views/statement/cStatementFiles.h"
 
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "views/statement/cImportRuns.h"
+#include "views/ledger/cImportRuns.h"
 #include "views/statement/cMatchFlow.h"
 #include "views/statement/cPlanFlow.h"
 #include "views/statement/cRowProposals.h"

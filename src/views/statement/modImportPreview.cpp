@@ -4,7 +4,7 @@
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
 #include "import/stage/cImportResult.h"
-#include "views/list/modImportText.h"
+#include "views/ledger/modImportText.h"
 
 #include <algorithm>
 

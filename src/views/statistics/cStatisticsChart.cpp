@@ -6,7 +6,7 @@
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
-#include "views/list/modSetting.h"
+#include "views/common/modSetting.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "views/chart/cChartData.h"
 #include "views/chart/cChartMaker.h"
-#include "views/statistics/cStatisticsPeriod.h"
+#include "views/report/cStatisticsPeriod.h"
 
 #include <QObject>
 #include <QString>

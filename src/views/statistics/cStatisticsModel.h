@@ -5,9 +5,9 @@
 #include "views/report/cReportSource.h"
 #include "views/report/cReportTreeModel.h"
 #include "views/report/cReportWish.h"
+#include "views/report/cStatisticsPeriod.h"
 #include "views/report/modReportLink.h"
 #include "views/statistics/cStatisticsChart.h"
-#include "views/statistics/cStatisticsPeriod.h"
 
 #include <QObject>
 #include <QString>

@@ -2,7 +2,7 @@
 
 #include "base/cText.h"
 #include "model/modWord.h"
-#include "views/statistics/cStatisticsPeriod.h"
+#include "views/report/cStatisticsPeriod.h"
 #include "windows/widget/cFlowLayout.h"
 #include "windows/widget/modChoice.h"
 

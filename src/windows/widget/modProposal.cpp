@@ -2,7 +2,7 @@
 
 #include "model/modTag.h"
 #include "views/entry/cEntrySuggestions.h"
-#include "views/tag/modTagTyping.h"
+#include "views/list/modTagTyping.h"
 #include "windows/widget/cPickList.h"
 
 #include <QLineEdit>

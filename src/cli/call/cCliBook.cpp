@@ -1,4 +1,4 @@
-#include "cli/cCliBook.h"
+#include "cli/call/cCliBook.h"
 
 #include "cli/console/cConsoleRescue.h"
 #include "cli/console/cConsoleUser.h"

@@ -1,9 +1,9 @@
-#include "views/statistics/cStatisticsPeriod.h"
+#include "views/report/cStatisticsPeriod.h"
 
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
-#include "views/list/modSetting.h"
+#include "views/common/modSetting.h"
 
 #include <algorithm>
 

@@ -1,4 +1,4 @@
-#include "views/list/modUnread.h"
+#include "views/common/modUnread.h"
 
 #include "base/cText.h"
 #include "store/cDataAccess.h"

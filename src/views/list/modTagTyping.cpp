@@ -1,4 +1,4 @@
-#include "views/tag/modTagTyping.h"
+#include "views/list/modTagTyping.h"
 
 #include "model/modTag.h"
 

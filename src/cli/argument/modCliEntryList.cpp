@@ -1,8 +1,8 @@
-#include "cli/console/modCliEntryList.h"
+#include "cli/argument/modCliEntryList.h"
 
 #include "base/cText.h"
 #include "base/modDate.h"
-#include "cli/cCliBook.h"
+#include "cli/call/cCliBook.h"
 #include "cli/console/cCliTable.h"
 #include "cli/console/cConsoleUser.h"
 #include "cli/console/modCliRecord.h"

@@ -1,4 +1,4 @@
-#include "views/statement/modRowTwins.h"
+#include "views/ledger/modRowTwins.h"
 
 #include "import/plan/modStagedTwins.h"
 #include "import/stage/cAccountMap.h"

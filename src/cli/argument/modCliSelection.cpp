@@ -1,8 +1,8 @@
-#include "cli/console/modCliSelection.h"
+#include "cli/argument/modCliSelection.h"
 
 #include "base/cText.h"
-#include "cli/cCliBook.h"
-#include "cli/console/cCliReader.h"
+#include "cli/argument/cCliReader.h"
+#include "cli/call/cCliBook.h"
 #include "model/cTemplateItem.h"
 #include "model/modPeople.h"
 #include "model/modWord.h"

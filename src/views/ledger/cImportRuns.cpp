@@ -1,4 +1,4 @@
-#include "views/statement/cImportRuns.h"
+#include "views/ledger/cImportRuns.h"
 
 #include "core/cSettings.h"
 #include "import/stage/modStatementFormat.h"

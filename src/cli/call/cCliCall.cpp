@@ -1,4 +1,4 @@
-#include "cli/cCliCall.h"
+#include "cli/call/cCliCall.h"
 
 #include "base/cText.h"
 

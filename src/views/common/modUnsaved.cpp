@@ -1,4 +1,4 @@
-#include "views/list/modUnsaved.h"
+#include "views/common/modUnsaved.h"
 
 #include "base/cText.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/modCliCommands.h"
+#include "cli/call/modCliCommands.h"
 #include "model/cEntryItem.h"
 
 // Lists of entries as the commands write them.

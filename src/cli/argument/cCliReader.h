@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/modCliCommands.h"
+#include "cli/call/modCliCommands.h"
 #include "model/cImportEntry.h"
 #include "model/modPeriod.h"
 

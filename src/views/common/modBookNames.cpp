@@ -1,4 +1,4 @@
-#include "views/list/modBookNames.h"
+#include "views/common/modBookNames.h"
 
 #include "store/cDataAccess.h"
 

@@ -1,4 +1,4 @@
-#include "views/list/modSetting.h"
+#include "views/common/modSetting.h"
 
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"

@@ -1,4 +1,4 @@
-#include "cli/console/cCliReader.h"
+#include "cli/argument/cCliReader.h"
 
 #include "base/cClock.h"
 #include "base/cText.h"
@@ -6,13 +6,13 @@
 #include "base/modDayText.h"
 #include "base/modFold.h"
 #include "base/modSum.h"
-#include "cli/cCliBook.h"
+#include "cli/call/cCliBook.h"
 #include "cli/console/cConsoleUser.h"
 #include "model/modPeople.h"
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modWord.h"
-#include "views/list/modBookNames.h"
+#include "views/common/modBookNames.h"
 #include "views/people/cPeople.h"
 
 #include <QFileInfo>

@@ -1,7 +1,7 @@
-#include "cli/console/modCliTableChoice.h"
+#include "cli/argument/modCliTableChoice.h"
 
 #include "base/cText.h"
-#include "cli/console/cCliReader.h"
+#include "cli/argument/cCliReader.h"
 #include "views/statement/modTableOption.h"
 
 using namespace Qt::Literals::StringLiterals;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/modCliCommands.h"
+#include "cli/call/modCliCommands.h"
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "views/book/cBookAccess.h"

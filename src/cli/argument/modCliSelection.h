@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/modCliCommands.h"
+#include "cli/call/modCliCommands.h"
 #include "model/cEntryItem.h"
 #include "views/main/cViewState.h"
 

@@ -1,4 +1,4 @@
-#include "cli/modCliCommands.h"
+#include "cli/call/modCliCommands.h"
 
 #include "base/cText.h"
 

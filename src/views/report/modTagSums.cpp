@@ -1,4 +1,4 @@
-#include "views/tag/modTagSums.h"
+#include "views/report/modTagSums.h"
 
 #include "views/report/modReport.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/cCliCall.h"
+#include "cli/call/cCliCall.h"
 
 #include <limits>
 

@@ -1,4 +1,4 @@
-#include "views/list/modImportText.h"
+#include "views/ledger/modImportText.h"
 
 #include "base/cText.h"
 #include "base/modCount.h"

@@ -1,4 +1,4 @@
-#include "views/ledger/cReconciledDays.h"
+#include "views/entry/cReconciledDays.h"
 
 #include "base/cText.h"
 #include "base/cUser.h"

@@ -1,4 +1,4 @@
-#include "views/list/modFileWrite.h"
+#include "views/common/modFileWrite.h"
 
 #include "base/cText.h"
 #include "base/modMD5.h"

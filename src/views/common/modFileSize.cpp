@@ -1,4 +1,4 @@
-#include "views/list/modFileSize.h"
+#include "views/common/modFileSize.h"
 
 #include "base/cText.h"
 #include "base/modSum.h"

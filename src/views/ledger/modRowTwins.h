@@ -2,7 +2,7 @@
 
 #include "model/cImportEntry.h"
 #include "model/cRowPlan.h"
-#include "views/statement/cImportRuns.h"
+#include "views/ledger/cImportRuns.h"
 
 #include <QHash>
 #include <QList>
