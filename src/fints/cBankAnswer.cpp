@@ -249,6 +249,12 @@ QString cBankAnswer::BankWords() const
     return lines.join(u'\n');
 }
 
+bool cBankAnswer::HasMoreThanWarnings() const
+{
+    return std::any_of(m_messages.begin(), m_messages.end(),
+                       [](const cReturnMessage& message) { return message.Code != u"3060"; });
+}
+
 bool cBankAnswer::IsAborted() const
 {
     return std::any_of(m_messages.begin(), m_messages.end(),

@@ -60,10 +60,11 @@ public:
     // Return messages
     [[nodiscard]] const QList<cReturnMessage>& Messages() const { return m_messages; }
     [[nodiscard]] bool Has(QStringView code) const;
-    [[nodiscard]] QString CollectedText() const;   // all but "0020", code and text, one a line (CR LF)
-    [[nodiscard]] QString BankWords() const;       // the texts alone, for the user
-    [[nodiscard]] bool IsAborted() const;          // HIRMG 9800
-    [[nodiscard]] QByteArray Continuation() const; // first parameter of 3040; empty without
+    [[nodiscard]] QString CollectedText() const;    // all but "0020", code and text, one a line (CR LF)
+    [[nodiscard]] QString BankWords() const;        // the texts alone, for the user
+    [[nodiscard]] bool HasMoreThanWarnings() const; // anything but 3060
+    [[nodiscard]] bool IsAborted() const;           // HIRMG 9800
+    [[nodiscard]] QByteArray Continuation() const;  // first parameter of 3040; empty without
     [[nodiscard]] std::optional<QStringList> AllowedFunctions() const; // 3920
     [[nodiscard]] bool IsWrongPin() const;
     [[nodiscard]] bool IsLocked() const;

@@ -69,6 +69,8 @@ public:
     // the series, each in date order.
     [[nodiscard]] cEntryItemList GetEntries(const cEntryQuery& query);
     [[nodiscard]] std::optional<cEntryItem> LoadEntry(int id);
+    // Entries from exactly this account to exactly this target, not expanded.
+    [[nodiscard]] cEntryItemList GetEntriesByTarget(const QString& account, const QString& target, const QString& type);
     // The entries that recur, not expanded, by ID.
     [[nodiscard]] cEntryItemList GetSeries();
     // Of these the ones with exactly this account as source or target.
@@ -86,6 +88,7 @@ public:
     // Begins to read a window beside what the caller does; the next GetWindow of these days takes what was found.
     void ReadAhead(const modPeriod::cRange& days);
     [[nodiscard]] int CountEntries();
+    [[nodiscard]] int CountEntriesOfAccount(const QString& account);
     [[nodiscard]] int CountEntriesOfCategory(const QString& path); // LIKE, as the path is given
     // Entries that no view shows or that do not count as they stand, by ID. Up to `today` a series has to have all its
     // occurrences.
@@ -155,6 +158,8 @@ public:
     [[nodiscard]] bool GetNewOnlineAccount(cOnlineAccount& account); // inserts it and sets account.ID
     [[nodiscard]] bool ChangeOnlineAccount(const cOnlineAccount& account);
     [[nodiscard]] bool DeleteOnlineAccount(int id);
+    [[nodiscard]] std::optional<cOnlineAccount> FindOnlineAccount(int id);
+    [[nodiscard]] std::optional<cOnlineAccount> FindOnlineAccount(const QString& number, const QString& bankCode);
 
     // Table `setting`
     using cSettingRows = QList<std::pair<QString, QString>>; // name, value

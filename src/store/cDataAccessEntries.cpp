@@ -161,6 +161,16 @@ std::optional<cEntryItem> cDataAccess::LoadEntry(int id)
     return entry;
 }
 
+cEntryItemList cDataAccess::GetEntriesByTarget(const QString& account, const QString& target, const QString& type)
+{
+    cEntryItemList entries;
+    Read("GetEntriesByTarget", [&] {
+        entries = ReadEntries(m_database, " WHERE EntryAccount = ? AND EntryAccountMove = ? AND EntryType = ?",
+                              {modRow::Doubled(account), modRow::Doubled(target), type});
+    });
+    return entries;
+}
+
 cEntryItemList cDataAccess::GetSeries()
 {
     cEntryItemList entries;
@@ -200,6 +210,15 @@ int cDataAccess::CountEntries()
     return count;
 }
 
+int cDataAccess::CountEntriesOfAccount(const QString& account)
+{
+    int count = 0;
+    Read("CountEntriesOfAccount", [&] {
+        count = Count(m_database, "SELECT COUNT(*) FROM data WHERE EntryAccount = ?", {modRow::Doubled(account)});
+    });
+    return count;
+}
+
 int cDataAccess::CountEntriesOfCategory(const QString& path)
 {
     int count = 0;
@@ -227,7 +246,7 @@ QHash<QString, int> cDataAccess::CountEntriesByAccount()
         counts = CountByText(m_database,
                              "SELECT EntryAccount AS Name, COUNT(*) FROM data WHERE Name <> '' GROUP BY Name "
                              "UNION ALL SELECT EntryAccountMove AS Name, COUNT(*) FROM data "
-                             "WHERE Name <> '' AND Name <> EntryAccount GROUP BY Name");
+                             "WHERE EntryType = 'Umbuchung' AND Name <> '' AND Name <> EntryAccount GROUP BY Name");
     });
     return counts;
 }

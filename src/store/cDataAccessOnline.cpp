@@ -29,10 +29,10 @@ cBoundList AccountValues(const cOnlineAccount& account)
 }
 
 // Newest first.
-QList<cOnlineAccount> ReadAccounts(cDatabase& database)
+QList<cOnlineAccount> ReadAccounts(cDatabase& database, const char* which = "", const cBoundList& values = {})
 {
     QList<cOnlineAccount> accounts;
-    cRows rows(database, "SELECT ID, " + Columns("") + " FROM account ORDER BY ID DESC");
+    cRows rows(database, "SELECT ID, " + Columns("") + " FROM account" + which + " ORDER BY ID DESC", values);
     while (rows.Next()) {
         cOnlineAccount& account = accounts.emplace_back();
         account.ID = static_cast<int>(rows.Integer(0));
@@ -42,6 +42,11 @@ QList<cOnlineAccount> ReadAccounts(cDatabase& database)
         }
     }
     return accounts;
+}
+
+std::optional<cOnlineAccount> First(const QList<cOnlineAccount>& accounts)
+{
+    return accounts.isEmpty() ? std::nullopt : std::optional(accounts.first());
 }
 
 } // namespace
@@ -74,4 +79,20 @@ bool cDataAccess::ChangeOnlineAccount(const cOnlineAccount& account)
 bool cDataAccess::DeleteOnlineAccount(int id)
 {
     return Write("DeleteOnlineAccount", [&] { m_database.Execute("DELETE FROM account WHERE ID = ?", {id}); });
+}
+
+std::optional<cOnlineAccount> cDataAccess::FindOnlineAccount(int id)
+{
+    std::optional<cOnlineAccount> account;
+    Read("FindOnlineAccount", [&] { account = First(ReadAccounts(m_database, " WHERE ID = ?", {id})); });
+    return account;
+}
+
+std::optional<cOnlineAccount> cDataAccess::FindOnlineAccount(const QString& number, const QString& bankCode)
+{
+    std::optional<cOnlineAccount> account;
+    Read("FindOnlineAccount", [&] {
+        account = First(ReadAccounts(m_database, " WHERE AccountNumber = ? AND AccountBLZ = ?", {number, bankCode}));
+    });
+    return account;
 }

@@ -80,10 +80,12 @@ private Q_SLOTS:
         QVERIFY(quiet.BankWords().isEmpty());
         QVERIFY(quiet.Continuation().isEmpty());
         QVERIFY(!quiet.AllowedFunctions());
+        QVERIFY(!Read("HIRMG:2:2+3060::Warnungen.'").HasMoreThanWarnings());
         const cBankAnswer bad = Read("HIRMG:2:2+9050::Fehler.'HIRMS:3:2:3+9010:4,1:Was ?'das?' "
                                      "soll??+3920::Verfahren:900:912'HIRMS:4:2:4+9050::Fehler.'");
         QCOMPARE(bad.CollectedText(), u"9050 Fehler.\r\n9010 Was 'das' soll?\r\n3920 Verfahren\r\n9050 Fehler."_s);
         QCOMPARE(bad.BankWords(), u"Fehler.\nWas 'das' soll?\nVerfahren"_s);
+        QVERIFY(bad.HasMoreThanWarnings());
         QCOMPARE(bad.AllowedFunctions().value(), QStringList({u"900"_s, u"912"_s}));
         QCOMPARE(bad.Messages()[1].Element, u"4,1"_s);
     }

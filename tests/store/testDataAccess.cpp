@@ -53,6 +53,7 @@ private Q_SLOTS:
         QVERIFY(entry == expected);
         QVERIFY(!book.Data.LoadEntry(2));
         QCOMPARE(book.Data.CountEntriesByAccount().value(u"O'Hara"_s), 1);
+        QCOMPARE(book.Data.CountEntriesOfAccount(u"O'Hara"_s), 1);
         QCOMPARE(book.Data.CountEntriesOfCategory(u"Haushalt; Kid's"_s), 1);
         QCOMPARE(book.Data.GetEntryAccounts(), QStringList(u"O'Hara"_s));
         QCOMPARE(book.User.Shown, QStringList());
@@ -237,9 +238,10 @@ private Q_SLOTS:
         QVERIFY(book.Data.GetNewOnlineAccount(account));
         QVERIFY(account.Values == first.Values);
         QCOMPARE(book.Value("SELECT AccountTANMediaSecurityFunction FROM account"), u"Wert 34"_s);
+        QVERIFY(book.Data.FindOnlineAccount(u"Wert 10"_s, u"Wert 9"_s) == account); // number, bank code
         account.Values[34] = u"neu"_s;
         QVERIFY(book.Data.ChangeOnlineAccount(account));
-        QVERIFY(book.Data.GetOnlineAccounts() == QList{account});
+        QVERIFY(book.Data.FindOnlineAccount(account.ID) == account);
         cOnlineAccount second;
         QVERIFY(book.Data.GetNewOnlineAccount(second));
         QCOMPARE(book.Data.GetOnlineAccounts().first().ID, second.ID);

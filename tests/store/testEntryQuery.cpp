@@ -257,6 +257,7 @@ private Q_SLOTS:
     void OtherLookups() const
     {
         cHousehold book;
+        QCOMPARE(Ids(book.Data.GetEntriesByTarget(u"Giro"_s, u"Spar"_s, u"Umbuchung"_s)), u"3"_s);
         QCOMPARE(book.Data.CountEntriesOfCategory(u"Haus; Miete"_s), 2);
         QVERIFY(book.Data.ChangeEntryCategory(u"Kid's; Neu"_s, u"Kid's; Spiel"_s));
         QCOMPARE(book.Data.LoadEntry(5)->EntryCategory, u"Kid's; Neu"_s);

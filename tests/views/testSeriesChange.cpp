@@ -290,6 +290,23 @@ private Q_SLOTS:
         QCOMPARE(Corrections(book, book.Rent), before);
     }
 
+    // By hand, and booked by the bank as it stands there.
+    void WhatWasPaidStaysWithAnotherEnd()
+    {
+        cRentBook book;
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 5, 10), 1200, {}));
+        QVERIFY(book.Change.CorrectPeriod(book.Rent, QDate(2026, 6, 10), 900, {}));
+        book.Stage({}, QDate(2026, 5, 10), 1200, {}, book.Rent);
+        cEntryFields fields = book.Editor.Load(book.Rent).value();
+        fields.Amount = u"11"_s;
+        fields.HasEnd = true;
+        fields.End = QDate(2027, 12, 31);
+        book.User.Answers = {eAnswer::Yes};
+        QCOMPARE(book.Editor.Save(fields), cEntryEditor::eSaved::Saved);
+        QCOMPARE(Corrections(book, book.Rent), QStringList({u"2026-05-01 1200 "_s}));
+        QVERIFY(book.Data.Journal().UndoName().endsWith(u"behält seinen Betrag (1 Mal)"));
+    }
+
     void FromHereAsksForLostCorrections_data()
     {
         const cTestRows<int, QStringList, int> row("answer", "old", "entries");

@@ -7,6 +7,7 @@
 #include "cli/call/cCliBook.h"
 #include "cli/command/modCliFlow.h"
 #include "model/modWord.h"
+#include "views/entry/cEntrySuggestions.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/entry/modSplitParts.h"
 
@@ -245,8 +246,11 @@ int cCliEntryForm::Save(const cEntryFields& fields, int id)
         return modExit::Done;
     }
     if (fields.Face == eEntryFace::Normal && (fields.Category.isEmpty() || fields.Type.isEmpty())) {
-        modConsole::Error(
-            cText::Tr("Dazu dient die Option {0}.", {fields.Category.isEmpty() ? u"--category"_s : u"--kind"_s}));
+        const bool isNone =
+            fields.Category.isEmpty() && cEntrySuggestions::VisibleCategories(m_context.Book->Data).isEmpty();
+        modConsole::Error(isNone ? cText::Tr("Dazu dient der Befehl {0}.", {u"categories add"_s})
+                                 : cText::Tr("Dazu dient die Option {0}.",
+                                             {fields.Category.isEmpty() ? u"--category"_s : u"--kind"_s}));
     }
     return modCliFlow::Finish(m_context, false);
 }

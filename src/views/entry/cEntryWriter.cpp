@@ -43,15 +43,17 @@ cEntryItemList EntriesOf(const QList<cEntryWrite>& rows)
     return entries;
 }
 
-// What the bank said of an occurrence stays true as long as the series has it; nobody would enter it again.
-bool IsKept(const cEntryItem& entry, const cEntryItemFixMod& fixMod)
+// What the bank said of an occurrence, or booked for it, stays true as long as the series has it; nobody would enter it
+// again.
+bool IsKept(const cEntryItem& entry, const cEntryItemFixMod& fixMod, const QSet<QDate>& booked)
 {
-    return modSeries::IsFromBank(fixMod.EntryComment) && modSeries::HasPeriod(entry, fixMod);
+    return (modSeries::IsFromBank(fixMod.EntryComment) || booked.contains(fixMod.EntryStartDate))
+        && modSeries::HasPeriod(entry, fixMod);
 }
 
 } // namespace
 
-bool cEntryWriter::Loses(const cEntryWrite& row, QDate from) const
+bool cEntryWriter::Loses(const cEntryWrite& row, QDate from, const QSet<QDate>& booked) const
 {
     const std::optional<cEntryItem> stored = m_data.LoadEntry(row.Entry.ID);
     if (!stored || row.Corrections.isEmpty() || !modRecurrence::IsRecurring(stored->EntryInterval)) {
@@ -60,7 +62,7 @@ bool cEntryWriter::Loses(const cEntryWrite& row, QDate from) const
     if (!from.isValid()) {
         return modSeries::HasOtherPeriod(*stored, row.Entry)
             && !std::all_of(row.Corrections.begin(), row.Corrections.end(),
-                            [&](const cEntryItemFixMod& fixMod) { return IsKept(row.Entry, fixMod); });
+                            [&](const cEntryItemFixMod& fixMod) { return IsKept(row.Entry, fixMod, booked); });
     }
     return !std::all_of(row.Corrections.begin(), row.Corrections.end(),
                         [&](const cEntryItemFixMod& fixMod) { return modSeries::HasPeriod(row.Entry, fixMod); });
@@ -68,9 +70,12 @@ bool cEntryWriter::Loses(const cEntryWrite& row, QDate from) const
 
 bool cEntryWriter::AskLosses(QList<cEntryWrite>& rows, QDate from)
 {
+    const cEntryItemList stored = StoredSeries(rows, {});
+    QSet<QDate> booked;
+    ForBooked(stored, [&](QDate start, qint64) { booked.insert(start); });
     QList<cEntryWrite*> losing;
     for (cEntryWrite& row : rows) {
-        if (Loses(row, from)) {
+        if (Loses(row, from, booked)) {
             losing.append(&row);
         }
     }
@@ -86,7 +91,7 @@ bool cEntryWriter::AskLosses(QList<cEntryWrite>& rows, QDate from)
         return false;
     }
     for (cEntryWrite* row : losing) {
-        row->Corrections.removeIf([&](const cEntryItemFixMod& fixMod) { return !IsKept(row->Entry, fixMod); });
+        row->Corrections.removeIf([&](const cEntryItemFixMod& fixMod) { return !IsKept(row->Entry, fixMod, booked); });
     }
     return true;
 }
@@ -176,7 +181,9 @@ QSet<QDate> cEntryWriter::KeepAmounts(const cEntryItem& stored, qint64 cents, co
             fixMod.EntryComment = *period ? modSeries::BankComment() : QString();
             row.Corrections.append(fixMod);
         }
-        kept.insert(period.key());
+        if (Find(row.Corrections, fixMod.EntryStartDate) != nullptr) { // else the user has taken it out
+            kept.insert(period.key());
+        }
     }
     return kept;
 }
@@ -200,26 +207,35 @@ cEntryItemList cEntryWriter::StoredSeries(const QList<cEntryWrite>& rows, const 
     return series;
 }
 
-// The starts of the periods for which the bank has booked something else than the rows come to together, whichever part
-// its row hangs at; true where it is what is stored.
-cEntryWriter::cPaid cEntryWriter::PaidPeriods(const cEntryItemList& before, const QList<cEntryWrite>& rows) const
+// Which part a row of the bank hangs at does not matter: it paid the whole.
+void cEntryWriter::ForBooked(const cEntryItemList& series, const std::function<void(QDate, qint64)>& take) const
 {
-    cPaid paid;
-    const cImportEntryList imports = before.isEmpty() ? cImportEntryList() : m_data.GetImportEntries();
-    const qint64 cents = std::abs(Whole(EntriesOf(rows)));
-    for (const cEntryItem& series : before) {
-        const cEntryItemFixModList fixMods = m_data.GetEntryMods(series.ID);
+    const cImportEntryList imports = series.isEmpty() ? cImportEntryList() : m_data.GetImportEntries();
+    for (const cEntryItem& part : series) {
+        const cEntryItemFixModList fixMods = m_data.GetEntryMods(part.ID);
         for (const cImportEntry& row : imports) {
-            const qint64 booked = std::abs(row.ImportValue);
-            const bool isMeant = row.ImportAssigned && row.ImportAssignedEntry == series.ID && booked != cents;
-            const std::optional<cEntryItem> occurrence =
-                isMeant ? modOccurrence::Nearest(series, row.ImportDate, fixMods) : std::nullopt;
+            const std::optional<cEntryItem> occurrence = row.ImportAssigned && row.ImportAssignedEntry == part.ID
+                ? modOccurrence::Nearest(part, row.ImportDate, fixMods)
+                : std::nullopt;
             if (occurrence) {
-                bool& isAsStored = paid[modSeries::CorrectionFor(*occurrence).EntryStartDate];
-                isAsStored = isAsStored || booked == std::abs(Whole(before));
+                take(modSeries::CorrectionFor(*occurrence).EntryStartDate, std::abs(row.ImportValue));
             }
         }
     }
+}
+
+// The starts of the periods for which the bank has booked something else than the rows come to together; true where it
+// is what is stored.
+cEntryWriter::cPaid cEntryWriter::PaidPeriods(const cEntryItemList& before, const QList<cEntryWrite>& rows) const
+{
+    cPaid paid;
+    const qint64 cents = std::abs(Whole(EntriesOf(rows)));
+    ForBooked(before, [&](QDate start, qint64 booked) {
+        if (booked != cents) {
+            bool& isAsStored = paid[start];
+            isAsStored = isAsStored || booked == std::abs(Whole(before));
+        }
+    });
     return paid;
 }
 

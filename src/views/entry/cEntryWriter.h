@@ -8,6 +8,7 @@
 #include <QMap>
 #include <QSet>
 
+#include <functional>
 #include <optional>
 
 class cDataAccess;
@@ -27,8 +28,8 @@ class cEntryWriter
 public:
     cEntryWriter(cDataAccess& data, cUser& user) : m_data(data), m_user(user) {}
 
-    // Rows whose period changed lose their corrections: asked before anything is written. Clears those corrections.
-    // False when the user declines. `from` as in Write.
+    // Rows whose period changed lose their corrections, but for those of what the bank has booked: asked before
+    // anything is written. Clears those corrections. False when the user declines. `from` as in Write.
     [[nodiscard]] bool AskLosses(QList<cEntryWrite>& rows, QDate from);
 
     // Where a stored series, or all of its parts together, gets another amount, the occurrences that the bank has paid
@@ -51,12 +52,14 @@ private:
 
     using cPaid = QMap<QDate, bool>; // see PaidPeriods
 
-    [[nodiscard]] bool Loses(const cEntryWrite& row, QDate from) const;
+    [[nodiscard]] bool Loses(const cEntryWrite& row, QDate from, const QSet<QDate>& booked) const;
     void FollowAmounts(QList<cEntryWrite>& rows, const QList<int>& removed) const;
     [[nodiscard]] bool AskLosing(const cEntryItem& stored, const cPaid& paid, const cEntryItem& after);
     [[nodiscard]] QSet<QDate> KeepAmounts(const cEntryItem& stored, qint64 cents, const cPaid& paid,
                                           cEntryWrite& row) const;
     [[nodiscard]] cEntryItemList StoredSeries(const QList<cEntryWrite>& rows, const QList<int>& removed) const;
+    // For each bank transaction of the series: the start of the period that it paid, cents without sign.
+    void ForBooked(const cEntryItemList& series, const std::function<void(QDate, qint64)>& take) const;
     [[nodiscard]] cPaid PaidPeriods(const cEntryItemList& before, const QList<cEntryWrite>& rows) const;
     [[nodiscard]] bool WriteRow(cEntryWrite& row);
     [[nodiscard]] bool Change(const cEntryItem& entry);
