@@ -58,7 +58,6 @@ cMainModel::cMainModel(const cBookTools& tools, const cParts& parts, QObject* pa
       m_parts(parts),
       m_entries(tools.Format),
       m_accounts(tools.Format),
-      m_limits(tools, m_accounts),
       m_cells(tools)
 {
     tmrRefreshList.setSingleShot(true);

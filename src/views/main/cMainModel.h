@@ -4,7 +4,6 @@
 #include "views/list/cEntryListModel.h"
 #include "views/list/cEntrySelection.h"
 #include "views/main/cAccountListModel.h"
-#include "views/main/cLimitWatch.h"
 #include "views/main/cViewDetour.h"
 #include "views/main/cViewState.h"
 #include "views/main/modAppearance.h"
@@ -208,7 +207,6 @@ private:
     cViewDetour m_detour;
     cEntryListModel m_entries;
     cAccountListModel m_accounts;
-    cLimitWatch m_limits;
     cCellEdit m_cells;
     cTemplateItemList m_accountItems;
     QDate m_balancesOf; // day of the balances up to today in the panel; invalid when they have to be added up anew
