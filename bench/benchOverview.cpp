@@ -16,7 +16,8 @@ struct cScene
     cFakeNavigator Navigator;
     cMainModel Main{cBenchBook::Large().Tools(),
                     {cBenchBook::Large().Configuration(), Shell, Navigator, cBenchBook::Large().Path()}};
-    cOverviewModel Overview{cBenchBook::Large().Tools(), {Navigator, Main}};
+    cOutlook Outlook{cBenchBook::Large().Tools()};
+    cOverviewModel Overview{cBenchBook::Large().Tools(), {Navigator, Main, Outlook}};
 };
 
 void Overview(benchmark::State& state)

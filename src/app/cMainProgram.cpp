@@ -95,6 +95,7 @@ bool cMainProgram::Start(const cStartRequest& request)
     m_format.CultureChanged(); // the book has its own
     m_tools.emplace(cBookTools{m_book.Data(), m_book.Settings(), m_format, m_ports.User, m_ports.Clock});
     m_updates.emplace(*m_tools, m_configuration);
+    m_outlook.emplace(*m_tools);
     BuildWindow();
     m_window->RestoreLayout();
     m_window->TakeStartPage();
@@ -275,15 +276,16 @@ bool cMainProgram::OpenForeign(const QString& path)
 
 void cMainProgram::BuildWindow()
 {
-    m_navigation = std::make_unique<cNavigation>(cNavigation::cParts{
-        *m_tools, m_book, m_configuration, m_format, m_ports.Rescue, m_ports.Shell, m_bookSwitch, *m_updates, m_log});
+    m_navigation =
+        std::make_unique<cNavigation>(cNavigation::cParts{*m_tools, m_book, m_configuration, m_format, m_ports.Rescue,
+                                                          m_ports.Shell, m_bookSwitch, *m_updates, m_log, *m_outlook});
     m_model = std::make_unique<cMainModel>(
         *m_tools, cMainModel::cParts{m_configuration, m_ports.Shell, *m_navigation, m_book.Path()});
     m_review = std::make_unique<cImportReview>(*m_tools);
     m_window = std::make_unique<frmMain>(*m_model);
     m_navigation->Connect(*m_model, *m_review, *m_window);
     QObject::connect(m_model.get(), &cMainModel::AppearanceChanged, m_window.get(), [this] { m_appearance.Apply(); });
-    BuildReminder();
+    ConnectOutlook();
     m_log.Watch([this] { m_window->ShowFailureMark(true); });
     m_window->ShowFailureMark(m_log.Count() > 0);
     QObject::connect(&m_review->Files(), &cStatementFiles::ImportStarts, m_window.get(),
@@ -296,14 +298,16 @@ void cMainProgram::BuildWindow()
                      [this] { tmrLanguage.start(0); }); // when the menu or form that said so is done
 }
 
-void cMainProgram::BuildReminder()
+void cMainProgram::ConnectOutlook()
 {
-    m_reminder = std::make_unique<cReminderModel>(*m_tools, *m_navigation, m_ports.Notifier);
-    QObject::connect(m_model.get(), &cMainModel::BookRefreshed, m_reminder.get(), &cReminderModel::BookChanged);
-    QObject::connect(m_review.get(), &cImportReview::RowsChanged, m_reminder.get(), &cReminderModel::BookChanged);
-    QObject::connect(m_review.get(), &cImportReview::RowsStaged, m_reminder.get(), &cReminderModel::StatementsChanged);
-    QObject::connect(m_review.get(), &cImportReview::EntriesChanged, m_reminder.get(),
-                     &cReminderModel::StatementsChanged);
+    QObject::connect(m_model.get(), &cMainModel::BookRefreshed, &*m_outlook, &cOutlook::BookChanged);
+    QObject::connect(m_review.get(), &cImportReview::RowsChanged, &*m_outlook, &cOutlook::BookChanged);
+    QObject::connect(m_review.get(), &cImportReview::RowsStaged, &*m_outlook, &cOutlook::StatementsChanged);
+    QObject::connect(m_review.get(), &cImportReview::EntriesChanged, &*m_outlook, &cOutlook::StatementsChanged);
+    QObject::connect(&*m_outlook, &cOutlook::Looked, m_model.get(),
+                     [this] { m_model->AccountList().SetWarnings(m_outlook->Day().Warnings); });
+    m_reminder =
+        std::make_unique<cReminderModel>(*m_tools, cReminderModel::cParts{*m_outlook, *m_navigation, m_ports.Notifier});
     QObject::connect(m_reminder.get(), &cReminderModel::Changed, m_window.get(),
                      [this] { m_window->ShowReminder(m_reminder->Text()); });
     QObject::connect(m_reminder.get(), &cReminderModel::OverviewWanted, m_window.get(),
@@ -346,7 +350,7 @@ void cMainProgram::FollowLanguage()
     m_model->RestoreView(false);
     m_window->ShowToday();
     m_window->ShowPage(page);
-    m_reminder->Start();
+    m_outlook->Start();
     Serve(); // what waited for the former window
 }
 
@@ -374,7 +378,7 @@ cBookSwitch::cHooks cMainProgram::Hooks()
 
 void cMainProgram::LeaveBook(cBookSwitch::eLeave leave)
 {
-    m_reminder->Stop();
+    m_outlook->Stop();
     m_navigation->LeaveBook();
     m_window->SaveLayout();
     m_walk.reset();
@@ -391,7 +395,7 @@ void cMainProgram::WatchBook()
         TellDamage();
         return;
     }
-    m_reminder->Start();
+    m_outlook->Start();
     m_walk.emplace(m_book.Database());
     tmrWalk.start(walkDelay);
     QTimer::singleShot(backupDelay, &tmrBackup, [this] { BackUp(); });

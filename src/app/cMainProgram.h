@@ -16,6 +16,7 @@
 #include "core/cLoggedUser.h"
 #include "core/cStartRequest.h"
 #include "store/cTableWalk.h"
+#include "views/overview/cOutlook.h"
 
 #include <QString>
 #include <QTimer>
@@ -84,7 +85,7 @@ private:
     [[nodiscard]] bool OpenLocked(cStartUp& startUp, const QString& path, bool isFresh);
     [[nodiscard]] bool OpenForeign(const QString& path);
     void BuildWindow();
-    void BuildReminder();
+    void ConnectOutlook();
     void FollowLanguage();
     void LookForUpdates();
     [[nodiscard]] QString WantedLanguage() const;
@@ -122,6 +123,7 @@ private:
     cStartRequest m_request;           // of this start, or of a later one that is still waiting
     std::optional<cBookTools> m_tools; // from the first opening of the book on
     std::optional<cUpdateWindows> m_updates;
+    std::optional<cOutlook> m_outlook;
     std::unique_ptr<cNavigation> m_navigation;
     std::unique_ptr<cMainModel> m_model;
     std::unique_ptr<cImportReview> m_review;

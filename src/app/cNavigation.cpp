@@ -132,7 +132,8 @@ void cNavigation::BuildPage(frmMain::ePage page)
 
 void cNavigation::BuildOverview()
 {
-    m_overview = std::make_unique<cOverviewModel>(m_parts.Tools, cOverviewModel::cParts{*this, *m_model});
+    m_overview =
+        std::make_unique<cOverviewModel>(m_parts.Tools, cOverviewModel::cParts{*this, *m_model, m_parts.Outlook});
     QWidget& page = m_window->OverviewPage();
     page.layout()->addWidget(new frmUebersicht(*m_overview, &page));
     QObject::connect(m_model, &cMainModel::BookRefreshed, m_overview.get(), &cOverviewModel::BookChanged);

@@ -24,6 +24,7 @@ class cConfiguration;
 class cImportReview;
 class cMainModel;
 class cNationalSettings;
+class cOutlook;
 class cOverviewModel;
 class cPasswordFlow;
 class cRescue;
@@ -55,6 +56,7 @@ public:
         cBookHost& Host;
         cUpdateWindows& Updates;
         cErrorLog& Log;
+        cOutlook& Outlook;
     };
 
     explicit cNavigation(const cParts& parts);

@@ -147,18 +147,25 @@ private Q_SLOTS:
         QCOMPARE(m_machine->User.Shown, QStringList());
     }
 
-    // What is due today stands in the status bar a moment after the start, and goes when another book has nothing.
-    void ReminderInTheStatusBar()
+    // What is due today stands in the status bar a moment after the start, and what is too low beside the accounts.
+    void RemindsAfterTheStart()
     {
         cTestFile::Run(m_machine->Book,
                        "INSERT INTO data (EntryDate, EntryDateEnd, EntryType, EntryInterval, EntryAccount, "
                        "EntryCategory, EntryValue, EntryDescription) VALUES ('2026-02-15', '2050-01-01', 'Ausgabe', "
-                       "'Monatlich', 'Giro', 'Wohnung', '700.00', 'Miete & mehr');");
+                       "'Monatlich', 'Girokonto', 'Wohnung', '700.00', 'Miete & mehr');"
+                       "UPDATE template SET TemplateDefaultValue='0.00' WHERE TemplateName='Girokonto';");
         const auto program = m_machine->Start();
         const auto* line = program->Window().findChild<QToolButton*>(u"cmdErinnerung"_s);
         QVERIFY(line != nullptr && !line->isVisible());
         QTRY_VERIFY(line->isVisible());
         QVERIFY2(line->accessibleName().startsWith(u"Heute fällig: Miete & mehr"_s), qPrintable(line->text()));
+        const cAccountListModel& accounts = program->Model().AccountList();
+        const auto isMarked = [&] {
+            return !accounts.match(accounts.index(0, cAccountListModel::Balance), cAccountListModel::WarningRole, true)
+                        .isEmpty();
+        };
+        QTRY_VERIFY(isMarked());
         QVERIFY(program->Window().close());
     }
 

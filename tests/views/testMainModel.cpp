@@ -173,7 +173,7 @@ private Q_SLOTS:
     {
         m_scene->Model->ToggleView(modSettingKey::ViewFix);
         m_scene->Model->ToggleView(modSettingKey::ViewStart);
-        m_scene->Model->SaveListLayout(modSettingKey::MainList, u"x"_s);
+        m_scene->Model->Memory().SaveLayout(modSettingKey::MainList, u"x"_s);
         m_scene->Model->ChooseAccount(u"Sparkonto"_s);
         m_scene->Start(true);
 
@@ -182,7 +182,7 @@ private Q_SLOTS:
         QVERIFY(m_scene->Model->IsChecked(modSettingKey::ViewFix));
         QVERIFY(!m_scene->Model->IsChecked(modSettingKey::ViewAllBalances));
         QVERIFY(!m_scene->Model->IsChecked(modSettingKey::ViewStart)); // a reset leaves it alone
-        QVERIFY(m_scene->Model->Layout(modSettingKey::MainList).isEmpty());
+        QVERIFY(m_scene->Model->Memory().Layout(modSettingKey::MainList).isEmpty());
         QVERIFY(!m_scene->Model->Hint().isEmpty()); // the list reaches to 2050 now, and says so
     }
 
@@ -193,7 +193,7 @@ private Q_SLOTS:
         m_scene->Model->ChooseGrouping(u"Nach Monat"_s);
         m_scene->Model->TypeFilter(u"bäcker"_s);
         RunQueued();
-        m_scene->Model->SaveLayout({}); // on closing, also what was typed just before
+        m_scene->Model->SaveView(); // on closing, also what was typed just before
         m_scene->Start();
         QCOMPARE(m_scene->Model->View().Period, u"Letzter Monat"_s);
         QCOMPARE(m_scene->Model->View().Account, u"Sparkonto"_s);

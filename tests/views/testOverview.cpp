@@ -6,6 +6,7 @@
 #include "support/testBook.h"
 #include "views/main/cMainModel.h"
 #include "views/overview/cOverviewModel.h"
+#include "views/reminder/cReminderModel.h"
 
 #include <QRandomGenerator>
 
@@ -58,7 +59,8 @@ struct cScene
     cTestBook Book;
     cFakeNavigator Navigator;
     cMainModel Main{Book.Tools, {Book.Configuration, Book.Shell, Navigator, Book.Path()}};
-    cOverviewModel Model{Book.Tools, {Navigator, Main}};
+    cOutlook Outlook{Book.Tools};
+    cOverviewModel Model{Book.Tools, {Navigator, Main, Outlook}};
 };
 
 void cScene::AddRandom(QRandomGenerator& random)
@@ -218,6 +220,33 @@ private Q_SLOTS:
         settings.Set(modSettingKey::BackupLast, modDate::ToIso(scene.Book.Clock.Today()));
         scene.Model.TasksChanged(); // without reading the book again
         QCOMPARE(scene.Lines(eOverviewCard::Tasks).size(), 2);
+    }
+
+    // Neither the page nor the line below it looks by itself at what the other one has found.
+    void SharesWhatItSeesWithTheReminder()
+    {
+        cScene scene;
+        cReminderModel reminder(scene.Book.Tools, {scene.Outlook, scene.Navigator});
+        scene.Book.Settings->Set(modSettingKey::BankNumber.Of(u"4711"_s), u"Girokonto"_s);
+        (void)scene.Book.Add([](cEntryItem& entry) {
+            entry.EntryDate = QDate(2026, 3, 1);
+            entry.EntryInterval = u"Wöchentlich"_s;
+            entry.EntryDescription = u"Markt"_s;
+        });
+        scene.Show();
+        QCOMPARE(reminder.Text(), QString()); // the book may not be shown yet
+        scene.Outlook.Start();
+        QCOMPARE(scene.Plain(reminder.Text()), u"Heute fällig: Markt, 10,00 €"_s);
+        scene.Book.Stage(u"4711"_s, QDate(2026, 3, 1), -1000);
+        scene.Book.Stage(u"4711"_s, QDate(2026, 3, 12), -500);
+        const QString late = u"Eine fällige Zahlung fehlt auf dem Kontoauszug."_s;
+        scene.Show();
+        QVERIFY(!scene.Lines(eOverviewCard::Tasks).contains(late));
+        scene.Outlook.LookAtSeries();
+        QVERIFY(scene.Lines(eOverviewCard::Tasks).contains(late));
+        scene.Outlook.Stop(); // another book comes, in which nothing is late
+        scene.Show();
+        QVERIFY(!scene.Lines(eOverviewCard::Tasks).contains(late));
     }
 
     void AnEmptyBookHasNoFiguresToCompare()

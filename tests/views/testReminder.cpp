@@ -44,14 +44,16 @@ struct cScene
 
     [[nodiscard]] QString Text()
     {
-        Model.Look();
+        Outlook.Start();
+        Outlook.Look();
         return Model.Text().replace(QChar::Nbsp, u' ');
     }
 
     cTestBook Book;
     cFakeNavigator Navigator;
     cFakeNotifier Notifier;
-    cReminderModel Model{Book.Tools, Navigator, &Notifier};
+    cOutlook Outlook{Book.Tools};
+    cReminderModel Model{Book.Tools, {Outlook, Navigator, &Notifier}};
 };
 
 } // namespace
@@ -84,6 +86,11 @@ private Q_SLOTS:
                                           "TemplateName='Girokonto'");
         (void)scene.AddSeries(QDate(2026, 3, 20), u"Miete"_s);
         QCOMPARE(scene.Text(), u"Girokonto ab 20.03.2026 unter 0,00 €"_s);
+        scene.Book.Database.ExecuteScript("UPDATE template SET TemplateDefaultValue='5.00' WHERE "
+                                          "TemplateName='Girokonto'");
+        QCOMPARE(scene.Text(), u"Girokonto unter 5,00 €"_s);
+        scene.Book.Damage("data");
+        QCOMPARE(scene.Text(), QString()); // not that there is nothing in the account
     }
 
     void RemindsOfContracts_data()
@@ -112,7 +119,7 @@ private Q_SLOTS:
             modContract::SetCancelBy(entry, cancelBy);
         });
         QCOMPARE(scene.Text().contains(u"Handy kündbar bis"_s), isReminded);
-        QCOMPARE(!cOverviewBook::Read(scene.Book.Tools).Contracts.isEmpty(), isReminded);
+        QCOMPARE(!scene.Outlook.Day().Contracts.isEmpty(), isReminded);
     }
 
     void TellsTheDesktopOnceADay()
@@ -121,9 +128,9 @@ private Q_SLOTS:
         (void)scene.AddSeries(QDate(2026, 1, 15), u"Miete"_s);
         (void)scene.AddSeries(QDate(2026, 1, 16), u"Strom"_s);
         const auto look = [&] {
-            scene.Model.Start();
-            scene.Model.Look();
-            scene.Model.LookForLate();
+            scene.Outlook.Start();
+            scene.Outlook.Look();
+            scene.Outlook.LookAtSeries();
         };
         look();
         QCOMPARE(scene.Notifier.Texts.size(), 0); // nobody wished it
@@ -134,17 +141,17 @@ private Q_SLOTS:
         look();
         look();
         QCOMPARE(scene.Notifier.Texts.size(), 2);
-        scene.Model.Tick();
+        scene.Outlook.Tick();
         scene.Book.Clock.Day = QDate(2026, 3, 16); // midnight
-        scene.Model.Tick();
-        scene.Model.Tick();
+        scene.Outlook.Tick();
+        scene.Outlook.Tick();
         QCOMPARE(scene.Notifier.Texts.size(), 3);
         QVERIFY(scene.Notifier.Texts.last().contains(u"Strom"_s));
         QCOMPARE(scene.Model.Text().replace(QChar::Nbsp, u' '), u"Heute fällig: Strom, 10,00 €"_s);
         scene.Book.Clock.Day = QDate(2026, 3, 17); // nothing is due
-        scene.Model.Tick();
+        scene.Outlook.Tick();
         QCOMPARE(scene.Notifier.Texts.size(), 3);
-        scene.Model.Stop(); // there is no book
+        scene.Outlook.Stop(); // there is no book
         QCOMPARE(scene.Model.Text(), QString());
     }
 
@@ -156,10 +163,10 @@ private Q_SLOTS:
         (void)scene.AddSeries(QDate(2026, 3, 1), u"Miete"_s);
         const auto import = [&](QDate day, qint64 cents) {
             scene.Book.Stage(u"111"_s, day, cents);
-            scene.Model.StatementsChanged();
+            scene.Outlook.StatementsChanged();
         };
-        scene.Model.Start();
-        scene.Model.LookForLate();
+        scene.Outlook.Start();
+        scene.Outlook.LookAtSeries();
         QVERIFY(scene.Model.Text().isEmpty());
         import(QDate(2026, 2, 20), -500);
         import(QDate(2026, 3, 12), -500);
@@ -175,9 +182,9 @@ private Q_SLOTS:
         (void)scene.AddSeries(QDate(2026, 1, 28), u"Strom"_s);
         (void)scene.AddSeries(QDate(2026, 3, 29), u"zu spät"_s);
         (void)scene.Book.Add([](cEntryItem& entry) { entry.EntryDate = QDate(2026, 3, 20); });
-        const cEntryItemList due = cDueItems(scene.Book.Tools).Within(cOverviewBook::DueDays);
+        const cEntryItemList due = cDueItems(scene.Book.Tools).Within(modOverview::DueDays);
         QCOMPARE(due.size(), 3);
-        QCOMPARE(due, cOverviewBook::Read(scene.Book.Tools).Due);
+        QCOMPARE(due, cOverviewBook::Read(scene.Book.Tools, scene.Outlook).Ahead.Due);
     }
 
     void RemindsOnceOfWhatWasChangedFromADayOn_data()

@@ -138,10 +138,12 @@ struct cScene
     cMainModel Model{Book.Tools, {Book.Configuration, Book.Shell, Navigator, Book.Path()}};
     cImportReview Review{Book.Tools};
     cStatisticsModel Statistics{Book.Tools, {Book.Shell, Navigator, Model}};
-    cOverviewModel Overview{Book.Tools, {Navigator, Model}};
+    cOutlook Outlook{Book.Tools};
+    cOverviewModel Overview{Book.Tools, {Navigator, Model, Outlook}};
     cTestBook EmptyBook;
     cMainModel EmptyMain{EmptyBook.Tools, {EmptyBook.Configuration, EmptyBook.Shell, Navigator, EmptyBook.Path()}};
-    cOverviewModel EmptyOverview{EmptyBook.Tools, {Navigator, EmptyMain}};
+    cOutlook EmptyOutlook{EmptyBook.Tools};
+    cOverviewModel EmptyOverview{EmptyBook.Tools, {Navigator, EmptyMain, EmptyOutlook}};
     cEntryEditor Editor{Book.Tools};
     std::optional<cManyChange> Many;
     cSeriesChange Change{Book.Tools};

@@ -536,7 +536,8 @@ private Q_SLOTS:
         cTestBook book;
         cFakeNavigator navigator;
         cMainModel main{book.Tools, {book.Configuration, book.Shell, navigator, book.Path()}};
-        cOverviewModel model{book.Tools, {navigator, main}};
+        cOutlook outlook{book.Tools};
+        cOverviewModel model{book.Tools, {navigator, main, outlook}};
         frmUebersicht page(model);
         page.show();
         page.activateWindow();

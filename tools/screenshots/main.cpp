@@ -41,10 +41,10 @@
 #include "tools/screenshots/takeSheet.h"
 #include "tools/screenshots/takeUpdate.h"
 #include "views/chart/cChartMaker.h"
+#include "views/chart/cForecast.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/ledger/cStatementListModel.h"
-#include "views/main/cLimitWatch.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modAppearance.h"
 #include "views/rule/cRuleEditor.h"
@@ -508,10 +508,9 @@ bool TakeCharts(cCamera& camera)
         {.Kind = eChartKind::ExpensePie, .Range = {sceneDay.addYears(30), sceneDay.addYears(31)}, .ShowsFuture = false},
         u"leer"_s);
     cAccountListModel accounts(scene.Format);
-    cLimitWatch watch(scene.Tools(), accounts);
     accounts.SetAccounts(scene.Book.Data().GetAccounts(),
                          QHash<QString, qint64>{{u"Girokonto"_s, 312345}, {u"Bargeld"_s, 8000}}, {});
-    watch.Look();
+    accounts.SetWarnings(cForecast(scene.Book.Data(), sceneDay).Warnings());
     cAccountPanel panel(accounts);
     panel.SetTitle(u"Kontostände"_s);
     panel.show();

@@ -70,7 +70,8 @@ void TakeLists(cCamera& camera, cDemoBook& scene)
     page.resize(1280, 700);
     page.show();
     camera.Take(page, u"farben-umsaetze"_s);
-    cOverviewModel overview(scene.Tools(), {navigator, model});
+    cOutlook outlook(scene.Tools());
+    cOverviewModel overview(scene.Tools(), {navigator, model, outlook});
     frmUebersicht first(overview);
     first.resize(1280, 700);
     first.show();

@@ -7,7 +7,7 @@
 #include "model/modBalance.h"
 #include "views/entry/cContracts.h"
 #include "views/overview/cDueItems.h"
-#include "views/overview/cOverviewBook.h"
+#include "views/overview/modOverview.h"
 
 using namespace Qt::Literals::StringLiterals;
 
@@ -29,7 +29,7 @@ int RunDue(const cCliContext& context)
     const cCliCall& call = context.Call;
     cCliReader reader(context);
     bool isNumber = true;
-    const int days = call.Has(u"days"_s) ? call.Value(u"days"_s).toInt(&isNumber) : cOverviewBook::DueDays;
+    const int days = call.Has(u"days"_s) ? call.Value(u"days"_s).toInt(&isNumber) : modOverview::DueDays;
     if (!isNumber || days < 1 || days > mostDays) {
         reader.Misused(cText::Tr("Möglich sind 1 bis {0} Tage.", {QString::number(mostDays)}));
     }

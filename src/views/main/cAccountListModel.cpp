@@ -3,6 +3,7 @@
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
+#include "views/chart/cForecast.h"
 #include "views/common/modUnread.h"
 #include "views/main/modAccountLines.h"
 
@@ -54,8 +55,12 @@ void cAccountListModel::SetChosen(const QString& account)
     }
 }
 
-void cAccountListModel::SetWarnings(const QHash<QString, QString>& texts)
+void cAccountListModel::SetWarnings(const QList<cLimitWarning>& warnings)
 {
+    QHash<QString, QString> texts;
+    for (const cLimitWarning& warning : warnings) {
+        texts.insert(warning.Account, cForecast::Text(warning, m_format));
+    }
     if (texts != m_warnings) {
         m_warnings = texts;
         Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "model/cTemplateItem.h"
+#include "views/list/cBalanceDays.h"
 
 #include <QAbstractTableModel>
 #include <QDate>
@@ -31,8 +32,8 @@ public:
     void SetAccounts(const cTemplateItemList& accounts, const std::optional<QHash<QString, qint64>>& balances,
                      const QHash<QString, int>& open);
     void SetChosen(const QString& account); // empty: none
-    // What there is to warn of, by account name. It stays until the next call.
-    void SetWarnings(const QHash<QString, QString>& texts);
+    // What there is to warn of. It stays until the next call.
+    void SetWarnings(const QList<cLimitWarning>& warnings);
     // Up to which day accounts agree with their bank, by account name. It stays until the next call.
     void SetReconciled(const QHash<QString, QDate>& days) { m_reconciled = days; }
 
@@ -69,6 +70,6 @@ private:
     bool m_hasBalances = true;
     bool m_showsChange = false;
     QString m_chosen;
-    QHash<QString, QString> m_warnings;
+    QHash<QString, QString> m_warnings; // sentences by account name
     QHash<QString, QDate> m_reconciled;
 };

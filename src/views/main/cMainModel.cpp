@@ -15,7 +15,6 @@
 #include "model/modTag.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
-#include "views/common/modSetting.h"
 #include "views/common/modUnread.h"
 #include "views/entry/cEntryDelete.h"
 #include "views/entry/cReconciledDays.h"
@@ -58,8 +57,8 @@ cMainModel::cMainModel(const cBookTools& tools, const cParts& parts, QObject* pa
       m_parts(parts),
       m_entries(tools.Format),
       m_accounts(tools.Format),
-      m_limits(tools, m_accounts),
-      m_cells(tools)
+      m_cells(tools),
+      m_memory(tools.Settings, parts.Configuration)
 {
     tmrRefreshList.setSingleShot(true);
     tmrRefreshAccounts.setSingleShot(true);
@@ -88,30 +87,6 @@ void cMainModel::SaveView()
 {
     tmrSaveView.stop();
     m_detour.Own(m_view).Save(m_tools.Settings);
-}
-
-void cMainModel::SaveLayout(const cPlacement& placement)
-{
-    SaveView();
-    const QStringList numbers{QString::number(placement.Left), QString::number(placement.Top),
-                              QString::number(placement.Width), QString::number(placement.Height)};
-    m_parts.Configuration.SaveSetting(modSettingKey::WindowSize, numbers.join(u'|'), eSettingPlace::Database);
-    m_parts.Configuration.SaveSetting(modSettingKey::WindowState, QString::number(static_cast<int>(placement.State)),
-                                      eSettingPlace::Database);
-}
-
-cMainModel::cPlacement cMainModel::RestoreLayout() const
-{
-    const QStringList numbers = m_parts.Configuration.GetSetting(modSettingKey::WindowSize).split(u'|');
-    cPlacement placement;
-    placement.State = static_cast<eWindow>(m_parts.Configuration.GetSetting(modSettingKey::WindowState).toInt());
-    if (numbers.size() == 4 && numbers.at(2).toInt() > 0 && numbers.at(3).toInt() > 0) {
-        placement.Left = numbers.at(0).toInt();
-        placement.Top = numbers.at(1).toInt();
-        placement.Width = numbers.at(2).toInt();
-        placement.Height = numbers.at(3).toInt();
-    }
-    return placement;
 }
 
 void cMainModel::ResetView()
@@ -560,14 +535,4 @@ QString cMainModel::BalancesTitle() const
 bool cMainModel::IsReadOnly() const
 {
     return m_tools.Data.IsReadOnly();
-}
-
-QString cMainModel::Layout(const cSettingKey& key) const
-{
-    return m_tools.Settings.Get(key);
-}
-
-void cMainModel::SaveListLayout(const cSettingKey& key, const QString& layout)
-{
-    modSetting::Keep(m_tools.Settings, key, layout);
 }

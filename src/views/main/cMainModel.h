@@ -4,9 +4,9 @@
 #include "views/list/cEntryListModel.h"
 #include "views/list/cEntrySelection.h"
 #include "views/main/cAccountListModel.h"
-#include "views/main/cLimitWatch.h"
 #include "views/main/cViewDetour.h"
 #include "views/main/cViewState.h"
+#include "views/main/cWindowMemory.h"
 #include "views/main/modAppearance.h"
 #include "views/main/modCommand.h"
 #include "views/main/modSavedView.h"
@@ -44,17 +44,6 @@ public:
     };
 
     enum class eSwitch { On, Off };
-    enum class eWindow { Normal, Minimised, Maximised }; // stored as a number
-
-    // Place and state of the main window as they are stored.
-    struct cPlacement
-    {
-        int Left = 0;
-        int Top = 0;
-        int Width = 0; // 0 when nothing usable is stored
-        int Height = 0;
-        eWindow State = eWindow::Normal;
-    };
 
     cMainModel(const cBookTools& tools, const cParts& parts, QObject* parent = nullptr);
     ~cMainModel() override;
@@ -63,8 +52,6 @@ public:
     // database last, or none yet, so the view starts afresh.
     void RestoreView(bool isNewVersion);
     void SaveView();
-    void SaveLayout(const cPlacement& placement);
-    [[nodiscard]] cPlacement RestoreLayout() const;
     void ResetView();   // without a question; Execute asks before it
     void RefreshView(); // loads the entries, adds up and shows them, writes the view state
 
@@ -171,9 +158,7 @@ public:
     [[nodiscard]] QString BalancesTitle() const;
     [[nodiscard]] bool IsReadOnly() const;
 
-    // Column layout of a list, as its window wrote it.
-    [[nodiscard]] QString Layout(const cSettingKey& key) const;
-    void SaveListLayout(const cSettingKey& key, const QString& layout);
+    [[nodiscard]] cWindowMemory& Memory() { return m_memory; }
 
 Q_SIGNALS:
     void ViewChanged();    // selectors, switches, hint
@@ -208,8 +193,8 @@ private:
     cViewDetour m_detour;
     cEntryListModel m_entries;
     cAccountListModel m_accounts;
-    cLimitWatch m_limits;
     cCellEdit m_cells;
+    cWindowMemory m_memory;
     cTemplateItemList m_accountItems;
     QDate m_balancesOf; // day of the balances up to today in the panel; invalid when they have to be added up anew
     QList<cEntryListModel::cKey> m_selection;

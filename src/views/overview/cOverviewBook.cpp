@@ -2,12 +2,10 @@
 
 #include "base/cClock.h"
 #include "core/cBookTools.h"
-#include "model/modContract.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/budget/modLimits.h"
 #include "views/chart/cForecast.h"
-#include "views/entry/cContracts.h"
 #include "views/report/modReport.h"
 
 #include <algorithm>
@@ -40,28 +38,25 @@ cReportFigures LimitsOf(const cEntryItemList& entries, const cTemplateItemList& 
 
 modPeriod::cRange cOverviewBook::DaysOn(QDate today)
 {
-    const QDate ahead = today.addDays(std::max({AheadDays, cForecast::WarningDays, DueDays}));
+    const QDate ahead = today.addDays(std::max({AheadDays, cForecast::WarningDays, modOverview::DueDays}));
     return {modOverview::FirstDay(today), std::max(modPeriod::Month(today, 0).End, ahead)};
 }
 
-cOverviewBook cOverviewBook::Read(const cBookTools& tools)
+cOverviewBook cOverviewBook::Read(const cBookTools& tools, cOutlook& outlook)
 {
     cOverviewBook book;
     book.Today = tools.Clock.Today();
     // One pass through the table for everything on the page.
-    const cEntryWindow window = tools.Data.GetWindow(DaysOn(book.Today), book.Today);
+    const cEntryWindow window = outlook.Look(DaysOn(book.Today));
     const cEntryItemList& entries = window.Entries;
-    cForecast forecast(tools.Data, book.Today);
-    book.Balances = forecast.Days({book.Today, book.Today.addDays(AheadDays)}, window);
-    book.Warnings = forecast.Warnings(window);
+    book.Ahead = outlook.Day();
+    book.Balances = cForecast(tools.Data, book.Today).Days({book.Today, book.Today.addDays(AheadDays)}, window);
     book.Templates = tools.Data.GetTemplates();
     book.HasEntries = std::any_of(entries.begin(), entries.end(),
                                   [](const cEntryItem& entry) { return entry.EntryCategory != modWord::Startguthaben; })
         || tools.Data.CountEntries() > tools.Data.CountEntriesOfCategory(modWord::Startguthaben);
     book.Month = modOverview::Month(entries, book.Today);
     book.Changes = modOverview::Changes(entries, book.Today, mostChanges);
-    book.Due = modOverview::Due(entries, book.Today, DueDays);
-    book.Contracts = cContracts(tools).Ahead(modContract::NoticeDays, window);
     book.Limits = LimitsOf(entries, book.Templates, tools);
     book.Looks = cCategoryLooks::Read(tools.Data);
     book.IsUnread = !tools.Data.IsWhole();

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "model/cEntryItem.h"
 #include "model/cTemplateItem.h"
 #include "model/modPeriod.h"
 #include "views/list/cBalanceDays.h"
 #include "views/look/cCategoryLooks.h"
+#include "views/overview/cOutlook.h"
 #include "views/overview/modOverview.h"
 #include "views/report/cReportFigures.h"
 
@@ -18,9 +18,8 @@ struct cBookTools;
 struct cOverviewBook
 {
     static constexpr int AheadDays = 60;
-    static constexpr int DueDays = 14;
 
-    [[nodiscard]] static cOverviewBook Read(const cBookTools& tools);
+    [[nodiscard]] static cOverviewBook Read(const cBookTools& tools, cOutlook& outlook);
     // The days whose entries it reads.
     [[nodiscard]] static modPeriod::cRange DaysOn(QDate today);
 
@@ -28,12 +27,10 @@ struct cOverviewBook
     bool IsUnread = false;   // the book refused; all else means nothing
     bool HasEntries = false; // other than start balances
     cBalanceDays Balances{}; // from today on, so that the first value is that of now
-    QList<cLimitWarning> Warnings{};
+    cOutlook::cDay Ahead{};
     modOverview::cMonth Month{};
     QList<modOverview::cChange> Changes{};
-    cEntryItemList Due{};
-    cEntryItemList Contracts{}; // that have to be cancelled soon or go on
-    cReportFigures Limits{};    // of this month, with what is planned
+    cReportFigures Limits{}; // of this month, with what is planned
     cTemplateItemList Templates{};
     cCategoryLooks Looks{};
 };

@@ -25,7 +25,6 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr int seriesDelay = 400; // milliseconds after the cards stand there
 constexpr qsizetype mostDue = 12;
 constexpr qsizetype mostLimits = 6;
 
@@ -50,10 +49,8 @@ cOverviewModel::cOverviewModel(const cBookTools& tools, const cParts& parts, QOb
 {
     tmrLoad.setSingleShot(true);
     tmrLoad.setInterval(0); // what changes several times in one go is read once, and painted once
-    tmrSeries.setSingleShot(true);
-    tmrSeries.setInterval(seriesDelay);
     connect(&tmrLoad, &QTimer::timeout, this, &cOverviewModel::Read);
-    connect(&tmrSeries, &QTimer::timeout, this, &cOverviewModel::LoadSeries);
+    connect(&m_parts.Outlook, &cOutlook::LookedAtSeries, this, &cOverviewModel::TakeSeries);
 }
 
 void cOverviewModel::Show()
@@ -83,27 +80,22 @@ void cOverviewModel::TasksChanged()
 void cOverviewModel::BookSwitched()
 {
     tmrLoad.stop(); // there may be no book for a while
-    tmrSeries.stop();
-    m_series.clear();
     m_isOld = true;
 }
 
 void cOverviewModel::Read()
 {
     m_isOld = false;
-    m_book = cOverviewBook::Read(m_tools);
+    m_book = cOverviewBook::Read(m_tools, m_parts.Outlook);
     m_tasks = cOverviewTasks(m_tools).Quick();
     Build();
     m_parts.Main.PageRead();
-    tmrSeries.start();
+    m_parts.Outlook.WantSeries();
 }
 
-void cOverviewModel::LoadSeries()
+void cOverviewModel::TakeSeries()
 {
-    const QList<cOverviewTask> series = cOverviewTasks(m_tools).Series();
-    const auto isSame = [](const cOverviewTask& a, const cOverviewTask& b) { return a.Text == b.Text; };
-    if (!std::equal(series.begin(), series.end(), m_series.begin(), m_series.end(), isSame)) {
-        m_series = series;
+    if (m_book && m_series != m_parts.Outlook.Series()) {
         Build();
     }
 }
@@ -126,6 +118,7 @@ void cOverviewModel::SetStartPage(bool isStartPage)
 
 void cOverviewModel::Build()
 {
+    m_series = m_parts.Outlook.Series();
     if (!m_book->HasEntries) {
         m_cards = {Balances(), Tasks()};
         Q_EMIT CardsChanged();
@@ -234,7 +227,7 @@ cOverviewCard cOverviewModel::Balances()
         card.Lines.append({modAccountLines::ShownName(line.Account), Signed(cents), ToneOf(cents),
                            [this, account = line.Account] { ShowAccount(account); }});
     }
-    for (const cLimitWarning& warning : std::as_const(m_book->Warnings)) {
+    for (const cLimitWarning& warning : std::as_const(m_book->Ahead.Warnings)) {
         card.Lines.append(
             {cForecast::Text(warning, m_tools.Format), {}, eOverviewTone::Warning, [this, account = warning.Account] {
                  ShowAccount(account);
@@ -306,31 +299,30 @@ cOverviewCard cOverviewModel::Due()
     card.FollowText = cText::Tr("Zeigt alles, was in den nächsten 14 Tagen geplant ist.");
     card.Follow = [this] {
         const QDate today = m_book->Today;
-        m_parts.Main.ShowEntries({cText::Tr("In den nächsten 14 Tagen"),
-                                  modWord::AlleBuchungsarten,
-                                  {},
-                                  {today, today.addDays(cOverviewBook::DueDays - 1)},
-                                  [today](const cEntryItemList& entries) {
-                                      return modOverview::Due(entries, today, cOverviewBook::DueDays);
-                                  },
-                                  true});
+        m_parts.Main.ShowEntries(
+            {cText::Tr("In den nächsten 14 Tagen"),
+             modWord::AlleBuchungsarten,
+             {},
+             {today, today.addDays(modOverview::DueDays - 1)},
+             [today](const cEntryItemList& entries) { return modOverview::Due(entries, today, modOverview::DueDays); },
+             true});
         Q_EMIT EntriesShown();
     };
     qint64 sum = 0;
-    for (const cEntryItem& item : std::as_const(m_book->Due)) {
+    for (const cEntryItem& item : std::as_const(m_book->Ahead.Due)) {
         sum += modBalance::Effect(item, {});
     }
-    card.Figure = m_book->Due.isEmpty() ? QString() : Signed(sum);
-    for (const cEntryItem& contract : std::as_const(m_book->Contracts)) {
+    card.Figure = m_book->Ahead.Due.isEmpty() ? QString() : Signed(sum);
+    for (const cEntryItem& contract : std::as_const(m_book->Ahead.Contracts)) {
         card.Lines.append({cContracts::Text(contract), {}, eOverviewTone::Warning, [this, contract] {
                                m_parts.Navigator.OpenEntry(contract.ID, contract.Planned());
                            }});
     }
-    for (qsizetype i = 0; i < std::min(mostDue, m_book->Due.size()); ++i) {
-        card.Lines.append(DueLine(m_book->Due.at(i)));
+    for (qsizetype i = 0; i < std::min(mostDue, m_book->Ahead.Due.size()); ++i) {
+        card.Lines.append(DueLine(m_book->Ahead.Due.at(i)));
     }
-    if (m_book->Due.size() > mostDue) {
-        card.Lines.append({cText::Tr("und {0} weitere", {QString::number(m_book->Due.size() - mostDue)}),
+    if (m_book->Ahead.Due.size() > mostDue) {
+        card.Lines.append({cText::Tr("und {0} weitere", {QString::number(m_book->Ahead.Due.size() - mostDue)}),
                            {},
                            eOverviewTone::Quiet,
                            card.Follow});
@@ -397,7 +389,7 @@ cOverviewCard cOverviewModel::Tasks()
 {
     cOverviewCard card{eOverviewCard::Tasks, cText::Tr("Zu erledigen")};
     card.Empty = cText::Tr("Alles erledigt.");
-    for (const QList<cOverviewTask>& tasks : {m_tasks, m_series}) {
+    for (const QList<cOverviewTask>& tasks : {m_tasks, cOverviewTasks::Of(m_series)}) {
         for (const cOverviewTask& task : tasks) {
             const bool isWrong =
                 task.Kind == cOverviewTask::eKind::Difference || task.Kind == cOverviewTask::eKind::NoBackup;

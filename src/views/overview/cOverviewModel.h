@@ -25,6 +25,7 @@ public:
     {
         cNavigator& Navigator;
         cMainModel& Main;
+        cOutlook& Outlook;
     };
 
     // All of it outlives the model.
@@ -36,7 +37,7 @@ public:
     void BookSwitched(); // what the former one had means nothing
     void BookChanged();
     void TasksChanged(); // something that the book does not tell of is done: a backup
-    void Read();         // at once, but for what takes longer
+    void Read();         // at once; the outlook looks as well, later at what takes longer
 
     // In the order in which they are shown; without entries in the book only what a new book can have.
     [[nodiscard]] const QList<cOverviewCard>& Cards() const { return m_cards; }
@@ -61,7 +62,7 @@ Q_SIGNALS:
     void DemoWanted();
 
 private:
-    void LoadSeries();
+    void TakeSeries();
     void Build();
     [[nodiscard]] cOverviewCard Balances();
     [[nodiscard]] cOverviewCard Month();
@@ -91,10 +92,9 @@ private:
     cParts m_parts;
     std::optional<cOverviewBook> m_book;
     QList<cOverviewTask> m_tasks;
-    QList<cOverviewTask> m_series;
+    cOutlook::cSeries m_series; // that are shown
     QList<cOverviewCard> m_cards;
     bool m_isShown = false;
     bool m_isOld = true; // the book has changed since it was read
     QTimer tmrLoad;      // once for several changes in a row
-    QTimer tmrSeries;    // the longer look, when nobody waits
 };

@@ -12,8 +12,6 @@
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "views/bank/cBankAccess.h"
-#include "views/statement/cSeriesCheck.h"
-#include "views/statement/cStatementDesk.h"
 
 #include <algorithm>
 #include <numeric>
@@ -123,17 +121,10 @@ void cOverviewTasks::AddBackup(QList<cOverviewTask>& tasks) const
     }
 }
 
-QList<cOverviewTask> cOverviewTasks::Series() const
+QList<cOverviewTask> cOverviewTasks::Of(const cOutlook::cSeries& series)
 {
+    const auto [late, ended] = series;
     QList<cOverviewTask> tasks;
-    if (m_tools.Data.GetImportAccounts().isEmpty()) {
-        return tasks; // without the bank's transactions nothing is late
-    }
-    cStatementDesk desk(m_tools);
-    const QList<cSeriesCheck::cFinding> findings = desk.Series().Find();
-    const auto late =
-        std::count_if(findings.begin(), findings.end(), [](const auto& finding) { return finding.IsLate; });
-    const qsizetype ended = findings.size() - late;
     if (late > 0) {
         tasks.append({eKind::LateSeries,
                       late == 1

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "views/overview/cOutlook.h"
+
 #include <QList>
 #include <QString>
 
@@ -34,8 +36,7 @@ public:
 
     // What a few queries tell.
     [[nodiscard]] QList<cOverviewTask> Quick() const;
-    // What takes a look at all transactions of the bank.
-    [[nodiscard]] QList<cOverviewTask> Series() const;
+    [[nodiscard]] static QList<cOverviewTask> Of(const cOutlook::cSeries& series);
 
 private:
     void AddAccounts(QList<cOverviewTask>& tasks) const;

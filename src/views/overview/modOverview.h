@@ -11,6 +11,7 @@
 namespace modOverview {
 
 constexpr int MostMonths = 12; // how far back the average looks
+constexpr int DueDays = 14;    // how far ahead is shown what is due
 
 // The first day of which entries are needed.
 [[nodiscard]] QDate FirstDay(QDate today);

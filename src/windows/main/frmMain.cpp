@@ -240,16 +240,17 @@ void frmMain::Connect()
 
 void frmMain::RestoreLayout()
 {
-    const cMainModel::cPlacement placement = m_model.RestoreLayout();
+    const cWindowMemory& memory = m_model.Memory();
+    const cWindowMemory::cPlacement placement = memory.Placement();
     if (placement.Width > 0) {
         const QRect place(placement.Left, placement.Top, placement.Width, placement.Height);
         setGeometry(modPlace::Visible(place, modPlace::FreeAreas(*screen())));
     }
-    if (placement.State == cMainModel::eWindow::Maximised) {
+    if (placement.State == cWindowMemory::eWindow::Maximised) {
         setWindowState(Qt::WindowMaximized);
     }
-    m_tree->SetLayoutText(m_model.Layout(modSettingKey::MainList));
-    m_tree->SetGroupText(m_model.Layout(modSettingKey::ClosedGroups));
+    m_tree->SetLayoutText(memory.Layout(modSettingKey::MainList));
+    m_tree->SetGroupText(memory.Layout(modSettingKey::ClosedGroups));
     ShowCommands();
 }
 
@@ -261,7 +262,7 @@ QList<int> frmMain::EntryColumns() const
 QWidget* frmMain::StartPage() const
 {
     const bool isOverview = m_model.IsChecked(modSettingKey::StartWithOverview);
-    const auto left = static_cast<ePage>(m_model.Layout(modSettingKey::MainPage).toInt());
+    const auto left = static_cast<ePage>(m_model.Memory().Layout(modSettingKey::MainPage).toInt());
     return WidgetOf(isOverview ? ePage::Overview : left);
 }
 
@@ -450,12 +451,14 @@ void frmMain::Raise()
 void frmMain::SaveLayout()
 {
     const QRect place = isMaximized() || isMinimized() ? normalGeometry() : geometry();
-    using eWindow = cMainModel::eWindow;
+    using eWindow = cWindowMemory::eWindow;
     const eWindow state = isMaximized() ? eWindow::Maximised : isMinimized() ? eWindow::Minimised : eWindow::Normal;
-    m_model.SaveLayout({place.left(), place.top(), place.width(), place.height(), state});
-    m_model.SaveListLayout(modSettingKey::MainList, m_tree->LayoutText());
-    m_model.SaveListLayout(modSettingKey::ClosedGroups, m_tree->GroupText());
-    m_model.SaveListLayout(modSettingKey::MainPage, QString::number(static_cast<int>(Page())));
+    m_model.SaveView();
+    cWindowMemory& memory = m_model.Memory();
+    memory.SavePlacement({place.left(), place.top(), place.width(), place.height(), state});
+    memory.SaveLayout(modSettingKey::MainList, m_tree->LayoutText());
+    memory.SaveLayout(modSettingKey::ClosedGroups, m_tree->GroupText());
+    memory.SaveLayout(modSettingKey::MainPage, QString::number(static_cast<int>(Page())));
 }
 
 // The accounts have room for long names in a wide window and leave most of a narrow one to the list; where it has
