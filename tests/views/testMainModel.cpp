@@ -284,6 +284,11 @@ private Q_SLOTS:
                 + m_scene->Model->BalancesTitle();
         };
         QCOMPARE(title(), u"Veränderung, Veränderung im Zeitraum"_s);
+        m_scene->Model->ShowToday(true); // the overview, which has no period
+        RunQueued();
+        QCOMPARE(title(), u"Kontostand, Kontostände heute"_s);
+        QVERIFY(!m_scene->Balances().contains(u"Girokonto "_s + Euro(u"-1.000,00"_s)));
+        m_scene->Model->ShowToday(false);
         m_scene->Model->ChoosePeriod(u"Buchungen bis heute"_s);
         RunQueued();
         QCOMPARE(title(), u"Kontostand, Kontostände bis heute"_s);

@@ -121,6 +121,15 @@ void cMainModel::RefreshView()
     Q_EMIT ViewChanged();
 }
 
+void cMainModel::ShowToday(bool isShown)
+{
+    if (std::exchange(m_showsToday, isShown) == isShown || m_view.BalancesToToday) {
+        return;
+    }
+    tmrRefreshAccounts.start(m_isPutOff ? pageTime : 0);
+    Q_EMIT ViewChanged();
+}
+
 void cMainModel::PageRead()
 {
     if (tmrRefreshAccounts.isActive()) {
@@ -181,26 +190,34 @@ std::optional<qint64> cMainModel::StartBalance(const cEntryQuery& query) const
     return modBalance::ByAccount(m_tools.Data.GetSums(before, true)).value(query.Account);
 }
 
+cViewState cMainModel::BalanceView() const
+{
+    cViewState view = m_view;
+    view.BalancesToToday = view.BalancesToToday || m_showsToday;
+    return view;
+}
+
 void cMainModel::RefreshAccounts()
 {
     const QDate today = m_tools.Clock.Today();
-    const bool isFresh = m_view.BalancesToToday && m_balancesOf == today;
+    const cViewState view = BalanceView();
+    const bool isFresh = view.BalancesToToday && m_balancesOf == today;
     if (isFresh) {
         m_accounts.SetChosen(m_view.FilterAccount());
         return;
     }
     QHash<QString, qint64> balances;
-    if (m_view.BalancesToToday || !m_view.ShowsNothing()) {
-        const bool withStart = m_view.BalancesToToday || m_view.ShowsStart;
-        balances = modBalance::ByAccount(m_tools.Data.GetSums(m_view.BalanceQuery(today), withStart));
+    if (view.BalancesToToday || !view.ShowsNothing()) {
+        const bool withStart = view.BalancesToToday || view.ShowsStart;
+        balances = modBalance::ByAccount(m_tools.Data.GetSums(view.BalanceQuery(today), withStart));
     }
     const QHash<QString, int> open = cAccountMap(m_tools.Data, m_tools.Settings).OpenByAccount();
     const bool isUnread = modUnread::IsMissing(m_tools.Data, balances.size());
     m_accounts.SetReconciled(cReconciledDays(m_tools).ByAccount());
-    m_accounts.SetShowsChange(m_view.ShowsChange(today));
+    m_accounts.SetShowsChange(view.ShowsChange(today));
     m_accounts.SetAccounts(m_accountItems, isUnread ? std::nullopt : std::optional(balances), open);
     m_accounts.SetChosen(m_view.FilterAccount());
-    m_balancesOf = m_view.BalancesToToday && !isUnread ? today : QDate();
+    m_balancesOf = view.BalancesToToday && !isUnread ? today : QDate();
 }
 
 void cMainModel::AccessChanged()
@@ -529,7 +546,7 @@ QString cMainModel::WindowTitle() const
 
 QString cMainModel::BalancesTitle() const
 {
-    return modViewText::Balances(m_view, m_tools.Clock.Today());
+    return modViewText::Balances(BalanceView(), m_tools.Clock.Today());
 }
 
 bool cMainModel::IsReadOnly() const

@@ -82,6 +82,8 @@ public:
     // for.
     void PutOffList() { m_isPutOff = true; }
     [[nodiscard]] bool IsPutOff() const { return m_isPutOff; }
+    // The page in front tells how things stand today, whatever the period of the list is: so do the balances beside it.
+    void ShowToday(bool isShown);
     void PageRead(); // by what is in sight: balances that wait for it are shown
     // True when the list has been read now, because it was put off.
     bool ReadList();
@@ -178,6 +180,7 @@ private:
     void LoadEntries();
     void ShowFilter();
     void TakeAccount(); // one that the book has
+    [[nodiscard]] cViewState BalanceView() const; // what the balances in the panel go by
     void RefreshAccounts();
     void AskResetView();
     void SkipPeriod();
@@ -196,6 +199,7 @@ private:
     cCellEdit m_cells;
     cWindowMemory m_memory;
     cTemplateItemList m_accountItems;
+    bool m_showsToday = false;
     QDate m_balancesOf; // day of the balances up to today in the panel; invalid when they have to be added up anew
     QList<cEntryListModel::cKey> m_selection;
     bool m_isPutOff = false;         // nobody has looked at the list yet, so it was not read

@@ -287,6 +287,7 @@ void frmMain::ShowToday()
 // The keys of some commands belong to the list in front; another page has its own.
 void frmMain::PageChanged()
 {
+    m_model.ShowToday(Page() == ePage::Overview);
     ReadList();
     Q_EMIT PageShown(Page());
     m_model.SetSelection(Page() == ePage::Entries ? m_tree->SelectedKeys() : QList<cEntryListModel::cKey>{});
