@@ -179,7 +179,7 @@ private:
     [[nodiscard]] bool IsUnread() const; // the list is empty because it could not be read
     void LoadEntries();
     void ShowFilter();
-    void TakeAccount(); // one that the book has
+    void TakeAccount();                           // one that the book has
     [[nodiscard]] cViewState BalanceView() const; // what the balances in the panel go by
     void RefreshAccounts();
     void AskResetView();
