@@ -13,8 +13,8 @@
 #include "views/ledger/cStatementLedger.h"
 #include "views/statement/cFileReport.h"
 #include "views/statement/cFileWish.h"
-#include "views/statement/cStatementDesk.h"
 #include "views/statement/cLeftOutList.h"
+#include "views/statement/cStatementDesk.h"
 #include "views/statement/cStatementFiles.h"
 
 #include <QSignalSpy>

@@ -43,8 +43,8 @@ struct cFileReport
     QList<cLine> Problems;
     QList<cLeftOut> Skipped;
     bool IsRefused = false;
-    QString Message;     // why, or what went wrong; empty when all went well
-    QString Numbers;     // "7 gelesen, 5 neu"
+    QString Message; // why, or what went wrong; empty when all went well
+    QString Numbers; // "7 gelesen, 5 neu"
 
     bool HasStrayDetails = false;  // refused only because of them, see cFileWish
     bool HasOtherCurrency = false; // likewise

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "import/stage/cImportResult.h"
-
 #include <QList>
 #include <QStringList>
+
+struct cImportResult;
 
 // What came of statement files.
 struct cFilesOutcome

@@ -9,6 +9,7 @@
 #include "import/sheet/modSpreadsheet.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
+#include "import/stage/cImportResult.h"
 #include "import/stage/cStatementImport.h"
 #include "import/stage/modStatementFormat.h"
 #include "import/table/cTable.h"

@@ -13,6 +13,7 @@
 #include "import/stage/cBankBalances.h"
 #include "import/stage/cFetchedStatement.h"
 #include "import/stage/cImportHiveCache.h"
+#include "import/stage/cImportResult.h"
 #include "import/stage/cLeftOutRows.h"
 #include "import/stage/cStatementImport.h"
 #include "import/stage/modEqualRows.h"

@@ -52,7 +52,8 @@ public:
     void ChooseFiles(cProgress& progress, eAssist assist = eAssist::WhereNeeded);
     // Reads the files and sees to the accounts of new numbers. A file that the user stops brings nothing.
     void ImportFiles(const QStringList& paths, cProgress& progress, eAssist assist = eAssist::WhereNeeded);
-    // The same with options for all files, for who is told by what comes of it. With eStagingRun::Try nothing is written.
+    // The same with options for all files, for who is told by what comes of it. With eStagingRun::Try nothing is
+    // written.
     [[nodiscard]] cFilesOutcome ReadFiles(const QStringList& paths, const cImportOptions& options, cProgress& progress);
 
     // Takes what an online fetch brought, an account like a file, all of it as one step. Only numbers whose account of

@@ -4,6 +4,7 @@
 #include "base/modCount.h"
 #include "core/cBookTools.h"
 #include "import/stage/cAccountMap.h"
+#include "import/stage/cImportResult.h"
 #include "store/cDataAccess.h"
 #include "views/ledger/cOpeningBalance.h"
 #include "views/ledger/modImportText.h"
