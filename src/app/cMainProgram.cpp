@@ -1,6 +1,7 @@
 #include "app/cMainProgram.h"
 
 #include "app/cNavigation.h"
+#include "app/cStatementWindows.h"
 #include "app/machine/modBuild.h"
 #include "app/machine/modLocale.h"
 #include "base/cClock.h"
@@ -151,7 +152,7 @@ void cMainProgram::Serve()
     }
     const cStartRequest request = std::exchange(m_request, {});
     if (!request.Statements.isEmpty()) {
-        m_navigation->ReadStatements(request.Statements);
+        m_navigation->Statements().Read(request.Statements);
     } else if (request.IsImport) {
         m_navigation->Open(modCommand::ImportStatement);
     }

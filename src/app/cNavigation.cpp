@@ -1,8 +1,10 @@
 #include "app/cNavigation.h"
 
 #include "app/cBankWindows.h"
+#include "app/cBookWindows.h"
 #include "app/cHouseholdWindows.h"
 #include "app/cSheetWindows.h"
+#include "app/cStatementWindows.h"
 #include "app/cUpdateWindows.h"
 #include "app/machine/modBuild.h"
 #include "base/cClock.h"
@@ -13,32 +15,22 @@
 #include "core/cSettings.h"
 #include "core/cStartRequest.h"
 #include "store/cDataAccess.h"
-#include "views/book/cBackupSettings.h"
-#include "views/book/cBookCheck.h"
 #include "views/book/cNationalSettings.h"
-#include "views/book/cPasswordFlow.h"
 #include "views/entry/cSeriesChange.h"
 #include "views/export/cEntryExport.h"
 #include "views/export/cEntryExtract.h"
 #include "views/help/cHighScores.h"
 #include "views/help/modAbout.h"
-#include "views/ledger/cStatementListModel.h"
 #include "views/list/cSearchModel.h"
 #include "views/main/cMainModel.h"
 #include "views/main/modCommand.h"
 #include "views/main/modViewText.h"
 #include "views/overview/cOverviewModel.h"
-#include "views/rule/cRuleEditor.h"
 #include "views/statement/cImportReview.h"
-#include "views/statement/cSeriesCheck.h"
-#include "views/statement/cStatementDesk.h"
 #include "views/statement/cStatementFiles.h"
 #include "views/statistics/cStatisticsModel.h"
 #include "views/template/cTemplateManager.h"
 #include "windows/book/frmLaender.h"
-#include "windows/book/frmPasswort.h"
-#include "windows/book/frmPruefung.h"
-#include "windows/book/frmSicherungen.h"
 #include "windows/chart/cChartPrinter.h"
 #include "windows/entry/frmBuchung.h"
 #include "windows/entry/frmKorrektur.h"
@@ -50,9 +42,6 @@
 #include "windows/overview/frmUebersicht.h"
 #include "windows/print/cListPrinter.h"
 #include "windows/report/cReportPrinter.h"
-#include "windows/statement/frmImport.h"
-#include "windows/statement/frmKontoauszug.h"
-#include "windows/statement/frmRegeln.h"
 #include "windows/statistics/frmStatistik.h"
 #include "windows/template/frmKategorie.h"
 #include "windows/widget/cProgressBox.h"
@@ -64,8 +53,6 @@
 cNavigation::cNavigation(const cParts& parts)
     : m_parts(parts),
       m_forms(parts.Tools, parts.Book, parts.Shell),
-      m_books({parts.Book, parts.Configuration, parts.Tools.User, parts.Rescue, parts.Shell, parts.Tools.Clock,
-               parts.Host}),
       m_logs({parts.Log, parts.Tools, parts.Shell, parts.Configuration, parts.Book}),
       m_printer(parts.Tools.User, parts.Tools.Data),
       m_help(parts.Shell, parts.Tools.User),
@@ -97,13 +84,13 @@ void cNavigation::Connect(cMainModel& model, cImportReview& review, frmMain& win
     m_household = std::make_unique<cHouseholdWindows>(m_parts.Tools, model, m_printer);
     QObject::connect(&window, &frmMain::ReceiptsDropped, &model,
                      [this](int entryId, const QStringList& paths) { m_receipts->Add(entryId, paths); });
+    m_books = std::make_unique<cBookWindows>(cBookWindows::cParts{m_parts.Tools, m_parts.Book, m_parts.Configuration,
+                                                                  m_parts.Format, m_parts.Rescue, m_parts.Shell,
+                                                                  m_parts.Host, model, *this});
+    m_books->OnBackups([this] { BackupsChanged(); });
+    m_statements = std::make_unique<cStatementWindows>(
+        cStatementWindows::cParts{m_parts.Tools, model, review, window, *this, *m_receipts, m_printer});
     window.AddToView(new cLanguageMenu(*m_national, &window));
-}
-
-void cNavigation::ReadStatements(const QStringList& paths)
-{
-    ShowStatements();
-    Statements().ImportFiles(paths);
 }
 
 void cNavigation::TakeFiles(const QStringList& paths)
@@ -113,16 +100,16 @@ void cNavigation::TakeFiles(const QStringList& paths)
         m_parts.Tools.User.Show(eTone::Exclamation, error);
         return;
     }
-    const bool isThere = request.Book.isEmpty() || m_books.OpenBook(request.Book);
+    const bool isThere = request.Book.isEmpty() || m_books->Flow().OpenBook(request.Book);
     if (isThere && !request.Statements.isEmpty()) { // they were meant for that book
-        ReadStatements(request.Statements);
+        m_statements->Read(request.Statements);
     }
 }
 
 void cNavigation::BuildPage(frmMain::ePage page)
 {
     if (page == frmMain::ePage::Statements) {
-        (void)Statements();
+        (void)m_statements->Page();
     } else if (page == frmMain::ePage::Statistics) {
         (void)Statistics();
     } else if (page == frmMain::ePage::Overview && m_overview == nullptr) {
@@ -140,27 +127,16 @@ void cNavigation::BuildOverview()
     QObject::connect(m_review, &cImportReview::RowsChanged, m_overview.get(), &cOverviewModel::BookChanged);
     QObject::connect(m_overview.get(), &cOverviewModel::EntriesShown, m_window,
                      [this] { m_window->ShowPage(frmMain::ePage::Entries); });
-    QObject::connect(m_overview.get(), &cOverviewModel::StatementsWanted, m_window, [this] { ShowStatements(); });
+    QObject::connect(m_overview.get(), &cOverviewModel::StatementsWanted, m_window, [this] { m_statements->Show(); });
     QObject::connect(
         m_overview.get(), &cOverviewModel::DemoWanted, m_window,
-        [this] { m_books.OpenDemo(QCoreApplication::applicationVersion()); }, Qt::QueuedConnection);
+        [this] { m_books->Flow().OpenDemo(QCoreApplication::applicationVersion()); }, Qt::QueuedConnection);
 }
 
 QWidget* cNavigation::Parent() const
 {
     QWidget* front = QApplication::activeWindow();
     return front != nullptr ? front : m_window;
-}
-
-frmImport& cNavigation::Statements()
-{
-    if (m_statements == nullptr) {
-        m_statements = new frmImport(*m_review, &m_window->StatementsPage());
-        m_window->StatementsPage().layout()->addWidget(m_statements);
-        QObject::connect(m_statements, &frmImport::StatementRequested, m_model, [this] { OpenAccountStatement(); });
-        QObject::connect(m_model, &cMainModel::LayoutReset, m_statements, &frmImport::ResetLayout);
-    }
-    return *m_statements;
 }
 
 cStatisticsModel& cNavigation::Statistics()
@@ -181,11 +157,6 @@ cStatisticsModel& cNavigation::Statistics()
     return *m_statistics;
 }
 
-void cNavigation::ShowStatements()
-{
-    m_window->ShowPage(frmMain::ePage::Statements);
-}
-
 void cNavigation::BookChanged()
 {
     m_model->BookChanged();
@@ -194,12 +165,12 @@ void cNavigation::BookChanged()
 void cNavigation::TellDamage()
 {
     m_model->AccessChanged();
-    m_books.TellDamage();
+    m_books->Flow().TellDamage();
 }
 
 void cNavigation::TellBroken()
 {
-    m_logs.TellBroken(m_books, m_window);
+    m_logs.TellBroken(m_books->Flow(), m_window);
 }
 
 // Once it was looked at, the mark has done its work.
@@ -214,7 +185,7 @@ void cNavigation::LeaveBook()
     delete m_search;
     m_search = nullptr;
     m_searchModel.reset();
-    m_password.reset();
+    m_books->LeaveBook();
     m_review->Files().ForgetFiles();
     if (m_window->Page() == frmMain::ePage::Statistics) {
         m_window->ShowPage(frmMain::ePage::Entries);
@@ -361,59 +332,6 @@ void cNavigation::OpenSearch()
     m_search->Present();
 }
 
-// Who chooses no file stays on the page.
-void cNavigation::OpenImport()
-{
-    const QObject choice;
-    QObject::connect(&m_review->Files(), &cStatementFiles::ImportStarts, &choice, [this] { ShowStatements(); });
-    Statements().ChooseFiles();
-}
-
-void cNavigation::OpenAccountStatement()
-{
-    cStatementListModel statement(m_parts.Tools);
-    frmKontoauszug form(statement, Parent());
-    QObject::connect(&form, &frmKontoauszug::EntryRequested, m_model, [&](int entryId, QDate day) {
-        OpenEntry(entryId, day);
-        statement.Reload();
-    });
-    QObject::connect(&form, &frmKontoauszug::BookRequested, m_model, [&](int rowId) {
-        cProgressBox progress(&form, cText::Tr("Umsätze werden gebucht …"));
-        m_review->Book({rowId}, progress);
-        statement.Reload();
-    });
-    QObject::connect(&form, &frmKontoauszug::DeleteRequested, m_model, [&](int entryId, QDate day) {
-        m_model->Delete({{entryId, day}});
-        statement.Reload();
-    });
-    m_receipts->Connect(form, statement);
-    QObject::connect(&form, &frmKontoauszug::ReconcileChanged, m_model, &cMainModel::BookChanged);
-    const auto print = [&](void (cQtPrinter::*way)(cPrintable&, QWidget*)) {
-        cListPrinter pages(statement);
-        (m_printer.*way)(pages, &form);
-    };
-    QObject::connect(&form, &frmKontoauszug::PrintRequested, &form, [print] { print(&cQtPrinter::Print); });
-    QObject::connect(&form, &frmKontoauszug::PreviewRequested, &form, [print] { print(&cQtPrinter::Preview); });
-    QObject::connect(&form, &frmKontoauszug::ExportRequested, &form, [&] { Export(statement); });
-    form.exec();
-}
-
-void cNavigation::CheckSeries()
-{
-    cStatementDesk desk(m_parts.Tools);
-    cSeriesCheck check = desk.Series();
-    if (check.IsClean()) {
-        const QString contracts = check.Contracts();
-        m_parts.Tools.User.Show(eTone::Information,
-                                contracts.isEmpty()
-                                    ? cSeriesCheck::NothingFound()
-                                    : QString(cSeriesCheck::NothingFound() + QStringLiteral("\n\n") + contracts));
-    } else if (!check.Ask({}).isEmpty()) {
-        BookChanged();
-        m_review->Refresh(); // rows of a series that ended earlier wait again
-    }
-}
-
 void cNavigation::OpenAbout()
 {
     frmUeber form(modAbout::Name(QCoreApplication::applicationVersion(), modBuild::Commit()), Parent());
@@ -424,45 +342,6 @@ void cNavigation::OpenAbout()
             .exec();
     });
     form.exec();
-}
-
-void cNavigation::OpenCheck()
-{
-    cBookCheck check(m_parts.Tools.Data, m_parts.Format, m_parts.Tools.Clock.Today());
-    frmPruefung form(check, Parent());
-    QObject::connect(&form, &frmPruefung::EntryRequested, m_model, [&](int entryId) {
-        OpenEntry(entryId, {});
-        check.Reload();
-    });
-    QObject::connect(&form, &frmPruefung::DeleteRequested, m_model, [&](int entryId) {
-        m_model->Delete({{entryId, QDate()}});
-        check.Reload();
-    });
-    form.exec();
-}
-
-void cNavigation::OpenPassword()
-{
-    if (!m_password) {
-        m_password = std::make_unique<cPasswordFlow>(m_parts.Tools.Data, m_parts.Configuration, m_parts.Tools.User);
-    }
-    frmPasswort form(*m_password, Parent());
-    form.exec();
-}
-
-void cNavigation::OpenBackupSettings()
-{
-    cBackupSettings settings(
-        {m_parts.Book, m_parts.Configuration, m_parts.Tools.User, m_parts.Shell, m_parts.Tools.Clock});
-    frmSicherungen form(settings, Parent());
-    form.exec();
-    BackupsChanged();
-}
-
-void cNavigation::MakeBackup()
-{
-    m_books.MakeBackup();
-    BackupsChanged();
 }
 
 void cNavigation::BackupsChanged()
@@ -478,14 +357,6 @@ void cNavigation::OpenNationalSettings()
     form.exec();
 }
 
-void cNavigation::OpenRules()
-{
-    cRuleEditor rules(m_parts.Tools);
-    QObject::connect(&rules.List(), &cRuleListModel::RulesChanged, m_review, &cImportReview::Refresh);
-    frmRegeln form(rules, Parent());
-    form.exec();
-}
-
 cBankWindows& cNavigation::Banks()
 {
     if (!m_banks) {
@@ -497,9 +368,9 @@ cBankWindows& cNavigation::Banks()
 
 void cNavigation::OpenFetch()
 {
-    (void)Statements(); // takes what comes
+    (void)m_statements->Page(); // takes what comes
     if (Banks().OpenFetch(Parent())) {
-        ShowStatements();
+        m_statements->Show();
     }
 }
 
@@ -510,12 +381,6 @@ void cNavigation::Export()
     extract.View = m_model->ViewLines();
     cProgressBox progress(Parent(), cText::Tr("Die Einträge werden geschrieben …"));
     cEntryExport(m_parts.Tools, progress).Run(extract, cText::Tr("Einträge"), m_parts.Tools.Clock.Today());
-}
-
-void cNavigation::Export(const cStatementListModel& statement)
-{
-    cProgressBox progress(Parent(), cText::Tr("Der Kontoauszug wird geschrieben …"));
-    cEntryExport(m_parts.Tools, progress).Run(statement.Extract(), statement.Title(), m_parts.Tools.Clock.Today());
 }
 
 void cNavigation::Print(void (cQtPrinter::*way)(cPrintable&, QWidget*))
@@ -552,21 +417,25 @@ void cNavigation::Open(modCommand::eId command)
 void cNavigation::Carry(modCommand::eId command)
 {
     switch (command) {
-    case modCommand::ImportStatement: OpenImport(); break;
     case modCommand::Export: Export(); break;
     case modCommand::Print: Print(&cQtPrinter::Print); break;
     case modCommand::PrintPreview: Print(&cQtPrinter::Preview); break;
     case modCommand::ChooseColumns: m_window->ShowColumnMenu(); break;
-    case modCommand::Password: OpenPassword(); break;
     case modCommand::AddReceipt:
     case modCommand::ShowReceipts: m_receipts->Open(command, Parent()); break;
-    case modCommand::MakeBackup: MakeBackup(); break;
-    case modCommand::RestoreBackup: m_books.LoadBackup(); break;
-    case modCommand::SwitchDatabase: m_books.SwitchBook(); break;
-    case modCommand::NewDatabase: m_books.NewBook(); break;
+    case modCommand::Password:
+    case modCommand::MakeBackup:
+    case modCommand::RestoreBackup:
+    case modCommand::SwitchDatabase:
+    case modCommand::NewDatabase:
+    case modCommand::CheckBook:
+    case modCommand::BackupSettings: m_books->Carry(command, Parent()); break;
+    case modCommand::ImportStatement:
+    case modCommand::AccountStatement:
+    case modCommand::CheckSeries:
+    case modCommand::Rules: m_statements->Carry(command, Parent()); break;
     case modCommand::Search: OpenSearch(); break;
     case modCommand::StartBalance: OpenStartBalance(); break;
-    case modCommand::AccountStatement: OpenAccountStatement(); break;
     case modCommand::Homepage:
     case modCommand::Questions:
     case modCommand::Manual: m_help.Open(command); break;
@@ -574,11 +443,7 @@ void cNavigation::Carry(modCommand::eId command)
     case modCommand::CheckUpdates: m_parts.Updates.Open(Parent()); break;
     case modCommand::ErrorLog: OpenLog(); break;
     case modCommand::Feedback: m_logs.SendFeedback(); break;
-    case modCommand::CheckBook: OpenCheck(); break;
-    case modCommand::CheckSeries: CheckSeries(); break;
-    case modCommand::BackupSettings: OpenBackupSettings(); break;
     case modCommand::National: OpenNationalSettings(); break;
-    case modCommand::Rules: OpenRules(); break;
     case modCommand::Budget:
     case modCommand::People:
     case modCommand::Settlement: m_household->Open(command, Parent()); break;

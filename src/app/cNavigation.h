@@ -5,7 +5,6 @@
 #include "app/cLogWindows.h"
 #include "app/cReceiptWindows.h"
 #include "app/machine/cQtPrinter.h"
-#include "views/book/cBookFlow.h"
 #include "views/entry/cEntryEditor.h"
 #include "views/main/cNavigator.h"
 #include "windows/main/frmMain.h"
@@ -17,6 +16,7 @@
 
 class cAmountFormat;
 class cBankWindows;
+class cBookWindows;
 class cHouseholdWindows;
 class cBook;
 class cBookHost;
@@ -26,16 +26,14 @@ class cMainModel;
 class cNationalSettings;
 class cOutlook;
 class cOverviewModel;
-class cPasswordFlow;
 class cRescue;
 class cSearchModel;
 class cSheetWindows;
 class cShell;
-class cStatementListModel;
+class cStatementWindows;
 class cStatisticsModel;
 class cUpdateWindows;
 class frmBuchung;
-class frmImport;
 class frmStatistik;
 class frmSuche;
 struct cBookTools;
@@ -71,11 +69,9 @@ public:
     void BackupsChanged(); // one was made, or how they are made
     void LeaveBook();      // before the file is closed: so are the windows that show it
 
-    [[nodiscard]] frmImport& Statements(); // built on first use, so that the start does not wait for it
-    void ShowStatements();                 // brings the page for bank statements to the front
-    void ReadStatements(const QStringList& paths);
+    [[nodiscard]] cStatementWindows& Statements() { return *m_statements; }
     void TakeFiles(const QStringList& paths);     // that were dropped: a book is opened, the others are read
-    [[nodiscard]] cStatisticsModel& Statistics(); // the same for the statistics; its page is built with it
+    [[nodiscard]] cStatisticsModel& Statistics(); // built with its page on first use
     [[nodiscard]] cNationalSettings& National() { return *m_national; }
 
     void OpenNewEntry() override;
@@ -94,22 +90,13 @@ private:
     void OpenEditorFor(cEntryEditor& editor, const cEntryFields& fields);
     void OpenStartBalance();
     void OpenSearch();
-    void OpenImport();
-    void OpenAccountStatement();
     void OpenAbout();
     void OpenLog();
     void Carry(modCommand::eId command);
-    void OpenCheck();
-    void CheckSeries();
-    void OpenPassword();
-    void OpenBackupSettings();
-    void MakeBackup();
     void OpenNationalSettings();
-    void OpenRules();
     [[nodiscard]] cBankWindows& Banks();
     void OpenFetch();
     void Export();
-    void Export(const cStatementListModel& statement);
     void Print(void (cQtPrinter::*way)(cPrintable&, QWidget*));
     void PrintStatistics(void (cQtPrinter::*way)(cPrintable&, QWidget*));
     void BookChanged();
@@ -118,14 +105,12 @@ private:
 
     cParts m_parts;
     cEntryForms m_forms;
-    cBookFlow m_books;
     cLogWindows m_logs;
     cQtPrinter m_printer;
     cHelpWindows m_help;
     cMainModel* m_model = nullptr;
     cImportReview* m_review = nullptr;
     frmMain* m_window = nullptr;
-    frmImport* m_statements = nullptr;
     std::unique_ptr<cNationalSettings> m_national;
     std::unique_ptr<cOverviewModel> m_overview; // these two from the first look on
     std::unique_ptr<cStatisticsModel> m_statistics;
@@ -133,8 +118,9 @@ private:
     std::unique_ptr<cSheetWindows> m_sheets;
     std::unique_ptr<cReceiptWindows> m_receipts;
     std::unique_ptr<cHouseholdWindows> m_household;
+    std::unique_ptr<cBookWindows> m_books;
+    std::unique_ptr<cStatementWindows> m_statements;
     std::unique_ptr<cBankWindows> m_banks;       // from the first one on
-    std::unique_ptr<cPasswordFlow> m_password;   // remembers wrong tries from one window to the next
     std::unique_ptr<cSearchModel> m_searchModel; // from the first search on
     frmSuche* m_search = nullptr;
 };

@@ -9,6 +9,7 @@
 
 #include "app/cMainProgram.h"
 #include "app/cNavigation.h"
+#include "app/cStatementWindows.h"
 #include "app/machine/cLanguage.h"
 #include "app/machine/cQtRegistry.h"
 #include "app/machine/cQtRescue.h"
@@ -190,7 +191,7 @@ bool TakeDemo(cCamera& camera)
     model.ChooseGrouping(modWord::KeineGruppierung);
     model.ChoosePeriod(modWord::AlleBuchungen);
     camera.Take(window, u"hauptfenster-alle"_s);
-    program.Navigation().ShowStatements();
+    program.Navigation().Statements().Show();
     camera.Take(window, u"kontoauszuege"_s);
     TakeAssignment(camera, program.Review());
     cNoProgress progress;
@@ -208,7 +209,7 @@ bool TakeEmpty(cCamera& camera)
         return false;
     }
     camera.Take(stage.Program().Window(), u"hauptfenster-leer"_s);
-    stage.Program().Navigation().ShowStatements();
+    stage.Program().Navigation().Statements().Show();
     camera.Take(stage.Program().Window(), u"kontoauszuege-leer"_s);
     return true;
 }
