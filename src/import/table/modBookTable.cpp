@@ -1,7 +1,6 @@
 #include "import/table/modBookTable.h"
 
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "import/cell/modTableValue.h"
 #include "import/read/cTableLayout.h"
 #include "import/read/modBookRow.h"
@@ -114,9 +113,9 @@ private:
         if (!entry.ImportDate.isValid() && entry.ImportAccount.isEmpty()) {
             return;
         }
-        const std::optional<double> value = modTableValue::ReadAmount(Cell(row, Amount), eNumberFormat::German);
+        const std::optional<qint64> value = modTableValue::ReadCents(Cell(row, Amount), eNumberFormat::German);
         TakeDescription(Cell(row, Description), entry);
-        entry.ImportValue = modAmount::ToEvenCents(value.value_or(0.0));
+        entry.ImportValue = value.value_or(0);
         const QString kind = KindOf(Cell(row, Kind));
         const bool isTransfer = kind == modWord::Umbuchung;
         if (!entry.ImportDate.isValid() || !value || entry.ImportAccount.isEmpty()
