@@ -365,6 +365,9 @@ cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wis
     const int newest = m_works->Hive.GetImportHive().NextId() - 1;
     const cImportResult result = m_works->Import.ImportFile(path, options, progress);
     cFileReport report = Report(result, m_tools.Format);
+    if (!result.Unowned.isEmpty()) {
+        report.LikelyAccount = m_works->Accounts.ProposalFor(result.Unowned);
+    }
     if (wish.IsTrial) {
         return report;
     }
