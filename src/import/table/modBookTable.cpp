@@ -145,11 +145,17 @@ private:
         m_read.Entries.append({entry, other});
     }
 
-    // Entries of bank transactions are described by the payee and the purpose.
+    // Entries of bank transactions are described by the payee and the purpose. Staging takes apostrophes out of names
+    // only, so a text that has one in the name's place is a purpose as a whole.
     static void TakeDescription(const QString& text, cImportEntry& entry)
     {
         const qsizetype dash = text.indexOf(u" - "_s);
-        entry.ImportBeneficiary = text.left(dash);
+        const QString name = text.left(dash);
+        if (name.contains(u'\'')) {
+            entry.ImportPurpose = text;
+            return;
+        }
+        entry.ImportBeneficiary = name;
         entry.ImportPurpose = dash < 0 ? QString() : text.mid(dash + 3);
     }
 
