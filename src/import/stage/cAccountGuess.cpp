@@ -1,9 +1,9 @@
 #include "import/stage/cAccountGuess.h"
 
 #include "base/cText.h"
+#include "core/cSettings.h"
 #include "import/read/modAccountNumber.h"
 #include "import/stage/cBankBalances.h"
-#include "core/cSettings.h"
 #include "model/modBalance.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"

@@ -251,11 +251,10 @@ QString cImportAssistant::Account() const
     if (m_account) {
         return *m_account;
     }
-    if (m_works->FileAccounts.isEmpty()) {
-        const QString last = m_parts.Memory.Accounts(m_works->Opened.Layout.AccountKey).value(0);
-        return last.isEmpty() ? m_works->Proposal : last;
+    if (!m_works->FileAccounts.isEmpty()) {
+        return m_works->FileAccounts.size() == 1 ? m_works->FileAccounts.first() : QString();
     }
-    return m_works->FileAccounts.size() == 1 ? m_works->FileAccounts.first() : QString();
+    return m_parts.Memory.Accounts(m_works->Opened.Layout.AccountKey).value(0, m_works->Proposal);
 }
 
 QStringList cImportAssistant::Accounts() const

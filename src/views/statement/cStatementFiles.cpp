@@ -302,12 +302,12 @@ cImportResult cStatementFiles::AskForAccount(const QString& path, const cImportR
     shown += without;
     const QString likely =
         result.IsAccountRemembered ? QString() : m_accounts.NumberMeant(m_accounts.ProposalFor(result.Unowned));
-    const std::optional<QString> given = m_tools.User.Choose(
-        {.Text = QFileInfo(path).fileName() + u'\n' + result.Message,
-         .Title = cText::Tr("Kontonummer"),
-         .Items = shown,
-         .Proposal = shown.value(numbers.indexOf(likely)),
-         .AllowNew = true});
+    const std::optional<QString> given =
+        m_tools.User.Choose({.Text = QFileInfo(path).fileName() + u'\n' + result.Message,
+                             .Title = cText::Tr("Kontonummer"),
+                             .Items = shown,
+                             .Proposal = shown.value(numbers.indexOf(likely)),
+                             .AllowNew = true});
     const QString typed = given ? given->simplified() : QString();
     const QString number = m_accounts.NumberMeant(numbers.value(shown.indexOf(typed), typed));
     if (number.isEmpty()) {
