@@ -2,6 +2,7 @@
 
 #include "base/modChar.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -15,96 +16,94 @@ bool IsSign(QChar c)
     return c == u'+' || c == u'-';
 }
 
-// Digits with grouping points, then at most one comma with digits; a sign may stand in front.
-bool IsGermanNumber(QStringView text)
+// A decimal number, digit by digit.
+class cDecimal
 {
-    bool hasDigit = false;
-    bool hasComma = false;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        const QChar c = text[i];
-        if (modChar::IsDigit(c)) {
-            hasDigit = true;
-        } else if (c == u',') {
-            if (hasComma) {
-                return false;
-            }
-            hasComma = true;
-        } else if (c == u'.' ? hasComma : !(i == 0 && IsSign(c))) {
-            return false;
+public:
+    void Add(QChar digit)
+    {
+        const int value = digit.unicode() - u'0';
+        if (m_decimals < 2) {
+            m_cents = m_cents > most ? m_cents : m_cents * 10 + value;
+        } else if (m_decimals == 2) {
+            m_isUp = value >= 5;
+            m_isHalf = value == 5;
+        } else {
+            m_isHalf = m_isHalf && value == 0;
         }
+        m_hasDigit = true;
+        m_decimals += m_decimals < 0 ? 0 : 1;
     }
-    return hasDigit;
-}
 
-// Whole cents of a plain "[-]digits[.,][digits]" text without rounding need, the form of nearly every stored amount.
+    void StartDecimals() { m_decimals = 0; }
+    [[nodiscard]] bool HasDecimals() const { return m_decimals >= 0; }
+
+    [[nodiscard]] std::optional<qint64> Cents(bool isNegative, modAmount::eHalf half) const
+    {
+        qint64 cents = m_cents;
+        for (int decimals = std::max(m_decimals, 0); decimals < 2; ++decimals) {
+            cents *= 10;
+        }
+        const bool staysEven = m_isHalf && half == modAmount::eHalf::ToEven && cents % 2 == 0;
+        cents += m_isUp && !staysEven ? 1 : 0;
+        return !m_hasDigit || cents > most ? std::nullopt : std::optional(isNegative ? -cents : cents);
+    }
+
+private:
+    static constexpr auto most = static_cast<qint64>(mostCents);
+
+    qint64 m_cents = 0; // or euros, while there are no decimals
+    int m_decimals = -1;
+    bool m_hasDigit = false;
+    bool m_isUp = false; // what stands behind the cents is half a cent at least
+    bool m_isHalf = false;
+};
+
+// Cents of a plain "[-]digits[.,][digits]" text, the form of nearly every stored amount.
 std::optional<qint64> PlainCents(QStringView text)
 {
     const bool isNegative = text.startsWith(u'-');
-    if (isNegative) {
-        text = text.mid(1);
-    }
-    if (text.isEmpty() || text.size() > 16) { // more digits need not fit into the value
-        return std::nullopt;
-    }
-    qint64 value = 0;
-    qsizetype decimals = -1;
-    for (const QChar c : text) {
+    cDecimal number;
+    for (const QChar c : text.mid(isNegative ? 1 : 0)) {
         if (modChar::IsDigit(c)) {
-            value = value * 10 + (c.unicode() - u'0');
-            decimals += decimals >= 0 ? 1 : 0;
-        } else if ((c == u'.' || c == u',') && decimals < 0) {
-            decimals = 0;
+            number.Add(c);
+        } else if ((c == u'.' || c == u',') && !number.HasDecimals()) {
+            number.StartDecimals();
         } else {
             return std::nullopt;
         }
     }
-    if (decimals > 2 || decimals == text.size() - 1) {
-        return std::nullopt;
-    }
-    for (qsizetype i = decimals < 0 ? 0 : decimals; i < 2; ++i) {
-        value *= 10;
-    }
-    return isNegative ? -value : value;
+    return number.Cents(isNegative, modAmount::eHalf::AwayFromZero);
 }
 
 } // namespace
 
-std::optional<double> modAmount::TryReadGerman(QStringView text)
+std::optional<qint64> modAmount::CentsFromGerman(QStringView text, eHalf half)
 {
-    // Most amounts are plain. Below so many digits the quotient is the very number that the text stands for.
-    constexpr qsizetype mostExactDigits = 13;
-    if (text.size() <= mostExactDigits && !text.contains(u'.')) {
-        const std::optional<qint64> cents = PlainCents(text);
-        if (cents && *cents != 0) { // a zero may have a sign
-            return ToEuros(*cents);
-        }
-    }
-    QString kept;
+    cDecimal number;
+    bool isNegative = false;
+    bool isFirst = true;
+    bool isEnded = false; // by a sign behind it
     for (const QChar c : text) {
-        if (!passedOver.contains(c)) {
-            kept.append(c);
+        if (passedOver.contains(c)) {
+            continue;
         }
+        if (isEnded) {
+            return std::nullopt;
+        }
+        if (modChar::IsDigit(c)) {
+            number.Add(c);
+        } else if (IsSign(c)) {
+            isNegative = isNegative != (c == u'-');
+            isEnded = !isFirst;
+        } else if ((c != u',' && c != u'.') || number.HasDecimals()) {
+            return std::nullopt;
+        } else if (c == u',') {
+            number.StartDecimals();
+        }
+        isFirst = false;
     }
-    const bool hasTrailingSign = !kept.isEmpty() && IsSign(kept.back());
-    const bool isNegative = hasTrailingSign && kept.back() == u'-';
-    if (hasTrailingSign) {
-        kept.chop(1);
-    }
-    if (!IsGermanNumber(kept)) {
-        return std::nullopt;
-    }
-    kept.remove(u'.').replace(u',', u'.');
-    bool isNumber = false;
-    const double value = kept.toDouble(&isNumber);
-    if (!isNumber || std::abs(value) * 100.0 > mostCents) {
-        return std::nullopt; // the nearest amount that can be told would be another one
-    }
-    return isNegative ? -value : value;
-}
-
-double modAmount::ReadGerman(QStringView text)
-{
-    return TryReadGerman(text).value_or(0.0);
+    return number.Cents(isNegative, half);
 }
 
 qint64 modAmount::ToCents(double euros)
@@ -116,11 +115,6 @@ qint64 modAmount::ToCents(double euros)
     const double cents = euros * 100.0;
     const double nudged = cents + std::copysign(std::abs(cents) * 4.0 * std::numeric_limits<double>::epsilon(), cents);
     return std::llround(std::fmin(std::fmax(nudged, -mostCents), mostCents));
-}
-
-qint64 modAmount::ToEvenCents(double euros)
-{
-    return std::isnan(euros) ? 0 : std::llrint(std::fmin(std::fmax(euros * 100.0, -mostCents), mostCents));
 }
 
 double modAmount::ToEuros(qint64 cents)

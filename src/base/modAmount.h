@@ -8,19 +8,16 @@
 // Amounts as texts and as whole cents.
 namespace modAmount {
 
-// Reads an amount written in German form: "," is the decimal sign, "." groups, a sign stands in front or behind, and
-// currency sign, brackets, blanks and quotes are passed over. Euros; empty when the text is no number, or one with more
-// digits than can be told.
-[[nodiscard]] std::optional<double> TryReadGerman(QStringView text);
+// Which of two cents the half between them becomes. Statements round to the even one.
+enum class eHalf { ToEven, AwayFromZero };
 
-// The same, with 0 for a text that is no number.
-[[nodiscard]] double ReadGerman(QStringView text);
+// Reads an amount written in German form: "," is the decimal sign, "." groups, a sign stands in front or behind, and
+// currency sign, brackets, blanks and quotes are passed over. Whole cents, rounded as the digits say; empty when the
+// text is no number, or one with more digits than can be told.
+[[nodiscard]] std::optional<qint64> CentsFromGerman(QStringView text, eHalf half = eHalf::ToEven);
 
 // Euros to whole cents, halves away from zero. Amounts beyond the range of the type are cut to its ends.
 [[nodiscard]] qint64 ToCents(double euros);
-
-// The same, halves to the even cent: so the amounts of statements are rounded.
-[[nodiscard]] qint64 ToEvenCents(double euros);
 
 [[nodiscard]] double ToEuros(qint64 cents);
 

@@ -27,7 +27,8 @@ private:
 qint64 CentsOf(const cAmountFormat::cAmount& amount)
 {
     const auto* text = std::get_if<QString>(&amount);
-    return modAmount::ToCents(text != nullptr ? modAmount::ReadGerman(*text) : std::get<double>(amount));
+    return text != nullptr ? modAmount::CentsFromGerman(*text, modAmount::eHalf::AwayFromZero).value_or(0)
+                           : modAmount::ToCents(std::get<double>(amount));
 }
 
 QLocale LocaleOf(const QString& culture)

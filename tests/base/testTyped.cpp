@@ -107,7 +107,7 @@ private Q_SLOTS:
     void PlainAmountsAsTheReader()
     {
         QFETCH(QString, text);
-        QCOMPARE(modSum::Evaluate(text).value_or(nothing), modAmount::ToCents(modAmount::ReadGerman(text)));
+        QCOMPARE(modSum::Evaluate(text), modAmount::CentsFromGerman(text, modAmount::eHalf::AwayFromZero));
     }
 
     void Days_data()

@@ -41,7 +41,7 @@ private Q_SLOTS:
 
     void AccountOfALayoutIsRemembered()
     {
-        Refuses(u"import|"_s + m_table, {u"Kontonummer"_s});
+        Refuses(u"import|"_s + m_table, {u"Kontonummer"_s, u"--account \"Girokonto\""_s});
         Do(u"import|%1|--account|4711|--dry-run"_s.arg(m_table));
         QCOMPARE(Run(u"import|"_s + m_table).Code, 1);
         Do(u"import|%1|--account|4711"_s.arg(m_table));

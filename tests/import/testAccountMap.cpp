@@ -114,6 +114,17 @@ private Q_SLOTS:
         QCOMPARE(book.Accounts.Proposal(u"9"_s), QString());
     }
 
+    void ProposesForAFileWithoutNumber()
+    {
+        cImportBook book;
+        const cImportEntryList rows{BankRow({}, {}, -100, u"Kiosk"_s)};
+        QCOMPARE(book.Accounts.ProposalFor(rows), u"Girokonto"_s);
+        cImportEntry known = BankRow(u"123"_s, {}, -200, u"Kiosk"_s);
+        QVERIFY(book.Hive.Add(known));
+        QVERIFY(book.Accounts.Assign(u"123"_s, u"Sparkonto"_s));
+        QCOMPARE(book.Accounts.ProposalFor(rows), u"Sparkonto"_s);
+    }
+
     void AccountWithoutNumberLendsItsName()
     {
         cImportBook book;

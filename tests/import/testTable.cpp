@@ -477,9 +477,13 @@ private Q_SLOTS:
             ReadText(u"Gruppe;Datum;Buchungsart;Kategorie;Konto;Zielkonto;Beschreibung;Bezahlt von;Betrag\n"
                      ";02.01.2026;Umbuchung;\"Geldanlage; Sparen\";Giro;Tagesgeld;'-5 %;Anna;850,00\n"
                      ";03.01.2026;Umbuchung;;Giro;;ohne Ziel;;850,00\n"
+                     ";04.01.2026;Ausgabe;Auto;Giro;;O'Brien - Öl;;-5,00\n"
                      ";;;;;;;Summe;850,00\n"_s,
                      options);
-        QCOMPARE(Brief(read), QStringList({u"2026-01-02 -850.00 Giro"_s, u"2026-01-02 850.00 Tagesgeld"_s}));
+        QCOMPARE(
+            Brief(read),
+            QStringList({u"2026-01-02 -850.00 Giro"_s, u"2026-01-02 850.00 Tagesgeld"_s, u"2026-01-04 -5.00 Giro"_s}));
+        QCOMPARE(read.Entries.constLast().ImportPurpose, u"O'Brien - Öl"_s);
         QCOMPARE(read.Entries.constFirst().ImportType,
                  u"Umbuchung: Tagesgeld; Kategorie: Geldanlage; Sparen; Bezahlt von: Anna"_s);
         QCOMPARE(read.Entries.constFirst().ImportBeneficiary, u"-5 %"_s);

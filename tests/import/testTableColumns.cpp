@@ -1,3 +1,4 @@
+#include "base/modAmount.h"
 #include "import/cell/modCell.h"
 #include "import/cell/modTableValue.h"
 #include "import/table/modColumnWords.h"
@@ -214,17 +215,17 @@ private Q_SLOTS:
             QTest::newRow(cell) << QString::fromUtf8(cell) << QString::fromUtf8(number);
         };
         row("1.234,56-", "-1234.56");
-        row("(12,00)", "12");
-        row("-10,80 €", "-10.8");
-        row("EUR 1.234,50", "1234.5");
+        row("(12,00)", "12.00");
+        row("-10,80 €", "-10.80");
+        row("EUR 1.234,50", "1234.50");
         row("+$1,327.49", "1327.49");
-        row("-$76.00", "-76");
+        row("-$76.00", "-76.00");
         row("56.78", "56.78");
-        row("1.450", "1450");
-        row("1'095.00", "1095");
-        row("\u22125,00", "-5");
-        row("12,50 S", "-12.5");
-        row("12,50 H", "12.5");
+        row("1.450", "1450.00");
+        row("1'095.00", "1095.00");
+        row("\u22125,00", "-5.00");
+        row("12,50 S", "-12.50");
+        row("12,50 H", "12.50");
         row("siehe Anlage 3", "");
         row("", "");
         row("1,2,3 4-5", "");
@@ -233,8 +234,8 @@ private Q_SLOTS:
     void Amounts()
     {
         QFETCH(QString, cell);
-        const std::optional<double> amount = modTableValue::ReadAmount(cell, eNumberFormat::Detect);
-        QTEST(amount ? QString::number(*amount, 'g', 12) : QString(), "number");
+        const std::optional<qint64> cents = modTableValue::ReadCents(cell, eNumberFormat::Detect);
+        QTEST(cents ? modAmount::CentsToText(*cents) : QString(), "number");
     }
 
     void FormatOfAColumn_data()

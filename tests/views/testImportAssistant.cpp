@@ -142,6 +142,9 @@ private Q_SLOTS:
     {
         m_page->IsConfirmed = false;
         m_page->Answer = [](cImportAssistant& assistant) {
+            QCOMPARE(assistant.Account(), u"4711"_s); // as proposed
+            QVERIFY(assistant.CanImport());
+            assistant.SetAccount({});
             QCOMPARE(assistant.Problem(),
                      u"Es muss eine Kontonummer eingegeben werden, um die Daten einem Konto zuzuordnen."_s);
             QCOMPARE(assistant.Accounts(), QStringList({u"4711"_s, u"Sparkonto"_s, u"Bargeld"_s}));

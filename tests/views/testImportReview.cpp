@@ -69,6 +69,7 @@ private Q_SLOTS:
         const QString file = QStringLiteral(TEST_DATA "/csv/consors.csv");
         m_page->User.Choices = {std::nullopt};
         m_page->Review.Files().ImportFiles({file}, m_page->Progress);
+        QCOMPARE(m_page->User.LastChoice.Proposal, u"Girokonto"_s);
         QCOMPARE(m_page->User.Shown.size(), 1); // given up: nothing is read, and the reason is shown
         QCOMPARE(m_page->Data.GetImportEntries().size(), 0);
         m_page->User.Choices = {u" 4711 "_s, u"Girokonto"_s};

@@ -129,6 +129,11 @@ int ImportFiles(const cCliContext& context, const cFileWish& wish)
         if (!report.Message.isEmpty()) {
             modConsole::Error(report.File + u": "_s + report.Message);
         }
+        if (!report.LikelyAccount.isEmpty()) {
+            modConsole::Error(cText::Tr("Mit --account sagen Sie, von welchem Konto die Datei ist, zum Beispiel mit "
+                                        "--account \"{0}\".",
+                                        {report.LikelyAccount}));
+        }
         if (report.HasStrayDetails) {
             modConsole::Error(cText::Tr("Mit --skip-stray-details wird die Datei ohne diese Zeilen gelesen."));
         }
@@ -206,8 +211,8 @@ cCliCommand modCliCommands::ImportCommand()
             .Options =
                 QList<cCliOption>{
                     {u"account"_s, u"NUMMER"_s,
-                     cText::Tr("eigene Kontonummer für Auszüge, die keine nennen; sie wird für "
-                               "CSV-Dateien gleichen Aufbaus gemerkt")},
+                     cText::Tr("eigene Kontonummer oder Name des Kontos für Auszüge, die keine nennen; für "
+                               "CSV-Dateien gleichen Aufbaus wird sie gemerkt")},
                     {u"book-account"_s, u"NAME"_s, cText::Tr("Konto im Haushaltsbuch für neue Kontonummern")},
                     {u"keep-duplicates"_s, {}, cText::Tr("auch Umsätze übernehmen, die schon vorhanden sind")},
                     TakeEqual(),

@@ -143,11 +143,11 @@ QString modTableValue::ToGerman(QStringView cell, eNumberFormat format)
     return modTableNumber::German(cell, format);
 }
 
-std::optional<double> modTableValue::ReadAmount(QStringView cell, eNumberFormat format)
+std::optional<qint64> modTableValue::ReadCents(QStringView cell, eNumberFormat format)
 {
-    const std::optional<double> amount = modAmount::TryReadGerman(ToGerman(cell, format));
+    const std::optional<qint64> cents = modAmount::CentsFromGerman(ToGerman(cell, format));
     const int sign = modTableNumber::TrailingSign(cell);
-    return amount && sign != 0 ? std::abs(*amount) * sign : amount;
+    return cents && sign != 0 ? std::abs(*cents) * sign : cents;
 }
 
 bool modTableValue::IsAmount(QStringView cell)
@@ -159,7 +159,7 @@ bool modTableValue::IsAmount(QStringView cell)
     const bool hasCurrency =
         std::any_of(cell.begin(), cell.end(), [](QChar c) { return c.category() == QChar::Symbol_Currency; })
         || cell.endsWith(u" EUR");
-    return (number.contains(u',') || hasCurrency) && modAmount::TryReadGerman(number).has_value();
+    return (number.contains(u',') || hasCurrency) && modAmount::CentsFromGerman(number).has_value();
 }
 
 int modTableValue::IndicatorSign(QStringView cell)

@@ -23,8 +23,8 @@ namespace modTableValue {
 // Detect decides from this one cell.
 [[nodiscard]] QString ToGerman(QStringView cell, eNumberFormat format);
 
-// Euros; empty when the cell is no number. A letter "S" or "H" behind it gives the sign.
-[[nodiscard]] std::optional<double> ReadAmount(QStringView cell, eNumberFormat format);
+// Whole cents; empty when the cell is no number. A letter "S" or "H" behind it gives the sign.
+[[nodiscard]] std::optional<qint64> ReadCents(QStringView cell, eNumberFormat format);
 
 // True for a number with decimal places or with a currency sign: "12,50", "-$76.00", "10 EUR".
 [[nodiscard]] bool IsAmount(QStringView cell);

@@ -384,7 +384,7 @@ private:
     [[nodiscard]] static bool IsReadable(const cBalance& balance, QStringView content)
     {
         return balance.Amount.isEmpty() ? content.size() > 10 && content.endsWith(u'0')
-                                        : modAmount::TryReadGerman(balance.Amount).has_value();
+                                        : modAmount::CentsFromGerman(balance.Amount).has_value();
     }
 
     void EndTransaction()
@@ -449,7 +449,7 @@ private:
 std::optional<cAccountBalance> ToAccountBalance(const cBalance& balance, const QString& account)
 {
     const QDate date = ReadDate(balance.Date);
-    if (date == noDate || !modAmount::TryReadGerman(balance.Amount)) {
+    if (date == noDate || !modAmount::CentsFromGerman(balance.Amount)) {
         return std::nullopt;
     }
     return cAccountBalance{account, modMT940::SignedCents(balance), date};
@@ -512,8 +512,8 @@ private:
     cImportEntry ToEntry(const cStatement& statement, const cTransaction& transaction)
     {
         const QString& date = transaction.ValueDate.isEmpty() ? statement.OpeningBalance.Date : transaction.ValueDate;
-        const std::optional<double> amount = modAmount::TryReadGerman(transaction.Amount);
-        const qint64 size = modAmount::ToEvenCents(std::abs(amount.value_or(0.0)));
+        const std::optional<qint64> amount = modAmount::CentsFromGerman(transaction.Amount);
+        const qint64 size = std::abs(amount.value_or(0));
         cImportEntry entry;
         entry.ImportDate = ReadDate(date);
         entry.ImportType = m_type.Of(modStatementText::DecodeField(transaction.BookingText));
@@ -578,7 +578,7 @@ cStatementRead modMT940::Read(const QString& text, const QString& account, eStra
 
 qint64 modMT940::SignedCents(const cBalance& balance)
 {
-    const qint64 cents = modAmount::ToCents(modAmount::ReadGerman(balance.Amount));
+    const qint64 cents = modAmount::CentsFromGerman(balance.Amount).value_or(0);
     return balance.Mark.contains(u'C', Qt::CaseInsensitive) ? cents : -cents;
 }
 

@@ -357,16 +357,10 @@ private:
             : cText::Tr("Die Datei lässt offen, ob der Tag oder der Monat vorn steht. Gelesen wurde der Tag zuerst.");
     }
 
-    [[nodiscard]] std::optional<double> ValueOf(const QString& amount) const
-    {
-        const bool isGerman = m_options.Table.Number == eNumberFormat::German;
-        return modAmount::TryReadGerman(isGerman ? amount : ToGerman(amount));
-    }
-
     [[nodiscard]] std::optional<qint64> CentsOf(const QString& amount) const
     {
-        const std::optional<double> value = ValueOf(amount);
-        return value ? std::optional(modAmount::ToEvenCents(*value)) : std::nullopt;
+        const bool isGerman = m_options.Table.Number == eNumberFormat::German;
+        return modAmount::CentsFromGerman(isGerman ? amount : ToGerman(amount));
     }
 
     // Empty when one of them is none, or when they are not all of the record.

@@ -1,12 +1,12 @@
 #include "import/stage/cAccountGuess.h"
 
 #include "base/cText.h"
+#include "core/cSettings.h"
 #include "import/read/modAccountNumber.h"
 #include "import/stage/cBankBalances.h"
 #include "model/modBalance.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
-
-#include <QHash>
 
 #include <algorithm>
 #include <array>
@@ -82,6 +82,47 @@ QString cAccountGuess::AccountFor(const QString& number) const
         }
     }
     return best;
+}
+
+QString cAccountGuess::Likeliest(const cImportEntryList& rows) const
+{
+    const QHash<QString, int> known = KnownNames(rows);
+    QString best;
+    int most = -1;
+    for (const cTemplateItem& account : m_accounts) {
+        if (!modTemplate::IsVisible(account)) {
+            continue;
+        }
+        const int speaking = Weight(account, {}, rows) + known.value(account.TemplateName);
+        const int weight = 2 * speaking + (KindOfName(account) == eKind::Cash ? 0 : 1);
+        if (weight > most) {
+            best = account.TemplateName;
+            most = weight;
+        }
+    }
+    return best;
+}
+
+// How many of those whom the rows name each account has had statements with.
+QHash<QString, int> cAccountGuess::KnownNames(const cImportEntryList& rows) const
+{
+    QSet<QString> names;
+    for (const cImportEntry& row : rows) {
+        names.insert(row.ImportBeneficiary);
+    }
+    names.remove({});
+    QHash<QString, QSet<QString>> found;
+    const cImportEntryList staged = m_data.GetImportEntries();
+    for (const cImportEntry& row : staged) {
+        if (names.contains(row.ImportBeneficiary)) {
+            found[m_settings.Get(modSettingKey::BankNumber.Of(row.ImportAccount))].insert(row.ImportBeneficiary);
+        }
+    }
+    QHash<QString, int> counts;
+    for (auto each = found.cbegin(); each != found.cend(); ++each) {
+        counts.insert(each.key(), static_cast<int>(each->size()));
+    }
+    return counts;
 }
 
 int cAccountGuess::Weight(const cTemplateItem& account, const QString& number, const cImportEntryList& rows) const

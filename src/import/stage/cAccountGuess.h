@@ -3,6 +3,7 @@
 #include "model/cImportEntry.h"
 #include "model/cTemplateItem.h"
 
+#include <QHash>
 #include <QSet>
 #include <QString>
 
@@ -19,6 +20,8 @@ public:
 
     // Empty where nothing speaks for one account more than for the others.
     [[nodiscard]] QString AccountFor(const QString& number) const;
+    // For the rows of a file that names no account: where nothing speaks for one, the first that is no cash.
+    [[nodiscard]] QString Likeliest(const cImportEntryList& rows) const;
     // A name for a new account, which the book does not have yet.
     [[nodiscard]] QString NewName(const QString& number) const;
 
@@ -26,6 +29,7 @@ private:
     [[nodiscard]] int Weight(const cTemplateItem& account, const QString& number, const cImportEntryList& rows) const;
     [[nodiscard]] bool IsUsed(const QString& account) const;
     [[nodiscard]] bool HoldsSame(const QString& account, const QString& number) const;
+    [[nodiscard]] QHash<QString, int> KnownNames(const cImportEntryList& rows) const;
     [[nodiscard]] bool HasSameEntries(const QString& account, const cImportEntryList& rows) const;
 
     cDataAccess& m_data;

@@ -124,6 +124,11 @@ QString cAccountMap::Proposal(const QString& number) const
     return named != names.end() ? *named : cAccountGuess(m_data, m_settings, WithNumber()).AccountFor(number);
 }
 
+QString cAccountMap::ProposalFor(const cImportEntryList& rows) const
+{
+    return cAccountGuess(m_data, m_settings, {}).Likeliest(rows);
+}
+
 QString cAccountMap::NewName(const QString& number) const
 {
     return cAccountGuess(m_data, m_settings, {}).NewName(number);

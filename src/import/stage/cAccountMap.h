@@ -45,6 +45,8 @@ public:
     // The account to propose for a new number: one already known under its other form, one named like it, else the one
     // that name, kind, balance and entries speak for. Empty when there is none.
     [[nodiscard]] QString Proposal(const QString& number) const;
+    // The account to propose for the rows of a file that names none.
+    [[nodiscard]] QString ProposalFor(const cImportEntryList& rows) const;
     // A name for a new account of this number.
     [[nodiscard]] QString NewName(const QString& number) const;
 

@@ -47,6 +47,7 @@ struct cImportResult
     bool IsCancelled = false;         // the user stopped; nothing of the file was staged
     QString Message;                  // German; empty when all went well
     bool NeedsAccount = false;        // refused only because the file names no account and none was given
+    cImportEntryList Unowned;         // refused only because the file names no account: its rows
     bool IsAccountRemembered = false; // as in cStatementRead
     bool NeedsAssistant = false;      // refused only because a table is not certain, see eUncertain
     bool HasStrayDetails = false;     // refused only because of details before a transaction, see eStrayDetails

@@ -247,6 +247,7 @@ cImportResult cStatementImport::ReadAndStage(cStatementSource source, const cImp
     if (!read.Refusal.isEmpty() || result.NeedsAccount || read.Doubt || result.NeedsAssistant) {
         result.Problems = read.Problems;
         result.Skipped = read.Skipped;
+        result.Unowned = read.NeedsAccount && read.Refusal.isEmpty() ? read.Entries : cImportEntryList();
         if (read.Refusal.isEmpty() && read.Doubt && !result.NeedsAccount) {
             result.Doubt = read.Doubt;
             return Refuse(std::move(result), modStatementFile::OpenSign());

@@ -1,7 +1,6 @@
 #include "import/table/modBookTable.h"
 
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "import/cell/modTableValue.h"
 #include "import/read/cTableLayout.h"
 #include "import/read/modBookRow.h"
@@ -114,9 +113,9 @@ private:
         if (!entry.ImportDate.isValid() && entry.ImportAccount.isEmpty()) {
             return;
         }
-        const std::optional<double> value = modTableValue::ReadAmount(Cell(row, Amount), eNumberFormat::German);
+        const std::optional<qint64> value = modTableValue::ReadCents(Cell(row, Amount), eNumberFormat::German);
         TakeDescription(Cell(row, Description), entry);
-        entry.ImportValue = modAmount::ToEvenCents(value.value_or(0.0));
+        entry.ImportValue = value.value_or(0);
         const QString kind = KindOf(Cell(row, Kind));
         const bool isTransfer = kind == modWord::Umbuchung;
         if (!entry.ImportDate.isValid() || !value || entry.ImportAccount.isEmpty()
@@ -146,11 +145,17 @@ private:
         m_read.Entries.append({entry, other});
     }
 
-    // Entries of bank transactions are described by the payee and the purpose.
+    // Entries of bank transactions are described by the payee and the purpose. Staging takes apostrophes out of names
+    // only, so a text that has one in the name's place is a purpose as a whole.
     static void TakeDescription(const QString& text, cImportEntry& entry)
     {
         const qsizetype dash = text.indexOf(u" - "_s);
-        entry.ImportBeneficiary = text.left(dash);
+        const QString name = text.left(dash);
+        if (name.contains(u'\'')) {
+            entry.ImportPurpose = text;
+            return;
+        }
+        entry.ImportBeneficiary = name;
         entry.ImportPurpose = dash < 0 ? QString() : text.mid(dash + 3);
     }
 

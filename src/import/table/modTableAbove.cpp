@@ -1,6 +1,5 @@
 #include "import/table/modTableAbove.h"
 
-#include "base/modAmount.h"
 #include "base/modChar.h"
 #include "import/cell/modCell.h"
 #include "import/cell/modTableValue.h"
@@ -120,11 +119,11 @@ std::optional<cAccountBalance> BalanceIn(const QStringList& cells)
     if (balance == eBalance::None || balance == eBalance::Opening) {
         return std::nullopt;
     }
-    const std::optional<double> euros = modTableValue::ReadAmount(cells.at(1), eNumberFormat::Detect);
-    if (!euros) {
+    const std::optional<qint64> cents = modTableValue::ReadCents(cells.at(1), eNumberFormat::Detect);
+    if (!cents) {
         return std::nullopt;
     }
-    return cAccountBalance{{}, modAmount::ToCents(*euros), DateIn(cells.first())};
+    return cAccountBalance{{}, *cents, DateIn(cells.first())};
 }
 
 QString WithoutDigits(QString label)

@@ -1,13 +1,12 @@
 #include "import/table/modTableFee.h"
 
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "import/cell/modCell.h"
 #include "import/cell/modTableValue.h"
 #include "import/read/cTableLayout.h"
 #include "import/table/cTable.h"
 
-#include <cmath>
+#include <cstdlib>
 #include <optional>
 
 namespace {
@@ -74,8 +73,7 @@ public:
 private:
     [[nodiscard]] std::optional<qint64> Cents(int row, int column) const
     {
-        const std::optional<double> euros = modTableValue::ReadAmount(m_table.Cell(row, column), m_number);
-        return euros ? std::optional(modAmount::ToCents(*euros)) : std::nullopt;
+        return modTableValue::ReadCents(m_table.Cell(row, column), m_number);
     }
 
     const cTable& m_table;

@@ -147,7 +147,7 @@ private:
         const auto isAmount = [&](const QString& cell) {
             return modTableValue::IsAmount(cell)
                 || (withWholes && !modTableValue::IsDate(cell)
-                    && modTableValue::ReadAmount(cell, eNumberFormat::Detect).has_value());
+                    && modTableValue::ReadCents(cell, eNumberFormat::Detect).has_value());
         };
         return cells.size() >= 3 && std::any_of(cells.begin(), cells.end(), modTableValue::IsDate)
             && std::any_of(cells.begin(), cells.end(), isAmount);

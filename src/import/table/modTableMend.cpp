@@ -141,7 +141,7 @@ private:
     {
         const auto isNumber = [&](int column) {
             const QStringView cell = m_table.Cell(row, column + shift);
-            return !cell.isEmpty() && modTableValue::ReadAmount(cell, eNumberFormat::Detect).has_value();
+            return !cell.isEmpty() && modTableValue::ReadCents(cell, eNumberFormat::Detect).has_value();
         };
         const QStringView currency = m_map.Currency < 0 ? QStringView() : m_table.Cell(row, m_map.Currency + shift);
         return std::any_of(m_sides.begin(), m_sides.end(), isNumber)

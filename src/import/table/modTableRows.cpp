@@ -1,7 +1,6 @@
 #include "import/table/modTableRows.h"
 
 #include "base/cText.h"
-#include "base/modAmount.h"
 #include "base/modChar.h"
 #include "import/cell/modCell.h"
 #include "import/cell/modTableValue.h"
@@ -21,7 +20,7 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
+#include <cstdlib>
 #include <limits>
 
 using namespace Qt::Literals::StringLiterals;
@@ -164,7 +163,7 @@ private:
         }
         if (m_row == m_cut.Row) {
             Skip(eSkipped::CutOff, modStatementFile::CutOff(Start(), m_cut.IsCertain),
-                 ToEntry(ValueOf(Cell(m_map.Amount)).value_or(0.0)));
+                 ToEntry(ValueOf(Cell(m_map.Amount)).value_or(0)));
             m_end = m_row; // what follows are lines of its text
             return;
         }
@@ -178,8 +177,8 @@ private:
             Skip(eSkipped::Unreadable, cText::Tr("Die Zeile hat keinen Betrag: {0}", {Start()}));
             return;
         }
-        const std::optional<double> value = ValueOf(amount);
-        cImportEntry entry = ToEntry(value.value_or(0.0));
+        const std::optional<qint64> value = ValueOf(amount);
+        cImportEntry entry = ToEntry(value.value_or(0));
         const eState state = State();
         if (IsTotal(entry)) {
             Skip(eSkipped::Balance, cText::Tr("Die Zeile ist eine Summe und kein Umsatz: {0}", {Start()}));
@@ -266,72 +265,71 @@ private:
     {
         Skip(eSkipped::Balance, cText::Tr("Die Zeile ist ein Saldo und kein Umsatz: {0}", {Start()}));
         if (IsClosing()) {
-            if (const std::optional<double> value = BalanceValue()) {
-                m_balances.SetClosing(modAmount::ToCents(*value),
-                                      modTableValue::ReadDate(Cell(m_map.Date), m_layout.Date));
+            if (const std::optional<qint64> value = BalanceValue()) {
+                m_balances.SetClosing(*value, modTableValue::ReadDate(Cell(m_map.Date), m_layout.Date));
             }
         }
     }
 
     // In the column of amounts, or where the row has one at all.
-    [[nodiscard]] std::optional<double> BalanceValue() const
+    [[nodiscard]] std::optional<qint64> BalanceValue() const
     {
         if (!Cell(m_map.Amount).isEmpty()) {
             return ValueOf(Cell(m_map.Amount));
         }
         for (int column = 0; column < m_table.CellCount(m_row); ++column) {
             if (modTableValue::IsAmount(Cell(column))) {
-                return modTableValue::ReadAmount(Cell(column), m_number);
+                return modTableValue::ReadCents(Cell(column), m_number);
             }
         }
         return std::nullopt;
     }
 
-    // Empty when the cell is no number.
-    [[nodiscard]] std::optional<double> ValueOf(QStringView amount) const
+    // Cents; empty when the cell is no number.
+    [[nodiscard]] std::optional<qint64> ValueOf(QStringView amount) const
     {
         if (amount.isEmpty()) {
-            const std::optional<double> sides = SidesValue();
-            return sides ? std::optional<double>(Signed(*sides) - Fee()) : sides;
+            const std::optional<qint64> sides = SidesValue();
+            return sides ? std::optional(Signed(*sides) - Fee()) : sides;
         }
-        std::optional<double> value = modTableValue::ReadAmount(amount, m_number);
+        std::optional<qint64> value = modTableValue::ReadCents(amount, m_number);
         if (value && m_map.Indicator >= 0) {
             const int sign = modTableValue::IndicatorSign(Cell(m_map.Indicator));
             value = sign == 0 ? *value : std::abs(*value) * sign;
         }
-        return value ? std::optional<double>(Signed(*value) - Fee()) : value;
+        return value ? std::optional(Signed(*value) - Fee()) : value;
     }
 
     // Banks write fees with either sign; they always go out.
-    [[nodiscard]] double Fee() const
+    [[nodiscard]] qint64 Fee() const
     {
-        return m_map.Fee < 0 ? 0.0 : std::abs(modTableValue::ReadAmount(Cell(m_map.Fee), m_number).value_or(0.0));
+        return m_map.Fee < 0 ? 0 : std::abs(modTableValue::ReadCents(Cell(m_map.Fee), m_number).value_or(0));
     }
 
-    [[nodiscard]] double Signed(double value) const { return m_layout.Sign == eSignRule::Negated ? -value : value; }
+    [[nodiscard]] qint64 Signed(qint64 value) const { return m_layout.Sign == eSignRule::Negated ? -value : value; }
 
     // Empty when one of the two is no number. A dash or a word stands for nothing.
-    [[nodiscard]] std::optional<double> SidesValue() const
+    [[nodiscard]] std::optional<qint64> SidesValue() const
     {
-        const std::optional<double> debit = SideSize(m_map.Debit);
-        const std::optional<double> credit = SideSize(m_map.Credit);
+        const std::optional<qint64> debit = SideSize(m_map.Debit);
+        const std::optional<qint64> credit = SideSize(m_map.Credit);
         if (!debit || !credit) {
             return std::nullopt;
         }
-        return *debit != 0.0 ? -*debit : *credit;
+        return *debit != 0 ? -*debit : *credit;
     }
 
-    [[nodiscard]] std::optional<double> SideSize(int column) const
+    [[nodiscard]] std::optional<qint64> SideSize(int column) const
     {
         const QStringView cell = Cell(column);
         if (!modChar::HasDigit(cell)) {
-            return 0.0;
+            return 0;
         }
-        const std::optional<double> euros = modTableValue::ReadAmount(cell, m_number);
-        return euros ? std::optional<double>(std::abs(*euros)) : euros;
+        const std::optional<qint64> cents = modTableValue::ReadCents(cell, m_number);
+        return cents ? std::optional(std::abs(*cents)) : cents;
     }
 
-    [[nodiscard]] cImportEntry ToEntry(double value)
+    [[nodiscard]] cImportEntry ToEntry(qint64 value)
     {
         cImportEntry entry;
         entry.ImportAccount = OwnAccount();
@@ -344,7 +342,7 @@ private:
         }
         entry.ImportBeneficiaryAccount = CounterAccount(entry.ImportAccount);
         entry.ImportBeneficiaryBLZ = Cell(m_map.BankCode).toString();
-        entry.ImportValue = modAmount::ToEvenCents(value);
+        entry.ImportValue = value;
         // Beside "Betrag (EUR)" a column of currencies tells what was paid in elsewhere.
         entry.ImportCurrency = m_layout.Currency.isEmpty() ? m_currency.Of(Cell(m_map.Currency)) : m_layout.Currency;
         modTableDetails::Apply(m_layout.Details, Cell(m_map.Purpose[0]), entry);
@@ -365,7 +363,7 @@ private:
     }
 
     // Some banks name only the one of payer and payee that is not the owner, whichever column it has.
-    [[nodiscard]] QString Counterparty(double value) const
+    [[nodiscard]] QString Counterparty(qint64 value) const
     {
         if (m_map.Payer < 0) {
             return Cell(m_map.Name).toString();
@@ -457,7 +455,7 @@ private:
             entry.ImportDate = noDate;
         }
         m_sum += entry.ImportValue;
-        m_fees += Fee() != 0.0 ? 1 : 0;
+        m_fees += Fee() != 0 ? 1 : 0;
         m_balances.AddRow(entry, BookingDay(), BalanceCents());
         m_read.Entries.append(std::move(entry));
     }
@@ -470,8 +468,7 @@ private:
 
     [[nodiscard]] std::optional<qint64> BalanceCents() const
     {
-        const auto balance = modTableValue::ReadAmount(Cell(m_map.Balance), m_number);
-        return balance ? std::optional<qint64>(modAmount::ToCents(*balance)) : std::nullopt;
+        return modTableValue::ReadCents(Cell(m_map.Balance), m_number);
     }
 
     const cTable& m_table;

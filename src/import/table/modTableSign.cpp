@@ -1,6 +1,5 @@
 #include "import/table/modTableSign.h"
 
-#include "base/modAmount.h"
 #include "import/cell/modMoneyWords.h"
 #include "import/cell/modTableValue.h"
 #include "import/table/cColumnSurvey.h"
@@ -217,10 +216,10 @@ private:
     {
         for (int next = column + 1; next < m_table.CellCount(row); ++next) {
             const QStringView cell = m_table.Cell(row, next);
-            const auto euros =
-                modTableValue::IsDate(cell) ? std::nullopt : modTableValue::ReadAmount(cell, eNumberFormat::Detect);
-            if (euros) {
-                return modAmount::ToCents(*euros);
+            const auto cents =
+                modTableValue::IsDate(cell) ? std::nullopt : modTableValue::ReadCents(cell, eNumberFormat::Detect);
+            if (cents) {
+                return cents;
             }
         }
         return std::nullopt;

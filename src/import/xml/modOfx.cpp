@@ -183,7 +183,7 @@ private:
         m_id = TextOf(node, "FITID");
         const QString day = TextOf(node, "DTPOSTED");
         const QString amount = TextOf(node, "TRNAMT");
-        const std::optional<double> value = modAmount::TryReadGerman(modOfxText::ToGermanAmount(amount));
+        const std::optional<qint64> value = modAmount::CentsFromGerman(modOfxText::ToGermanAmount(amount));
         cSkippedRow row;
         row.Entry.ImportAccount = m_account;
         row.Entry.ImportDate = DateOf(day);
@@ -192,7 +192,7 @@ private:
             TakeCounterparty(node, row.Entry);
         }
         row.Entry.ImportCurrency = m_currency;
-        row.Entry.ImportValue = modAmount::ToEvenCents(value.value_or(0.0));
+        row.Entry.ImportValue = value.value_or(0);
         if (!row.Entry.ImportDate.isValid()) {
             row.Reason.Text = cText::Tr("Das Buchungsdatum ist kein Datum: {0}", {day.left(40)});
         } else if (!value) {
@@ -244,13 +244,13 @@ private:
 
     void TakeBalance(const pugi::xml_node& ledger)
     {
-        const std::optional<double> euros =
-            modAmount::TryReadGerman(modOfxText::ToGermanAmount(TextOf(ledger, "BALAMT")));
-        if (!euros) {
+        const std::optional<qint64> cents =
+            modAmount::CentsFromGerman(modOfxText::ToGermanAmount(TextOf(ledger, "BALAMT")));
+        if (!cents) {
             return;
         }
-        m_read.ClosingBalance = modAmount::ToCents(*euros);
-        m_read.Balances.append({m_account, *m_read.ClosingBalance, DateOf(TextOf(ledger, "DTASOF"))});
+        m_read.ClosingBalance = cents;
+        m_read.Balances.append({m_account, *cents, DateOf(TextOf(ledger, "DTASOF"))});
     }
 
     modXmlPieces::cPieces m_pieces;

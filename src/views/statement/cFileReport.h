@@ -48,6 +48,7 @@ struct cFileReport
 
     bool HasStrayDetails = false;  // refused only because of them, see cFileWish
     bool HasOtherCurrency = false; // likewise
+    QString LikelyAccount;         // refused only because the file names none: the one it may be of
 };
 
 // What came of several.

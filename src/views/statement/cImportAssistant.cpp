@@ -73,6 +73,7 @@ struct cImportAssistant::cWorks
     cTableChoice Choice;
     modTable::cOpened Opened;
     QStringList FileAccounts; // that the file itself names
+    QString Proposal;         // for a file that names none
     cImportResult Result;     // of the trial
 };
 
@@ -250,9 +251,10 @@ QString cImportAssistant::Account() const
     if (m_account) {
         return *m_account;
     }
-    return m_works->FileAccounts.isEmpty()  ? m_parts.Memory.Accounts(m_works->Opened.Layout.AccountKey).value(0)
-        : m_works->FileAccounts.size() == 1 ? m_works->FileAccounts.first()
-                                            : QString();
+    if (!m_works->FileAccounts.isEmpty()) {
+        return m_works->FileAccounts.size() == 1 ? m_works->FileAccounts.first() : QString();
+    }
+    return m_parts.Memory.Accounts(m_works->Opened.Layout.AccountKey).value(0, m_works->Proposal);
 }
 
 QStringList cImportAssistant::Accounts() const
@@ -425,8 +427,13 @@ void cImportAssistant::Evaluate()
         options.Duplicates = eDuplicateTest::Skip; // they are still there, but will be gone
     }
     cNoProgress progress;
-    works.Result =
-        cStatementImport(m_parts.Data, m_parts.Hive, &m_parts.Memory).ImportSource(works.Tried, options, progress);
+    cStatementImport import(m_parts.Data, m_parts.Hive, &m_parts.Memory);
+    works.Result = import.ImportSource(works.Tried, options, progress);
+    if (!m_account && options.DefaultAccount.isEmpty() && !works.Result.Unowned.isEmpty()) {
+        works.Proposal = m_parts.Accounts.NumberMeant(m_parts.Accounts.ProposalFor(works.Result.Unowned));
+        options.DefaultAccount = works.Proposal;
+        works.Result = import.ImportSource(works.Tried, options, progress);
+    }
     ReadPreview();
     Q_EMIT Changed();
 }

@@ -290,7 +290,10 @@ cFilesReport cStatementDesk::ImportFiles(const QStringList& paths, const cFileWi
     const cFilesOutcome outcome = m_works->Files.ReadFiles(paths, Options(wish), progress);
     cFilesReport report{.Notes = outcome.Notes, .IsDone = outcome.IsDone};
     for (const cImportResult& result : outcome.Files) {
-        report.Files.append(Report(result, m_tools.Format));
+        cFileReport& file = report.Files.emplaceBack(Report(result, m_tools.Format));
+        if (!result.Unowned.isEmpty()) {
+            file.LikelyAccount = m_works->Accounts.ProposalFor(result.Unowned);
+        }
         report.IsDone = !result.IsRefused && result.Failed == 0 && report.IsDone;
         if (!wish.IsTrial && !result.IsRefused) {
             report.IsDone = RememberLayout(result, wish, report.Notes) && report.IsDone;

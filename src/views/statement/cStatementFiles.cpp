@@ -357,12 +357,14 @@ cImportResult cStatementFiles::AskForAccount(const QString& path, const cImportR
     }
     numbers += without; // an account without a number lends its name
     shown += without;
-    const std::optional<QString> given = m_tools.User.Choose(
-        {.Text = QFileInfo(path).fileName() + u'\n' + result.Message,
-         .Title = cText::Tr("Kontonummer"),
-         .Items = shown,
-         .Proposal = numbers.size() > without.size() && !result.IsAccountRemembered ? shown.value(0) : QString(),
-         .AllowNew = true});
+    const QString likely =
+        result.IsAccountRemembered ? QString() : m_accounts.NumberMeant(m_accounts.ProposalFor(result.Unowned));
+    const std::optional<QString> given =
+        m_tools.User.Choose({.Text = QFileInfo(path).fileName() + u'\n' + result.Message,
+                             .Title = cText::Tr("Kontonummer"),
+                             .Items = shown,
+                             .Proposal = shown.value(numbers.indexOf(likely)),
+                             .AllowNew = true});
     const QString typed = given ? given->simplified() : QString();
     const QString number = m_accounts.NumberMeant(numbers.value(shown.indexOf(typed), typed));
     if (number.isEmpty()) {
