@@ -506,6 +506,27 @@ private Q_SLOTS:
         QCOMPARE(modSplit::Net(m_page->Data.GetEntries(query)), -65000);
     }
 
+    void SaysWhatASeriesThatGoesOnTook_data() const
+    {
+        const cTestRows<int, int> row("decision", "told");
+        row("this time", 0, 1);
+        row("not at all", 2, 0);
+    }
+
+    void SaysWhatASeriesThatGoesOnTook()
+    {
+        QFETCH(const int, decision);
+        QFETCH(const int, told);
+        cEntryItem rent = m_page->cTestBook::Spend(day.addMonths(-1), 65000, u"Miete Tann"_s, u"Monatlich"_s);
+        rent.EntryDateEnd = day.addDays(-1);
+        QVERIFY(m_page->Data.ChangeEntry(rent));
+        m_page->cTestBook::Stage(u"1234567"_s, rent.EntryDate, -65000, u"Miete Tann"_s, rent.ID);
+        m_page->User.Decisions = {decision};
+        QVERIFY(m_page->Review.Book({m_page->Stage(-660, u"Miete Tann"_s)}, m_page->Progress));
+        QCOMPARE(m_page->Data.CountEntries(), 1);
+        QCOMPARE(m_page->Review.Summary().filter(u"auf den Betrag des Kontoauszugs"_s).size(), told);
+    }
+
     void SaysWhyThereIsNoEntry()
     {
         const std::unique_ptr<cAssignListModel> none = m_page->Review.StartAssign({m_page->Stage(-1, u"X"_s)});
