@@ -77,6 +77,19 @@ private Q_SLOTS:
         QCOMPARE(assigned.first(3), QStringList({u"-1"_s, u"-1"_s, u"-1"_s}));
     }
 
+    // A series that goes on has the bank's amount, whatever is said of rows that have an entry.
+    void BookedToTheSeriesThatGoesOn()
+    {
+        Do(u"book|--assign|"_s + m_rows.at(1));
+        Do(u"change|"_s + m_rent + u"|--end|28.2.2026"_s);
+        const QString file =
+            Write(u"next.sta"_s,
+                  QByteArray(statement).replace("2602", "2603").replace("D660,", "D670,").replace("EUR212", "EUR202"));
+        Do(u"import|"_s + file);
+        Do(u"book|--all"_s);
+        QCOMPARE(Do(u"correct|--json|--list|"_s + m_rent).Column(u"EntryValue"_s), QStringList({u"660"_s, u"670"_s}));
+    }
+
     void AssignAndRelease()
     {
         QCOMPARE(Do(u"match|--json|--candidates|"_s + m_rows.at(0)).Column(u"EntryID"_s), QStringList(m_food));

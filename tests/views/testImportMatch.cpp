@@ -506,6 +506,48 @@ private Q_SLOTS:
         QCOMPARE(modSplit::Net(m_page->Data.GetEntries(query)), -65000);
     }
 
+    // The other one of two equal rows is meant for the occurrence, so this one joins it on the way.
+    void JoinsAllPartsWithTheirAmounts()
+    {
+        QList<int> ids;
+        for (const int cents : {60000, 5000}) {
+            cEntryItem part = m_page->cTestBook::Spend(day.addMonths(-1), cents, u"Miete Tann"_s, u"Monatlich"_s);
+            ids.append(part.ID);
+            modSplit::SetGroup(part, ids.constFirst());
+            QVERIFY(m_page->Data.ChangeEntry(part));
+        }
+        m_page->cTestBook::Stage(u"1234567"_s, day.addMonths(-1), -65000, u"Miete Tann"_s, ids.constFirst());
+        const QDate late = day.addDays(1);
+        m_page->cTestBook::Stage(u"1234567"_s, late, -65000, u"Miete Tann"_s);
+        const int second = m_page->cTestBook::Stage(u"1234567"_s, late, -65000, u"Miete Tann"_s).ID;
+        QVERIFY(m_page->Review.Book({second}, m_page->Progress));
+        QCOMPARE(m_page->User.Asked, QStringList());
+        cEntryQuery query;
+        query.Start = query.End = late;
+        QCOMPARE(modSplit::Net(m_page->Data.GetEntries(query)), -65000);
+    }
+
+    void SaysWhatASeriesThatGoesOnTook_data() const
+    {
+        const cTestRows<int, int> row("decision", "told");
+        row("this time", 0, 1);
+        row("not at all", 2, 0);
+    }
+
+    void SaysWhatASeriesThatGoesOnTook()
+    {
+        QFETCH(const int, decision);
+        QFETCH(const int, told);
+        cEntryItem rent = m_page->cTestBook::Spend(day.addMonths(-1), 65000, u"Miete Tann"_s, u"Monatlich"_s);
+        rent.EntryDateEnd = day.addDays(-1);
+        QVERIFY(m_page->Data.ChangeEntry(rent));
+        m_page->cTestBook::Stage(u"1234567"_s, rent.EntryDate, -65000, u"Miete Tann"_s, rent.ID);
+        m_page->User.Decisions = {decision};
+        QVERIFY(m_page->Review.Book({m_page->Stage(-660, u"Miete Tann"_s)}, m_page->Progress));
+        QCOMPARE(m_page->Data.CountEntries(), 1);
+        QCOMPARE(m_page->Review.Summary().filter(u"auf den Betrag des Kontoauszugs"_s).size(), told);
+    }
+
     void SaysWhyThereIsNoEntry()
     {
         const std::unique_ptr<cAssignListModel> none = m_page->Review.StartAssign({m_page->Stage(-1, u"X"_s)});

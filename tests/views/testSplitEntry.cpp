@@ -243,12 +243,13 @@ private Q_SLOTS:
 
     void PaidMonthsOfASeriesStay_data() const
     {
-        // in cents: a new part; more for the second one; that one goes
+        // in cents: a new part; more for the second one; that one goes, or turns round with twice of it
         const cTestRows<bool, int, int, int, qsizetype> row("isMoved", "added", "changed", "taken", "asked");
         row("a new part", false, 800, 0, 0, 0);
         row("a new part where the month was moved", true, 800, 0, 0, 0);
         row("a part becomes dearer where the month was moved", true, 0, 200, 0, 0);
         row("a part goes, and the user says no", false, 0, 0, 1300, 1);
+        row("a part turns round, and the user says no", false, 0, 0, 2600, 1);
     }
 
     // Whichever part the bank's row hangs at.
@@ -271,10 +272,10 @@ private Q_SLOTS:
         book.Stage(u"1"_s, paid, -5000, {}, 1);
         fields = book.Editor.Load(2).value();
         fields.Amount = QString::number((5000 + added + changed - taken) / 100);
-        fields.Parts[1].Amount = QString::number((1300 + changed) / 100);
+        fields.Parts[1].Amount = QString::number((1300 + changed - taken) / 100);
         if (added > 0) {
             fields.Parts.append({0, u"Haushalt; Lebensmittel"_s, u"Käse"_s, QString::number(added / 100)});
-        } else if (taken > 0) {
+        } else if (taken == 1300) {
             fields.Parts.remove(1);
         }
         (void)book.Editor.Save(fields);

@@ -131,11 +131,13 @@ void PrintJson(const QList<int>& ids, const QHash<int, cRowPlan>& plans)
     modConsole::Out(modJson::Array(objects) + u'\n');
 }
 
-// Nobody can be asked: rows that have an entry, or may be there twice, stay open unless an option says otherwise.
+// Nobody can be asked: rows that have an entry, or may be there twice, stay open unless an option says otherwise. What
+// the bank booked to a series that goes on has its day and amount.
 cConsoleUser::cAnswers Answers(const cCliContext& context)
 {
     using modReviewQuestion::eMatchAnswer;
     cConsoleUser::cAnswers answers;
+    answers.About = modReviewQuestion::Matches({}).Title;
     answers.Answer = context.Call.Has(u"new"_s) ? eAnswer::No : eAnswer::Yes;
     answers.Decision = static_cast<int>(context.Call.Has(u"new"_s)          ? eMatchAnswer::New
                                             : context.Call.Has(u"assign"_s) ? eMatchAnswer::Assign

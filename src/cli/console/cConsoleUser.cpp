@@ -93,10 +93,15 @@ void cConsoleUser::Refuse(const QString& question)
     }
 }
 
+bool cConsoleUser::IsAbout(const QString& title) const
+{
+    return m_answers.About.isEmpty() || m_answers.About == title;
+}
+
 eAnswer cConsoleUser::Ask(const cQuestion& question)
 {
     if (m_answers.Answer) {
-        return *m_answers.Answer;
+        return IsAbout(question.Title) ? *m_answers.Answer : eAnswer::Yes;
     }
     Refuse(question.Text);
     return question.Buttons == eButtons::YesNo ? eAnswer::No : eAnswer::Cancel;
@@ -119,7 +124,7 @@ QStringList cConsoleUser::ChooseFiles(const QString& /*title*/, const QString& /
 int cConsoleUser::Decide(const cDecision& decision)
 {
     if (m_answers.Decision) {
-        return *m_answers.Decision;
+        return IsAbout(decision.Title) ? *m_answers.Decision : 0;
     }
     Refuse(decision.Text);
     return -1;

@@ -8,6 +8,7 @@
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
 #include "model/modRecurrence.h"
+#include "model/modSplit.h"
 #include "model/modWord.h"
 #include "store/cUndoStep.h"
 
@@ -195,13 +196,16 @@ cBooking::eOutcome cBooking::Join(const cImportEntry& row, const cProposal& prop
     if (!HasAssigned(m_hive, row, match.Series.ID)) {
         return eOutcome::Failed;
     }
-    if (const std::optional<cEntryItemFixMod> fixMod = modOccurrence::CorrectionTo(match.Occurrence, row)) {
+    // Of a split series the bank knows the whole only, so its amount is none of a part's.
+    const bool isSplit = modSplit::Group(match.Series) != 0;
+    const auto what = isSplit ? modOccurrence::eCorrect::Day : modOccurrence::eCorrect::AmountAndDay;
+    if (const std::optional<cEntryItemFixMod> fixMod = modOccurrence::CorrectionTo(match.Occurrence, row, what)) {
         cMatchCandidate joined;
         joined.Entry = match.Occurrence;
         joined.Cents = row.ImportValue;
         joined.Correction = fixMod;
         joined.ReplacesOwn = modOccurrence::ReplacesOwn(match.Occurrence, *fixMod);
-        if (!joined.ReplacesOwn && !m_data.AddNewEntryMod(*fixMod)) {
+        if (!joined.ReplacesOwn && !isSplit && !m_data.AddNewEntryMod(*fixMod)) { // all parts move together, or none
             return eOutcome::Failed;
         }
         result.Corrections.append({row.ID, joined});

@@ -128,7 +128,12 @@ std::optional<int> cEntryWriter::KeepPaid(QList<cEntryWrite>& rows, const QList<
         return 0;
     }
     const cPaid paid = PaidPeriods(before, rows);
-    if (!removed.isEmpty()) {
+    const bool isTurned = std::any_of(rows.begin(), rows.end(), [&](const cEntryWrite& row) {
+        return std::any_of(before.begin(), before.end(), [&](const cEntryItem& series) {
+            return series.ID == row.Entry.ID && series.EntryType != row.Entry.EntryType;
+        });
+    });
+    if (!removed.isEmpty() || isTurned) { // a correction has no sign
         return AskLosing(before.first(), paid, rows.first().Entry) ? std::optional(0) : std::nullopt;
     }
     QSet<QDate> kept;
@@ -144,7 +149,8 @@ std::optional<int> cEntryWriter::KeepPaid(QList<cEntryWrite>& rows, const QList<
     return static_cast<int>(kept.size());
 }
 
-// What a part that goes was of a payment has no place any more. True when that is none, or the user agrees.
+// What a part was of a payment has no place any more where it goes, or counts the other way. True when that is none, or
+// the user agrees.
 bool cEntryWriter::AskLosing(const cEntryItem& stored, const cPaid& paid, const cEntryItem& after)
 {
     const QList<QDate> starts = paid.keys();
@@ -153,12 +159,12 @@ bool cEntryWriter::AskLosing(const cEntryItem& stored, const cPaid& paid, const 
         return occurrence && modSeries::HasPeriod(after, modSeries::CorrectionFor(*occurrence));
     });
     return count == 0
-        || m_user.Ask(
-               {.Text = cText::Tr("Ein Teil dieser Serie fällt weg. Damit ändert sich auch, was die Bank schon "
-                                  "gebucht hat ({0}), und der Saldo stimmt nicht mehr mit ihr überein.\nSoll der "
-                                  "Eintrag trotzdem gespeichert werden?",
-                                  {modCount::Times(count)}),
-                .Title = {}})
+        || m_user.Ask({.Text = cText::Tr("Ein Teil dieser Serie fällt weg oder wechselt die Art. Damit ändert sich "
+                                         "auch, was die Bank schon gebucht hat ({0}), und der Saldo stimmt nicht mehr "
+                                         "mit ihr überein.\nSoll der "
+                                         "Eintrag trotzdem gespeichert werden?",
+                                         {modCount::Times(count)}),
+                       .Title = {}})
         == eAnswer::Yes;
 }
 

@@ -327,7 +327,8 @@ bool cCorrectionFlow::Write(const cChange& change)
     fixMod.EntryValue = change.Amount == eAmount::Keep ? change.Occurrence.EntryValue : fixMod.EntryValue;
     const QDate day = fixMod.EntryDay.isValid() ? fixMod.EntryDay : now->Planned();
     const bool isOther = fixMod.EntryValue != now->EntryValue;
-    m_done.Amounts += isOther && change.Amount != eAmount::FromHere ? 1 : 0;
+    const bool isCorrected = change.Amount == eAmount::Once || (change.Amount == eAmount::Same && isOther);
+    m_done.Amounts += isCorrected ? 1 : 0; // a row that joined its series has brought the correction along
     m_done.Days += day != change.Occurrence.EntryDate ? 1 : 0;
     const bool isWhole = modSplit::Group(*series) != 0 && change.Amount == eAmount::Same;
     return (!isOther && day == now->EntryDate) || (isWhole ? WriteParts(change) : m_tools.Data.AddNewEntryMod(fixMod));
