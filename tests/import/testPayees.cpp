@@ -201,6 +201,24 @@ private Q_SLOTS:
         QTEST(proposal.IsSure, "isSure");
     }
 
+    void KnowsOnlySureRules_data()
+    {
+        const cTestRows<QString, QString> row("name", "category");
+        row("rule", u"Rewe Bar"_s, u"Haushalt; Lebensmittel"_s);
+        row("uncertain rule", u"Bargeld"_s, {});
+        row("list of payees", u"Netflix"_s, {});
+    }
+
+    void KnowsOnlySureRules()
+    {
+        QFETCH(QString, name);
+        cImportBook book;
+        cTemplateItem purse = modTemplate::NewAccount({}, u"Bargeld"_s);
+        QVERIFY(book.Data.AddNewTemplate(purse));
+        cProposer proposer(book.Data, book.Hive, book.Accounts);
+        QTEST(proposer.Propose(Row(-20, name, {}), eRestriction::Restricted).Entry.EntryCategory, "category");
+    }
+
     void RecognisesCash_data()
     {
         const cTestRows<cImportEntry, bool> row("row", "isCash");

@@ -471,9 +471,16 @@ private Q_SLOTS:
         const QString text = u"!Type:Bank\nD1.1.26\nT-1\nL%1\n^\n"_s;
         cImportOptions options;
         options.DefaultAccount = u"4711"_s;
-        const cImportResult result =
-            book.Read(text.arg(u"Haus:Strom/Gas"_s) + text.arg(u"Neu:Reisen/Italien"_s), options, u"a.qif"_s);
-        QCOMPARE(result.Book.Categories.keys(), QStringList({u"Haus; Strom/Gas"_s, u"Neu; Reisen"_s}));
+        QString file;
+        for (const QString& category :
+             {u"[Sparen]/Projekt 7"_s, u"[Sparen]/Neu"_s, u"[Sparen]/Weit:Weg"_s, u"Haus:Strom/Gas"_s,
+              u"Neu:Reisen/Italien"_s}) {
+            file += text.arg(category);
+        }
+        const cImportResult result = book.Read(file, options, u"a.qif"_s);
+        QCOMPARE(result.Book.Categories.keys(),
+                 QStringList({u"Haus; Strom/Gas"_s, u"Neu"_s, u"Neu; Reisen"_s, u"Weit; Weg"_s}));
+        QCOMPARE(result.Book.Accounts, QStringList(u"Sparen"_s));
     }
 
     void SeesWritesOfOthers()

@@ -405,23 +405,71 @@ private Q_SLOTS:
         QCOMPARE(memory.Accounts(asked.AccountKey), QStringList({u"4711"_s, u"4712"_s}));
     }
 
+    void SignIsRememberedForTheAccount_data()
+    {
+        // Files in their order, as in the test: "O" is an open one with the answer that it is the other way round, "/"
+        // goes to another account, "|" to other column names. "?": asked, "-": turned round.
+        const cTestRows<QString, QString> row("files", "read");
+        row("answered, usual, open", u"oOuo"_s, u"?---"_s);
+        row("answered, open, usual", u"Oou"_s, u"---"_s);
+        row("usual, answered, open", u"uoOo"_s, u"+?--"_s);
+        row("answered for a usual one", u"Uo"_s, u"--"_s);
+        row("balances, usual, open", u"puo"_s, u"---"_s);
+        row("usual, balances, open", u"upo"_s, u"+--"_s);
+        row("open, usual, balances", u"oupo"_s, u"?+--"_s);
+        row("totals", u"toqo"_s, u"--++"_s);
+        row("words", u"qoupo"_s, u"+++--"_s);
+        row("proved, then answered", u"pAuo"_s, u"-+++"_s);
+        row("answered, then proved", u"Oquo"_s, u"-+++"_s);
+        row("a single word is no proof", u"woOwo"_s, u"+?---"_s);
+        row("of another account", u"Ou/uo"_s, u"--+?"_s);
+        row("of other columns", u"Ou|uo"_s, u"--+?"_s);
+    }
+
     void SignIsRememberedForTheAccount()
     {
-        const QString head = u"Datum;Zweck;Betrag;Saldo\n"_s;
-        const QString interest = head + u"30.06.2025;Zinsen;24,93;1024,93"_s;
+        const QHash<QChar, QStringList> contents = {
+            {u'o', {u"{}Hof;24,93;"_s, u"{}Kunz;2,00;"_s}},
+            {u'u', {u"{}Hof;24,93;"_s, u"{}Kunz;-8,00;"_s, u"{}Weber;12,99;"_s}},
+            {u'w', {u"{}Gehalt;24,93;"_s, u"{}Kunz;-8,00;"_s}},
+            {u'p', {u"{}Hof;5,00;995,00"_s, u"[]Hof;10,00;985,00"_s}},
+            {u't', {u"{}Hof;5,00;"_s, u"{}Hof;-3,00;"_s, u"{}Kunz;9,00;"_s, u"Alter Kontostand;;100,00;"_s,
+                    u"Neuer Kontostand;;89,00;"_s}},
+            {u'q', {u"{}Gutschrift;5,00;"_s, u"{}Lastschrift;-9,00;"_s}},
+        };
+        QFETCH(const QString, files);
         cImportBook book;
         cTableMemory memory(*book.Settings);
         cStatementImport import(book.Data, book.Hive, &memory);
         cNoProgress progress;
-        cImportOptions own;
-        own.DefaultAccount = u"4711"_s;
-        QVERIFY(import.ImportSource({u"a.csv"_s, {}, interest}, own, progress).Doubt);
-        const QString turned = head + u"01.04.2025;Kauf;5,00;995,00\n02.04.2025;Kauf;10,00;985,00"_s;
-        QCOMPARE(import.ImportSource({u"a.csv"_s, {}, turned}, own, progress).Staged, 2);
-        QCOMPARE(import.ImportSource({u"a.csv"_s, {}, interest}, own, progress).Staged, 1);
-        QCOMPARE(book.Data.GetImportEntries().constLast().ImportValue, -2493);
-        own.DefaultAccount = u"4712"_s;
-        QVERIFY(import.ImportSource({u"a.csv"_s, {}, interest}, own, progress).Doubt);
+        cImportOptions options;
+        options.DefaultAccount = u"4711"_s;
+        QString head = u"Datum;Zweck;Betrag;Saldo\n"_s;
+        QDate day(2025, 1, 1);
+        QString read;
+        for (const QChar file : files) {
+            options.DefaultAccount = file == u'/' ? u"4712"_s : options.DefaultAccount;
+            head = file == u'|' ? u"Datum;Text;Betrag;Saldo\n"_s : head;
+            const QStringList lines = contents.value(file == u'A' ? u'o' : file.toLower());
+            if (lines.isEmpty()) {
+                continue;
+            }
+            options.Table.Sign = file.isLower()
+                ? std::nullopt
+                : std::optional(file == u'A' ? eSignRule::AsWritten : eSignRule::Negated);
+            day = day.addMonths(1);
+            const QString text = head
+                + lines.join(u'\n')
+                      .replace(u"{}"_s, day.toString(u"dd.MM.yyyy;"_s))
+                      .replace(u"[]"_s, day.addDays(1).toString(u"dd.MM.yyyy;"_s));
+            const cImportResult result = import.ImportSource({u"a.csv"_s, {}, text}, options, progress);
+            const cImportEntryList staged = book.Data.GetImportEntries();
+            const auto first = std::find_if(staged.begin(), staged.end(),
+                                            [&](const cImportEntry& entry) { return entry.ImportDate == day; });
+            QCOMPARE(result.Doubt.has_value(), first == staged.end());
+            read += result.Doubt ? u'?' : first->ImportValue > 0 ? u'+' : u'-';
+        }
+        QTEST(read, "read");
     }
 
     void ConfirmedColumnsAreRemembered()

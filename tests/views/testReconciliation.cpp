@@ -61,6 +61,41 @@ class testReconciliation final : public QObject
     Q_OBJECT
 
 private Q_SLOTS:
+    // In whatever order they are read, the book says what the bank said before there was a first row.
+    void StatementsWithoutRowsNameTheDay_data()
+    {
+        // since: from then on the bank named no other balance
+        const cTestRows<QString, QDate> row("january", "since");
+        row("the same", u"C260101EUR50,00"_s, QDate(2026, 1, 1));
+        row("another one, so rows are missing", u"C260101EUR40,00"_s, QDate(2026, 2, 1));
+    }
+
+    void StatementsWithoutRowsNameTheDay()
+    {
+        QFETCH(const QString, january);
+        const QString february = u"C260201EUR50,00"_s;
+        QStringList files{u"%1\n:62F:%1"_s.arg(january), u"%1\n:62F:%1"_s.arg(february),
+                          u"C260301EUR50,00\n:61:260315D30,00NMSCNONREF\n:86:005?20Einkauf?32REWE\n:62F:C260331EUR20,00"_s};
+        std::sort(files.begin(), files.end());
+        do {
+            cTestBook book;
+            book.Settings->Set(modSettingKey::BankNumber.Of(u"1234567"_s), u"Girokonto"_s);
+            book.User.Usual = eAnswer::Yes;
+            cImportReview review(book.Tools);
+            cNoProgress progress;
+            const cTestFile folder;
+            for (const QString& file : std::as_const(files)) {
+                const QString path = folder.Path(QString::number(files.indexOf(file)));
+                cTestFile::Write(path, (u":20:A\n:25:10020030/1234567\n:60F:"_s + file + u"\n-\n"_s).toUtf8());
+                review.Files().ImportFiles({path}, progress);
+            }
+            const std::optional<cEntryItem> start = book.Data.GetStartGuthaben(u"Girokonto"_s);
+            QVERIFY(start);
+            QCOMPARE(start->EntryValue, 5000);
+            QTEST(start->EntryDate, "since");
+        } while (std::next_permutation(files.begin(), files.end()));
+    }
+
     // Who typed today's balance first and reads an older statement without balances afterwards meant that of today.
     void StartBalanceOfALaterDayIsCountedBack()
     {

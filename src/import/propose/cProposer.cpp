@@ -204,9 +204,12 @@ QString LearnedReason(const cLearned::cChoice& choice, const cImportEntry& row)
 }
 
 // What the program knows by itself.
-cHint HintOf(const cImportEntry& whole)
+cHint HintOf(const cImportEntry& whole, eRestriction restriction)
 {
     const cImportEntry row = modBookRow::Bare(whole);
+    if (restriction == eRestriction::Restricted) {
+        return modHint::BySureRule(row);
+    }
     cHint hint = modHint::Best(row);
     // A keyword knows how often such things are paid as a rule, the purpose may know it of this one.
     if (modRecurrence::IsRecurring(hint.Interval)) {
@@ -351,15 +354,15 @@ void TakeAgreement(cProposal& proposal, const cLearned::cChoice& choice, const c
     if (proposal.IsSure || choice.HasOthers || proposal.Entry.IsTransfer()) {
         return;
     }
-    const cHint hint = HintOf(whole);
+    const cHint hint = HintOf(whole, eRestriction::None);
     proposal.IsSure = hint.IsSure && hint.Category == choice.Category;
 }
 
-void TakeDefault(cProposal& proposal)
+void TakeDefault(cProposal& proposal, eRestriction restriction)
 {
     cEntryItem& entry = proposal.Entry;
     proposal.IsDefault = entry.EntryCategory.isEmpty();
-    if (proposal.IsDefault) {
+    if (proposal.IsDefault && restriction == eRestriction::None) {
         entry.EntryInterval = modWord::Einmalig;
         entry.EntryCategory = modWord::Allgemein;
     }
@@ -378,7 +381,7 @@ cProposer::cProposer(cDataAccess& data, cImportHiveCache& hive, const cAccountMa
 
 cProposer::~cProposer() = default;
 
-cProposal cProposer::Propose(const cImportEntry& row)
+cProposal cProposer::Propose(const cImportEntry& row, eRestriction restriction)
 {
     cProposal proposal;
     const cImportEntry whole = modCutText::WholeWords(row);
@@ -392,18 +395,19 @@ cProposal cProposer::Propose(const cImportEntry& row)
     } else if (choice) {
         TakeLesson(proposal, *choice, whole, m_knowledge->Numbered);
         TakeAgreement(proposal, *choice, whole);
-    } else if (!transfer && !m_knowledge->Cash.isEmpty() && modCash::IsCash(modBookRow::Bare(row))) {
+    } else if (!transfer && restriction == eRestriction::None && !m_knowledge->Cash.isEmpty()
+               && modCash::IsCash(modBookRow::Bare(row))) {
         TakeCash(proposal, m_knowledge->Cash, m_knowledge->CashStart);
     } else if (!transfer) {
         // What is written on a transfer between own accounts says nothing about a payee.
-        TakeHint(proposal, HintOf(whole));
+        TakeHint(proposal, HintOf(whole, restriction));
         // A keyword alone makes no series where the other rows of the payee say that it is none.
         if (modRecurrence::IsRecurring(proposal.Entry.EntryInterval)
             && m_knowledge->Series.IsContradicted(row, proposal.Entry.EntryInterval)) {
             proposal.Entry.EntryInterval = modWord::Einmalig;
         }
     }
-    TakeDefault(proposal);
+    TakeDefault(proposal, restriction);
     TakeUnknown(proposal, row, category);
     const cOwnRule* own = m_knowledge->OwnRule(row, proposal.Entry.EntryAccount);
     if (transfer) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "import/propose/modKeywordRules.h"
 #include "model/cProposal.h"
 
 #include <functional>
@@ -26,8 +27,9 @@ public:
     cProposer& operator=(const cProposer&) = delete;
 
     // Whether money comes or goes is known of a row, which leaves the keywords that are part of many words ("bar",
-    // "auto") for those of which nothing else is known: a surer rule goes before them.
-    [[nodiscard]] cProposal Propose(const cImportEntry& row);
+    // "auto") for those of which nothing else is known: a surer rule goes before them. Restricted, the program knows no
+    // more than the sure rules, and what they do not know stays without a category.
+    [[nodiscard]] cProposal Propose(const cImportEntry& row, eRestriction restriction = eRestriction::None);
 
 private:
     struct cKnowledge;

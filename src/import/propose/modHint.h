@@ -18,6 +18,9 @@ struct cHint
 
 namespace modHint {
 
+// The last of the rules that are not marked as uncertain, as it stands.
+[[nodiscard]] cHint BySureRule(const cImportEntry& row);
+
 // For rows that are to be booked. A keyword that stands inside a longer name of the list, or in the middle of another
 // word, goes behind what the list knows of the payee. Sure is only what nothing else speaks against.
 [[nodiscard]] cHint Best(const cImportEntry& row);

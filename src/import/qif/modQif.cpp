@@ -304,7 +304,7 @@ QString AccountIn(const QString& category)
     return end < 0 ? QString() : category.mid(1, end - 1).trimmed();
 }
 
-// What stands behind it: nothing else than a class has its place there, and books use it for the category.
+// What stands behind it: a class, unless the book that wrote the file has put the category there.
 QString ClassOf(const QString& transfer)
 {
     return transfer.mid(transfer.indexOf(u']') + 1).section(u'/', 1, 1);

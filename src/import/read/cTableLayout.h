@@ -33,6 +33,7 @@ struct cTableLayout
     QString OwnNumber;        // own account that is on one of the two sides of every row; empty: the file does not say
     bool IsDateGuess = false; // day and month could be the other way round in every row
     bool IsSideGuess = false; // nothing tells which of the two sides is which
+    bool IsSignUsual = false; // nothing proves the sign; one that is remembered for the account goes before it
     std::optional<cTableDoubt> Doubt; // which nothing but the sign rule of a choice ends
     QString Profile;                  // name of the known layout; empty when there is none
     QString Key;                      // hash of the header for the memory; empty without a header

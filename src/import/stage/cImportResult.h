@@ -39,7 +39,7 @@ struct cImportResult
     int Proven = 0;      // of the staged ones: equal to others, but the bank's balances need them
     int Told = 0;        // likewise, but the bank marks each of them
     std::optional<qint64> ClosingBalance; // cents, signed
-    QStringList FirstBalances;            // own account numbers whose start no earlier balance could tell
+    QStringList FirstBalances; // own account numbers of whose start the balances tell more than those before them
     QList<cReadProblem> Problems;         // lines that could not be read
     QList<cSkippedRow> Skipped;           // rows of the file that are no bookings
     QStringList Accounts;             // own account numbers of the file in their order; "" for statements without one

@@ -510,6 +510,26 @@ void cStatementImport::SettleEqual(const cStatementRead& read, const cImportOpti
     result.Repeats = open;
 }
 
+namespace {
+
+QDate FirstDay(const cImportEntryList& rows, const QString& account)
+{
+    QDate first;
+    for (const cImportEntry& row : rows) {
+        const bool isOf = row.ImportAccount == account && row.ImportDate.isValid();
+        first = isOf && (!first.isValid() || row.ImportDate < first) ? row.ImportDate : first;
+    }
+    return first;
+}
+
+qsizetype CountBefore(const cBankBalanceList& balances, QDate day)
+{
+    return std::count_if(balances.begin(), balances.end(),
+                         [day](const cBankBalance& balance) { return balance.Day < day; });
+}
+
+} // namespace
+
 // Of a file that was taken in part, the balances would only say that something is missing.
 void cStatementImport::KeepBalances(const cStatementRead& read, const cKnownAccounts& known, eStagingRun run,
                                     cImportResult& result)
@@ -530,7 +550,9 @@ void cStatementImport::KeepBalances(const cStatementRead& read, const cKnownAcco
         seen.insert(account);
         const cBankBalanceList before = m_balances->Of(account);
         const cBankBalanceList all = m_balances->With(account, read.Balances, read.Entries);
-        const bool isEarlier = before.isEmpty() || all.constFirst().Day < before.constFirst().Day;
+        const QDate first = FirstDay(m_staging.Rows(), account);
+        const bool isEarlier = before.isEmpty() || all.constFirst().Day < before.constFirst().Day
+            || CountBefore(all, first) > CountBefore(before, first);
         // Rows that were left out have kept an earlier balance from telling the first one.
         const bool isCleared = std::any_of(result.Settled.begin(), result.Settled.end(), [&](const cRepeat& repeat) {
             return repeat.WasLeftOut && repeat.Entry.ImportAccount == account;

@@ -203,8 +203,8 @@ cTableLayout modTable::Detect(const cTable& table, const cReadOptions& options)
 
 namespace {
 
-// Banks that share a header need not share a sign, so it is remembered for the account: what the table told beyond
-// doubt, or what was answered where it did not. Two sides have no sign of their own.
+// Banks that share a header need not share a sign, so it is remembered for the account: what the table proved, or what
+// was answered. Two sides have no sign of their own; known columns have theirs with them.
 void TakeSign(const cTableLayout& layout, const cReadOptions& options, cStatementRead& read)
 {
     if (layout.Key.isEmpty() || read.Entries.isEmpty()) {
@@ -212,9 +212,11 @@ void TakeSign(const cTableLayout& layout, const cReadOptions& options, cStatemen
     }
     read.SignKey = cTableMemory::KeyOf({layout.Key, read.Entries.constFirst().ImportAccount});
     const bool isKnown = layout.Origin == eMapOrigin::Profile || layout.Origin == eMapOrigin::Memory;
+    const bool isKept = !isKnown && layout.Map.Amount >= 0;
     if (options.Table.Sign) {
-        read.Sign = layout.Doubt ? options.Table.Sign : std::nullopt;
-    } else if (!layout.Doubt && !isKnown && layout.Map.Amount >= 0) {
+        const bool isAnswer = layout.Doubt || (isKept && !options.Table.Map); // chosen columns come with a sign
+        read.Sign = isAnswer ? options.Table.Sign : std::nullopt;
+    } else if (isKept && !layout.IsSignUsual) {
         read.Sign = layout.Sign;
     }
 }
@@ -255,9 +257,11 @@ cStatementRead ReadPart(const cTable& table, const cTableLayout& layout, const c
         }
     }
     TakeSign(layout, options, read);
-    if (const auto sign = read.Doubt && options.Memory != nullptr ? options.Memory->Sign(read.SignKey) : std::nullopt) {
+    const bool isOpen = !options.Table.Sign && (layout.Doubt || layout.IsSignUsual) && options.Memory != nullptr;
+    if (const auto sign = isOpen ? options.Memory->Sign(read.SignKey) : std::nullopt) {
         cTableLayout told = layout;
         told.Sign = *sign;
+        told.IsSignUsual = false;
         told.Doubt.reset();
         return ReadPart(table, told, options);
     }

@@ -249,19 +249,22 @@ public:
 
     [[nodiscard]] eVerdict Run()
     {
-        if (!IsStriking()) {
-            return eVerdict::AsRead;
-        }
         for (const modTableRows::cProbed& row : m_rows) {
             Count(row);
         }
-        return Verdict();
+        return IsStriking() ? Verdict() : eVerdict::AsRead;
     }
 
-    // What the words lean to, where they prove nothing.
-    [[nodiscard]] bool LeansToTurned() const { return m_against > m_for; }
+    // Whether it is the words that say so, in more than a single row: else the verdict is no more than the usual one.
+    [[nodiscard]] bool Prove(eVerdict verdict) const
+    {
+        return (verdict == eVerdict::AsRead && m_for > 1 && m_for > m_against * clear)
+            || (verdict == eVerdict::Turned && m_against > 1);
+    }
 
 private:
+    static constexpr int clear = 5; // times as many words
+
     [[nodiscard]] bool IsIndicated() const { return m_layout.Map.Indicator >= 0; }
 
     // Amounts without a single sign: nothing says which way they count.
@@ -311,7 +314,6 @@ private:
 
     [[nodiscard]] eVerdict Verdict() const
     {
-        constexpr int clear = 5;
         const bool isSuspicious = m_layout.IsSideGuess || IsUnsigned() || (m_isOfCard && m_in > 0);
         if (m_against > m_for * clear) {
             const bool isSure = (isSuspicious && m_against >= 2) || m_strongAgainst >= 2
@@ -374,13 +376,19 @@ void modTableSign::Settle(const cTable& table, cTableLayout& layout)
     if (rows.isEmpty()) {
         return;
     }
-    cRowWords words(table, layout, rows);
-    if (verdict == eVerdict::Open) {
+    bool isProved = verdict != eVerdict::Open;
+    if (!isProved) {
+        cRowWords words(table, layout, rows);
         verdict = words.Run();
+        isProved = words.Prove(verdict);
     }
-    if (verdict == eVerdict::Open) {
-        verdict = cTotal(table, layout).Run();
+    const bool hasSign = layout.Map.Amount >= 0; // two sides have none of their own
+    if (verdict == eVerdict::Open || (hasSign && !isProved)) {
+        const eVerdict total = cTotal(table, layout).Run();
+        isProved = total != eVerdict::Open;
+        verdict = isProved ? total : verdict;
     }
+    layout.IsSignUsual = hasSign && !isProved;
     if (verdict == eVerdict::Turned) {
         Turn(layout);
     } else if (verdict == eVerdict::Open) {

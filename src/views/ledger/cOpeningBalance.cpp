@@ -99,6 +99,19 @@ QDate DayBefore(const cStatementLedger& ledger)
     return ledger.Rows().constFirst().ImportDate.addDays(-1);
 }
 
+// The bank may have named the balance long before the first row: without it the book would hold nothing until then.
+QDate NamedSince(const modBalanceCheck::cResult& check, QDate day, qint64 cents)
+{
+    QDate since = day;
+    for (auto point = check.Points.rbegin(); point != check.Points.rend(); ++point) {
+        if (point->Day <= day && point->Bank - point->Moved != cents) {
+            break;
+        }
+        since = qMin(since, point->Day);
+    }
+    return since;
+}
+
 // What was there before all rows, when it came to the cents by the end of the day.
 qint64 Before(const cStatementLedger& ledger, QDate day, qint64 cents)
 {
@@ -112,6 +125,7 @@ qint64 Before(const cStatementLedger& ledger, QDate day, qint64 cents)
 
 QStringList cOpeningBalance::Due(QStringList numbers, int newestBefore, const QStringList& balanced) const
 {
+    numbers += balanced; // perhaps without a row
     numbers.removeDuplicates();
     numbers.removeIf([&](const QString& number) { return !balanced.contains(number) && !IsDue(number, newestBefore); });
     return numbers;
@@ -192,9 +206,14 @@ std::optional<cOpeningBalance::cOffer> cOpeningBalance::OfferOf(const cStatement
     offer.Book = sum + (counts ? former : 0);
     offer.Former = stored ? std::optional(former) : std::nullopt;
     offer.Start = offer.Bank - sum;
-    offer.StartDay = counts && stored->EntryDate.isValid() ? qMin(stored->EntryDate, hand.First()) : hand.First();
+    const QDate since = offer.Start == bank ? NamedSince(check, offer.Day, bank) : offer.Day;
+    offer.StartDay = qMin(since, hand.First());
+    if (counts && stored->EntryDate.isValid()) {
+        offer.IsOnlyDay = offer.Book == bank && former != 0 && since < stored->EntryDate;
+        offer.StartDay = qMin(stored->EntryDate, offer.StartDay);
+    }
     const bool agrees = offer.Book == offer.Bank && (counts || former == 0); // a later start balance counts on top
-    return agrees ? std::nullopt : std::optional(offer);
+    return agrees && !offer.IsOnlyDay ? std::nullopt : std::optional(offer);
 }
 
 // What the balances of the bank say; none where rows before the first of them were left out. Those that are missing
@@ -231,6 +250,11 @@ QString cOpeningBalance::Question(const cOffer& offer) const
                              m_tools.Format.Cents(offer.Start),
                              modDate::ToText(offer.StartDay),
                              m_tools.Format.Cents(offer.Former.value_or(0))};
+    if (offer.IsOnlyDay) {
+        return cText::Tr("Schon am {4} waren laut Kontoauszug {3} auf dem Konto '{0}'. Soll das Startguthaben von diesem "
+                         "Tag an zählen?",
+                         values);
+    }
     if (offer.FormerDay.isValid()) {
         return cText::Tr("Als Stand vom {1} sind {2} für das Konto '{0}' eingetragen. Soll das so bleiben?", values)
             + u"\n\n"

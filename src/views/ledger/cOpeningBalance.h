@@ -25,6 +25,7 @@ public:
         qint64 Start = 0; // the start balance that makes them equal
         QDate StartDay;
         std::optional<qint64> Former; // the present start balance
+        bool IsOnlyDay = false;       // the book agrees from the first row on, but lacks what the bank named before
         QDate FormerDay{};            // valid: it was that of a later day, from which the bank's was counted back
     };
 
@@ -32,12 +33,12 @@ public:
 
     // The numbers, each once, of which the rows with higher IDs are the first, or one of them lies before the first
     // balance of the bank, from which the start balance was counted back; those of `balanced`, of which the bank has
-    // now named an earlier balance than before; without any, those whose rows begin before the others and no later than
+    // now named an earlier balance than before, or one more from before the first row; without any, those whose rows begin before the others and no later than
     // the start balance, which counts on top of them then. To be asked before numbers get their accounts: all that one
     // without an account holds counts for the first time.
     [[nodiscard]] QStringList Due(QStringList numbers, int newestBefore, const QStringList& balanced) const;
     // Nothing where the book agrees already, where the bank's balance before the first row is not certain, or where the
-    // number has no account or shares it with another.
+    // number has no account or shares it with another. The day is that from which on the bank named no other balance.
     [[nodiscard]] std::optional<cOffer> For(const QString& number) const;
     // The same for who has been told what the account held at the end of a day: where the bank's balance before the
     // first row is not certain, the rows that are there have led to it. Nothing where the book agrees already, or where

@@ -190,7 +190,7 @@ void cReconciliation::AddItems()
 // What the account held before its first row.
 void cReconciliation::AddStart()
 {
-    if (const auto offer = cOpeningBalance(m_tools).For(Number())) {
+    if (const auto offer = cOpeningBalance(m_tools).For(Number()); offer && !offer->IsOnlyDay) {
         cReconcileItem item;
         item.Kind = eKind::Start;
         item.BankDay = item.BookDay = offer->Day;

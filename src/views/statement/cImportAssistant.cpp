@@ -570,7 +570,7 @@ cImportOptions cImportAssistant::Options() const
         options.Table.HeaderLine = layout.HeaderRow + 1;
         options.Table.Number = layout.Number;
         options.Table.Date = layout.Date;
-        const bool isOpen = layout.Doubt && !m_works->Choice.Sign;
+        const bool isOpen = (layout.Doubt || layout.IsSignUsual) && !m_works->Choice.Sign;
         options.Table.Sign = isOpen ? std::nullopt : std::optional<eSignRule>(layout.Sign);
     }
     const bool isOther = m_account && !m_account->isEmpty() && !m_works->FileAccounts.isEmpty()
