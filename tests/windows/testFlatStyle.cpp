@@ -148,6 +148,21 @@ private Q_SLOTS:
         }
     }
 
+    // WCAG 1.4.11: what marks a control stands out from the window and from what it encloses.
+    void FieldsAreFound()
+    {
+        const cFlatStyle style;
+        for (const bool isDark : {false, true}) {
+            for (const QString& what : {u"field"_s, u"box"_s, u"check"_s, u"radio"_s}) {
+                const QImage image = Drawn(style, what, usable, isDark);
+                const QColor window = (isDark ? modPalette::Dark() : modPalette::Light()).color(QPalette::Window);
+                const QColor inside = image.pixelColor(size.width() / 4, size.height() / 2);
+                const QColor edge = image.pixelColor(size.width() / 2, 0);
+                QVERIFY2(Contrast(edge, window) >= 3 && Contrast(edge, inside) >= 3, qPrintable(what));
+            }
+        }
+    }
+
     // The handle and what lies before and behind it are the whole bar, and the handle reaches both ends.
     void ScrollBarIsWhole_data()
     {

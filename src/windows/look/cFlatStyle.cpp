@@ -251,7 +251,7 @@ void cFlatStyle::DrawComboBox(const QStyleOptionComboBox& box, QPainter& painter
     } else if (box.editable) {
         modFlat::Field(painter, box);
     } else {
-        modFlat::Button(painter, box, false);
+        modFlat::Choice(painter, box);
     }
     modFlat::Arrow(painter, box, proxy()->subControlRect(CC_ComboBox, &box, SC_ComboBoxArrow, widget), Qt::DownArrow);
 }

@@ -9,8 +9,9 @@
 namespace {
 
 constexpr double corner = 4;
-constexpr double softEdge = 0.3; // shares of the text over the ground
-constexpr double strongEdge = 0.55;
+constexpr double softEdge = 0.3;  // shares of the text over the ground
+constexpr double fieldEdge = 0.5; // 3 : 1 against the ground on both sides, so that fields are found
+constexpr double metEdge = 0.7;   // of fields under the pointer
 constexpr double quietEdge = 0.14;
 constexpr double underPointer = 0.07;
 constexpr double pressed = 0.14;
@@ -64,12 +65,14 @@ QColor AccentEdge(const QStyleOption& option)
     return modTone::IsDark(option.palette) ? Accent(option).lighter(160) : Accent(option);
 }
 
+QColor FieldInk(const QStyleOption& option)
+{
+    return Ink(option, IsUnderPointer(option) ? metEdge : fieldEdge);
+}
+
 QColor EdgeOf(const QStyleOption& option)
 {
-    if (!Is(option, QStyle::State_Enabled)) {
-        return Ink(option, quietEdge);
-    }
-    return Ink(option, IsUnderPointer(option) ? strongEdge : softEdge);
+    return Ink(option, !Is(option, QStyle::State_Enabled) ? quietEdge : IsUnderPointer(option) ? fieldEdge : softEdge);
 }
 
 QRectF Within(const QRect& place, double margin = 0.5)
@@ -85,9 +88,12 @@ void Rounded(QPainter& painter, const QRect& place, const QPen& edge, const QBru
     painter.drawRoundedRect(Within(place), corner, corner);
 }
 
-QPen FieldPen(const QStyleOption& option)
+QPen FieldPen(const QStyleOption& option, bool isFocusShown = true)
 {
-    return Is(option, QStyle::State_HasFocus) ? QPen(AccentEdge(option)) : QPen(EdgeOf(option));
+    if (!Is(option, QStyle::State_Enabled)) {
+        return Ink(option, quietEdge);
+    }
+    return isFocusShown && Is(option, QStyle::State_HasFocus) ? AccentEdge(option) : FieldInk(option);
 }
 
 QColor ButtonFill(const QStyleOption& option, bool isDefault)
@@ -104,8 +110,8 @@ void TickGround(QPainter& painter, const QStyleOption& option, double radius)
 {
     const bool isTicked = Is(option, QStyle::State_On) || Is(option, QStyle::State_NoChange);
     const bool isUsable = Is(option, QStyle::State_Enabled);
-    const QColor mark = isUsable ? Accent(option) : Ink(option, strongEdge);
-    const QColor edge = isUsable ? Ink(option, IsUnderPointer(option) ? 0.7 : strongEdge) : Ink(option, softEdge);
+    const QColor mark = isUsable ? Accent(option) : Ink(option, fieldEdge);
+    const QColor edge = isUsable ? FieldInk(option) : Ink(option, softEdge);
     const bool isOnAccent = Is(option, QStyle::State_Selected); // in a chosen line of a list
     painter.setPen(isOnAccent ? option.palette.color(QPalette::HighlightedText) : isTicked ? mark : edge);
     painter.setBrush(isTicked ? mark : option.palette.color(QPalette::Base));
@@ -134,6 +140,12 @@ void modFlat::Button(QPainter& painter, const QStyleOption& option, bool isDefau
         Rounded(painter, option.rect.adjusted(2, 2, -2, -2), option.palette.color(QPalette::HighlightedText),
                 Qt::NoBrush);
     }
+}
+
+void modFlat::Choice(QPainter& painter, const QStyleOption& option)
+{
+    const bool isByKeys = Is(option, QStyle::State_KeyboardFocusChange);
+    Rounded(painter, option.rect, FieldPen(option, isByKeys), ButtonFill(option, false));
 }
 
 void modFlat::ToolButton(QPainter& painter, const QStyleOption& option)

@@ -16,6 +16,8 @@ void Field(QPainter& painter, const QStyleOption& option);
 void FieldEdge(QPainter& painter, const QStyleOption& option);
 // What is pressed. The default button of a dialog is filled with the accent.
 void Button(QPainter& painter, const QStyleOption& option, bool isDefault);
+// A list to choose from while it is closed: filled as a button, with the edge of a field.
+void Choice(QPainter& painter, const QStyleOption& option);
 // A button that shows its ground only under the pointer or while it is down.
 void ToolButton(QPainter& painter, const QStyleOption& option);
 // A shade of the text over what is there.

@@ -14,7 +14,7 @@ namespace {
 constexpr int textWidth = 17; // of a column, in average characters
 constexpr int amountWidth = 14;
 constexpr int leastName = 21;
-constexpr int leastText = 9;  // of a column that the panel beside the list repeats
+constexpr int leastText = 13; // of a column that the panel beside the list repeats
 constexpr int nameWidth = 30; // at least, where there is room; the names take what is left
 
 std::vector<cColumnFit::cColumn> ColumnsOf(const cTemplateTreeModel& model)
