@@ -472,9 +472,8 @@ private Q_SLOTS:
         cImportOptions options;
         options.DefaultAccount = u"4711"_s;
         QString file;
-        for (const QString& category :
-             {u"[Sparen]/Projekt 7"_s, u"[Sparen]/Neu"_s, u"[Sparen]/Weit:Weg"_s, u"Haus:Strom/Gas"_s,
-              u"Neu:Reisen/Italien"_s}) {
+        for (const QString& category : {u"[Sparen]/Projekt 7"_s, u"[Sparen]/Neu"_s, u"[Sparen]/Weit:Weg"_s,
+                                        u"Haus:Strom/Gas"_s, u"Neu:Reisen/Italien"_s}) {
             file += text.arg(category);
         }
         const cImportResult result = book.Read(file, options, u"a.qif"_s);

@@ -433,8 +433,9 @@ private Q_SLOTS:
             {u'u', {u"{}Hof;24,93;"_s, u"{}Kunz;-8,00;"_s, u"{}Weber;12,99;"_s}},
             {u'w', {u"{}Gehalt;24,93;"_s, u"{}Kunz;-8,00;"_s}},
             {u'p', {u"{}Hof;5,00;995,00"_s, u"[]Hof;10,00;985,00"_s}},
-            {u't', {u"{}Hof;5,00;"_s, u"{}Hof;-3,00;"_s, u"{}Kunz;9,00;"_s, u"Alter Kontostand;;100,00;"_s,
-                    u"Neuer Kontostand;;89,00;"_s}},
+            {u't',
+             {u"{}Hof;5,00;"_s, u"{}Hof;-3,00;"_s, u"{}Kunz;9,00;"_s, u"Alter Kontostand;;100,00;"_s,
+              u"Neuer Kontostand;;89,00;"_s}},
             {u'q', {u"{}Gutschrift;5,00;"_s, u"{}Lastschrift;-9,00;"_s}},
         };
         QFETCH(const QString, files);
@@ -454,9 +455,8 @@ private Q_SLOTS:
             if (lines.isEmpty()) {
                 continue;
             }
-            options.Table.Sign = file.isLower()
-                ? std::nullopt
-                : std::optional(file == u'A' ? eSignRule::AsWritten : eSignRule::Negated);
+            options.Table.Sign =
+                file.isLower() ? std::nullopt : std::optional(file == u'A' ? eSignRule::AsWritten : eSignRule::Negated);
             day = day.addMonths(1);
             const QString text = head
                 + lines.join(u'\n')

@@ -74,8 +74,9 @@ private Q_SLOTS:
     {
         QFETCH(const QString, january);
         const QString february = u"C260201EUR50,00"_s;
-        QStringList files{u"%1\n:62F:%1"_s.arg(january), u"%1\n:62F:%1"_s.arg(february),
-                          u"C260301EUR50,00\n:61:260315D30,00NMSCNONREF\n:86:005?20Einkauf?32REWE\n:62F:C260331EUR20,00"_s};
+        QStringList files{
+            u"%1\n:62F:%1"_s.arg(january), u"%1\n:62F:%1"_s.arg(february),
+            u"C260301EUR50,00\n:61:260315D30,00NMSCNONREF\n:86:005?20Einkauf?32REWE\n:62F:C260331EUR20,00"_s};
         std::sort(files.begin(), files.end());
         do {
             cTestBook book;

@@ -18,8 +18,8 @@ QList<cCliOption> modCliTableChoice::Options()
                    "möglich sind {0}",
                    {modTableOption::ColumnNames().join(u", "_s)})},
         {u"sign"_s, u"WIE"_s,
-         cText::Tr("wenn eine Tabelle nicht sagt, was Ausgaben sind: {0}; wird für Tabellen mit denselben Spaltennamen "
-                   "gemerkt",
+         cText::Tr("wenn eine Tabelle nicht sagt, was Ausgaben sind: {0}; \"import\" merkt es sich für dieselben "
+                   "Spaltennamen und dasselbe Konto",
                    {modTableOption::SignNames().join(u", "_s)})}};
 }
 

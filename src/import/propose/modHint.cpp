@@ -195,8 +195,7 @@ cHint FromRule(const cMatch& match, qint64 cents)
 
 cHint modHint::BySureRule(const cImportEntry& row)
 {
-    const QList<modKeywordRules::cHit> hits =
-        modKeywordRules::Hits(modKeywordRules::MatchText(row), row.ImportValue);
+    const QList<modKeywordRules::cHit> hits = modKeywordRules::Hits(modKeywordRules::MatchText(row), row.ImportValue);
     const cMatch match = modKeywordRules::Last(hits, eRestriction::Restricted);
     const QString reason = match.Category.isEmpty() ? QString() : cText::Tr("Regel: {0}", {match.Keyword});
     return {match.Category, match.Interval, reason, false};

@@ -251,9 +251,10 @@ QString cOpeningBalance::Question(const cOffer& offer) const
                              modDate::ToText(offer.StartDay),
                              m_tools.Format.Cents(offer.Former.value_or(0))};
     if (offer.IsOnlyDay) {
-        return cText::Tr("Schon am {4} waren laut Kontoauszug {3} auf dem Konto '{0}'. Soll das Startguthaben von diesem "
-                         "Tag an zählen?",
-                         values);
+        return cText::Tr(
+            "Schon am {4} waren laut Kontoauszug {3} auf dem Konto '{0}'. Soll das Startguthaben von diesem "
+            "Tag an zählen?",
+            values);
     }
     if (offer.FormerDay.isValid()) {
         return cText::Tr("Als Stand vom {1} sind {2} für das Konto '{0}' eingetragen. Soll das so bleiben?", values)

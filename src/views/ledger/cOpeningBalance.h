@@ -33,9 +33,9 @@ public:
 
     // The numbers, each once, of which the rows with higher IDs are the first, or one of them lies before the first
     // balance of the bank, from which the start balance was counted back; those of `balanced`, of which the bank has
-    // now named an earlier balance than before, or one more from before the first row; without any, those whose rows begin before the others and no later than
-    // the start balance, which counts on top of them then. To be asked before numbers get their accounts: all that one
-    // without an account holds counts for the first time.
+    // now named an earlier balance than before, or one more from before the first row; without any, those whose rows
+    // begin before the others and no later than the start balance, which counts on top of them then. To be asked before
+    // numbers get their accounts: all that one without an account holds counts for the first time.
     [[nodiscard]] QStringList Due(QStringList numbers, int newestBefore, const QStringList& balanced) const;
     // Nothing where the book agrees already, where the bank's balance before the first row is not certain, or where the
     // number has no account or shares it with another. The day is that from which on the bank named no other balance.

@@ -586,10 +586,13 @@ void cImportAssistant::Remember()
         return;
     }
     // A known layout says more than a map can keep; it is found again without one. An answered sign is kept for itself:
-    // columns that are empty in this file would be missing from the map for good.
+    // columns that are empty in this file would be missing from the map for good. One that nothing proves would end the
+    // question that the next file needs.
     const cTableChoice& choice = m_works->Choice;
-    const bool isOnlySign = layout.Doubt && choice.Sign && layout.Origin == eMapOrigin::Words && !choice.HeaderLine
-        && !choice.Number && !choice.Date && choice.Profile.isEmpty() && choice.Charset == eCharset::Detect;
+    const bool isAnswered = choice.Sign.has_value();
+    const bool isOnlySign = (layout.Doubt ? isAnswered : layout.IsSignUsual && !isAnswered)
+        && layout.Origin == eMapOrigin::Words && !choice.HeaderLine && !choice.Number && !choice.Date
+        && choice.Profile.isEmpty() && choice.Charset == eCharset::Detect;
     if (!isOnlySign && (m_isTouched || layout.Origin != eMapOrigin::Profile)) {
         (void)modTable::Remember(m_works->Source, m_works->Choice, layout, m_parts.Memory);
     }
