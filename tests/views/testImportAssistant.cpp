@@ -130,7 +130,7 @@ private Q_SLOTS:
         QString shown;
         m_page->Answer = [&](cImportAssistant& assistant) {
             change(assistant);
-            const cImportAssistant::cRow first = assistant.Rows().value(0);
+            const cPreviewRow first = assistant.Rows().value(0);
             shown = QStringList{first.Day, first.Name, first.Purpose, first.Amount, first.Remark}.join(u'|');
         };
         m_page->Import({m_page->WriteFile(u"a.csv"_s, file)}, cStatementFiles::eAssist::Always);

@@ -39,7 +39,6 @@ struct cImportResult
     int Proven = 0;      // of the staged ones: equal to others, but the bank's balances need them
     int Told = 0;        // likewise, but the bank marks each of them
     std::optional<qint64> ClosingBalance; // cents, signed
-<<<<<<< HEAD
     QStringList FirstBalances;    // own account numbers of whose start the balances tell more than those before them
     QList<cReadProblem> Problems; // lines that could not be read
     QList<cSkippedRow> Skipped;   // rows of the file that are no bookings
@@ -49,16 +48,6 @@ struct cImportResult
     QString Message;              // German; empty when all went well
     bool NeedsAccount = false;    // refused only because the file names no account and none was given
     cImportEntryList Unowned;     // refused only because the file names no account: its rows
-=======
-    QStringList FirstBalances;    // own account numbers of whose start the balances tell more than those before them
-    QList<cReadProblem> Problems; // lines that could not be read
-    QList<cSkippedRow> Skipped;   // rows of the file that are no bookings
-    QStringList Accounts;         // own account numbers of the file in their order; "" for statements without one
-    bool IsRefused = false;       // nothing was read; Message says why
-    bool IsCancelled = false;     // the user stopped; nothing of the file was staged
-    QString Message;              // German; empty when all went well
-    bool NeedsAccount = false;    // refused only because the file names no account and none was given
->>>>>>> 201bdb411dbf2450b01e2701b61079d0ac4b706c
     bool IsAccountRemembered = false; // as in cStatementRead
     bool NeedsAssistant = false;      // refused only because a table is not certain, see eUncertain
     bool HasStrayDetails = false;     // refused only because of details before a transaction, see eStrayDetails

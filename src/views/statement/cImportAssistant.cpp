@@ -3,9 +3,7 @@
 #include "base/cProgress.h"
 #include "base/cText.h"
 #include "base/cUser.h"
-#include "base/modDate.h"
 #include "core/cAmountFormat.h"
-#include "import/cell/modTableValue.h"
 #include "import/read/cStatementSource.h"
 #include "import/read/modAccountNumber.h"
 #include "import/read/modStatementFile.h"
@@ -17,7 +15,6 @@
 #include "import/table/cTableMemory.h"
 #include "import/table/modLayoutFile.h"
 #include "import/table/modTableRows.h"
-#include "model/modCutText.h"
 #include "store/cDataAccess.h"
 #include "views/common/modFileWrite.h"
 #include "views/ledger/modImportText.h"
@@ -42,22 +39,6 @@ QString Head(const QString& text)
 {
     const qsizetype end = text.size() > triedText ? text.lastIndexOf(u'\n', triedText) : -1;
     return end > 0 ? text.left(end + 1) : text;
-}
-
-// The number format that the reader would find in all rows of the table.
-eNumberFormat NumberOf(const modTable::cOpened& opened)
-{
-    const cTableLayout& layout = opened.Layout;
-    if (layout.Number != eNumberFormat::Detect) {
-        return layout.Number;
-    }
-    modTableValue::cNumberVote vote;
-    for (int row = layout.FirstRow; row < opened.Table->RowCount(); ++row) {
-        for (const int column : {layout.Map.Amount, layout.Map.Debit, layout.Map.Credit}) {
-            vote.Add(opened.Table->Cell(row, column));
-        }
-    }
-    return vote.Decide();
 }
 
 } // namespace
@@ -202,7 +183,7 @@ QStringList cImportAssistant::Columns() const
 {
     QStringList names = m_works->Opened.Layout.Map.Names;
     qsizetype count = names.size();
-    for (const cRow& row : m_rows) {
+    for (const cPreviewRow& row : m_rows) {
         count = qMax(count, row.Cells.size());
     }
     names.resize(count);
@@ -434,69 +415,9 @@ void cImportAssistant::Evaluate()
         options.DefaultAccount = works.Proposal;
         works.Result = import.ImportSource(works.Tried, options, progress);
     }
-    ReadPreview();
+    m_rows = IsTable() ? modImportPreview::Rows(works.Opened, m_parts.Format, ShownRows)
+                       : modImportPreview::Rows(works.Result.Rows, m_parts.Format, ShownRows);
     Q_EMIT Changed();
-}
-
-void cImportAssistant::ReadPreview()
-{
-    m_rows.clear();
-    if (IsTable()) {
-        const int first = m_works->Opened.Layout.FirstRow;
-        cTableLayout layout = m_works->Opened.Layout;
-        const int all = layout.EndRow < 0 ? m_works->Opened.Table->RowCount() : layout.EndRow;
-        const int end = qMin(all, first + ShownRows);
-        layout.Notes.clear(); // they are about the whole table
-        layout.Number = NumberOf(m_works->Opened);
-        layout.HeaderRow = -1;
-        layout.FirstRow = 0;
-        for (int row = first; row < end; ++row) {
-            m_rows.append(Preview(row, layout));
-        }
-        return;
-    }
-    const cImportEntryList& entries = m_works->Result.Rows;
-    for (const cImportEntry& entry : entries.first(qMin(entries.size(), qsizetype{ShownRows}))) {
-        m_rows.append({0,
-                       {},
-                       modDate::ToText(entry.ImportDate),
-                       modCutText::Name(entry.ImportBeneficiary).simplified(),
-                       modCutText::Purpose(entry.ImportPurpose).simplified(),
-                       m_parts.Format.Cents(entry.ImportValue),
-                       {},
-                       false});
-    }
-}
-
-// Reads one row of the table by itself, so that the user sees what became of it and of no other. In `layout` it is the
-// first one.
-cImportAssistant::cRow cImportAssistant::Preview(int row, const cTableLayout& layout) const
-{
-    const cTable& table = *m_works->Opened.Table;
-    cRow shown;
-    shown.Line = table.Line(row);
-    shown.Cells = table.Row(row);
-    cTable one;
-    one.AddRow(shown.Line);
-    for (const QString& cell : std::as_const(shown.Cells)) {
-        one.AddCell(cell);
-    }
-    if (!layout.IsReadable()) {
-        return shown;
-    }
-    const cStatementRead read = modTableRows::Read(one, layout, {});
-    shown.IsLeftOut = read.Entries.isEmpty();
-    const cImportEntry entry = read.Entries.isEmpty() ? read.Skipped.value(0).Entry : read.Entries.first();
-    shown.Remark = !read.Skipped.isEmpty() ? modImportPreview::Kind(read.Skipped.first().Kind)
-        : read.Problems.isEmpty()          ? QString()
-                                           : read.Problems.first().Text.section(u':', 0, 0);
-    shown.Day = entry.ImportDate.isValid() ? modDate::ToText(entry.ImportDate) : QString();
-    shown.Name = entry.ImportBeneficiary.simplified();
-    shown.Purpose = entry.ImportPurpose.simplified();
-    if (entry.ImportDate.isValid()) {
-        shown.Amount = m_parts.Format.Cents(entry.ImportValue);
-    }
-    return shown;
 }
 
 QString cImportAssistant::CountText() const

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "views/statement/modImportPreview.h"
+
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -16,7 +18,6 @@ class cTableMemory;
 class cUser;
 struct cImportOptions;
 struct cStatementSource;
-struct cTableLayout;
 
 // How one statement file is to be read, decided by the user: what the file looks like, what each column of a table
 // means and which account it belongs to. Every change is tried at once, so that the user sees what would come of it.
@@ -38,19 +39,6 @@ public:
 
     // Choices out of a fixed list.
     enum class eField { Profile, Sheet, Charset, Separator, Number, Date, Sign };
-
-    // One row of the file, and what would become of it.
-    struct cRow
-    {
-        int Line = 0;
-        QStringList Cells; // as they stand in the file; only of a table
-        QString Day;
-        QString Name;
-        QString Purpose;
-        QString Amount;
-        QString Remark; // why it is left out or doubtful; empty when all is well
-        bool IsLeftOut = false;
-    };
 
     static constexpr int ShownRows = 10;
 
@@ -114,10 +102,10 @@ public:
     // Takes such a file; it counts for this file too when that has the same columns. The user is told what came of it.
     void LoadLayout();
 
-    [[nodiscard]] const QList<cRow>& Rows() const { return m_rows; } // the first ones
-    [[nodiscard]] QString CountText() const;                         // what would be taken
-    [[nodiscard]] QStringList LeftOut() const;                       // what would not, with line and reason
-    [[nodiscard]] QString Problem() const;                           // why nothing can be read; else empty
+    [[nodiscard]] const QList<cPreviewRow>& Rows() const { return m_rows; } // the first ones
+    [[nodiscard]] QString CountText() const;                                // what would be taken
+    [[nodiscard]] QStringList LeftOut() const;                              // what would not, with line and reason
+    [[nodiscard]] QString Problem() const;                                  // why nothing can be read; else empty
     [[nodiscard]] bool CanImport() const { return Problem().isEmpty(); }
 
     // Files of one kind are asked about once: true when the other's answers hold for this file too, which has then
@@ -136,8 +124,6 @@ private:
 
     void Touch();
     void Evaluate();
-    void ReadPreview();
-    [[nodiscard]] cRow Preview(int row, const cTableLayout& layout) const;
 
     cParts m_parts;
     std::unique_ptr<cWorks> m_works;
@@ -149,5 +135,5 @@ private:
     bool m_usesPayee = true;
     std::optional<QString> m_account; // as typed
     std::optional<QString> m_bankCode;
-    QList<cRow> m_rows;
+    QList<cPreviewRow> m_rows;
 };

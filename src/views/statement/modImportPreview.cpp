@@ -3,12 +3,96 @@
 #include "base/cText.h"
 #include "base/modDate.h"
 #include "core/cAmountFormat.h"
+#include "import/cell/modTableValue.h"
+#include "import/read/cStatementRead.h"
+#include "import/read/cTableLayout.h"
 #include "import/stage/cImportResult.h"
+#include "import/table/cTable.h"
+#include "import/table/modTable.h"
+#include "import/table/modTableRows.h"
+#include "model/modCutText.h"
 #include "views/ledger/modImportText.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::Literals::StringLiterals;
+
+namespace {
+
+// The number format that the reader would find in all rows of the table.
+eNumberFormat NumberOf(const modTable::cOpened& opened)
+{
+    const cTableLayout& layout = opened.Layout;
+    if (layout.Number != eNumberFormat::Detect) {
+        return layout.Number;
+    }
+    modTableValue::cNumberVote vote;
+    for (int row = layout.FirstRow; row < opened.Table->RowCount(); ++row) {
+        for (const int column : {layout.Map.Amount, layout.Map.Debit, layout.Map.Credit}) {
+            vote.Add(opened.Table->Cell(row, column));
+        }
+    }
+    return vote.Decide();
+}
+
+// In `layout` the row is the first one.
+cPreviewRow RowOf(const cTable& table, int row, const cTableLayout& layout, const cAmountFormat& format)
+{
+    cPreviewRow shown{.Line = table.Line(row), .Cells = table.Row(row)};
+    cTable one;
+    one.AddRow(shown.Line);
+    for (const QString& cell : std::as_const(shown.Cells)) {
+        one.AddCell(cell);
+    }
+    if (!layout.IsReadable()) {
+        return shown;
+    }
+    const cStatementRead read = modTableRows::Read(one, layout, {});
+    shown.IsLeftOut = read.Entries.isEmpty();
+    const cImportEntry entry = read.Entries.isEmpty() ? read.Skipped.value(0).Entry : read.Entries.first();
+    shown.Remark = !read.Skipped.isEmpty() ? modImportPreview::Kind(read.Skipped.first().Kind)
+        : read.Problems.isEmpty()          ? QString()
+                                           : read.Problems.first().Text.section(u':', 0, 0);
+    shown.Day = entry.ImportDate.isValid() ? modDate::ToText(entry.ImportDate) : QString();
+    shown.Name = entry.ImportBeneficiary.simplified();
+    shown.Purpose = entry.ImportPurpose.simplified();
+    if (entry.ImportDate.isValid()) {
+        shown.Amount = format.Cents(entry.ImportValue);
+    }
+    return shown;
+}
+
+} // namespace
+
+QList<cPreviewRow> modImportPreview::Rows(const modTable::cOpened& opened, const cAmountFormat& format, int most)
+{
+    const int first = opened.Layout.FirstRow;
+    cTableLayout layout = opened.Layout;
+    const int all = layout.EndRow < 0 ? opened.Table->RowCount() : layout.EndRow;
+    const int end = qMin(all, first + most);
+    layout.Notes.clear(); // they are about the whole table
+    layout.Number = NumberOf(opened);
+    layout.HeaderRow = -1;
+    layout.FirstRow = 0;
+    QList<cPreviewRow> rows;
+    for (int row = first; row < end; ++row) {
+        rows.append(RowOf(*opened.Table, row, layout, format));
+    }
+    return rows;
+}
+
+QList<cPreviewRow> modImportPreview::Rows(const cImportEntryList& entries, const cAmountFormat& format, int most)
+{
+    QList<cPreviewRow> rows;
+    for (const cImportEntry& entry : entries.first(qMin(entries.size(), qsizetype{most}))) {
+        rows.append({.Day = modDate::ToText(entry.ImportDate),
+                     .Name = modCutText::Name(entry.ImportBeneficiary).simplified(),
+                     .Purpose = modCutText::Purpose(entry.ImportPurpose).simplified(),
+                     .Amount = format.Cents(entry.ImportValue)});
+    }
+    return rows;
+}
 
 QString modImportPreview::Kind(eSkipped kind)
 {

@@ -119,14 +119,14 @@ void cImportPreview::changeEvent(QEvent* event)
 void cImportPreview::ShowCells()
 {
     const QStringList columns = m_assistant.Columns();
-    const QList<cImportAssistant::cRow>& rows = m_assistant.Rows();
+    const QList<cPreviewRow>& rows = m_assistant.Rows();
     const int scrolled = m_cells->horizontalScrollBar()->value();
     m_cells->setColumnCount(static_cast<int>(columns.size()));
     m_cells->setHorizontalHeaderLabels(columns);
     m_cells->setRowCount(static_cast<int>(rows.size()) + 1);
     QStringList lines{QString()};
     for (int i = 0; i < rows.size(); ++i) {
-        const cImportAssistant::cRow& row = rows.at(i);
+        const cPreviewRow& row = rows.at(i);
         lines.append(LineText(row.Line));
         for (int column = 0; column < columns.size(); ++column) {
             auto* item = new QTableWidgetItem(row.Cells.value(column));
@@ -184,11 +184,11 @@ void cImportPreview::AddMeaning(int column, const QString& name)
 
 void cImportPreview::ShowRead()
 {
-    const QList<cImportAssistant::cRow>& rows = m_assistant.Rows();
+    const QList<cPreviewRow>& rows = m_assistant.Rows();
     m_read->setRowCount(static_cast<int>(rows.size()));
     QStringList lines;
     for (int i = 0; i < rows.size(); ++i) {
-        const cImportAssistant::cRow& row = rows.at(i);
+        const cPreviewRow& row = rows.at(i);
         lines.append(row.Line > 0 ? LineText(row.Line) : QString::number(i + 1));
         const QStringList texts{row.Day, row.Name, row.Purpose, row.Amount, row.Remark};
         for (int column = 0; column < texts.size(); ++column) {
