@@ -290,6 +290,29 @@ private Q_SLOTS:
         QCOMPARE(Corrections(book, book.Rent), before);
     }
 
+    // It pays the same account as before, so nothing is lost; an income would.
+    void PaidOnesOfAnotherKind_data()
+    {
+        const cTestRows<QString, QString, QStringList, int> row("type", "amount", "stored", "asked");
+        row("transfer", modWord::Umbuchung, u"15"_s, {u"2026-04-01 1000 Laut Kontoauszug"_s}, 0);
+        row("income", modWord::Einnahme, u"10"_s, {}, 1);
+    }
+
+    void PaidOnesOfAnotherKind()
+    {
+        QFETCH(const QString, type);
+        QFETCH(const QString, amount);
+        cRentBook book;
+        book.Stage({}, QDate(2026, 4, 10), -1000, {}, book.Rent);
+        cEntryFields fields = book.Editor.Load(book.Rent).value();
+        fields.Type = type;
+        fields.Target = u"Sparkonto"_s;
+        fields.Amount = amount;
+        (void)book.Editor.Save(fields);
+        QTEST(Corrections(book, book.Rent), "stored");
+        QTEST(static_cast<int>(book.User.Asked.size()), "asked");
+    }
+
     // By hand, and booked by the bank as it stands there.
     void WhatWasPaidStaysWithAnotherEnd()
     {

@@ -9,6 +9,7 @@
 #include "model/modRecurrence.h"
 #include "model/modSeries.h"
 #include "model/modSplit.h"
+#include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cSplitGroup.h"
 
@@ -27,11 +28,16 @@ const cEntryItemFixMod* Find(const cEntryItemFixModList& fixMods, QDate start)
     return found == fixMods.end() ? nullptr : &*found;
 }
 
-// What the bank knows of a purchase.
+// What the bank knows of a purchase, below zero where the account pays it.
 qint64 Whole(const cEntryItemList& parts)
 {
     const cEntryItem& first = parts.first();
-    return first.IsTransfer() ? first.EntryValue : modSplit::Net(parts);
+    return first.IsTransfer() ? -first.EntryValue : modSplit::Net(parts);
+}
+
+bool IsIncome(const cEntryItem& entry)
+{
+    return entry.EntryType == modWord::Einnahme;
 }
 
 cEntryItemList EntriesOf(const QList<cEntryWrite>& rows)
@@ -70,9 +76,10 @@ bool cEntryWriter::Loses(const cEntryWrite& row, QDate from, const QSet<QDate>& 
 
 bool cEntryWriter::AskLosses(QList<cEntryWrite>& rows, QDate from)
 {
-    const cEntryItemList stored = StoredSeries(rows, {});
     QSet<QDate> booked;
-    ForBooked(stored, [&](QDate start, qint64) { booked.insert(start); });
+    if (std::any_of(rows.begin(), rows.end(), [&](const cEntryWrite& row) { return Loses(row, from, {}); })) {
+        ForBooked(StoredSeries(rows, {}), [&](QDate start, qint64) { booked.insert(start); });
+    }
     QList<cEntryWrite*> losing;
     for (cEntryWrite& row : rows) {
         if (Loses(row, from, booked)) {
@@ -130,7 +137,7 @@ std::optional<int> cEntryWriter::KeepPaid(QList<cEntryWrite>& rows, const QList<
     const cPaid paid = PaidPeriods(before, rows);
     const bool isTurned = std::any_of(rows.begin(), rows.end(), [&](const cEntryWrite& row) {
         return std::any_of(before.begin(), before.end(), [&](const cEntryItem& series) {
-            return series.ID == row.Entry.ID && series.EntryType != row.Entry.EntryType;
+            return series.ID == row.Entry.ID && IsIncome(series) != IsIncome(row.Entry);
         });
     });
     if (!removed.isEmpty() || isTurned) { // a correction has no sign
@@ -164,7 +171,8 @@ bool cEntryWriter::AskLosing(const cEntryItem& stored, const cPaid& paid, const 
                                          "mit ihr überein.\nSoll der "
                                          "Eintrag trotzdem gespeichert werden?",
                                          {modCount::Times(count)}),
-                       .Title = {}})
+                       .Title = {},
+                       .Default = eAnswer::No})
         == eAnswer::Yes;
 }
 
@@ -235,11 +243,13 @@ void cEntryWriter::ForBooked(const cEntryItemList& series, const std::function<v
 cEntryWriter::cPaid cEntryWriter::PaidPeriods(const cEntryItemList& before, const QList<cEntryWrite>& rows) const
 {
     cPaid paid;
-    const qint64 cents = std::abs(Whole(EntriesOf(rows)));
+    const qint64 stored = Whole(before);
+    const qint64 wanted = Whole(EntriesOf(rows));
+    const bool isTurned = (stored < 0) != (wanted < 0);
     ForBooked(before, [&](QDate start, qint64 booked) {
-        if (booked != cents) {
+        if (isTurned || booked != std::abs(wanted)) {
             bool& isAsStored = paid[start];
-            isAsStored = isAsStored || booked == std::abs(Whole(before));
+            isAsStored = isAsStored || booked == std::abs(stored);
         }
     });
     return paid;

@@ -63,7 +63,9 @@ void cAccountListModel::SetWarnings(const QList<cLimitWarning>& warnings)
     }
     if (texts != m_warnings) {
         m_warnings = texts;
-        Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+        if (rowCount() > 0) { // at a start they are known before the balances are
+            Q_EMIT dataChanged(index(0, 0), index(rowCount() - 1, ColumnCount - 1));
+        }
     }
 }
 
