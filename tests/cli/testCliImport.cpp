@@ -112,6 +112,49 @@ private Q_SLOTS:
         Do(u"import|"_s + file);
     }
 
+    void EqualRowsOfSeveralFiles_data()
+    {
+        const QByteArray head = "IBAN;DE02100200300001234567\n\nBuchungstag;Verwendungszweck;Betrag";
+        const QByteArray open = head + "\n03.05.2026;Fahrkarte;-2,00\n03.05.2026;Fahrkarte;-2,00\n";
+        const QByteArray proven = head
+            + ";Saldo\n02.05.2026;Anfang;1,00;9,00\n03.05.2026;Fahrkarte;-2,00;7,00\n"
+              "03.05.2026;Fahrkarte;-2,00;5,00\n04.05.2026;Ende;1,00;6,00\n";
+        const QByteArray listedTwice = ":20:A\n:25:1\n:60F:C260502EUR9,00\n:61:260503D2,00NMSC\n:86:Fahrkarte\n"
+                                       ":61:260503D2,00NMSC\n:86:Fahrkarte\n:62F:C260503EUR7,00\n-\n";
+        // repeats: of the files in their order
+        const cTestRows<QList<QByteArray>, QString, QStringList, int> row("files", "options", "repeats", "staged");
+        row("the same twice", {open, open}, {}, {u"1"_s, u"0"_s}, 1);
+        row("brought by the next one", {open, proven}, {}, {u"0"_s, u"0"_s}, 4);
+        row("wanted", {open, open}, u"|--take-equal"_s, {u"0"_s, u"0"_s}, 2);
+        row("wanted, against the bank", {listedTwice}, u"|--take-equal"_s, {u"0"_s}, 1);
+    }
+
+    // One import, in which a file may settle what another one leaves open, also where it is only tried.
+    void EqualRowsOfSeveralFiles()
+    {
+        QFETCH(const QList<QByteArray>, files);
+        QFETCH(QString, options);
+        QFETCH(const QStringList, repeats);
+        QFETCH(const int, staged);
+        for (const QByteArray& file : files) {
+            options += u'|' + Write(QString::number(options.size()), file);
+        }
+        Do(u"balances"_s); // makes the book
+        QCOMPARE(Do(u"import|--json|--dry-run"_s + options).Column(u"repeats"_s), repeats);
+        const cCliRun run = Do(u"import|--json"_s + options);
+        QCOMPARE(run.Column(u"repeats"_s), repeats);
+        QCOMPARE(run.Error.contains(u"noch einmal gleich"), repeats.contains(u"1"_s));
+        QCOMPARE(Do(u"staged|--json"_s).Json().size(), staged);
+    }
+
+    // By then its account is known by the number that the file before it names.
+    void LaterFileIsOfTheAccount()
+    {
+        Do(u"import|--account|Girokonto|--book-account|Girokonto|%1|%2"_s.arg(m_giro, m_table));
+        const QStringList numbers = Do(u"staged|--json"_s).Column(u"ImportAccount"_s);
+        QCOMPARE(numbers.count(numbers.constFirst()), numbers.size());
+    }
+
     void SkippedRowsAndLayoutAreTold()
     {
         const cCliRun run = Do(u"import|%1|--json|--account|1|--map|datum=0,zweck=1,betrag=3,status=4"_s.arg(m_table));

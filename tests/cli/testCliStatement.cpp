@@ -36,17 +36,25 @@ private Q_SLOTS:
         QCOMPARE(Run(u"statement|--account|4712"_s).Code, 1);
     }
 
-    // Its rows would count on top of the start balance, which the later statement brought.
+    void OlderStatementMovesTheStart_data()
+    {
+        const cTestRows<bool> row("together");
+        row("one after the other", false);
+        row("as one import", true);
+    }
+
+    // Its rows would count on top of the start balance, which the later statement brought. It is told once by import.
     void OlderStatementMovesTheStart()
     {
-        Do(u"import|--book-account|Girokonto|"_s
-           + Write(u"2.sta"_s, QByteArray(incomplete).replace("216,90", "240,00")));
-        const cCliRun older =
-            Do(u"import|"_s
-               + Write(u"1.sta"_s,
-                       ":20:A\n:25:99900010/4711000815\n:60F:C251231EUR1000,00\n:61:260115D100,00NMSC\n"
-                       ":86:106?20Korn\n:62F:C260131EUR900,00\n-\n"));
-        QVERIFY2(older.Error.contains(u"Startguthaben von 'Girokonto': 1.000,00"), qPrintable(older.Text()));
+        QFETCH(const bool, together);
+        const QString giro = u"import|--book-account|Girokonto|"_s;
+        const QString later = Write(u"2.sta"_s, QByteArray(incomplete).replace("216,90", "240,00"));
+        const QString earlier = Write(u"1.sta"_s,
+                                      ":20:A\n:25:99900010/4711000815\n:60F:C251231EUR1000,00\n:61:260115D100,00NMSC\n"
+                                      ":86:106?20Korn\n:62F:C260131EUR900,00\n-\n");
+        const cCliRun run = together ? Do(giro + later + u'|' + earlier) : (Do(giro + later), Do(giro + earlier));
+        QVERIFY2(run.Error.contains(u"Startguthaben von 'Girokonto': 1.000,00"), qPrintable(run.Text()));
+        QCOMPARE(run.Error.count(u"Startguthaben"_s), 1);
         Do(u"book|--all"_s);
         QVERIFY(Do(u"reconcile"_s).Out.contains(u"240,00"));
     }

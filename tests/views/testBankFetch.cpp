@@ -14,6 +14,7 @@
 #include "views/statement/cFileReport.h"
 #include "views/statement/cFileWish.h"
 #include "views/statement/cStatementDesk.h"
+#include "views/statement/cLeftOutList.h"
 #include "views/statement/cStatementFiles.h"
 
 #include <QSignalSpy>
@@ -130,7 +131,7 @@ struct cRound : cHousehold
 
     int ReadFile(const QString& name, const QByteArray& bytes)
     {
-        return Desk.ImportFile(WriteFile(name, bytes), {}).Staged;
+        return Desk.ImportFiles({WriteFile(name, bytes)}, {}).Files.constFirst().Staged;
     }
 
     // The new rows of a fetch that has to succeed; else -1.
@@ -303,11 +304,11 @@ private Q_SLOTS:
         const cBankFetch::cLine line = m_scene->Fetch.Lines().at(0);
         QCOMPARE(QList({line.New, line.Known, line.LeftOut}), QList({0, 6, 1}));
         QCOMPARE(m_scene->Fetch.Summary(), u"Keine neuen Umsätze."_s);
-        const QStringList leftOut = m_scene->Files.LeftOut();
+        const QStringList leftOut = m_scene->Files.LeftOut().Texts();
         QCOMPARE(leftOut.size(), 7);
         QCOMPARE(leftOut.filter(u"·  schon vorhanden, nur anders geschrieben"_s).size(), 2);
         QCOMPARE(leftOut.filter(u"·  früher abgerufen und von Ihnen gelöscht"_s).size(), 1);
-        m_scene->Files.StageLeftOut({6});
+        m_scene->Files.LeftOut().Stage({6});
         QCOMPARE(m_scene->Hive.GetImportHive().Count(), 7);
         QVERIFY(!m_scene->Files.CanReadAgain());
     }

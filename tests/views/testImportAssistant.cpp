@@ -5,6 +5,7 @@
 #include "support/testBook.h"
 #include "views/statement/cImportAssistant.h"
 #include "views/statement/cImportReview.h"
+#include "views/statement/cLeftOutList.h"
 #include "views/statement/cStatementFiles.h"
 
 #include <functional>
@@ -321,9 +322,9 @@ private Q_SLOTS:
             QVERIFY(assistant.LeftOut().first().startsWith(u"Zeile 4: Der Umsatz ist noch vorgemerkt"));
         };
         m_page->Import({m_page->WriteFile(u"a.csv"_s, plain)});
-        QCOMPARE(m_page->Review.Files().LeftOut().size(), 1);
-        QVERIFY(m_page->Review.Files().LeftOut().first().endsWith(u"vorgemerkt"));
-        m_page->Review.Files().StageLeftOut({0});
+        QCOMPARE(m_page->Review.Files().LeftOut().Texts().size(), 1);
+        QVERIFY(m_page->Review.Files().LeftOut().Texts().first().endsWith(u"vorgemerkt"));
+        m_page->Review.Files().LeftOut().Stage({0});
         QCOMPARE(m_page->Purposes().value(2), u"Kiosk am Bahnhof"_s);
         QCOMPARE(m_page->Data.GetImportEntries().last().ImportAccount, u"4711"_s);
     }

@@ -10,6 +10,7 @@
 #include "views/bank/cBankFetch.h"
 #include "views/common/modFileWrite.h"
 #include "views/statement/cStatementFiles.h"
+#include "views/statement/cStatementWishes.h"
 
 #include <algorithm>
 #include <numeric>
@@ -150,7 +151,7 @@ bool AreAssigned(cCliBook& book, cBankFetch& fetch, const QList<qsizetype>& plac
         if (account.BookAccount.isEmpty()) {
             QStringList notes;
             const QStringList numbers{account.Iban.isEmpty() ? account.Number : account.Iban};
-            isDone = book.Statements.AssignAccounts(numbers, {}, notes) && isDone;
+            isDone = book.Statements.Files().AssignAccounts(numbers, notes) && isDone;
             for (const QString& note : std::as_const(notes)) {
                 modConsole::Error(note);
             }
@@ -175,17 +176,17 @@ int FetchAccounts(const cCliContext& context, const cBankFetch::cWish& wish)
                                                      : cText::Tr("Kein eingerichtetes Bankkonto passt dazu."));
         return modExit::Failed;
     }
+    using eWish = cStatementWishes::eWish;
+    book.Statements.Files().SetWishes({.Repeats = context.Call.Has(u"take-equal"_s) ? eWish::Take : eWish::Leave,
+                                       .Start = eWish::Take,
+                                       .Currency = context.Call.Has(u"take-currency"_s) ? eWish::Take : eWish::Leave,
+                                       .Accounts = eWish::Take});
     book.File().CopyIfChanged();
     if (!AreAssigned(book, fetch, chosen.Accounts)) {
         return modExit::Failed;
     }
     // Who names the first day wants what lies that far back; else the days that are missing are named.
     context.User.Prepare({.Answer = wish.From.isValid() ? eAnswer::Yes : eAnswer::No});
-    book.Statements.Files().SetRepeats(context.Call.Has(u"take-equal"_s) ? cStatementFiles::eWish::Take
-                                                                         : cStatementFiles::eWish::Leave);
-    book.Statements.Files().SetCurrency(context.Call.Has(u"take-currency"_s) ? cStatementFiles::eWish::Take
-                                                                             : cStatementFiles::eWish::Leave);
-    book.Statements.Files().SetStart(cStatementFiles::eWish::Take);
     cNoProgress progress;
     const bool isDone = fetch.Run(chosen, progress);
     Print(context, fetch, chosen.Accounts);

@@ -112,14 +112,12 @@ int ImportFiles(const cCliContext& context, const cFileWish& wish)
     cCliBook& book = *context.Book;
     const QList<int> before = book.Statements.OpenIds();
     book.File().CopyIfChanged(); // not for a trial, which can only read
-    bool isDone = true;
+    const cFilesReport imported = book.Statements.ImportFiles(context.Call.Arguments(), wish);
+    for (const QString& note : imported.Notes) {
+        modConsole::Error(note);
+    }
     QStringList objects;
-    for (const QString& file : context.Call.Arguments()) {
-        const cFileReport report = book.Statements.ImportFile(file, wish);
-        isDone = isDone && report.IsDone;
-        for (const QString& note : report.Notes) {
-            modConsole::Error(note);
-        }
+    for (const cFileReport& report : imported.Files) {
         if (context.Call.Has(u"json"_s)) {
             objects.append(ToJson(report, wish.IsTrial));
         } else {
@@ -129,7 +127,7 @@ int ImportFiles(const cCliContext& context, const cFileWish& wish)
             modConsole::Error(modCliCommands::EqualRows(report.Repeats.size()));
         }
         if (!report.Message.isEmpty()) {
-            modConsole::Error(file + u": "_s + report.Message);
+            modConsole::Error(report.File + u": "_s + report.Message);
         }
         if (report.HasStrayDetails) {
             modConsole::Error(cText::Tr("Mit --skip-stray-details wird die Datei ohne diese Zeilen gelesen."));
@@ -142,7 +140,7 @@ int ImportFiles(const cCliContext& context, const cFileWish& wish)
         modConsole::Out(modJson::Array(objects) + u'\n');
     }
     const int booked = context.Call.Has(u"book"_s) && !wish.IsTrial ? BookNew(context, before) : int{modExit::Done};
-    return isDone ? booked : modExit::Failed;
+    return imported.IsDone ? booked : modExit::Failed;
 }
 
 int RunImport(const cCliContext& context)

@@ -162,9 +162,13 @@ cImportEntryList RowsToTest(const cCliContext& context, cCliReader& reader)
         const std::optional<cImportEntry> row = reader.StagedRow(argument);
         return row ? cImportEntryList{*row} : cImportEntryList();
     }
-    const cFileReport report = book.Statements.ImportFile(
-        argument,
-        {.Account = context.Call.Value(u"account"_s), .KeepsDuplicates = true, .IsTrial = true, .TakesCurrency = true});
+    const cFilesReport tried =
+        book.Statements.ImportFiles({argument},
+                                    {.Account = context.Call.Value(u"account"_s),
+                                     .KeepsDuplicates = true,
+                                     .IsTrial = true,
+                                     .TakesCurrency = true});
+    const cFileReport& report = tried.Files.constFirst();
     if (report.IsRefused) {
         reader.Missing(argument + u": "_s + report.Message);
     }

@@ -485,10 +485,11 @@ void cStatementImport::SettleEqual(const cStatementRead& read, const cImportOpti
     for (qsizetype i = 0; i < proofs.size(); ++i) {
         cRepeat repeat = result.Repeats.at(i);
         repeat.WasLeftOut = cLeftOutRows(settings).Has(repeat);
-        const bool isTold = repeat.IsTold && proofs.at(i) == eProof::None;
-        const bool isTaken =
-            proofs.at(i) == eProof::Real || isTold || options.Equal == eEqualRows::Take || IsOfBook(read, repeat.Entry);
-        if (!isTaken && proofs.at(i) == eProof::None) {
+        const bool isOpen = proofs.at(i) == eProof::None;
+        const bool isTold = isOpen && repeat.IsTold;
+        const bool isTaken = proofs.at(i) == eProof::Real || isTold || (isOpen && options.Equal == eEqualRows::Take)
+            || IsOfBook(read, repeat.Entry);
+        if (!isTaken && isOpen) {
             open.append(repeat);
             continue;
         }

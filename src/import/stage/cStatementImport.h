@@ -23,7 +23,7 @@ struct cStatementSource;
 enum class eUncertain { Read, Ask };
 
 // What becomes of rows that a file has more often than the book: those that the balances of the bank prove are staged,
-// the others are reported, or all are staged.
+// those about which they say nothing are reported, or staged as well.
 enum class eEqualRows { Report, Take };
 
 struct cImportOptions
@@ -72,13 +72,15 @@ public:
     [[nodiscard]] cImportResult ImportFetched(const cFetchedStatement& fetched, const cImportOptions& options,
                                               cProgress& progress);
 
+    // The staged rows with those of the files that were read in this way.
+    [[nodiscard]] cStaging& StagingFor(eStagingRun run);
+
 private:
     [[nodiscard]] cImportResult ReadAndStage(cStatementSource source, const cImportOptions& options,
                                              cProgress& progress);
     [[nodiscard]] cStatementRead Read(const cStatementSource& source, eStatementFormat format,
                                       const cImportOptions& options, cProgress& progress);
     [[nodiscard]] QString WhyNot(eStatementFormat format, const cImportOptions& options) const;
-    [[nodiscard]] cStaging& StagingFor(eStagingRun run);
     void StageAsOne(cStatementRead read, const cImportOptions& options, cProgress& progress, cImportResult& result,
                     const cFetchedStatement* fetched = nullptr);
     void FitToBook(cStatementRead& read, cKnownAccounts& known, const cImportOptions& options, eStatementFormat kind);

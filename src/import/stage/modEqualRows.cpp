@@ -174,3 +174,18 @@ QList<eProof> modEqualRows::Prove(const cRepeatList& repeats, const cImportEntry
     }
     return proofs;
 }
+
+void modEqualRows::Settle(QList<cImportResult>& results, cStaging& staging)
+{
+    cRepeatList open;
+    const auto isSettled = [&](const cRepeat& repeat) {
+        return staging.AllButBlanks(repeat.Entry).size() >= repeat.Number
+            || std::any_of(open.begin(), open.end(), [&](const cRepeat& other) {
+                   return other.Number == repeat.Number && other.Entry.isEqualButBlanks(repeat.Entry);
+               });
+    };
+    for (cImportResult& result : results) {
+        result.Repeats.removeIf(isSettled);
+        open += result.Repeats;
+    }
+}

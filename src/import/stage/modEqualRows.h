@@ -30,4 +30,7 @@ using fnBalances = std::function<cBankBalanceList(const QString& account)>;
 [[nodiscard]] QList<eProof> Prove(const cRepeatList& repeats, const cImportEntryList& staged,
                                   const fnBalances& balances);
 
+// Removes from the repeats of several files what another one of them has brought meanwhile, or leaves open as well.
+void Settle(QList<cImportResult>& results, cStaging& staging);
+
 } // namespace modEqualRows

@@ -45,11 +45,17 @@ struct cFileReport
     bool IsRefused = false;
     QString Message;     // why, or what went wrong; empty when all went well
     QString Numbers;     // "7 gelesen, 5 neu"
-    QStringList Notes;   // what else became of the file: accounts that its numbers belong to now
-    bool IsDone = false; // all of it is as it should be
 
     bool HasStrayDetails = false;  // refused only because of them, see cFileWish
     bool HasOtherCurrency = false; // likewise
+};
+
+// What came of several.
+struct cFilesReport
+{
+    QList<cFileReport> Files{};
+    QStringList Notes{}; // what else became of them: accounts that their numbers belong to now
+    bool IsDone = false; // all of it is as it should be
 };
 
 // What a file is and how it would be read.

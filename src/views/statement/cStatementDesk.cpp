@@ -5,13 +5,10 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "import/match/cMatcher.h"
-#include "import/read/modAccountNumber.h"
 #include "import/read/modStatementFile.h"
 #include "import/sheet/modSpreadsheet.h"
 #include "import/stage/cAccountMap.h"
-#include "import/stage/cBankBalances.h"
 #include "import/stage/cImportHiveCache.h"
-#include "import/stage/cLeftOutRows.h"
 #include "import/stage/cStatementImport.h"
 #include "import/stage/modStatementFormat.h"
 #include "import/table/cTable.h"
@@ -20,10 +17,10 @@
 #include "import/table/modTable.h"
 #include "import/table/modTableProfile.h"
 #include "views/common/modFileWrite.h"
-#include "views/ledger/cOpeningBalance.h"
 #include "views/ledger/modImportText.h"
 #include "views/rule/cRuleTrial.h"
 #include "views/statement/cFileReport.h"
+#include "views/statement/cFilesOutcome.h"
 #include "views/statement/cFileWish.h"
 #include "views/statement/cLayoutTaken.h"
 #include "views/statement/cSeriesCheck.h"
@@ -100,19 +97,30 @@ cFileReport Report(const cImportResult& result, const cAmountFormat& format)
                                     modTableOption::SignNames().constFirst(), modTableOption::SignNames().constLast()});
     }
     report.Numbers = modImportText::Numbers(result, format);
-    report.IsDone = !result.IsRefused && result.Failed == 0;
     return report;
 }
 
-// The number that was given for files that name no account is remembered for the next one of the same layout.
-void RememberAccount(const cImportResult& result, const QString& number, cTableMemory& memory)
+// Nobody is there to be asked.
+cStatementWishes Wishes(const cFileWish& wish)
 {
-    const bool isUsed = std::any_of(result.Accounts.begin(), result.Accounts.end(), [&](const QString& account) {
-        return modAccountNumber::IsSame(account, {}, number);
-    });
-    if (isUsed) {
-        (void)memory.SaveAccount(result.AccountKey, number);
-    }
+    using eWish = cStatementWishes::eWish;
+    const auto takenIf = [](bool isWanted) { return isWanted ? eWish::Take : eWish::Leave; };
+    return {.Repeats = takenIf(wish.TakesEqual),
+            .Start = takenIf(!wish.KeepsStart),
+            .Currency = takenIf(wish.TakesCurrency),
+            .Strays = takenIf(wish.SkipsStrayDetails),
+            .Accounts = eWish::Take,
+            .Account = wish.BookAccount};
+}
+
+cImportOptions Options(const cFileWish& wish)
+{
+    cImportOptions options;
+    options.Duplicates = wish.KeepsDuplicates ? eDuplicateTest::Skip : eDuplicateTest::Test;
+    options.DefaultAccount = wish.Account;
+    options.Table = modTableOption::Choice(wish);
+    options.Run = wish.IsTrial ? eStagingRun::Try : eStagingRun::Write;
+    return options;
 }
 
 // The layout of a file in rows and columns; none for another one.
@@ -166,27 +174,9 @@ QString CharsetName(const cStatementSource& source, eCharset chosen)
 
 struct cStatementDesk::cWorks : cStatementWorks
 {
-    explicit cWorks(const cBookTools& tools)
-        : cStatementWorks(tools),
-          Memory(tools.Settings),
-          Balances(tools.Settings),
-          Import(tools.Data, Hive, &Memory, &Balances)
-    {
-    }
-
-    void NoteRows(const cImportResult& result)
-    {
-        QList<int> ids;
-        for (const cFormatRows& each : result.ByFormat) {
-            Runs.NoteFile(each.Ids, each.Format);
-            ids += each.Ids;
-        }
-        Runs.NoteImport(ids);
-    }
+    explicit cWorks(const cBookTools& tools) : cStatementWorks(tools), Memory(tools.Settings) {}
 
     cTableMemory Memory;
-    cBankBalances Balances;
-    cStatementImport Import;
 };
 
 cStatementDesk::cStatementDesk(const cBookTools& tools) : m_tools(tools), m_works(std::make_unique<cWorks>(tools))
@@ -274,54 +264,12 @@ QList<int> cStatementDesk::FirstRules(const cImportEntryList& rows, const QList<
     return places;
 }
 
-// One account for all leaves the names of the file's own without meaning.
-bool cStatementDesk::TakeNames(cForeignNames names, const QStringList& numbers, const QString& wanted,
-                               QStringList& notes)
-{
-    cForeignNames missing = modForeignNames::Missing(names, m_tools.Data, m_works->Accounts);
-    if (!wanted.isEmpty()) {
-        missing.Accounts.clear();
-        names.Accounts.removeIf([&](const QString& name) { return numbers.contains(name); });
-    }
-    if (!missing.Bad.isEmpty()) {
-        notes.append(modForeignNames::BadText(missing.Bad));
-    }
-    if (!missing.IsEmpty()) {
-        if (!modForeignNames::Create(missing, m_tools.Data, m_works->Accounts)) {
-            return false;
-        }
-        notes.append(cText::Tr("Aus der Datei angelegt: {0}", {modForeignNames::Count(missing)}));
-    }
-    (void)m_works->Accounts.AssignNames(names.Accounts);
-    return true;
-}
-
-bool cStatementDesk::AssignAccounts(const QStringList& numbers, const QString& wanted, QStringList& notes)
-{
-    if (wanted.isEmpty()) {
-        (void)m_works->Accounts.AssignNames(numbers);
-    }
-    const QStringList unknown = m_works->Accounts.Unknown(numbers);
-    for (const QString& number : unknown) {
-        const QString proposal = m_works->Accounts.Proposal(number);
-        const QString account = !wanted.isEmpty() ? wanted
-            : proposal.isEmpty()                  ? m_works->Accounts.NewName(number)
-                                                  : proposal;
-        if (!m_works->Accounts.Assign(number, account)) {
-            notes.append(cText::Tr("Der Kontonummer '{0}' konnte kein Konto zugeordnet werden.", {number}));
-            return false;
-        }
-        notes.append(cText::Tr("Die Kontonummer '{0}' gehört nun zum Konto '{1}'.", {number, account}));
-    }
-    return true;
-}
-
 cStatementFiles& cStatementDesk::Files()
 {
     return m_works->Files;
 }
 
-bool cStatementDesk::RememberLayout(const QString& path, const cFileWish& wish, QStringList& notes)
+bool cStatementDesk::SaveLayout(const QString& path, const cFileWish& wish)
 {
     cReadOptions options;
     options.Account = wish.Account;
@@ -330,64 +278,37 @@ bool cStatementDesk::RememberLayout(const QString& path, const cFileWish& wish, 
     const cStatementSource source =
         modStatementFormat::Source(path, modStatementFile::Read(path).Bytes, options.Table.Charset);
     const std::optional<modTable::cOpened> opened = OpenTable(source, options);
-    if (opened && opened->Layout.IsReadable()
-        && modTable::Remember(source, options.Table, opened->Layout, m_works->Memory)) {
+    return opened && opened->Layout.IsReadable()
+        && modTable::Remember(source, options.Table, opened->Layout, m_works->Memory);
+}
+
+cFilesReport cStatementDesk::ImportFiles(const QStringList& paths, const cFileWish& wish)
+{
+    m_works->Files.SetWishes(Wishes(wish));
+    cNoProgress progress;
+    const cFilesOutcome outcome = m_works->Files.ReadFiles(paths, Options(wish), progress);
+    cFilesReport report{.Notes = outcome.Notes, .IsDone = outcome.IsDone};
+    for (const cImportResult& result : outcome.Files) {
+        report.Files.append(Report(result, m_tools.Format));
+        report.IsDone = !result.IsRefused && result.Failed == 0 && report.IsDone;
+        if (!wish.IsTrial && !result.IsRefused) {
+            report.IsDone = RememberLayout(result, wish, report.Notes) && report.IsDone;
+        }
+    }
+    return report;
+}
+
+// Also how the amounts count, once that was said: a table without names for its columns is asked about again.
+bool cStatementDesk::RememberLayout(const cImportResult& result, const cFileWish& wish, QStringList& notes)
+{
+    const bool isSignOpen = !wish.Sign.isEmpty() && !result.IsSignKept;
+    if ((!wish.Remembers && !isSignOpen) || SaveLayout(result.File, wish) || !wish.Remembers) {
         return true;
     }
     notes.append(cText::Tr("{0}: Der Aufbau kann nicht gemerkt werden. Das geht nur bei Tabellen mit einer Zeile für "
                            "die Spaltennamen.",
-                           {path}));
+                           {result.File}));
     return false;
-}
-
-bool cStatementDesk::TakeStart(const QString& number, QStringList& notes)
-{
-    const cOpeningBalance opening(m_tools);
-    const std::optional<cOpeningBalance::cOffer> offer = opening.For(number);
-    if (!offer) {
-        return true;
-    }
-    notes.append(opening.Report(*offer));
-    return opening.Take(*offer);
-}
-
-cFileReport cStatementDesk::ImportFile(const QString& path, const cFileWish& wish)
-{
-    cImportOptions options;
-    options.Duplicates = wish.KeepsDuplicates ? eDuplicateTest::Skip : eDuplicateTest::Test;
-    options.Equal = wish.TakesEqual ? eEqualRows::Take : eEqualRows::Report;
-    options.DefaultAccount = m_works->Accounts.NumberMeant(wish.Account);
-    options.Table = modTableOption::Choice(wish);
-    options.Run = wish.IsTrial ? eStagingRun::Try : eStagingRun::Write;
-    options.StrayDetails = wish.SkipsStrayDetails ? eStrayDetails::PassOver : eStrayDetails::Refuse;
-    options.BookCurrency = wish.TakesCurrency ? QString() : m_tools.Format.CurrencyCode();
-    cNoProgress progress;
-    const int newest = m_works->Hive.GetImportHive().NextId() - 1;
-    const cImportResult result = m_works->Import.ImportFile(path, options, progress);
-    cFileReport report = Report(result, m_tools.Format);
-    if (wish.IsTrial) {
-        return report;
-    }
-    m_works->NoteRows(result);
-    RememberAccount(result, options.DefaultAccount, m_works->Memory);
-    const cOpeningBalance opening(m_tools);
-    cLeftOutRows leftOut(m_tools.Settings);
-    (void)(leftOut.Forget(result.Settled) && leftOut.Note(result.Repeats)); // of a refusal the user has been told
-    const QStringList due =
-        wish.KeepsStart ? QStringList() : opening.Due(result.Accounts, newest, result.FirstBalances);
-    report.IsDone = TakeNames(result.Book, result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
-    report.IsDone = AssignAccounts(result.Accounts, wish.BookAccount, report.Notes) && report.IsDone;
-    if (!wish.Sign.isEmpty() && !wish.Remembers && !result.IsRefused && !result.IsSignKept) {
-        QStringList unsaid; // a table without names for its columns is asked about again
-        (void)RememberLayout(path, wish, unsaid);
-    }
-    for (const QString& number : due) {
-        report.IsDone = TakeStart(number, report.Notes) && report.IsDone;
-    }
-    if (wish.Remembers && !result.IsRefused) {
-        report.IsDone = RememberLayout(path, wish, report.Notes) && report.IsDone;
-    }
-    return report;
 }
 
 cFileFinding cStatementDesk::Examine(const QString& path, const cFileWish& wish)

@@ -17,11 +17,11 @@
 class cMatchFlow;
 class cSeriesCheck;
 class cStatementFiles;
-struct cForeignNames;
 struct cBookTools;
 struct cFileFinding;
-struct cFileReport;
+struct cFilesReport;
 struct cFileWish;
+struct cImportResult;
 struct cLayoutTaken;
 
 // The staged rows of a book with all that is done with them, for a program that shows no page of them. Nobody is asked
@@ -64,12 +64,9 @@ public:
     // The place of the first rule that matches, by row; -1 for none.
     [[nodiscard]] QList<int> FirstRules(const cImportEntryList& rows, const QList<cOwnRule>& rules);
 
-    // Reads a file. Numbers that the book does not know get the account of the wish, else one that something speaks
-    // for, else one of their own. The first statement of an account sets its start balance.
-    [[nodiscard]] cFileReport ImportFile(const QString& path, const cFileWish& wish);
-    // Gives the numbers that the book does not know the wanted account, else one that something speaks for, else one
-    // of their own, and notes it. False when the database refuses.
-    [[nodiscard]] bool AssignAccounts(const QStringList& numbers, const QString& wanted, QStringList& notes);
+    // Reads files. Numbers that the book does not know get the account of the wish, else one that something speaks for,
+    // else one of their own. The first statement of an account sets its start balance.
+    [[nodiscard]] cFilesReport ImportFiles(const QStringList& paths, const cFileWish& wish);
     // Where an online fetch hands over what it brought.
     [[nodiscard]] cStatementFiles& Files();
 
@@ -85,14 +82,12 @@ public:
     [[nodiscard]] cLayoutTaken ImportLayout(const QString& path);
 
 private:
-    // Adds what a file of another household book names and this one lacks, and notes it.
-    [[nodiscard]] bool TakeNames(cForeignNames names, const QStringList& numbers, const QString& wanted,
-                                 QStringList& notes);
     struct cWorks; // the tools of the import floor
 
     [[nodiscard]] cBooked Booked(const cPlanFlow::cOutcome& outcome);
-    [[nodiscard]] bool TakeStart(const QString& number, QStringList& notes);
-    [[nodiscard]] bool RememberLayout(const QString& path, const cFileWish& wish, QStringList& notes);
+    // False, with a note, when that was wanted and cannot be.
+    [[nodiscard]] bool RememberLayout(const cImportResult& result, const cFileWish& wish, QStringList& notes);
+    [[nodiscard]] bool SaveLayout(const QString& path, const cFileWish& wish);
 
     const cBookTools& m_tools;
     std::unique_ptr<cWorks> m_works;

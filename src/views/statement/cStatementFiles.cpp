@@ -7,30 +7,32 @@
 #include "core/cAmountFormat.h"
 #include "core/cBookTools.h"
 #include "import/read/cStatementSource.h"
+#include "import/read/modAccountNumber.h"
 #include "import/read/modStatementFile.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cBankBalances.h"
 #include "import/stage/cFetchedStatement.h"
 #include "import/stage/cImportHiveCache.h"
-#include "import/stage/cImportResult.h"
 #include "import/stage/cLeftOutRows.h"
 #include "import/stage/cStatementImport.h"
+#include "import/stage/modEqualRows.h"
 #include "import/table/cTableMemory.h"
 #include "store/cDataAccess.h"
 #include "store/cUndoStep.h"
 #include "views/ledger/cOpeningBalance.h"
 #include "views/ledger/modImportText.h"
+#include "views/statement/cFilesOutcome.h"
 #include "views/statement/cImportAssistant.h"
-#include "views/statement/modImportPreview.h"
+#include "views/statement/cLeftOutList.h"
 
 #include <QFileInfo>
 #include <QScopedValueRollback>
 
 #include <algorithm>
-#include <functional>
 #include <vector>
 
 using namespace Qt::Literals::StringLiterals;
+using eWish = cStatementWishes::eWish;
 
 struct cStatementFiles::cWorks
 {
@@ -46,14 +48,35 @@ struct cStatementFiles::cWorks
     cStatementImport Import;
 };
 
+struct cStatementFiles::cRun
+{
+    cProgress& Progress;
+    eAssist Assist = eAssist::WhereNeeded;
+    cImportOptions Options{}; // where the assistant says nothing else
+    bool ShowsRefusals = true;
+    int Count = 0;  // of the files
+    int Before = 0; // row before all files
+    int Number = 0; // of the present file
+    QStringList Lines{};
+    QStringList Numbers{};
+    QStringList Firsts{}; // of these the ones that have a first row, or a first balance, for certain
+    QStringList Refusals{};
+    QList<int> Rows{}; // staged
+    cForeignNames Names{};
+    std::vector<std::unique_ptr<cImportAssistant>> Answered{};
+    cFilesOutcome Outcome{};
+};
+
 cStatementFiles::cStatementFiles(const cBookTools& tools, cImportHiveCache& hive, cAccountMap& accounts,
                                  QObject* parent)
     : QObject(parent),
       m_tools(tools),
       m_hive(hive),
       m_accounts(accounts),
-      m_works(std::make_unique<cWorks>(tools, hive))
+      m_works(std::make_unique<cWorks>(tools, hive)),
+      m_leftOut(std::make_unique<cLeftOutList>(tools, hive))
 {
+    connect(m_leftOut.get(), &cLeftOutList::Staged, this, &cStatementFiles::NoteMore);
 }
 
 cStatementFiles::~cStatementFiles() = default;
@@ -80,14 +103,40 @@ void cStatementFiles::ImportFiles(const QStringList& paths, cProgress& progress,
     }
     const QScopedValueRollback running(m_isRunning, true);
     while (!m_waiting.isEmpty()) {
-        Q_EMIT ImportStarts();
-        const cUndoStep step(m_tools.Data, cText::Tr("Kontoauszug eingelesen"), cJournal::eWrites::InPortions);
-        QList<cFile> files;
-        for (const QString& path : std::exchange(m_waiting, {})) {
-            files.append({path, {}, {}});
-        }
-        Run(files, progress, assist);
+        cRun run{.Progress = progress, .Assist = m_assist ? assist : eAssist::WhereNeeded};
+        RunNew(std::exchange(m_waiting, {}), run);
     }
+}
+
+cFilesOutcome cStatementFiles::ReadFiles(const QStringList& paths, const cImportOptions& options, cProgress& progress)
+{
+    cRun run{.Progress = progress, .Options = options, .ShowsRefusals = false};
+    if (options.Run == eStagingRun::Write) {
+        RunNew(paths, run);
+    } else {
+        Try(paths, run);
+    }
+    return run.Outcome;
+}
+
+void cStatementFiles::Try(const QStringList& paths, cRun& run)
+{
+    for (const QString& path : paths) {
+        run.Outcome.Files.append(m_works->Import.ImportFile(path, AsWished(OptionsOf(run)), run.Progress));
+    }
+    modEqualRows::Settle(run.Outcome.Files, m_works->Import.StagingFor(eStagingRun::Try));
+}
+
+void cStatementFiles::RunNew(const QStringList& paths, cRun& run)
+{
+    Q_EMIT ImportStarts();
+    cUndoStep step(m_tools.Data, cText::Tr("Kontoauszug eingelesen"), cJournal::eWrites::InPortions);
+    QList<cFile> files;
+    for (const QString& path : paths) {
+        files.append({path, {}, {}});
+    }
+    Run(files, run);
+    run.Outcome.IsDone = step.Done() && run.Outcome.IsDone;
 }
 
 bool cStatementFiles::CanReadAgain() const
@@ -100,34 +149,15 @@ void cStatementFiles::ReadAgain(cProgress& progress)
     Q_EMIT ImportStarts();
     const cUndoStep step(m_tools.Data, cText::Tr("Kontoauszug noch einmal eingelesen"), cJournal::eWrites::InPortions);
     const QList<cFile> files = m_last;
-    Run(files, progress, eAssist::Always);
+    cRun run{.Progress = progress, .Assist = eAssist::Always};
+    Run(files, run);
 }
 
-struct cStatementFiles::cRun
+void cStatementFiles::Run(const QList<cFile>& files, cRun& run)
 {
-    cProgress& Progress;
-    eAssist Assist;
-    int Count = 0;  // of the files
-    int Before = 0; // row before all files
-    int Number = 0; // of the present one
-    int Newest = 0; // row before the present file
-    QStringList Lines{};
-    QStringList Numbers{};
-    QStringList Refusals{};
-    QList<int> Rows{}; // staged
-    cRepeatList Repeats{};
-    cForeignNames Names{};
-    std::vector<std::unique_ptr<cImportAssistant>> Answered{};
-    QStringList FirstBalances{}; // as in cImportResult
-};
-
-void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssist assist)
-{
-    cRun run{.Progress = progress,
-             .Assist = m_assist ? assist : eAssist::WhereNeeded,
-             .Count = static_cast<int>(files.size()),
-             .Before = NewestRow()};
-    Begin();
+    run.Count = static_cast<int>(files.size());
+    run.Before = NewestRow();
+    m_last.clear();
     bool isStopped = false;
     for (const cFile& file : files) {
         m_last.append(file);
@@ -135,7 +165,6 @@ void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssis
             continue;
         }
         ++run.Number;
-        run.Newest = NewestRow();
         const cImportResult result = ImportFile(file, run);
         Note(result, run);
         isStopped = result.IsCancelled;
@@ -143,45 +172,42 @@ void cStatementFiles::Run(const QList<cFile>& files, cProgress& progress, eAssis
     End(run);
 }
 
-void cStatementFiles::Begin()
-{
-    m_leftOut.clear();
-    m_last.clear();
-}
-
 // What came of the file that m_last ends with.
 void cStatementFiles::Note(const cImportResult& result, cRun& run)
 {
-    const QList<int> rows = RowsAbove(run.Newest);
-    m_last.last().Rows.append(rows);
     m_last.last().Format = result.Kind;
-    run.Rows.append(rows);
     for (const cFormatRows& each : result.ByFormat) {
+        m_last.last().Rows.append(each.Ids);
+        run.Rows.append(each.Ids);
         Q_EMIT FileStaged(each.Ids, each.Format);
     }
     run.Lines.append(modImportText::Summary(result, m_tools.Format));
-    KeepLeftOut(result);
     (void)cLeftOutRows(m_tools.Settings).Forget(result.Settled); // of a refusal the user has been told
-    run.Repeats += result.Repeats;
     run.Numbers.append(result.Accounts);
     run.Names.Add(result.Book);
-    run.FirstBalances += result.FirstBalances;
+    run.Firsts += result.FirstBalances + m_accounts.Unknown(result.Accounts);
+    run.Outcome.Files.append(result);
+    if (m_wishes.Accounts == eWish::Take) {
+        TakeAccounts(result, run.Outcome);
+    }
 }
 
 void cStatementFiles::End(cRun& run)
 {
     run.Progress.hideProgressBar();
-    SettleRepeats(run);
+    const cRepeatList leftOut = SettleRepeats(run);
     // The list stands behind the questions that follow, so that the user sees what they are about.
     Q_EMIT Imported(run.Lines);
-    Q_EMIT LeftOutChanged();
-    if (!run.Refusals.isEmpty()) {
+    m_leftOut->Fill(run.Outcome.Files, leftOut);
+    if (run.ShowsRefusals && !run.Refusals.isEmpty()) {
         m_tools.User.Show(eTone::Exclamation, run.Refusals.join(u"\n\n"_s));
     }
-    const QStringList due = cOpeningBalance(m_tools).Due(run.Numbers, run.Before, run.FirstBalances);
-    OfferNames(run.Names);
-    AskUnknown(run.Numbers);
-    OfferStart(due);
+    const QStringList due = cOpeningBalance(m_tools).Due(run.Numbers, run.Before, run.Firsts);
+    if (m_wishes.Accounts == eWish::Ask) {
+        OfferNames(run.Names);
+        AskUnknown(run.Numbers);
+    }
+    OfferStart(due, run.Outcome);
     Q_EMIT RowsStaged(run.Rows);
 }
 
@@ -192,14 +218,10 @@ bool cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cP
         const QScopedValueRollback running(m_isRunning, true);
         Q_EMIT ImportStarts();
         cUndoStep step(m_tools.Data, cText::Tr("Umsätze abgerufen"), cJournal::eWrites::InPortions);
-        cRun run{.Progress = progress,
-                 .Assist = eAssist::WhereNeeded,
-                 .Count = static_cast<int>(statements.size()),
-                 .Before = NewestRow()};
-        Begin();
+        cRun run{.Progress = progress, .Count = static_cast<int>(statements.size()), .Before = NewestRow()};
+        m_last.clear();
         for (qsizetype place = 0; place < statements.size(); ++place) {
             m_last.append(cFile());
-            run.Newest = NewestRow();
             cImportOptions options;
             const cImportResult result = OfferTheRest(options, run, [&](const cImportOptions& wanted) {
                 return m_works->Import.ImportFetched(statements.at(place), wanted, progress);
@@ -248,30 +270,64 @@ void cStatementFiles::NoteRefusal(const cImportResult& result, cRun& run)
     }
 }
 
+cImportOptions cStatementFiles::OptionsOf(const cRun& run) const
+{
+    cImportOptions options = run.Options;
+    options.DefaultAccount = m_accounts.NumberMeant(options.DefaultAccount);
+    options.Uncertain = m_assist ? eUncertain::Ask : eUncertain::Read;
+    return options;
+}
+
 cImportResult cStatementFiles::ImportUnasked(const QString& path, cRun& run)
 {
-    cImportOptions options;
-    options.Uncertain = m_assist ? eUncertain::Ask : eUncertain::Read;
+    cImportOptions options = OptionsOf(run);
     const cImportResult result = OfferTheRest(options, run, [&](const cImportOptions& wanted) {
         return m_works->Import.ImportFile(path, wanted, run.Progress);
     });
-    return result.NeedsAccount && !result.NeedsAssistant ? AskForAccount(path, result, options, run) : result;
+    if (result.NeedsAccount && !result.NeedsAssistant && m_wishes.Accounts == eWish::Ask) {
+        return AskForAccount(path, result, options, run);
+    }
+    RememberAccount(result, options.DefaultAccount);
+    return result;
+}
+
+// The number that was given for files that name no account is remembered for the next one of the same layout.
+void cStatementFiles::RememberAccount(const cImportResult& result, const QString& number)
+{
+    const bool isUsed = std::any_of(result.Accounts.begin(), result.Accounts.end(), [&](const QString& account) {
+        return modAccountNumber::IsSame(account, {}, number);
+    });
+    if (isUsed) {
+        (void)m_works->Memory.SaveAccount(result.AccountKey, number);
+    }
+}
+
+cImportOptions cStatementFiles::AsWished(cImportOptions options) const
+{
+    if (m_wishes.Repeats == eWish::Take) {
+        options.Equal = eEqualRows::Take;
+    }
+    if (m_wishes.Currency != eWish::Take) {
+        options.BookCurrency = m_tools.Format.CurrencyCode();
+    }
+    if (m_wishes.Strays == eWish::Take) {
+        options.StrayDetails = eStrayDetails::PassOver;
+    }
+    return options;
 }
 
 cImportResult cStatementFiles::OfferTheRest(cImportOptions& options, cRun& run, const fnImport& import)
 {
-    if (m_currency != eWish::Take) {
-        options.BookCurrency = m_tools.Format.CurrencyCode();
-    }
+    options = AsWished(options);
     cImportResult result = import(options);
-    if (result.HasStrayDetails) {
+    if (result.HasStrayDetails && m_wishes.Strays == eWish::Ask) {
         run.Progress.hideProgressBar();
         if (IsWantedWithoutStrays(result)) {
             options.StrayDetails = eStrayDetails::PassOver;
             result = import(options);
         }
     }
-    if (!result.OtherCurrencies.isEmpty() && m_currency == eWish::Ask) {
+    if (!result.OtherCurrencies.isEmpty() && m_wishes.Currency == eWish::Ask) {
         run.Progress.hideProgressBar();
         if (IsCurrencyWanted(result)) {
             options.BookCurrency.clear();
@@ -316,9 +372,7 @@ cImportResult cStatementFiles::AskForAccount(const QString& path, const cImportR
     const cImportResult second = OfferTheRest(options, run, [&](const cImportOptions& wanted) {
         return m_works->Import.ImportFile(path, wanted, run.Progress);
     });
-    if (!second.IsRefused && !second.IsCancelled) {
-        m_works->Memory.SaveAccount(second.AccountKey, number);
-    }
+    RememberAccount(second, number);
     return second;
 }
 
@@ -353,14 +407,12 @@ cImportResult cStatementFiles::Assist(const cFile& file, cRun& run)
     }
     cUndoPart part(m_tools.Data);
     const QList<int> booked = RemoveOpen(file.Rows);
-    run.Newest = NewestRow(); // the numbers of removed rows come again
     cImportOptions options = assistant->Options();
     result = OfferTheRest(options, run, [&](const cImportOptions& wanted) {
         return m_works->Import.ImportSource(assistant->Source(), wanted, run.Progress);
     });
     if (result.IsRefused || result.IsCancelled) {
         part.Revert();
-        run.Newest = NewestRow();
         NoteRefusal(result, run);
         return result;
     }
@@ -370,36 +422,23 @@ cImportResult cStatementFiles::Assist(const cFile& file, cRun& run)
     return result;
 }
 
-// What one file left open another may have brought meanwhile: it counts how often the book has the row now.
-void cStatementFiles::SettleRepeats(cRun& run)
+// Those that are left out.
+cRepeatList cStatementFiles::SettleRepeats(cRun& run)
 {
+    modEqualRows::Settle(run.Outcome.Files, m_works->Import.StagingFor(eStagingRun::Write));
     cRepeatList open;
-    cRepeatList known;
-    for (const cRepeat& repeat : std::as_const(run.Repeats)) {
-        const bool isThere = m_hive.GetImportHive().AllButBlanks(repeat.Entry).size() >= repeat.Number;
-        const bool isListed = std::any_of(open.begin(), open.end(), [&](const cRepeat& other) {
-            return other.Number == repeat.Number && other.Entry.isEqualButBlanks(repeat.Entry);
-        });
-        if (!isThere && !isListed) {
-            (repeat.WasLeftOut && m_repeats == eWish::Ask ? known : open).append(repeat);
+    cRepeatList leftOut;
+    for (const cImportResult& result : std::as_const(run.Outcome.Files)) {
+        for (const cRepeat& repeat : result.Repeats) {
+            (repeat.WasLeftOut ? leftOut : open).append(repeat);
         }
     }
-    LeaveOut(known);
-    if (open.isEmpty()) {
-        return;
-    }
-    if (AreWanted(open)) {
-        TakeRepeats(open, run);
-    } else {
-        LeaveOut(open);
-    }
+    const bool areTaken = !open.isEmpty() && m_wishes.Repeats == eWish::Ask && AreWanted(open);
+    return leftOut + (areTaken ? TakeRepeats(open, run) : open);
 }
 
 bool cStatementFiles::AreWanted(const cRepeatList& repeats)
 {
-    if (m_repeats != eWish::Ask) {
-        return m_repeats == eWish::Take;
-    }
     QStringList lines;
     for (const cRepeat& repeat : repeats) {
         lines.append(modImportText::Row(repeat.Entry, m_tools.Format));
@@ -413,29 +452,22 @@ bool cStatementFiles::AreWanted(const cRepeatList& repeats)
         == eAnswer::Yes;
 }
 
-void cStatementFiles::TakeRepeats(const cRepeatList& repeats, cRun& run)
+// Those that the database does not take, of which the user has been told.
+cRepeatList cStatementFiles::TakeRepeats(cRepeatList repeats, cRun& run)
 {
     cStaging staging(m_hive);
-    const int newest = NewestRow();
-    cRepeatList rest = repeats;
-    while (!rest.isEmpty() && staging.StageImportEntry(rest.first().Entry, eDuplicateTest::Skip) == eStaged::Staged) {
-        (void)cLeftOutRows(m_tools.Settings).Forget({rest.takeFirst()});
+    QList<int> rows;
+    while (!repeats.isEmpty()
+           && staging.StageImportEntry(repeats.first().Entry, eDuplicateTest::Skip) == eStaged::Staged) {
+        rows.append(repeats.constFirst().Entry.ID);
+        (void)cLeftOutRows(m_tools.Settings).Forget({repeats.takeFirst()});
     }
-    LeaveOut(rest); // of a refusal the user has been told
-    const QList<int> rows = RowsAbove(newest);
     m_last.last().Rows.append(rows);
     run.Rows.append(rows);
     run.Lines.append(cText::Tr("{0} übernommen, obwohl sie anderen gleichen.",
                                {modImportText::Count(static_cast<int>(rows.size()))}));
     Q_EMIT FileStaged(rows, m_last.last().Format);
-}
-
-void cStatementFiles::LeaveOut(const cRepeatList& repeats)
-{
-    for (const cRepeat& repeat : repeats) {
-        m_leftOut.append({repeat.Entry, cText::Tr("steht mehrmals gleich im Kontoauszug"), repeat.Number});
-    }
-    (void)cLeftOutRows(m_tools.Settings).Note(repeats); // of a refusal the user has been told
+    return repeats;
 }
 
 // By what the user said about an earlier file of the same kind, or now.
@@ -466,73 +498,12 @@ int cStatementFiles::NewestRow()
     return m_hive.GetImportHive().NextId() - 1;
 }
 
-QList<int> cStatementFiles::RowsAbove(int newest)
+// Of what was left out.
+void cStatementFiles::NoteMore(const QList<int>& rows)
 {
-    const cImportEntryList rows = m_hive.GetImportHive().getImportEntryList(); // their numbers ascend
-    const auto first =
-        std::partition_point(rows.begin(), rows.end(), [newest](const cImportEntry& row) { return row.ID <= newest; });
-    QList<int> ids;
-    std::transform(first, rows.end(), std::back_inserter(ids), std::mem_fn(&cImportEntry::ID));
-    return ids;
-}
-
-// Rows without a day or an amount cannot be taken; the summary names them.
-void cStatementFiles::KeepLeftOut(const cImportResult& result)
-{
-    for (const cImportEntry& row : result.Duplicates) {
-        m_leftOut.append({row, cText::Tr("schon vorhanden"), 0});
-    }
-    for (const cImportEntry& row : result.Alike) {
-        m_leftOut.append({row, cText::Tr("schon vorhanden, nur anders geschrieben"), 0});
-    }
-    for (const cImportEntry& row : result.Deleted) {
-        m_leftOut.append({row, cText::Tr("früher abgerufen und von Ihnen gelöscht"), 0});
-    }
-    for (const cSkippedRow& row : result.Skipped) {
-        if (!result.IsRefused && row.Entry.ImportDate.isValid() && row.Entry.ImportValue != 0) {
-            m_leftOut.append({row.Entry, modImportPreview::Kind(row.Kind), 0});
-        }
-    }
-}
-
-QStringList cStatementFiles::LeftOut() const
-{
-    QStringList texts;
-    for (const cLeftOut& row : m_leftOut) {
-        texts.append(modImportText::Row(row.Entry, m_tools.Format) + u"  ·  " + row.Reason);
-    }
-    return texts;
-}
-
-void cStatementFiles::StageLeftOut(const QList<int>& places)
-{
-    cUndoStep step(m_tools.Data, cText::Tr("Umsätze trotzdem übernommen"));
-    cStaging staging(m_hive);
-    const int newest = NewestRow();
-    QList<cLeftOut> rest = m_leftOut;
-    QList<int> taken = places;
-    std::sort(taken.begin(), taken.end(), std::greater<>());
-    taken.removeIf([&](int place) { return place < 0 || place >= m_leftOut.size(); });
-    for (const int place : std::as_const(taken)) {
-        rest.removeAt(place);
-    }
-    const bool isStaged = std::all_of(taken.begin(), taken.end(), [&](int place) {
-        return staging.StageImportEntry(m_leftOut[place].Entry, eDuplicateTest::Skip) == eStaged::Staged;
-    });
-    if (!step.DoneIf(isStaged)) {
-        return; // the user has been told
-    }
-    for (const int place : std::as_const(taken)) {
-        const cLeftOut& row = m_leftOut.at(place);
-        (void)cLeftOutRows(m_tools.Settings).Forget({{row.Entry, row.Repeat}});
-    }
-    m_leftOut = rest;
-    const int staged = static_cast<int>(taken.size());
-    Q_EMIT Imported({cText::Tr("{0} trotzdem übernommen.", {modImportText::Count(staged)})});
-    Q_EMIT LeftOutChanged();
+    Q_EMIT Imported({cText::Tr("{0} trotzdem übernommen.", {modImportText::Count(static_cast<int>(rows.size()))})});
     const bool isFirst =
         std::all_of(m_last.begin(), m_last.end(), [](const cFile& file) { return file.Rows.isEmpty(); });
-    const QList<int> rows = RowsAbove(newest);
     if (rows.isEmpty()) {
         return;
     }
@@ -547,7 +518,7 @@ void cStatementFiles::StageLeftOut(const QList<int>& places)
 void cStatementFiles::ForgetFiles()
 {
     m_last.clear();
-    DropLeftOut();
+    m_leftOut->Drop();
 }
 
 void cStatementFiles::StartAfresh()
@@ -555,11 +526,5 @@ void cStatementFiles::StartAfresh()
     for (cFile& file : m_last) {
         file.Rows.clear();
     }
-    DropLeftOut();
-}
-
-void cStatementFiles::DropLeftOut()
-{
-    m_leftOut.clear();
-    Q_EMIT LeftOutChanged();
+    m_leftOut->Drop();
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "model/cImportEntry.h"
+#include "views/statement/cStatementWishes.h"
 
 #include <QList>
 #include <QObject>
@@ -15,10 +15,12 @@ enum class eStatementFormat;
 class cAccountMap;
 class cImportAssistant;
 class cImportHiveCache;
+class cLeftOutList;
 class cProgress;
-struct cForeignNames;
 struct cBookTools;
 struct cFetchedStatement;
+struct cFilesOutcome;
+struct cForeignNames;
 struct cImportOptions;
 struct cImportResult;
 struct cRepeat;
@@ -43,10 +45,15 @@ public:
     // The assistant for a file; null when the file cannot be opened. This object outlives it.
     [[nodiscard]] std::unique_ptr<cImportAssistant> StartAssistant(const QString& path);
 
+    // All is asked without them.
+    void SetWishes(const cStatementWishes& wishes) { m_wishes = wishes; }
+
     // Lets the user choose statement files and reads them.
     void ChooseFiles(cProgress& progress, eAssist assist = eAssist::WhereNeeded);
-    // Reads the files and asks for the accounts of new numbers. A file that the user stops brings nothing.
+    // Reads the files and sees to the accounts of new numbers. A file that the user stops brings nothing.
     void ImportFiles(const QStringList& paths, cProgress& progress, eAssist assist = eAssist::WhereNeeded);
+    // The same with options for all files, for who is told by what comes of it. With eStagingRun::Try nothing is written.
+    [[nodiscard]] cFilesOutcome ReadFiles(const QStringList& paths, const cImportOptions& options, cProgress& progress);
 
     // Takes what an online fetch brought, an account like a file, all of it as one step. Only numbers whose account of
     // the book is not known are asked about. `taken` is told within the step what came of each, by its place. False
@@ -59,24 +66,14 @@ public:
     [[nodiscard]] bool CanReadAgain() const;
     void ReadAgain(cProgress& progress);
 
-    // Whether the user is asked, or it is taken or left without a word.
-    enum class eWish { Ask, Take, Leave };
-    // Rows that a file has more often than the book, where no balance of the bank proves them.
-    void SetRepeats(eWish repeats) { m_repeats = repeats; }
-    // What an account held before its first statement, as its start balance.
-    void SetStart(eWish start) { m_start = start; }
-    // A file in another currency than the book, of an account that had none in it.
-    void SetCurrency(eWish currency) { m_currency = currency; }
-
     // Asks which accounts of the book the numbers belong to, as far as that is not known, and what these began with.
     void AskAccounts(const QStringList& numbers);
+    // Gives the numbers that the book does not know an account, as the wishes say, and notes it. False when the
+    // database refuses.
+    [[nodiscard]] bool AssignAccounts(const QStringList& numbers, QStringList& notes);
 
-    // The transactions of the last files that were not taken, as texts with the reason: what is there already, what is
-    // still pending.
-    [[nodiscard]] QStringList LeftOut() const;
-    // Takes these all the same; the numbers are places in LeftOut.
-    void StageLeftOut(const QList<int>& places);
-    void DropLeftOut();
+    // What was not taken of the last files.
+    [[nodiscard]] cLeftOutList& LeftOut() { return *m_leftOut; }
 
     // What the last files brought may be gone: something was undone, or another book was opened.
     void StartAfresh();
@@ -93,7 +90,6 @@ Q_SIGNALS:
     void FileStaged(const QList<int>& ids, eStatementFormat format);
     void RowsStaged(const QList<int>& ids); // by the import that has just ended, after its questions
     void MoreStaged(const QList<int>& ids); // the same import got these later, as the user wanted
-    void LeftOutChanged();
 
 private:
     struct cWorks; // the tools of the import floor
@@ -105,16 +101,11 @@ private:
         QList<int> Rows;
         eStatementFormat Format{};
     };
-    struct cLeftOut
-    {
-        cImportEntry Entry;
-        QString Reason;
-        int Repeat = 0; // the number of a cRepeat
-    };
     struct cRun; // what one run over several files has so far
 
-    void Run(const QList<cFile>& files, cProgress& progress, eAssist assist);
-    void Begin();
+    void RunNew(const QStringList& paths, cRun& run);
+    void Try(const QStringList& paths, cRun& run);
+    void Run(const QList<cFile>& files, cRun& run);
     void Note(const cImportResult& result, cRun& run);
     void End(cRun& run);
     void AssignFetched(const cFetchedStatement& statement, const cImportResult& result);
@@ -122,6 +113,9 @@ private:
     [[nodiscard]] cImportResult ImportUnasked(const QString& path, cRun& run);
     [[nodiscard]] cImportResult AskForAccount(const QString& path, const cImportResult& result, cImportOptions options,
                                               cRun& run);
+    void RememberAccount(const cImportResult& result, const QString& number);
+    [[nodiscard]] cImportOptions OptionsOf(const cRun& run) const;
+    [[nodiscard]] cImportOptions AsWished(cImportOptions options) const;
     // Imports with the options, and once more where the user wants that in spite of why it was refused.
     using fnImport = std::function<cImportResult(const cImportOptions&)>;
     [[nodiscard]] cImportResult OfferTheRest(cImportOptions& options, cRun& run, const fnImport& import);
@@ -131,28 +125,26 @@ private:
     static void NoteRefusal(const cImportResult& result, cRun& run); // to be shown at the end of the run
     [[nodiscard]] bool IsAnswered(cImportAssistant& assistant, cRun& run);
     [[nodiscard]] QList<int> RemoveOpen(const QList<int>& rows);
+    void TakeAccounts(const cImportResult& result, cFilesOutcome& outcome);
+    [[nodiscard]] bool AddNames(const cImportResult& result, QStringList& notes);
     void OfferNames(const cForeignNames& names);
     [[nodiscard]] bool AreNamesWanted(const cForeignNames& missing);
     void AskUnknown(const QStringList& numbers);
-    void OfferStart(const QStringList& numbers);
-    void KeepLeftOut(const cImportResult& result);
-    void SettleRepeats(cRun& run);
+    void OfferStart(const QStringList& numbers, cFilesOutcome& outcome);
+    [[nodiscard]] QList<cRepeat> SettleRepeats(cRun& run);
     [[nodiscard]] bool AreWanted(const QList<cRepeat>& repeats);
-    void TakeRepeats(const QList<cRepeat>& repeats, cRun& run);
-    void LeaveOut(const QList<cRepeat>& repeats);
+    [[nodiscard]] QList<cRepeat> TakeRepeats(QList<cRepeat> repeats, cRun& run);
+    void NoteMore(const QList<int>& rows);
     [[nodiscard]] int NewestRow();
-    [[nodiscard]] QList<int> RowsAbove(int newest);
 
     const cBookTools& m_tools;
     cImportHiveCache& m_hive;
     cAccountMap& m_accounts;
     std::unique_ptr<cWorks> m_works;
+    std::unique_ptr<cLeftOutList> m_leftOut;
     fnAssist m_assist;
+    cStatementWishes m_wishes;
     QStringList m_waiting; // files that came while others were read
     bool m_isRunning = false;
     QList<cFile> m_last;
-    QList<cLeftOut> m_leftOut;
-    eWish m_repeats = eWish::Ask;
-    eWish m_start = eWish::Ask;
-    eWish m_currency = eWish::Ask;
 };

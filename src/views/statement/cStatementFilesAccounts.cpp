@@ -1,13 +1,13 @@
-// What cStatementFiles asks about a file that was refused, and about accounts once the rows are there.
+// What cStatementFiles asks about a file that was refused, and what becomes of accounts once the rows are there.
 #include "base/cText.h"
 #include "base/cUser.h"
 #include "base/modCount.h"
 #include "core/cBookTools.h"
 #include "import/stage/cAccountMap.h"
-#include "import/stage/cImportResult.h"
 #include "store/cDataAccess.h"
 #include "views/ledger/cOpeningBalance.h"
 #include "views/ledger/modImportText.h"
+#include "views/statement/cFilesOutcome.h"
 #include "views/statement/cStatementFiles.h"
 
 #include <QFileInfo>
@@ -15,6 +15,7 @@
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
+using eWish = cStatementWishes::eWish;
 
 namespace {
 
@@ -42,6 +43,53 @@ bool cStatementFiles::IsCurrencyWanted(const cImportResult& result)
         == eAnswer::Yes;
 }
 
+// Before the next file is read: by then a name may stand for a number.
+void cStatementFiles::TakeAccounts(const cImportResult& result, cFilesOutcome& outcome)
+{
+    outcome.IsDone = AddNames(result, outcome.Notes) && outcome.IsDone;
+    outcome.IsDone = AssignAccounts(result.Accounts, outcome.Notes) && outcome.IsDone;
+}
+
+// One account for all leaves the names of the file's own without meaning.
+bool cStatementFiles::AddNames(const cImportResult& result, QStringList& notes)
+{
+    QStringList names = result.Book.Accounts;
+    cForeignNames missing = modForeignNames::Missing(result.Book, m_tools.Data, m_accounts);
+    if (!m_wishes.Account.isEmpty()) {
+        missing.Accounts.clear();
+        names.removeIf([&](const QString& name) { return result.Accounts.contains(name); });
+    }
+    if (!missing.Bad.isEmpty()) {
+        notes.append(modForeignNames::BadText(missing.Bad));
+    }
+    if (!missing.IsEmpty()) {
+        if (!modForeignNames::Create(missing, m_tools.Data, m_accounts)) {
+            return false;
+        }
+        notes.append(cText::Tr("Aus der Datei angelegt: {0}", {modForeignNames::Count(missing)}));
+    }
+    (void)m_accounts.AssignNames(names);
+    return true;
+}
+
+bool cStatementFiles::AssignAccounts(const QStringList& numbers, QStringList& notes)
+{
+    if (m_wishes.Account.isEmpty()) {
+        (void)m_accounts.AssignNames(numbers);
+    }
+    const QStringList unknown = m_accounts.Unknown(numbers);
+    for (const QString& number : unknown) {
+        QString account = m_wishes.Account.isEmpty() ? m_accounts.Proposal(number) : m_wishes.Account;
+        account = account.isEmpty() ? m_accounts.NewName(number) : account;
+        if (!m_accounts.Assign(number, account)) {
+            notes.append(cText::Tr("Der Kontonummer '{0}' konnte kein Konto zugeordnet werden.", {number}));
+            return false;
+        }
+        notes.append(cText::Tr("Die Kontonummer '{0}' gehört nun zum Konto '{1}'.", {number, account}));
+    }
+    return true;
+}
+
 void cStatementFiles::OfferNames(const cForeignNames& names)
 {
     if (names.IsEmpty() || m_tools.Data.IsReadOnly()) {
@@ -67,9 +115,9 @@ bool cStatementFiles::AreNamesWanted(const cForeignNames& missing)
     return m_tools.User.Ask(question) == eAnswer::Yes;
 }
 
-void cStatementFiles::OfferStart(const QStringList& numbers)
+void cStatementFiles::OfferStart(const QStringList& numbers, cFilesOutcome& outcome)
 {
-    if (m_start == eWish::Leave || m_tools.Data.IsReadOnly()) {
+    if (m_wishes.Start == eWish::Leave || m_tools.Data.IsReadOnly()) {
         return;
     }
     const cOpeningBalance opening(m_tools);
@@ -77,10 +125,15 @@ void cStatementFiles::OfferStart(const QStringList& numbers)
     for (const QString& number : numbers) {
         const std::optional<cOpeningBalance::cOffer> offer = opening.For(number);
         const bool isWanted = offer
-            && (m_start == eWish::Take
+            && (m_wishes.Start == eWish::Take
                 || m_tools.User.Ask({.Text = opening.Question(*offer), .Title = cText::Tr("Startguthaben")})
                     == eAnswer::Yes);
-        isTaken = (isWanted && opening.Take(*offer)) || isTaken; // of a refusal the user has been told
+        if (isWanted && opening.Take(*offer)) {
+            outcome.Notes.append(opening.Report(*offer));
+            isTaken = true;
+        } else if (isWanted) {
+            outcome.IsDone = false; // the user has been told
+        }
     }
     if (isTaken) {
         Q_EMIT StartTaken();
@@ -91,7 +144,8 @@ void cStatementFiles::AskAccounts(const QStringList& numbers)
 {
     const QStringList unknown = m_accounts.Unknown(numbers);
     AskUnknown(numbers);
-    OfferStart(unknown);
+    cFilesOutcome told;
+    OfferStart(unknown, told);
 }
 
 void cStatementFiles::AskUnknown(const QStringList& numbers)

@@ -1,7 +1,7 @@
 #include "windows/statement/cLeftOutBox.h"
 
 #include "base/cText.h"
-#include "views/statement/cStatementFiles.h"
+#include "views/statement/cLeftOutList.h"
 
 #include <QBoxLayout>
 #include <QLabel>
@@ -15,22 +15,22 @@ constexpr int shownLines = 5; // more of them scroll
 
 } // namespace
 
-cLeftOutBox::cLeftOutBox(cStatementFiles& files, QWidget* parent)
+cLeftOutBox::cLeftOutBox(cLeftOutList& rows, QWidget* parent)
     : QWidget(parent),
-      m_files(files),
+      m_rows(rows),
       m_list(new QListWidget(this)),
       m_stage(new QPushButton(cText::Tr("Trot&zdem übernehmen"), this)),
       m_drop(new QPushButton(cText::Tr("&Schließen"), this))
 {
     Build();
     connect(m_stage, &QPushButton::clicked, this, &cLeftOutBox::Stage);
-    connect(m_drop, &QPushButton::clicked, &m_files, &cStatementFiles::DropLeftOut);
+    connect(m_drop, &QPushButton::clicked, &m_rows, &cLeftOutList::Drop);
     for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) {
         connect(new QShortcut(key, m_list, nullptr, nullptr, Qt::WidgetShortcut), &QShortcut::activated, this,
                 &cLeftOutBox::Stage);
     }
     connect(m_list, &QListWidget::itemSelectionChanged, this, &cLeftOutBox::ShowButtons);
-    connect(&m_files, &cStatementFiles::LeftOutChanged, this, &cLeftOutBox::Fill);
+    connect(&m_rows, &cLeftOutList::Changed, this, &cLeftOutBox::Fill);
     Fill();
 }
 
@@ -58,7 +58,7 @@ void cLeftOutBox::Build()
 
 void cLeftOutBox::Fill()
 {
-    const QStringList rows = m_files.LeftOut();
+    const QStringList rows = m_rows.Texts();
     setVisible(!rows.isEmpty());
     m_list->clear();
     m_list->addItems(rows);
@@ -77,5 +77,5 @@ void cLeftOutBox::Stage()
     for (const QModelIndex& row : rows) {
         places.append(row.row());
     }
-    m_files.StageLeftOut(places);
+    m_rows.Stage(places);
 }

@@ -2,7 +2,7 @@
 
 #include <QWidget>
 
-class cStatementFiles;
+class cLeftOutList;
 class QListWidget;
 class QPushButton;
 
@@ -12,7 +12,7 @@ class cLeftOutBox final : public QWidget
     Q_OBJECT
 
 public:
-    explicit cLeftOutBox(cStatementFiles& files, QWidget* parent = nullptr);
+    explicit cLeftOutBox(cLeftOutList& rows, QWidget* parent = nullptr);
 
 private:
     void Build();
@@ -20,7 +20,7 @@ private:
     void ShowButtons();
     void Stage();
 
-    cStatementFiles& m_files;
+    cLeftOutList& m_rows;
     QListWidget* m_list;
     QPushButton* m_stage;
     QPushButton* m_drop;

@@ -59,7 +59,7 @@ void frmImport::Build()
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(8, 8, 8, 4);
     layout->addWidget(m_panel, 1);
-    auto* leftOut = new cLeftOutBox(m_review.Files(), this);
+    auto* leftOut = new cLeftOutBox(m_review.Files().LeftOut(), this);
     leftOut->addActions(m_panel->actions()); // the keys of the list work there too
     layout->addWidget(leftOut);
     layout->addLayout(result);
