@@ -19,8 +19,9 @@ public:
 
     // Empty where nothing speaks for one account more than for the others.
     [[nodiscard]] QString AccountFor(const QString& number) const;
-    // A name for a new account, which the book does not have yet.
-    [[nodiscard]] QString NewName(const QString& number) const;
+    // A name for an account that the book does not have yet: what the bank calls it, where that is known and no account
+    // with a number has the name.
+    [[nodiscard]] QString NewName(const QString& number, const QString& product) const;
 
 private:
     [[nodiscard]] int Weight(const cTemplateItem& account, const QString& number, const cImportEntryList& rows) const;
