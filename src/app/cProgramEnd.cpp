@@ -4,10 +4,8 @@
 #include "windows/bank/frmBankAssistent.h"
 #include "windows/help/frmUpdate.h"
 
-#include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
-#include <QMessageBox>
 #include <QProgressDialog>
 #include <QThread>
 
@@ -37,10 +35,7 @@ void Dismiss(QDialog& dialog)
 
 void Dismiss(QWidget& window)
 {
-    if (auto* question = qobject_cast<QMessageBox*>(&window);
-        question != nullptr && question->escapeButton() != nullptr) {
-        question->escapeButton()->click();
-    } else if (auto* progress = qobject_cast<QProgressDialog*>(&window); progress != nullptr) {
+    if (auto* progress = qobject_cast<QProgressDialog*>(&window); progress != nullptr) {
         progress->cancel();
     } else if (auto* dialog = qobject_cast<QDialog*>(&window); dialog != nullptr) {
         Dismiss(*dialog);

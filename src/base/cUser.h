@@ -75,6 +75,7 @@ public:
     // A failure that a window tells of in its own place. Shows nothing; it is for those who keep a log.
     virtual void Note(const QString& /*operation*/, const QString& /*text*/) {}
 
+    // Cancel, whatever the buttons, when the program ends meanwhile.
     [[nodiscard]] virtual eAnswer Ask(const cQuestion& question) = 0;
 
     // The chosen or typed text; empty optional when the user gives up.

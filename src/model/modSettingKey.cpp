@@ -92,10 +92,11 @@ std::span<const cSettingKey* const> modSettingKey::All()
 std::span<const cSettingFamily* const> modSettingKey::Families()
 {
     static constexpr std::array families{
-        &DialogFolder, &Budget,       &CategoryColor, &CategoryIcon, &StatementPapers, &AccountShares,  &BankNumber,
-        &BankCode,     &BankBalances, &EqualLeftOut,  &Reconciled,   &Fetched,         &TableMap,       &TableAccounts,
-        &TableCharset, &TableSign,    &TableBankCode, &OnlineBank,   &PanePeriod,      &PaneFirstMonth, &PaneLastMonth,
-        &PaneYear,     &PaneChart,    &PaneCompare,   &PaneForecast, &PaneAverage};
+        &DialogFolder, &Budget,       &CategoryColor,  &CategoryIcon,  &StatementPapers, &AccountShares,
+        &BankNumber,   &BankCode,     &BankBalances,   &EqualLeftOut,  &StartDue,        &Reconciled,
+        &Fetched,      &TableMap,     &TableAccounts,  &TableCharset,  &TableSign,       &TableBankCode,
+        &OnlineBank,   &PanePeriod,   &PaneFirstMonth, &PaneLastMonth, &PaneYear,        &PaneChart,
+        &PaneCompare,  &PaneForecast, &PaneAverage};
     return families;
 }
 

@@ -65,6 +65,7 @@ inline const cSettingFamily BankNumber{QStringLiteral("KTO:"), {}, {Text, Book}}
 inline const cSettingFamily BankCode{QStringLiteral("KTOBLZ:"), {}, {Text, Book}};     // number: of its bank
 inline const cSettingFamily BankBalances{QStringLiteral("SALDO:"), {}, {List, Book}};  // number
 inline const cSettingFamily EqualLeftOut{QStringLiteral("GLEICH:"), {}, {List, Book}}; // number
+inline const cSettingFamily StartDue{QStringLiteral("ANFANG:"), {}, {Truth, Book}};    // number; see cOpeningBalance
 inline const cSettingFamily Reconciled{QStringLiteral("STIMMT:"), {}, {Day, Book}};    // number
 inline const cSettingFamily Fetched{QStringLiteral("ABRUF:"), {}, {List, Book}};       // bank code and number
 inline const cSettingFamily TableMap{QStringLiteral("MAP:"), {}, {List, Book}};        // digest of a table's header

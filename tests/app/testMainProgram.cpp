@@ -1,5 +1,6 @@
 #include "app/cMainProgram.h"
 #include "app/cNavigation.h"
+#include "app/machine/cQtUser.h"
 #include "app/machine/cSessionWatch.h"
 #include "core/cSettings.h"
 #include "model/modSettingKey.h"
@@ -456,22 +457,19 @@ private Q_SLOTS:
     }
 
     // A question that waits above a form keeps nobody from logging out, and nothing is done in the user's name.
-    void QuestionsOnTopAreAnsweredNo() const
+    void QuestionsOnTopAreCancelled() const
     {
         cMachine machine;
         cRun run(machine);
-        bool isYes = true;
+        cFakeRegistry registry;
+        eAnswer answer = eAnswer::Yes;
         InForm([&](frmBuchung& form) {
             Line(form, u"txtBetrag"_s).setText(u"47,11"_s);
-            QMessageBox box(QMessageBox::Question, u"Frage"_s, u"Löschen?"_s, QMessageBox::NoButton, &form);
-            const QPushButton* yes = box.addButton(u"Ja"_s, QMessageBox::YesRole);
-            box.setEscapeButton(box.addButton(u"Nein"_s, QMessageBox::NoRole));
-            QTimer::singleShot(0, &box, [] { ::raise(SIGTERM); });
-            box.exec();
-            isYes = box.clickedButton() == yes;
+            QTimer::singleShot(0, &form, [] { ::raise(SIGTERM); });
+            answer = cQtUser(registry).Ask({.Text = u"Löschen?"_s, .Title = {}});
         });
         QCOMPARE(cRun::Exec([&] { run.Program.Navigation().OpenNewEntry(); }), 0);
-        QVERIFY(!isYes);
+        QCOMPARE(answer, eAnswer::Cancel); // nobody said no either
         QCOMPARE(machine.Drafts().size(), 1);
     }
 

@@ -148,6 +148,8 @@ private Q_SLOTS:
         row("no PIN", {}, {}, 1, 0);
         row("empty period", {u"--from"_s, u"03.03.2026"_s, u"--to"_s, u"02.03.2026"_s}, "12345\n", 1, 0);
         row("no day", {u"--from"_s, u"irgendwann"_s}, {}, 2, 0);
+        row("no number of a file", {u"--tan-fd"_s, u"x"_s}, "12345\n", 2, 0);
+        row("file that is not open", {u"--tan-fd"_s, u"4711"_s}, "12345\n", 2, 0);
     }
 
     void FetchesAndTellsByItsCode()

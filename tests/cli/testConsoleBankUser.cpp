@@ -213,7 +213,10 @@ private Q_SLOTS:
     {
         cTerminal terminal([] {
             int slept = 0;
-            cConsoleBankUser user({.Sleep = [&](int seconds) { slept += seconds; }});
+            cConsoleBankUser user({.Wait = [&](const QString&, int seconds) {
+                slept += seconds;
+                return true;
+            }});
             cApproval approval;
             approval.Challenge = u"Umsatzabfrage"_s;
             approval.WaitSeconds = 5;
@@ -224,10 +227,26 @@ private Q_SLOTS:
             return isFirst && isSecond && slept == 10 ? good : 1;
         });
         QVERIFY(terminal.WaitFor("sobald Sie freigegeben haben."));
-        QVERIFY(terminal.Seen().contains("Warten auf die Freigabe"));
         QCOMPARE(terminal.Seen().count("Umsatzabfrage"), 1);
         terminal.Type("\n");
         QCOMPARE(WEXITSTATUS(terminal.End()), good);
+    }
+
+    // The program goes on, so that it can take leave of the bank.
+    void SignalEndsTheWaitOnly()
+    {
+        for (const bool isAutomatic : {true, false}) {
+            cTerminal terminal([=] {
+                cConsoleBankUser user({});
+                cApproval approval;
+                approval.WaitSeconds = 10000;
+                approval.IsAutomatic = isAutomatic;
+                return user.WaitForApproval(approval) == eApproval::Cancel && user.IsCancelled() ? good : 1;
+            });
+            QVERIFY(terminal.WaitFor(isAutomatic ? "Warten auf die Freigabe" : "Eingabetaste"));
+            terminal.Type("\x03");
+            QCOMPARE(WEXITSTATUS(terminal.End()), good);
+        }
     }
 };
 

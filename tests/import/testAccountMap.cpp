@@ -41,9 +41,12 @@ private Q_SLOTS:
         QCOMPARE(book.User.LastChoice.Proposal, u"Bankkonto 123"_s); // two accounts, and nothing speaks for either
         QVERIFY(book.User.LastChoice.Items.contains(u"Bargeld"_s));
         book.User.Choices = {u"Sparkonto"_s};
-        QCOMPARE(book.Accounts.Ask(u"123"_s, book.User), u"Sparkonto"_s);
+        QCOMPARE(book.Accounts.Ask(u"123"_s, book.User, u"Extra <Konto>"_s), u"Sparkonto"_s);
+        QVERIFY(book.User.Asked.constLast().contains(u"123 (Extra <Konto>)?"));
+        QCOMPARE(book.User.LastChoice.Proposal, u"Extra Konto"_s);
         QCOMPARE(book.Accounts.Ask(u"123"_s, book.User), u"Sparkonto"_s);
         QCOMPARE(book.User.Asked.size(), 2);
+        QCOMPARE(book.Accounts.NameFor(u"9876543"_s, u"sparkonto"_s), u"sparkonto 6543"_s); // that is another one
         QCOMPARE(book.Settings->Get(modSettingKey::BankNumber.Of(u"123"_s)), u"Sparkonto"_s);
         QVERIFY(book.Accounts.Assign(u"5"_s, u"Girokonto"_s));
         QCOMPARE(book.Accounts.Proposal(u"4"_s), QString()); // every account of a bank has its number

@@ -3,6 +3,7 @@
 #include "fints/HBCIBusiness.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
+#include "model/modSettingKey.h"
 #include "support/bankMonth.h"
 #include "support/cFakeHttps.h"
 #include "support/cTestClass.h"
@@ -16,6 +17,7 @@
 #include "views/statement/cLeftOutList.h"
 #include "views/statement/cStatementDesk.h"
 #include "views/statement/cStatementFiles.h"
+#include "views/statement/cStatementWishes.h"
 
 #include <QSignalSpy>
 
@@ -244,7 +246,7 @@ private Q_SLOTS:
     {
         m_scene->AnswerMt940(u"0001234567"_s, cBankMonth::Example());
         m_scene->Answers[u"0001234567"_s].MT940.replace(u"EUR"_s, u"USD"_s);
-        m_scene->User.Answers = {eAnswer::No, eAnswer::Yes};
+        m_scene->User.Answers = {eAnswer::No, eAnswer::Yes, eAnswer::No}; // to the start balance
         QVERIFY(!m_scene->Fetch.Run({{0}, {}, {}}, m_scene->Progress));
         QVERIFY2(m_scene->Text(0).contains(u"in USD, das Buch in EUR"), qPrintable(m_scene->Text(0)));
         QCOMPARE(m_scene->Data.GetImportEntries().size(), 0);
@@ -323,6 +325,23 @@ private Q_SLOTS:
         QCOMPARE(m_scene->User.Asked.size(), 1); // about the start balance only
         QVERIFY(m_scene->User.Asked.constFirst().contains(u"auf dem Konto 'Bargeld'"));
         QCOMPARE(m_scene->Accounts.AccountOf(u"888EUR"_s), u"Bargeld"_s);
+    }
+
+    // Where nobody can be asked, what came into the book besides is told.
+    void NewAccountIsCalledAsTheBankDoes()
+    {
+        cBankMonth month = cBankMonth::Example();
+        month.Iban = u"10020030/888"_s;
+        m_scene->AnswerMt940(u"888"_s, month);
+        m_scene->Settings->Delete(modSettingKey::BankNumber.Of(u"888"_s));
+        m_scene->Fetch.Load();
+        m_scene->Files.SetWishes({.Start = cStatementWishes::eWish::Take, .Accounts = cStatementWishes::eWish::Take});
+        QVERIFY(m_scene->Fetch.Run({{2}, {}, {}}, m_scene->Progress));
+        const QStringList notes = m_scene->Fetch.Notes();
+        QVERIFY2(notes.size() == 2 && notes.constFirst().endsWith(u"zum Konto 'Karte'.")
+                     && notes.constLast().startsWith(u"Startguthaben von 'Karte': "),
+                 qPrintable(notes.join(u'|')));
+        QCOMPARE(m_scene->Fetch.Accounts().at(2).BookAccount, u"Karte"_s);
     }
 
     // The same days in both formats, twice, overlapping, and from files: no row twice.

@@ -161,6 +161,13 @@ private Q_SLOTS:
         cBankSetup again({m_scene->Book.Tools, m_scene->Directory, m_scene->Https, m_scene->User, u"1.0.7"_s});
         again.Load(*cBankAccess(m_scene->Book.Tools).Find(u"12345678"_s, u"testuser"_s));
         QVERIFY(!again.CanGoBack());
+        const std::optional<QString> pin = std::exchange(m_scene->User.Pin, std::nullopt);
+        again.SetProductId(u"4711"_s); // typed in the wrong place
+        QVERIFY(!again.Next());
+        QVERIFY(!again.MayClose());
+        QCOMPARE(m_scene->Book.Settings->Get(modSettingKey::BankProduct), product);
+        again.SetProductId(product);
+        m_scene->User.Pin = pin;
         QVERIFY2(again.Next(), qPrintable(again.Problem()));
         QCOMPARE(BookAccounts(again), QStringList({u"Girokonto"_s, u"-"_s}));
         QVERIFY(again.MayClose()); // what the bank has told is no loss

@@ -180,6 +180,7 @@ private Q_SLOTS:
     {
         QVERIFY(m_page->Review.View().EmptyHint().startsWith(u"Ziehen Sie einen Kontoauszug"));
         QSignalSpy rows(&m_page->Review, &cImportReview::RowsChanged);
+        m_page->User.Answers = {eAnswer::No, eAnswer::No};
         m_page->ImportFixture();
         QVERIFY(!rows.isEmpty());
         QCOMPARE(m_page->User.Asked.first(2),

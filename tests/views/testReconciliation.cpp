@@ -242,8 +242,9 @@ private Q_SLOTS:
             review.Files().ImportFiles({table}, progress);
             QVERIFY(!book.Data.GetStartGuthaben(u"Girokonto"_s));
         }
-        book.User.Answers = {eAnswer::Yes};
-        qint64 shown = 0; // beside the page
+        book.User.Answers = {eAnswer::Cancel, eAnswer::Yes};
+        review.Files().ImportFiles({path}, progress); // the program ended at the question
+        qint64 shown = 0;                             // beside the page
         connect(&review, &cImportReview::EntriesChanged, this,
                 [&] { shown = book.Data.GetStartGuthaben(u"Girokonto"_s).value_or(cEntryItem()).EntryValue; });
         review.Files().ImportFiles({path}, progress);

@@ -6,15 +6,18 @@
 #include "tanQuestion.h"
 #include "testbank/cBankHousehold.h"
 #include "views/bank/cApprovalWait.h"
+#include "views/bank/cBankDirectory.h"
 #include "views/bank/cBankFetch.h"
 #include "views/bank/cBankListModel.h"
 #include "views/bank/cBankLogView.h"
+#include "views/bank/cBankSetup.h"
 #include "views/bank/cTanEntry.h"
 #include "views/statement/cStatementDesk.h"
 #include "windows/bank/cFetchTree.h"
 #include "windows/bank/cFlickerView.h"
 #include "windows/bank/cTanPictureView.h"
 #include "windows/bank/frmAbruf.h"
+#include "windows/bank/frmBankAssistent.h"
 #include "windows/bank/frmBankzugaenge.h"
 #include "windows/bank/frmPin.h"
 #include "windows/bank/frmProtokoll.h"
@@ -119,6 +122,20 @@ private Q_SLOTS:
         QCOMPARE(tree->Current(), 1);
         QVERIFY(Shows(window, u"Konto gesperrt."_s));
         QVERIFY(window.isVisible());
+    }
+
+    // A PIN typed too early does not replace the registration.
+    void NothingIsTypedOverInALoginThatIsChanged()
+    {
+        cHousehold house;
+        const cBankDirectory directory(house.Shell);
+        cBankSetup setup({house.Tools, directory, house.Https, house.Customer, u"1.0.0"_s});
+        setup.Load(house.Access.Banks().constFirst());
+        frmBankAssistent window(setup, house.Clock.Today());
+        Bring(window);
+        QTest::keyClicks(window.focusWidget(), u"4711"_s);
+        window.reject();
+        QVERIFY(!window.isVisible()); // without a question
     }
 
     void ListOfLoginsKeepsARowSelected()

@@ -17,6 +17,8 @@
 
 #include <QFileInfo>
 
+#include <fcntl.h>
+
 #include <algorithm>
 #include <iterator>
 
@@ -70,6 +72,15 @@ void cCliReader::CheckTarget(const QString& path)
 {
     if (QFileInfo(path) == QFileInfo(m_context.Book->File().Path())) {
         Misused(cText::Tr("'{0}' ist die Datenbank selbst. Bitte einen anderen Namen angeben.", {path}));
+    }
+}
+
+// Those that the program opened itself are closed for its children.
+void cCliReader::CheckOpenFile(const QString& option)
+{
+    if (m_context.Call.Has(option) && ::fcntl(modCliCommands::Fd(m_context, option), F_GETFD) != 0) {
+        Misused(
+            cText::Tr("--{0} braucht die Nummer einer geöffneten Datei, zum Beispiel: --{0} 3 3< datei.txt", {option}));
     }
 }
 

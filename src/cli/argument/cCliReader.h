@@ -56,6 +56,8 @@ public:
 
     // A file that is going to be written must not be the book itself.
     void CheckTarget(const QString& path);
+    // The option, where it is given, names a file that the caller has opened.
+    void CheckOpenFile(const QString& option);
 
     // Says that the call itself is wrong, or that the book does not have what it names.
     void Misused(const QString& problem) { Keep(modExit::Usage, problem); }

@@ -132,6 +132,8 @@ bool CheckCall(const cCliContext& context)
         context.Call.Has(u"hbci"_s) && version != u"2.2" && version != u"3.0") {
         reader.Misused(cText::Tr("Mit --hbci sind 2.2 und 3.0 möglich."));
     }
+    reader.CheckOpenFile(u"pin-fd"_s);
+    reader.CheckOpenFile(u"tan-fd"_s);
     if (!reader.IsGood()) {
         (void)reader.Report();
     }
@@ -304,7 +306,7 @@ int Methods(const cCliContext& context)
     }
     cTalk talk(context);
     cBankSetup& setup = talk.Setup;
-    if (!Discover(setup)) {
+    if (!Discover(setup) || !cBankAccess(context.Book->Tools).SetProductId(setup.ProductId())) {
         return modExit::Failed;
     }
     QStringList objects;

@@ -142,25 +142,6 @@ bool IsLogWritten(const QString& path, const cBankFetch& fetch)
     return problem.isEmpty();
 }
 
-// Accounts that belong to none of the book get one as those of files do, because nobody can be asked.
-bool AreAssigned(cCliBook& book, cBankFetch& fetch, const QList<qsizetype>& places)
-{
-    bool isDone = true;
-    for (const qsizetype place : places) {
-        const cBankFetch::cAccount& account = fetch.Accounts().at(place);
-        if (account.BookAccount.isEmpty()) {
-            QStringList notes;
-            const QStringList numbers{account.Iban.isEmpty() ? account.Number : account.Iban};
-            isDone = book.Statements.Files().AssignAccounts(numbers, notes) && isDone;
-            for (const QString& note : std::as_const(notes)) {
-                modConsole::Error(note);
-            }
-        }
-    }
-    fetch.Load();
-    return isDone;
-}
-
 int FetchAccounts(const cCliContext& context, const cBankFetch::cWish& wish)
 {
     cCliBook& book = *context.Book;
@@ -176,19 +157,19 @@ int FetchAccounts(const cCliContext& context, const cBankFetch::cWish& wish)
                                                      : cText::Tr("Kein eingerichtetes Bankkonto passt dazu."));
         return modExit::Failed;
     }
-    using eWish = cStatementWishes::eWish;
+    using eWish = cStatementWishes::eWish; // nobody can be asked
     book.Statements.Files().SetWishes({.Repeats = context.Call.Has(u"take-equal"_s) ? eWish::Take : eWish::Leave,
                                        .Start = eWish::Take,
                                        .Currency = context.Call.Has(u"take-currency"_s) ? eWish::Take : eWish::Leave,
                                        .Accounts = eWish::Take});
     book.File().CopyIfChanged();
-    if (!AreAssigned(book, fetch, chosen.Accounts)) {
-        return modExit::Failed;
-    }
     // Who names the first day wants what lies that far back; else the days that are missing are named.
     context.User.Prepare({.Answer = wish.From.isValid() ? eAnswer::Yes : eAnswer::No});
     cNoProgress progress;
     const bool isDone = fetch.Run(chosen, progress);
+    for (const QString& note : fetch.Notes()) {
+        modConsole::Error(note);
+    }
     Print(context, fetch, chosen.Accounts);
     SayEqual(context, fetch, chosen.Accounts);
     SayCurrency(fetch);
@@ -206,6 +187,8 @@ int RunFetch(const cCliContext& context)
             reader.CheckTarget(file);
         }
     }
+    reader.CheckOpenFile(u"pin-fd"_s);
+    reader.CheckOpenFile(u"tan-fd"_s);
     return reader.IsGood() ? FetchAccounts(context, wish) : reader.Report();
 }
 

@@ -8,18 +8,11 @@
 
 #include <unistd.h>
 
-#include <chrono>
-#include <thread>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
 
 namespace {
-
-void Sleep(int seconds)
-{
-    std::this_thread::sleep_for(std::chrono::seconds(seconds));
-}
 
 // The line of the option's file, else the one that is typed. Says so when neither can be had.
 std::optional<cSecret> Line(int file, const QString& prompt, const QString& missing)
@@ -43,8 +36,8 @@ QString Head(const QString& bank, const QString& way)
 
 cConsoleBankUser::cConsoleBankUser(cOptions options) : m_options(std::move(options))
 {
-    if (!m_options.Sleep) {
-        m_options.Sleep = Sleep;
+    if (!m_options.Wait) {
+        m_options.Wait = modSecretLine::Wait;
     }
 }
 
@@ -126,9 +119,8 @@ eApproval cConsoleBankUser::WaitForApproval(const cApproval& approval)
     if (!approval.IsAutomatic && !AskWhenApproved()) {
         return eApproval::Cancel;
     }
-    modConsole::Error(cText::Tr("Warten auf die Freigabe…"));
-    m_options.Sleep(approval.WaitSeconds);
-    return eApproval::AskBank;
+    m_isCancelled = !m_options.Wait(cText::Tr("Warten auf die Freigabe…"), approval.WaitSeconds);
+    return m_isCancelled ? eApproval::Cancel : eApproval::AskBank;
 }
 
 // Such a bank is asked only when the user says so.
@@ -140,7 +132,8 @@ bool cConsoleBankUser::AskWhenApproved()
                       "bitte an einem Terminal."));
         return false;
     }
-    return modSecretLine::Press(cText::Tr("Drücken Sie die Eingabetaste, sobald Sie freigegeben haben."));
+    m_isCancelled = !modSecretLine::Press(cText::Tr("Drücken Sie die Eingabetaste, sobald Sie freigegeben haben."));
+    return !m_isCancelled;
 }
 
 void cConsoleBankUser::EndApproval()

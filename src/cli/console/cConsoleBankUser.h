@@ -17,8 +17,8 @@ public:
         int PinFd = -1; // number of an open file; negative: the terminal
         int TanFd = -1;
         QString TanImage{}; // where a picture for a TAN is written to
-        // Waits for so many seconds; empty: really.
-        std::function<void(int)> Sleep{};
+        // Says the text and lets so many seconds pass, false when the user breaks it off; empty: really.
+        std::function<bool(const QString&, int)> Wait{};
     };
 
     explicit cConsoleBankUser(cOptions options);
@@ -28,12 +28,14 @@ public:
     [[nodiscard]] eApproval WaitForApproval(const cApproval& approval) override;
     void EndApproval() override;
     void ShowStep(const QString& text) override;
-    [[nodiscard]] bool IsCancelled() const override { return false; } // the terminal's own key ends the program
+    // Ctrl+C during an approval takes leave of the bank; at any other time it ends the program.
+    [[nodiscard]] bool IsCancelled() const override { return m_isCancelled; }
 
 private:
     [[nodiscard]] bool ShowPicture(const cTanQuestion& question) const;
     [[nodiscard]] std::optional<cSecret> ReadTan(const cTanQuestion& question) const;
-    [[nodiscard]] static bool AskWhenApproved();
+    [[nodiscard]] bool AskWhenApproved();
 
     cOptions m_options;
+    bool m_isCancelled = false;
 };

@@ -11,9 +11,12 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <ctime>
+#include <span>
 
 namespace {
 
+constexpr std::array endings{SIGINT, SIGTERM, SIGHUP, SIGQUIT};
 constexpr std::array signals{SIGINT, SIGTERM, SIGHUP, SIGQUIT, SIGTSTP};
 volatile std::sig_atomic_t caught = 0;
 
@@ -22,23 +25,51 @@ void Catch(int signal)
     caught = signal;
 }
 
-// A terminal that does not show what is typed. Signals are caught meanwhile and get through only while a line is waited
-// for, so that none of them finds the terminal still silent.
-class cSilentTerminal
+// Signals are caught, and get through only while something is waited for.
+class cCaughtSignals
 {
 public:
-    explicit cSilentTerminal(int file) : m_file(file)
+    explicit cCaughtSignals(std::span<const int> which) : m_which(which)
     {
         sigset_t held;
         sigemptyset(&held);
         struct sigaction action = {};
         action.sa_handler = Catch;
         caught = 0;
-        for (std::size_t i = 0; i < signals.size(); ++i) {
-            sigaddset(&held, signals.at(i));
-            sigaction(signals.at(i), &action, &m_actions.at(i));
+        for (std::size_t i = 0; i < m_which.size(); ++i) {
+            sigaddset(&held, m_which[i]);
+            sigaction(m_which[i], &action, &m_actions.at(i));
         }
         sigprocmask(SIG_BLOCK, &held, &m_mask);
+    }
+    cCaughtSignals(const cCaughtSignals&) = delete;
+    cCaughtSignals& operator=(const cCaughtSignals&) = delete;
+    ~cCaughtSignals()
+    {
+        for (std::size_t i = 0; i < m_which.size(); ++i) {
+            sigaction(m_which[i], &m_actions.at(i), nullptr);
+        }
+        sigprocmask(SIG_SETMASK, &m_mask, nullptr);
+    }
+
+    // As ppoll: negative with EINTR when a signal came.
+    [[nodiscard]] int Poll(pollfd* file, const timespec* time) const
+    {
+        return ppoll(file, file == nullptr ? 0 : 1, time, &m_mask);
+    }
+
+private:
+    std::span<const int> m_which;
+    sigset_t m_mask{};
+    std::array<struct sigaction, signals.size()> m_actions{};
+};
+
+// A terminal that does not show what is typed. No signal finds it still silent.
+class cSilentTerminal
+{
+public:
+    explicit cSilentTerminal(int file) : m_file(file)
+    {
         m_isSilent = isatty(file) != 0 && tcgetattr(file, &m_before) == 0;
         if (m_isSilent) {
             termios silent = m_before;
@@ -54,10 +85,6 @@ public:
         if (m_isSilent) {
             tcsetattr(m_file, TCSAFLUSH, &m_before);
         }
-        for (std::size_t i = 0; i < signals.size(); ++i) {
-            sigaction(signals.at(i), &m_actions.at(i), nullptr);
-        }
-        sigprocmask(SIG_SETMASK, &m_mask, nullptr);
     }
 
     [[nodiscard]] bool IsSilent() const { return m_isSilent; }
@@ -66,16 +93,15 @@ public:
     [[nodiscard]] bool WaitForInput() const
     {
         pollfd poll{m_file, POLLIN, 0};
-        while (caught == 0 && ppoll(&poll, 1, nullptr, &m_mask) < 0 && errno == EINTR) {}
+        while (caught == 0 && m_signals.Poll(&poll, nullptr) < 0 && errno == EINTR) {}
         return caught == 0;
     }
 
 private:
+    cCaughtSignals m_signals{signals};
     int m_file;
     bool m_isSilent = false;
     termios m_before{};
-    sigset_t m_mask{};
-    std::array<struct sigaction, signals.size()> m_actions{};
 };
 
 enum class eLine { Read, None, Signal };
@@ -102,13 +128,16 @@ eLine ReadLine(int file, const QString& prompt, QByteArray& line)
     return eLine::Signal;
 }
 
-// False at the end of the input. A signal ends or stops the program; a stopped one asks again when it goes on.
-bool ReadWhole(int file, const QString& prompt, QByteArray& line)
+enum class eEnding { OfProgram, OfQuestion };
+
+// False at the end of the input. A signal ends the program, or the question only, or stops the program; a stopped one
+// asks again when it goes on.
+bool ReadWhole(int file, const QString& prompt, QByteArray& line, eEnding ending)
 {
     constexpr qsizetype longest = 400;
     line.reserve(longest);
     eLine outcome = ReadLine(file, prompt, line);
-    while (outcome == eLine::Signal) {
+    while (outcome == eLine::Signal && (ending == eEnding::OfProgram || caught == SIGTSTP)) {
         cSecret::Wipe(line);
         line.reserve(longest);
         std::raise(caught);
@@ -122,7 +151,7 @@ bool ReadWhole(int file, const QString& prompt, QByteArray& line)
 std::optional<cSecret> modSecretLine::Read(int file, const QString& prompt)
 {
     QByteArray line;
-    const bool isRead = ReadWhole(file, prompt, line);
+    const bool isRead = ReadWhole(file, prompt, line, eEnding::OfProgram);
     if (line.endsWith('\r')) {
         line.chop(1);
     }
@@ -139,9 +168,18 @@ std::optional<cSecret> modSecretLine::Read(int file, const QString& prompt)
 bool modSecretLine::Press(const QString& prompt)
 {
     QByteArray line;
-    const bool isRead = ReadWhole(STDIN_FILENO, prompt, line);
+    const bool isRead = ReadWhole(STDIN_FILENO, prompt, line, eEnding::OfQuestion);
     cSecret::Wipe(line); // what is typed in the wrong place may be one
     return isRead;
+}
+
+bool modSecretLine::Wait(const QString& text, int seconds)
+{
+    const cCaughtSignals held(endings);
+    modConsole::Error(text);
+    const timespec time{seconds, 0};
+    (void)held.Poll(nullptr, &time); // only a signal cuts it short
+    return caught == 0;
 }
 
 bool modSecretLine::HasTerminal()

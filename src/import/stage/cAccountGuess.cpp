@@ -206,10 +206,16 @@ bool cAccountGuess::HasSameEntries(const QString& account, const cImportEntryLis
         >= enoughSame;
 }
 
-QString cAccountGuess::NewName(const QString& number) const
+QString cAccountGuess::NewName(const QString& number, const QString& product) const
 {
+    const QString told = modTemplate::CleanName(product).trimmed();
+    if (!told.isEmpty() && !m_taken.contains(modTemplate::AccountLike(m_accounts, told))) {
+        return told;
+    }
     const QString digits = modAccountNumber::Compact(number).right(lastDigits);
-    const QString kind = modAccountNumber::IsCard(number) ? cText::Tr("Kreditkarte") : cText::Tr("Bankkonto");
+    const QString kind = !told.isEmpty()   ? told
+        : modAccountNumber::IsCard(number) ? cText::Tr("Kreditkarte")
+                                           : cText::Tr("Bankkonto");
     const QString name = digits.isEmpty() ? kind : kind + u' ' + modTemplate::CleanName(digits);
     QString free = name;
     for (int i = 2; !modTemplate::AccountLike(m_accounts, free).isEmpty(); ++i) {

@@ -22,8 +22,9 @@ public:
     [[nodiscard]] QString AccountFor(const QString& number) const;
     // For the rows of a file that names no account: where nothing speaks for one, the first that is no cash.
     [[nodiscard]] QString Likeliest(const cImportEntryList& rows) const;
-    // A name for a new account, which the book does not have yet.
-    [[nodiscard]] QString NewName(const QString& number) const;
+    // A name for an account that the book does not have yet: what the bank calls it, where that is known and no account
+    // with a number has the name.
+    [[nodiscard]] QString NewName(const QString& number, const QString& product) const;
 
 private:
     [[nodiscard]] int Weight(const cTemplateItem& account, const QString& number, const cImportEntryList& rows) const;

@@ -39,12 +39,12 @@ QSet<QString> NamesOf(const cTemplateItemList& accounts)
     return names;
 }
 
-QString QuestionFor(const QString& number)
+QString QuestionFor(const QString& number, const QString& product)
 {
     return number.isEmpty()
         ? cText::Tr("Der Kontoauszug nennt keine Kontonummer.\nZu welchem Konto gehören seine Umsätze?")
         : cText::Tr("Zu welchem Konto gehören die Umsätze der Kontonummer {0}?\nEin neuer Name legt ein Konto an.",
-                    {number});
+                    {product.isEmpty() ? number : number + u" ("_s + product + u')'});
 }
 
 } // namespace
@@ -129,9 +129,11 @@ QString cAccountMap::ProposalFor(const cImportEntryList& rows) const
     return cAccountGuess(m_data, m_settings, {}).Likeliest(rows);
 }
 
-QString cAccountMap::NewName(const QString& number) const
+// Any other account than the proposed one would be chosen by accident.
+QString cAccountMap::NameFor(const QString& number, const QString& product) const
 {
-    return cAccountGuess(m_data, m_settings, {}).NewName(number);
+    const QString proposal = Proposal(number);
+    return proposal.isEmpty() ? cAccountGuess(m_data, m_settings, WithNumber()).NewName(number, product) : proposal;
 }
 
 QSet<QString> cAccountMap::WithNumber() const
@@ -205,19 +207,16 @@ bool cAccountMap::Assign(const QString& number, const QString& account)
     return m_settings.Set(modSettingKey::BankNumber.Of(number), name);
 }
 
-QString cAccountMap::Ask(const QString& number, cUser& user)
+QString cAccountMap::Ask(const QString& number, cUser& user, const QString& product)
 {
     if (const QString known = AccountOf(number); !known.isEmpty()) {
         return known;
     }
     cChoice choice;
-    choice.Text = QuestionFor(number);
+    choice.Text = QuestionFor(number, product);
     choice.Title = cText::Tr("Konto zuordnen");
     choice.Items = Choices();
-    choice.Proposal = Proposal(number);
-    if (choice.Proposal.isEmpty()) {
-        choice.Proposal = NewName(number); // any other account would be chosen by accident
-    }
+    choice.Proposal = NameFor(number, product);
     choice.AllowNew = true;
     const std::optional<QString> answer = user.Choose(choice);
     return answer && Assign(number, *answer) ? AccountOf(number) : QString();

@@ -47,8 +47,8 @@ public:
     [[nodiscard]] QString Proposal(const QString& number) const;
     // The account to propose for the rows of a file that names none.
     [[nodiscard]] QString ProposalFor(const cImportEntryList& rows) const;
-    // A name for a new account of this number.
-    [[nodiscard]] QString NewName(const QString& number) const;
+    // The same, else a name for a new account, with what the bank calls it where that is known.
+    [[nodiscard]] QString NameFor(const QString& number, const QString& product) const;
 
     // All accounts of the book that somebody may choose for a number, those that are open first.
     [[nodiscard]] QStringList Choices() const;
@@ -65,8 +65,8 @@ public:
     // of the group with most accounts. False when the database refuses or no account can be called so.
     [[nodiscard]] bool Assign(const QString& number, const QString& account);
 
-    // The account of the number, asked from the user when it is new. Empty when the user gives up.
-    [[nodiscard]] QString Ask(const QString& number, cUser& user);
+    // The account of the number, asked from the user when it is new. Empty when the user gives up. `product` as above.
+    [[nodiscard]] QString Ask(const QString& number, cUser& user, const QString& product = {});
 
     // The numbers of the list that no account is known for.
     [[nodiscard]] QStringList Unknown(const QStringList& numbers) const;

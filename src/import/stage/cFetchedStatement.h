@@ -14,8 +14,9 @@ struct cStatementRead;
 // What an online fetch brought of one account.
 struct cFetchedStatement
 {
-    QString Name;    // of the account, for the user
-    QString Account; // number that was asked for
+    QString Name;      // of the account, for the user
+    QString Account;   // number that was asked for
+    QString Product{}; // what the bank calls the account; may be empty
     // Its number is that of other accounts too: the bookings are those of Account, whichever their statement names.
     bool IsNumberShared = false;
     QString Iban{};                  // which the bank tells for it; its bank code counts; empty when not known

@@ -23,6 +23,7 @@
 #include "views/ledger/cStatementLedger.h"
 #include "views/ledger/modBalanceText.h"
 #include "views/ledger/modImportText.h"
+#include "views/statement/cFilesOutcome.h"
 #include "views/statement/cStatementFiles.h"
 
 #include <algorithm>
@@ -196,6 +197,7 @@ bool cBankFetch::Run(const cWish& wish, cProgress& progress)
 {
     m_customer->SetCancelled(false);
     m_lines = QList<cLine>(m_accounts.size());
+    m_notes.clear();
     std::vector<cJob> jobs = Jobs(wish);
     if (!IsPossible(jobs) || !AskAboutOld(jobs)) {
         m_lines = QList<cLine>(m_accounts.size());
@@ -380,6 +382,7 @@ void cBankFetch::Take(const cJob& job, QList<cFetchedAccount>& fetched, const cB
         run.Came.push_back({place, job.Login, order, found->Failure, found->Balance.has_value(), run.IsNamed});
         run.Statements.append({.Name = m_accounts.at(place).Name,
                                .Account = NumberIn(state, found->Account),
+                               .Product = found->Account.ProductName,
                                .IsNumberShared = cBankAccess::IsNumberShared(state, order.Account),
                                .Iban = found->Account.Iban,
                                .BookAccount = m_access.BookAccountOf(state, found->Account),
@@ -401,14 +404,17 @@ void cBankFetch::Stage(cRun& run, cProgress& progress)
         return;
     }
     Q_EMIT StepShown(cText::Tr("Die Umsätze werden übernommen …"));
-    const bool isKept =
+    const cFilesOutcome outcome =
         m_files.TakeFetched(run.Statements, progress, [&](qsizetype place, const cImportResult& result) {
             NoteTaken(run.Came[static_cast<std::size_t>(place)], result);
         });
+    m_notes = outcome.Notes;
     for (const cCame& came : run.Came) {
+        m_accounts[came.Place].BookAccount = m_access.BookAccountOf(came.Login->State, came.Order.Account);
+        Q_EMIT LineChanged(came.Place);
         if (m_lines.at(came.Place).State == eState::Came) {
             Fail(came.Place, Cancelled()); // one before it was stopped
-        } else if (!isKept) {
+        } else if (!outcome.IsDone) {
             m_lines[came.Place].New = 0;
             Fail(came.Place, {eBankFault::Other, cText::Tr("Die Datenbank hat die Umsätze nicht angenommen."), {}});
         }

@@ -106,6 +106,8 @@ public:
         QStringList Notes;             // differences to the balance, days that are missing, what could not be read
     };
     [[nodiscard]] const QList<cLine>& Lines() const { return m_lines; }
+    // What else came into the book: accounts of new numbers, start balances.
+    [[nodiscard]] const QStringList& Notes() const { return m_notes; }
     [[nodiscard]] QString Summary() const; // "7 neue Umsätze." and failures; empty when nothing ran
 
     // All messages of this object's runs: as they are, and with nothing in it that says who somebody is.
@@ -153,4 +155,5 @@ private:
     std::vector<cLogin> m_logins;
     QList<cAccount> m_accounts;
     QList<cLine> m_lines;
+    QStringList m_notes;
 };

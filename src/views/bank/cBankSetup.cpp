@@ -212,7 +212,7 @@ bool cBankSetup::Run(bool (HBCIBusiness::*operation)())
 
 bool cBankSetup::Discover()
 {
-    return m_access.SetProductId(m_productId) && Run(&HBCIBusiness::Discover);
+    return Run(&HBCIBusiness::Discover);
 }
 
 QString cBankSetup::AddressNote() const
@@ -303,7 +303,8 @@ bool cBankSetup::Save()
     const bool isAssigned = std::all_of(lines.begin(), lines.end(), [this](const cBankAccountChoice::cLine& line) {
         return !line.IsChosen || m_access.Assign(m_state, line.Account, line.BookAccount);
     });
-    return step.DoneIf(isAssigned) && m_access.Save(m_state) && m_access.Choose(m_state, m_accounts->Chosen());
+    return step.DoneIf(isAssigned) && m_access.SetProductId(m_productId) && m_access.Save(m_state)
+        && m_access.Choose(m_state, m_accounts->Chosen());
 }
 
 bool cBankSetup::Next()

@@ -93,8 +93,8 @@ public:
     // After Refresh
     [[nodiscard]] cBankAccountChoice& Accounts() { return *m_accounts; }
 
-    // Writes login, accounts and where they belong. False when something is missing, which Problem says, or when the
-    // book refuses.
+    // Writes login, registration, accounts and where they belong. False when something is missing, which Problem says,
+    // or when the book refuses.
     [[nodiscard]] bool Save();
 
     // The same step by step, as an assistant goes. Next does what the page is for; false when it has to stay, which

@@ -63,7 +63,7 @@ QString cTanEntry::ByHand() const
 {
     return m_question.ByHand.isEmpty()
         ? QString()
-        : cText::Tr("Ohne Balken eintippen, eins nach dem anderen: {0}", {m_question.ByHand.join(u"  ·  "_s)});
+        : cText::Tr("Ohne Balken eintippen, eins nach dem anderen:") + u'\n' + m_question.ByHand.join(u'\n');
 }
 
 QString cTanEntry::Form() const

@@ -7,6 +7,7 @@
 #include "core/cSettings.h"
 #include "import/stage/cLeftOutRows.h"
 #include "model/modBalance.h"
+#include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cStartBalance.h"
 #include "views/ledger/cStatementLedger.h"
@@ -131,10 +132,23 @@ QStringList cOpeningBalance::Due(QStringList numbers, int newestBefore, const QS
     return numbers;
 }
 
+// Of a refusal the user has been told.
+void cOpeningBalance::Expect(const QStringList& numbers) const
+{
+    for (const QString& number : numbers) {
+        (void)m_tools.Settings.SetBool(modSettingKey::StartDue.Of(number), true);
+    }
+}
+
+void cOpeningBalance::Settle(const QString& number) const
+{
+    (void)m_tools.Settings.Delete(modSettingKey::StartDue.Of(number));
+}
+
 bool cOpeningBalance::IsDue(const QString& number, int newestBefore) const
 {
     cStatementLedger ledger(m_tools.Data, m_tools.Settings);
-    if (ledger.AccountOf(number).isEmpty()) {
+    if (ledger.AccountOf(number).isEmpty() || m_tools.Settings.GetBool(modSettingKey::StartDue.Of(number))) {
         return true;
     }
     ledger.Load(number); // with rows that may be there twice: to find those takes longer than to see that all is right

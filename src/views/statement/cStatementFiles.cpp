@@ -60,7 +60,8 @@ struct cStatementFiles::cRun
     int Number = 0; // of the present file
     QStringList Lines{};
     QStringList Numbers{};
-    QStringList Firsts{}; // of these the ones that have a first row, or a first balance, for certain
+    QStringList Firsts{};               // of these the ones that have a first row, or a first balance, for certain
+    QHash<QString, QString> Products{}; // what the bank calls the account of a number that was fetched
     QStringList Refusals{};
     QList<int> Rows{}; // staged
     cForeignNames Names{};
@@ -189,7 +190,7 @@ void cStatementFiles::Note(const cImportResult& result, cRun& run)
     run.Firsts += result.FirstBalances + m_accounts.Unknown(result.Accounts);
     run.Outcome.Files.append(result);
     if (m_wishes.Accounts == eWish::Take) {
-        TakeAccounts(result, run.Outcome);
+        TakeAccounts(result, run.Products, run.Outcome);
     }
 }
 
@@ -204,22 +205,24 @@ void cStatementFiles::End(cRun& run)
         m_tools.User.Show(eTone::Exclamation, run.Refusals.join(u"\n\n"_s));
     }
     const QStringList due = cOpeningBalance(m_tools).Due(run.Numbers, run.Before, run.Firsts);
+    ExpectStart(due);
     if (m_wishes.Accounts == eWish::Ask) {
         OfferNames(run.Names);
-        AskUnknown(run.Numbers);
+        AskUnknown(run.Numbers, run.Products);
     }
     OfferStart(due, run.Outcome);
     Q_EMIT RowsStaged(run.Rows);
 }
 
-bool cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cProgress& progress, const fnTaken& taken)
+cFilesOutcome cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cProgress& progress,
+                                           const fnTaken& taken)
 {
-    bool isKept = false;
+    cRun run{.Progress = progress, .Count = static_cast<int>(statements.size())};
     {
         const QScopedValueRollback running(m_isRunning, true);
         Q_EMIT ImportStarts();
         cUndoStep step(m_tools.Data, cText::Tr("Umsätze abgerufen"), cJournal::eWrites::InPortions);
-        cRun run{.Progress = progress, .Count = static_cast<int>(statements.size()), .Before = NewestRow()};
+        run.Before = NewestRow();
         m_last.clear();
         for (qsizetype place = 0; place < statements.size(); ++place) {
             m_last.append(cFile());
@@ -228,6 +231,9 @@ bool cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cP
                 return m_works->Import.ImportFetched(statements.at(place), wanted, progress);
             });
             AssignFetched(statements.at(place), result);
+            for (const QString& number : result.Accounts) {
+                run.Products.insert(number, statements.at(place).Product);
+            }
             Note(result, run);
             taken(place, result);
             if (result.IsCancelled) {
@@ -235,10 +241,10 @@ bool cStatementFiles::TakeFetched(const QList<cFetchedStatement>& statements, cP
             }
         }
         End(run);
-        isKept = step.Done();
+        run.Outcome.IsDone = step.Done();
     }
     ImportFiles({}, progress); // those that were dropped meanwhile
-    return isKept;
+    return run.Outcome;
 }
 
 // Under whatever number an account tells its bookings, they are those of the account that was asked for.

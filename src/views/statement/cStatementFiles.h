@@ -2,6 +2,7 @@
 
 #include "views/statement/cStatementWishes.h"
 
+#include <QHash>
 #include <QList>
 #include <QObject>
 #include <QString>
@@ -57,11 +58,11 @@ public:
     [[nodiscard]] cFilesOutcome ReadFiles(const QStringList& paths, const cImportOptions& options, cProgress& progress);
 
     // Takes what an online fetch brought, an account like a file, all of it as one step. Only numbers whose account of
-    // the book is not known are asked about. `taken` is told within the step what came of each, by its place. False
+    // the book is not known are asked about. `taken` is told within the step what came of each, by its place. Not done
     // when the database did not take the step, of which the user has been told.
     using fnTaken = std::function<void(qsizetype place, const cImportResult& result)>;
-    [[nodiscard]] bool TakeFetched(const QList<cFetchedStatement>& statements, cProgress& progress,
-                                   const fnTaken& taken);
+    [[nodiscard]] cFilesOutcome TakeFetched(const QList<cFetchedStatement>& statements, cProgress& progress,
+                                            const fnTaken& taken);
 
     // Reads the last files once more with the assistant. What they brought and is still open goes, in the same step.
     [[nodiscard]] bool CanReadAgain() const;
@@ -69,9 +70,6 @@ public:
 
     // Asks which accounts of the book the numbers belong to, as far as that is not known, and what these began with.
     void AskAccounts(const QStringList& numbers);
-    // Gives the numbers that the book does not know an account, as the wishes say, and notes it. False when the
-    // database refuses.
-    [[nodiscard]] bool AssignAccounts(const QStringList& numbers, QStringList& notes);
 
     // What was not taken of the last files.
     [[nodiscard]] cLeftOutList& LeftOut() { return *m_leftOut; }
@@ -126,11 +124,15 @@ private:
     static void NoteRefusal(const cImportResult& result, cRun& run); // to be shown at the end of the run
     [[nodiscard]] bool IsAnswered(cImportAssistant& assistant, cRun& run);
     [[nodiscard]] QList<int> RemoveOpen(const QList<int>& rows);
-    void TakeAccounts(const cImportResult& result, cFilesOutcome& outcome);
+    void TakeAccounts(const cImportResult& result, const QHash<QString, QString>& products, cFilesOutcome& outcome);
+    [[nodiscard]] bool AssignAccounts(const QStringList& numbers, const QHash<QString, QString>& products,
+                                      QStringList& notes);
     [[nodiscard]] bool AddNames(const cImportResult& result, QStringList& notes);
     void OfferNames(const cForeignNames& names);
     [[nodiscard]] bool AreNamesWanted(const cForeignNames& missing);
-    void AskUnknown(const QStringList& numbers);
+    void AskUnknown(const QStringList& numbers, const QHash<QString, QString>& products);
+    [[nodiscard]] bool IsStartOffered() const;
+    void ExpectStart(const QStringList& numbers);
     void OfferStart(const QStringList& numbers, cFilesOutcome& outcome);
     [[nodiscard]] QList<cRepeat> SettleRepeats(cRun& run);
     [[nodiscard]] bool AreWanted(const QList<cRepeat>& repeats);

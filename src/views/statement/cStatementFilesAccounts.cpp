@@ -45,10 +45,11 @@ bool cStatementFiles::IsCurrencyWanted(const cImportResult& result)
 }
 
 // Before the next file is read: by then a name may stand for a number.
-void cStatementFiles::TakeAccounts(const cImportResult& result, cFilesOutcome& outcome)
+void cStatementFiles::TakeAccounts(const cImportResult& result, const QHash<QString, QString>& products,
+                                   cFilesOutcome& outcome)
 {
     outcome.IsDone = AddNames(result, outcome.Notes) && outcome.IsDone;
-    outcome.IsDone = AssignAccounts(result.Accounts, outcome.Notes) && outcome.IsDone;
+    outcome.IsDone = AssignAccounts(result.Accounts, products, outcome.Notes) && outcome.IsDone;
 }
 
 // One account for all leaves the names of the file's own without meaning.
@@ -73,15 +74,16 @@ bool cStatementFiles::AddNames(const cImportResult& result, QStringList& notes)
     return true;
 }
 
-bool cStatementFiles::AssignAccounts(const QStringList& numbers, QStringList& notes)
+bool cStatementFiles::AssignAccounts(const QStringList& numbers, const QHash<QString, QString>& products,
+                                     QStringList& notes)
 {
     if (m_wishes.Account.isEmpty()) {
         (void)m_accounts.AssignNames(numbers);
     }
     const QStringList unknown = m_accounts.Unknown(numbers);
     for (const QString& number : unknown) {
-        QString account = m_wishes.Account.isEmpty() ? m_accounts.Proposal(number) : m_wishes.Account;
-        account = account.isEmpty() ? m_accounts.NewName(number) : account;
+        const QString account =
+            m_wishes.Account.isEmpty() ? m_accounts.NameFor(number, products.value(number)) : m_wishes.Account;
         if (!m_accounts.Assign(number, account)) {
             notes.append(cText::Tr("Der Kontonummer '{0}' konnte kein Konto zugeordnet werden.", {number}));
             return false;
@@ -116,25 +118,44 @@ bool cStatementFiles::AreNamesWanted(const cForeignNames& missing)
     return m_tools.User.Ask(question) == eAnswer::Yes;
 }
 
+bool cStatementFiles::IsStartOffered() const
+{
+    return m_wishes.Start != eWish::Leave && !m_tools.Data.IsReadOnly();
+}
+
+// Before the first question: the program may end at each of them.
+void cStatementFiles::ExpectStart(const QStringList& numbers)
+{
+    if (IsStartOffered()) {
+        cOpeningBalance(m_tools).Expect(numbers);
+    }
+}
+
 void cStatementFiles::OfferStart(const QStringList& numbers, cFilesOutcome& outcome)
 {
-    if (m_wishes.Start == eWish::Leave || m_tools.Data.IsReadOnly()) {
+    if (!IsStartOffered()) {
         return;
     }
     const cOpeningBalance opening(m_tools);
     bool isTaken = false;
     for (const QString& number : numbers) {
         const std::optional<cOpeningBalance::cOffer> offer = opening.For(number);
-        const bool isWanted = offer
-            && (m_wishes.Start == eWish::Take
-                || m_tools.User.Ask({.Text = opening.Question(*offer), .Title = cText::Tr("Startguthaben")})
-                    == eAnswer::Yes);
-        if (isWanted && opening.Take(*offer)) {
-            outcome.Notes.append(opening.Report(*offer));
-            isTaken = true;
-        } else if (isWanted) {
-            outcome.IsDone = false; // the user has been told
+        const eAnswer answer = !offer ? eAnswer::No
+            : m_wishes.Start == eWish::Take
+            ? eAnswer::Yes
+            : m_tools.User.Ask({.Text = opening.Question(*offer), .Title = cText::Tr("Startguthaben")});
+        if (answer == eAnswer::Cancel) {
+            continue; // nobody has answered
         }
+        if (answer == eAnswer::Yes) {
+            const bool isStored = opening.Take(*offer);
+            outcome.IsDone = isStored && outcome.IsDone; // of a refusal the user has been told
+            if (isStored) {
+                outcome.Notes.append(opening.Report(*offer));
+                isTaken = true;
+            }
+        }
+        opening.Settle(number);
     }
     if (isTaken) {
         Q_EMIT StartTaken();
@@ -143,13 +164,15 @@ void cStatementFiles::OfferStart(const QStringList& numbers, cFilesOutcome& outc
 
 void cStatementFiles::AskAccounts(const QStringList& numbers)
 {
-    const QStringList unknown = m_accounts.Unknown(numbers);
-    AskUnknown(numbers);
+    QStringList assigned = m_accounts.Unknown(numbers);
+    AskUnknown(numbers, {});
+    assigned.removeIf([this](const QString& number) { return m_accounts.AccountOf(number).isEmpty(); });
+    ExpectStart(assigned);
     cFilesOutcome told;
-    OfferStart(unknown, told);
+    OfferStart(assigned, told);
 }
 
-void cStatementFiles::AskUnknown(const QStringList& numbers)
+void cStatementFiles::AskUnknown(const QStringList& numbers, const QHash<QString, QString>& products)
 {
     const QStringList named = m_accounts.AssignNames(numbers);
     QStringList unknown = m_accounts.Unknown(numbers);
@@ -159,7 +182,7 @@ void cStatementFiles::AskUnknown(const QStringList& numbers)
     }
     QStringList lines;
     for (const QString& number : std::as_const(unknown)) {
-        if (m_accounts.Ask(number, m_tools.User).isEmpty()) {
+        if (m_accounts.Ask(number, m_tools.User, products.value(number)).isEmpty()) {
             lines.append(modImportText::NoAccount(number));
         }
     }

@@ -124,7 +124,7 @@ void cBankAccountsPage::Leave()
     }
 }
 
-QWidget& cBankAccountsPage::First()
+QWidget* cBankAccountsPage::First()
 {
-    return m_rows.isEmpty() ? static_cast<QWidget&>(*m_first) : *m_rows.constFirst().IsChosen;
+    return m_rows.isEmpty() ? static_cast<QWidget*>(m_first) : m_rows.constFirst().IsChosen;
 }

@@ -22,7 +22,7 @@ public:
 
     void Enter() override;
     void Leave() override;
-    [[nodiscard]] QWidget& First() override;
+    [[nodiscard]] QWidget* First() override;
 
 private:
     struct cRow

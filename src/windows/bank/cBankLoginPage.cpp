@@ -94,7 +94,8 @@ void cBankLoginPage::Leave()
     m_setup.SetProductId(m_product->text());
 }
 
-QWidget& cBankLoginPage::First()
+// Never a registration that is there: its text is selected, and a PIN typed too early would replace it.
+QWidget* cBankLoginPage::First()
 {
-    return m_setup.IsNew() ? *m_user : *m_product;
+    return m_setup.IsNew() ? m_user : m_product->text().isEmpty() ? m_product : nullptr;
 }

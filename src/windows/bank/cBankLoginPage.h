@@ -16,7 +16,7 @@ public:
 
     void Enter() override;
     void Leave() override;
-    [[nodiscard]] QWidget& First() override;
+    [[nodiscard]] QWidget* First() override;
 
 private:
     cBankSetup& m_setup;

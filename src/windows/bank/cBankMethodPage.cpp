@@ -65,7 +65,7 @@ void cBankMethodPage::Leave()
     }
 }
 
-QWidget& cBankMethodPage::First()
+QWidget* cBankMethodPage::First()
 {
-    return m_medium->isHidden() ? *m_method : *m_medium;
+    return m_medium->isHidden() ? m_method : m_medium;
 }

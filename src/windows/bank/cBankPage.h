@@ -13,6 +13,6 @@ public:
     // Shows what is known by now, and takes over what was typed.
     virtual void Enter() = 0;
     virtual void Leave() = 0;
-    // Where typing begins.
-    [[nodiscard]] virtual QWidget& First() = 0;
+    // Where typing begins; null when nothing has to be typed.
+    [[nodiscard]] virtual QWidget* First() = 0;
 };

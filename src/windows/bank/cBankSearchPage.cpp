@@ -79,9 +79,9 @@ void cBankSearchPage::Leave()
     m_setup.SetHbciVersion(m_version->currentData().toString());
 }
 
-QWidget& cBankSearchPage::First()
+QWidget* cBankSearchPage::First()
 {
-    return *m_text;
+    return m_text;
 }
 
 void cBankSearchPage::ShowHint(const QString& text)

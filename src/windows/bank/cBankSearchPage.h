@@ -20,7 +20,7 @@ public:
 
     void Enter() override;
     void Leave() override;
-    [[nodiscard]] QWidget& First() override;
+    [[nodiscard]] QWidget* First() override;
 
 private:
     [[nodiscard]] QWidget* BuildMore();

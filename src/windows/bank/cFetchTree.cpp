@@ -62,7 +62,6 @@ void cFetchTree::Fill()
         item->setData(Account, Qt::UserRole, i);
         item->setText(Account, account.Name);
         item->setToolTip(Account, account.Name);
-        item->setText(Book, account.BookAccount.isEmpty() ? cText::Tr("wird gefragt") : account.BookAccount);
         item->setCheckState(Account, Qt::Checked);
         item->setTextAlignment(Balance, Qt::AlignRight | Qt::AlignVCenter);
         m_items.append(item);
@@ -122,9 +121,11 @@ void cFetchTree::changeEvent(QEvent* event)
 void cFetchTree::ShowLine(qsizetype account)
 {
     QTreeWidgetItem& item = *m_items.at(account);
+    const QString& book = m_fetch.Accounts().at(account).BookAccount;
     const cBankFetch::cLine* line =
         account < m_fetch.Lines().size() ? &m_fetch.Lines().at(account) : nullptr; // none before the first run
     const QString state = modFetchText::State(m_fetch, account);
+    item.setText(Book, book.isEmpty() ? cText::Tr("wird gefragt") : book);
     item.setText(State, state);
     item.setToolTip(State, state);
     item.setText(Balance, line == nullptr ? QString() : line->BalanceText);

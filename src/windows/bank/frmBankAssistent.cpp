@@ -123,7 +123,8 @@ void frmBankAssistent::ShowPage()
 {
     m_pages->setCurrentIndex(static_cast<int>(m_setup.Page()));
     Page().Enter();
-    Page().First().setFocus();
+    QWidget* first = Page().First();
+    (first == nullptr ? m_next : first)->setFocus();
     m_back->setEnabled(m_setup.CanGoBack());
     m_next->setText(m_setup.Page() == cBankSetup::ePage::Accounts ? cText::Tr("&Fertigstellen") : cText::Tr("&Weiter"));
     ShowProblem();
