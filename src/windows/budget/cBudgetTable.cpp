@@ -84,6 +84,9 @@ protected:
         cRowDelegate::initStyleOption(option, index);
         option->features.setFlag(QStyleOptionViewItem::HasCheckIndicator, false); // it is painted in the middle
         option->font.setBold(index.data(cBudgetModel::IsHeadRole).toBool());
+        if (index.column() == cBudgetModel::Plain && !index.flags().testFlag(Qt::ItemIsEditable)) {
+            option->backgroundBrush = option->palette.brush(QPalette::Window); // as a field that takes nothing
+        }
         const int tone = index.data(cBudgetModel::ToneRole).toInt();
         if (tone != cBudgetModel::Normal && !option->state.testFlag(QStyle::State_Selected)) {
             option->palette.setColor(QPalette::Text,
@@ -129,7 +132,7 @@ private:
 } // namespace
 
 cBudgetTable::cBudgetTable(cBudgetModel& model, ePart part, QWidget* parent)
-    : QTableView(parent),
+    : cTypedCells(parent),
       m_model(model),
       m_part(part),
       m_lines(new cPart(part, this))
