@@ -115,6 +115,7 @@ QWidget* frmHandbuch::BuildSides()
     m_page->setAccessibleName(cText::Tr("Seite des Handbuchs"));
     m_hits->setRootIsDecorated(false);
     m_hits->setAlternatingRowColors(true);
+    m_hits->setWordWrap(true);
     m_side->addWidget(m_contents);
     m_side->addWidget(m_hits);
     auto* sides = new QSplitter(this);
@@ -139,11 +140,11 @@ void frmHandbuch::Connect()
         m_search->setFocus(Qt::ShortcutFocusReason);
     });
     connect(m_search, &QLineEdit::textChanged, this, &frmHandbuch::Search);
-    connect(m_search, &QLineEdit::returnPressed, this, [this] { OpenItem(m_hits->currentItem()); });
-    for (QTreeWidget* tree : {m_contents, m_hits}) {
-        connect(tree, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* item) { OpenItem(item); });
-        connect(tree, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* item) { OpenItem(item); });
-    }
+    connect(m_search, &QLineEdit::returnPressed, this, [this] { OpenHit(m_hits->currentItem()); });
+    connect(m_contents, &QTreeWidget::itemClicked, this, &frmHandbuch::OpenItem);
+    connect(m_contents, &QTreeWidget::itemActivated, this, &frmHandbuch::OpenItem);
+    connect(m_hits, &QTreeWidget::itemClicked, this, &frmHandbuch::OpenHit);
+    connect(m_hits, &QTreeWidget::itemActivated, this, &frmHandbuch::OpenHit);
 }
 
 void frmHandbuch::FillContents()
@@ -175,13 +176,28 @@ void frmHandbuch::Search()
     m_hits->setCurrentItem(m_hits->topLevelItem(0));
     m_side->setCurrentWidget(text.isEmpty() ? m_contents : m_hits);
     m_found->setText(text.isEmpty() ? QString() : cText::Tr("Gefundene Stellen: {0}", {QString::number(hits.size())}));
-    m_page->SetFindText(text.section(u' ', 0, 0));
+    m_page->SetFindText(Word());
+}
+
+QString frmHandbuch::Word() const
+{
+    return m_search->text().simplified().section(u' ', 0, 0);
 }
 
 void frmHandbuch::OpenItem(const QTreeWidgetItem* item)
 {
     if (item != nullptr) {
         OpenPlace(item->data(0, placeRole).toString());
+    }
+}
+
+// The word may stand far below the headline of its section.
+void frmHandbuch::OpenHit(const QTreeWidgetItem* hit)
+{
+    OpenItem(hit);
+    const cManual::cSection section = m_browser.Manual().Sections().value(m_browser.SectionNow());
+    if (section.Text.contains(Word(), Qt::CaseInsensitive)) {
+        m_page->FindBelow(section.Anchor);
     }
 }
 

@@ -38,6 +38,8 @@ private:
     void ShowButtons();
     void Leave(void (cManualBrowser::*way)());
     void OpenItem(const QTreeWidgetItem* item);
+    void OpenHit(const QTreeWidgetItem* hit);
+    [[nodiscard]] QString Word() const; // that is marked on the page: the first one that is looked for
     void OpenPlace(const QString& address);
     void StayUsable();
 
