@@ -85,7 +85,9 @@ protected:
         option->features.setFlag(QStyleOptionViewItem::HasCheckIndicator, false); // it is painted in the middle
         option->font.setBold(index.data(cBudgetModel::IsHeadRole).toBool());
         if (index.column() == cBudgetModel::Plain && !index.flags().testFlag(Qt::ItemIsEditable)) {
-            option->backgroundBrush = option->palette.brush(QPalette::Window); // as a field that takes nothing
+            QColor shade = option->palette.color(QPalette::Text); // as a field that cannot be used
+            shade.setAlphaF(0.09F);
+            option->backgroundBrush = shade;
         }
         const int tone = index.data(cBudgetModel::ToneRole).toInt();
         if (tone != cBudgetModel::Normal && !option->state.testFlag(QStyle::State_Selected)) {

@@ -8,6 +8,7 @@ class QLabel;
 class QLayout;
 class QLineEdit;
 class QPushButton;
+class QSplitter;
 class QStackedWidget;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -33,6 +34,7 @@ private:
     void Connect();
     void FillContents();
     void Search();
+    void ShowSide(QTreeWidget& side);
     void ShowPlace();
     void MarkContents();
     void ShowButtons();
@@ -48,6 +50,7 @@ private:
     QPushButton* m_forward;
     QLineEdit* m_search;
     QLabel* m_found;
+    QSplitter* m_sides;
     QStackedWidget* m_side;
     QTreeWidget* m_contents;
     QTreeWidget* m_hits;
