@@ -270,7 +270,7 @@ void cNavigation::OpenEntry(int entryId, QDate day)
     cEntryEditor editor(m_parts.Tools);
     switch (series.AskWhatToEdit(entryId, day)) {
     case cSeriesChange::eEdit::Nothing: break;
-    case cSeriesChange::eEdit::Period: OpenCorrection(entryId, day); break;
+    case cSeriesChange::eEdit::Period: OpenCorrection(entryId, day, eCorrected::Amount); break;
     case cSeriesChange::eEdit::FromHere:
         OpenEditor(editor, editor.LoadFrom(entryId, day));
         m_review->Refresh(); // bank transactions went along with the later part of the series
@@ -279,15 +279,15 @@ void cNavigation::OpenEntry(int entryId, QDate day)
     }
 }
 
-void cNavigation::OpenCorrection(int entryId, QDate day)
+void cNavigation::OpenCorrection(int entryId, QDate day, eCorrected first)
 {
     cSeriesChange series(m_parts.Tools);
-    const std::optional<cSeriesChange::cPeriodFields> fields =
-        series.StartPeriod(entryId, day, m_parts.Tools.Clock.Today());
+    std::optional<cSeriesChange::cPeriodFields> fields = series.StartPeriod(entryId, day, m_parts.Tools.Clock.Today());
     if (!fields) {
         BookChanged();
         return;
     }
+    fields->IsDayFirst = first == eCorrected::Day;
     frmKorrektur form(series, *fields, Parent());
     QObject::connect(&form, &frmKorrektur::CorrectionSaved, m_model, &cMainModel::BookChanged);
     form.exec();

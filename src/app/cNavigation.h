@@ -76,7 +76,7 @@ public:
 
     void OpenNewEntry() override;
     void OpenEntry(int entryId, QDate day) override;
-    void OpenCorrection(int entryId, QDate day) override;
+    void OpenCorrection(int entryId, QDate day, eCorrected first) override;
     void OpenTemplates(const QString& path) override;
     void Open(modCommand::eId command) override;
     void EndProgram() override;

@@ -48,6 +48,7 @@ std::span<const cSettingKey* const> modSettingKey::All()
                                      &SavedViews,
                                      &GameScores,
                                      &ImportRuns,
+                                     &RowChoices,
                                      &BankProduct,
                                      &MainPeriod,
                                      &MainPeriodStart,

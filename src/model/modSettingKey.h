@@ -61,6 +61,7 @@ inline const cSettingKey RemindedOn{QStringLiteral("ErinnerungGemeldet"), {Day, 
 inline const cSettingKey SavedViews{QStringLiteral("Ansichten"), {List, Book, Kept}};   // see modSavedView
 inline const cSettingKey GameScores{QStringLiteral("SpielBestwerte"), {List, Book, Kept}};
 inline const cSettingKey ImportRuns{QStringLiteral("ImportRuns"), {List, Book}};
+inline const cSettingKey RowChoices{QStringLiteral("UmsatzWahl"), {List, Book, Kept}}; // see cRowChoices
 inline const cSettingFamily BankNumber{QStringLiteral("KTO:"), {}, {Text, Book}};      // number: account of the book
 inline const cSettingFamily BankCode{QStringLiteral("KTOBLZ:"), {}, {Text, Book}};     // number: of its bank
 inline const cSettingFamily BankBalances{QStringLiteral("SALDO:"), {}, {List, Book}};  // number

@@ -186,7 +186,8 @@ private Q_SLOTS:
         QCOMPARE(left.join(u' '),
                  u"Ansichten=0 Anteile:100=0 Auszüge:100=0 Budget:100=0 Farbe:100=0 FirstInstall=0 HBCIProdukt=0 "
                  "HBCIVBLZ100=0 LastVersion=0 Passwort=0 PasswortAktiv=0 Personen=0 SpielBestwerte=0 Symbol:100=0 "
-                 "Update=0 ViewAccountValueAll=Wahr ViewFixBooking=Wahr ViewFutureBooking=Wahr ViewSingleBooking=Wahr "
+                 "UmsatzWahl=0 Update=0 ViewAccountValueAll=Wahr ViewFixBooking=Wahr ViewFutureBooking=Wahr "
+                 "ViewSingleBooking=Wahr "
                  "ViewStartBooking=Wahr"_s);
     }
 

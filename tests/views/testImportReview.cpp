@@ -286,19 +286,6 @@ private Q_SLOTS:
         QVERIFY(m_page->Settings->GetBool(modSettingKey::HideBooked));
     }
 
-    // The number of a row that is gone comes again.
-    void ForgetsTheChoiceForARowThatIsAnotherOne()
-    {
-        m_page->ImportFixture();
-        m_page->AddRow(u"Geschenk"_s);
-        const int last = m_page->AllIds().last();
-        QVERIFY(m_page->Review.Choose({last}, u"Freizeit; Geschenke"_s, {}));
-        QVERIFY(m_page->Data.DeleteImport(last));
-        m_page->AddRow(u"etwas ganz anderes"_s);
-        QCOMPARE(m_page->AllIds().last(), last);
-        QCOMPARE(m_page->Cell(5, cStagedListModel::Reason), u"keine Regel passt"_s);
-    }
-
     void AsksAgainBeforeBooking()
     {
         m_page->Review.Files().ImportFiles({fixture}, m_page->Progress); // the user gives up on both questions

@@ -187,7 +187,7 @@ private Q_SLOTS:
         scene.Show();
         QVERIFY(scene.Lines(eOverviewCard::Due).isEmpty()); // both have happened now
         lines.at(1).Actions.at(1).Run();
-        QCOMPARE(scene.Navigator.Opened, QStringList(u"Korrektur %1 2026-03-20"_s.arg(rent.ID)));
+        QCOMPARE(scene.Navigator.Opened, QStringList(u"anderer Tag %1 2026-03-20"_s.arg(rent.ID)));
         lines.at(1).Actions.at(2).Run();
         QCOMPARE(scene.Book.Data.GetEntries(march).at(0).EntryValue, 0);
         scene.Show();

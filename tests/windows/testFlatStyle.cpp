@@ -135,6 +135,13 @@ private Q_SLOTS:
         }
     }
 
+    // A box calls itself selected while it has the focus, and its arrow stays what it is.
+    void BoxKeepsItsArrow()
+    {
+        const cFlatStyle style;
+        QCOMPARE(Drawn(style, u"box"_s, usable | QStyle::State_Selected, false), Drawn(style, u"box"_s, usable, false));
+    }
+
     void CanBeRead()
     {
         for (const QPalette& palette : {modPalette::Light(), modPalette::Dark()}) {

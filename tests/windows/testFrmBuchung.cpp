@@ -511,9 +511,12 @@ private Q_SLOTS:
         QCOMPARE(correction->EntryValue, 70050);
         QCOMPARE(correction->EntryComment, u"Gutschrift"_s);
 
-        frmKorrektur again(change, change.StartPeriod(rent, QDate(2026, 2, 1)).value());
+        cSeriesChange::cPeriodFields fields = change.StartPeriod(rent, QDate(2026, 2, 1), QDate(2026, 2, 1)).value();
+        fields.IsDayFirst = true;
+        frmKorrektur again(change, fields);
         QSignalSpy removed(&again, &frmKorrektur::CorrectionSaved);
         modWindowHands::Bring(again);
+        QCOMPARE(FocusName(), u"txtTag"_s);
         Key(Qt::Key_E, Qt::AltModifier);
         QTRY_VERIFY(!change.Correction(rent, QDate(2026, 2, 1)));
         QCOMPARE(saved.size() + removed.size(), 2);

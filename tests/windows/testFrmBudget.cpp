@@ -1,3 +1,4 @@
+#include "model/cTemplateItem.h"
 #include "support/cTestClass.h"
 #include "support/testBook.h"
 #include "views/budget/cBudgetModel.h"
@@ -8,6 +9,7 @@
 #include <QClipboard>
 #include <QLineEdit>
 #include <QScrollBar>
+#include <QToolTip>
 
 #include <algorithm>
 
@@ -73,6 +75,36 @@ private Q_SLOTS:
         table->setCurrentIndex(table->model()->index(1, cBudgetModel::Carry));
         QTest::keyClick(table, Qt::Key_Space);
         QVERIFY(m_scene->Budget.Edit().CarriesOver(0));
+    }
+
+    // A key in such a cell goes to no other one, and says why.
+    void CellsThatTakeNothingSaySo()
+    {
+        const QString fixed = m_scene->Book.AddCategory(
+            u"Aa; Kontoführung"_s, [](cTemplateItem& item) { item.EntryInterval = u"Jährlich"_s; });
+        cBudgetModel budget(m_scene->Book.Tools);
+        frmBudget form(budget);
+        form.show();
+        auto* table = form.findChild<cBudgetTable*>();
+        table->setCurrentIndex(table->model()->index(1, cBudgetModel::Plain));
+        QCOMPARE(budget.Edit().Rows().constFirst().Path, fixed);
+        QVERIFY(budget.setData(budget.index(3, cBudgetModel::Plain), u"150"_s, Qt::EditRole));
+        const auto shown = [&] {
+            QStringList texts;
+            for (int row = 0; row < budget.rowCount(); ++row) {
+                texts.append(budget.index(row, cBudgetModel::Plain).data().toString());
+            }
+            return texts;
+        };
+        const QStringList before = shown();
+        QTest::keyClicks(table, u"15"_s);
+        QTest::keyClick(table, Qt::Key_Return);
+        QCOMPARE(shown(), before);
+        QTest::keyClick(table, Qt::Key_Up);
+        QCOMPARE(table->Current().row(), 1); // only Enter has moved it
+        QTest::keyClick(table, Qt::Key_F2);
+        QCOMPARE(QToolTip::text(),
+                 u"Hier kann nichts eingegeben werden.\nErgibt sich aus Betrag und Intervall der Kategorie."_s);
     }
 
     // Below the lines, whatever is scrolled and however wide a column is.

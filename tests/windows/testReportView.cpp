@@ -441,6 +441,19 @@ private Q_SLOTS:
         QCOMPARE(manual.Contents->currentItem()->text(0), u"Buchen"_s);
     }
 
+    // Its first link is not in view, and the focus that a window gets as it opens scrolls nothing.
+    void OpensAtTheHeading()
+    {
+        cManualScene manual;
+        manual.Window->close();
+        manual.Browser->Open(u"02-kontoauszug.html#eigene-regeln"_s);
+        manual.Window->Present();
+        QVERIFY(QTest::qWaitForWindowActive(manual.Window.get()));
+        const QList<cManual::cSection>& sections = manual.Browser->Manual().Sections();
+        const QRect heading = manual.PlaceOf(sections.at(manual.Browser->SectionNow()).Text.left(25));
+        QVERIFY2(heading.top() > 0 && heading.top() < 100, qPrintable(QString::number(heading.top())));
+    }
+
     void FollowsLinksAndGoesBackToThePlace()
     {
         const cManualScene manual;
@@ -466,6 +479,12 @@ private Q_SLOTS:
         QTest::keyClick(field, Qt::Key_Return);
         QCOMPARE(manual.Browser->Place().Page, u"faq.html"_s); // the question has the word in its heading
         QVERIFY(manual.View->FoundCount() > 0);
+        field->setText(u"Papierkorb"_s);
+        QVERIFY(manual.Hits->topLevelItem(0)->text(0).indexOf(field->text()) < 80); // the list is narrow
+        QTest::keyClick(field, Qt::Key_Return);
+        QCOMPARE(manual.View->SelectedText(), field->text());
+        const QRect word = manual.View->PlaceOf(manual.View->SelectionStart());
+        QVERIFY(manual.View->viewport()->geometry().contains(word)); // far below the headline of its section
         field->clear();
         QVERIFY(manual.Contents->isVisible());
     }

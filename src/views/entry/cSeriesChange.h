@@ -36,6 +36,7 @@ public:
         QString Comment;
         eDecimal Decimal = eDecimal::Comma;
         bool IsCorrected = false; // there is a correction that can be removed
+        bool IsDayFirst = false;  // what the user wants to type: the day, else the amount
     };
 
     enum class eSaved { Saved, BadAmount, BadDay, Refused };

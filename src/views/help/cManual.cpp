@@ -12,7 +12,8 @@ using namespace Qt::Literals::StringLiterals;
 
 namespace {
 
-constexpr qsizetype excerptLength = 120; // characters
+constexpr qsizetype excerptLength = 90; // characters
+constexpr int wordsBefore = 2;          // the one that was found
 
 // The level of a heading; 0 for every other element.
 int LevelOf(QStringView name)
@@ -23,9 +24,9 @@ int LevelOf(QStringView name)
 QString ExcerptOf(const QString& text, const QString& word)
 {
     const qsizetype found = std::max<qsizetype>(0, text.indexOf(word, 0, Qt::CaseInsensitive));
-    qsizetype start = std::max<qsizetype>(0, found - excerptLength / 3);
-    if (start > 0) {
-        start = text.indexOf(u' ', start) + 1; // with a whole word
+    qsizetype start = found;
+    for (int before = 0; before < wordsBefore && start > 1; ++before) {
+        start = text.lastIndexOf(u' ', start - 2) + 1;
     }
     const qsizetype end = start + excerptLength;
     return (start > 0 ? u"… "_s : QString()) + text.mid(start, excerptLength).trimmed()

@@ -40,7 +40,9 @@ bool cMainModel::Execute(int command)
     case modCommand::NewEntry: m_parts.Navigator.OpenNewEntry(); break;
     case modCommand::EditEntry: m_parts.Navigator.OpenEntry(First().ID, First().Day); break;
     case modCommand::DeleteEntry: Delete(m_selection); break;
-    case modCommand::CorrectPeriod: m_parts.Navigator.OpenCorrection(First().ID, First().Day); break;
+    case modCommand::CorrectPeriod:
+        m_parts.Navigator.OpenCorrection(First().ID, First().Day, cNavigator::eCorrected::Amount);
+        break;
     case modCommand::SkipPeriod: SkipPeriod(); break;
     case modCommand::Undo: StepThrough(&cJournal::Undo, cText::Tr("Zurückgenommen: {0}.", {StepName(command)})); break;
     case modCommand::Redo:

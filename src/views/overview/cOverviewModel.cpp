@@ -281,8 +281,9 @@ cOverviewLine cOverviewModel::DueLine(const cEntryItem& item)
                              [this, item] { Change([&] { return cDueItems(m_tools).BookToday(item); }); }});
     }
     if (isSeries) {
-        line.Actions.append(
-            {cText::Tr("&Verschieben…"), [this, item] { m_parts.Navigator.OpenCorrection(item.ID, item.Planned()); }});
+        line.Actions.append({cText::Tr("&Verschieben…"), [this, item] {
+                                 m_parts.Navigator.OpenCorrection(item.ID, item.Planned(), cNavigator::eCorrected::Day);
+                             }});
         line.Actions.append({cText::Tr("Dieses Mal &auslassen"),
                              [this, item] { Change([&] { return cDueItems(m_tools).LeaveOut(item); }); }});
     } else {

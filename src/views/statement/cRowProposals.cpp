@@ -5,6 +5,7 @@
 #include "import/plan/cImportPlan.h"
 #include "import/stage/cAccountMap.h"
 #include "import/stage/cImportHiveCache.h"
+#include "import/stage/cRowChoices.h"
 #include "model/modWord.h"
 #include "store/cDataAccess.h"
 #include "views/entry/cEntrySuggestions.h"
@@ -29,7 +30,9 @@ bool HasCategory(const cEntryItem& entry)
 
 } // namespace
 
-cRowProposals::cRowProposals(const cParts& parts) : m_parts(parts)
+cRowProposals::cRowProposals(const cParts& parts)
+    : m_parts(parts),
+      m_choices(new cRowChoices({parts.Data, parts.Hive, parts.Settings}))
 {
 }
 
@@ -41,14 +44,7 @@ void cRowProposals::Forget()
     m_planned.clear();
     m_isWhole = false;
     m_next = 0;
-    if (m_choices.isEmpty()) {
-        return; // without a look at the rows, which may not be wanted at all
-    }
-    const cImportHive& hive = m_parts.Hive.GetImportHive();
-    m_choices.removeIf([&](const auto& choice) {
-        const std::optional<cImportEntry> row = hive.GetImportEntryByID(choice.key());
-        return !row || row->ImportAssigned || !row->isEqual(choice.value().Row);
-    });
+    m_choices->Read();
 }
 
 cImportPlan& cRowProposals::Plan()
@@ -99,7 +95,7 @@ cRowPlan cRowProposals::PlanOf(const cImportEntry& row)
 // What the user says about a row is sure; whether its entry is there already is another question.
 cRowPlan cRowProposals::WithChoice(cRowPlan plan) const
 {
-    const cChoice choice = m_choices.value(plan.RowId);
+    const cRowChoices::cChoice choice = m_choices->Of(plan.RowId);
     if (!choice.Category.isEmpty()) {
         cEntryItem& entry = plan.Proposal.Entry;
         const bool isLook = plan.Group == eRowGroup::Look && !plan.Match && !plan.IsSecond;
@@ -211,18 +207,6 @@ void cRowProposals::Warn(cStagedInfo& info, const cRowTwin& twin)
     info.Reason = warning;
 }
 
-void cRowProposals::TakeChoice(const QList<int>& rowIds, QString cChoice::*field, const QString& value)
-{
-    const cImportHive& hive = m_parts.Hive.GetImportHive();
-    for (const int id : rowIds) {
-        if (const std::optional<cImportEntry> row = hive.GetImportEntryByID(id)) {
-            cChoice& choice = m_choices[id];
-            choice.Row = *row;
-            choice.*field = value;
-        }
-    }
-}
-
 QString cRowProposals::PathOf(const QString& category) const
 {
     const QStringList paths = cEntrySuggestions::VisibleCategories(m_parts.Data);
@@ -236,14 +220,14 @@ bool cRowProposals::SetCategory(const QList<int>& rowIds, const QString& categor
 {
     const QString path = PathOf(category);
     if (!path.isEmpty()) {
-        TakeChoice(rowIds, &cChoice::Category, path);
+        m_choices->Take(rowIds, &cRowChoices::cChoice::Category, path);
     }
     return !path.isEmpty();
 }
 
 void cRowProposals::SetDescription(const QList<int>& rowIds, const QString& description)
 {
-    TakeChoice(rowIds, &cChoice::Description, description.simplified());
+    m_choices->Take(rowIds, &cRowChoices::cChoice::Description, description.simplified());
 }
 
 bool cRowProposals::SetInterval(const QList<int>& rowIds, const QString& interval)
@@ -251,6 +235,6 @@ bool cRowProposals::SetInterval(const QList<int>& rowIds, const QString& interva
     if (!modWord::Intervals().Contains(interval)) {
         return false;
     }
-    TakeChoice(rowIds, &cChoice::Interval, interval);
+    m_choices->Take(rowIds, &cRowChoices::cChoice::Interval, interval);
     return true;
 }

@@ -18,6 +18,8 @@ class cImportHiveCache;
 class cImportPlan;
 class cImportRuns;
 class cProgress;
+class cRowChoices;
+class cSettings;
 
 // What each open bank transaction should become: as planned, or as the user chose instead. A pile that is not too high
 // is planned as a whole, a higher one around the rows that somebody asks for.
@@ -29,6 +31,7 @@ public:
     {
         cDataAccess& Data;
         cImportHiveCache& Hive;
+        cSettings& Settings;
         const cAccountMap& Accounts;
         const cImportRuns& Runs;
         const cAmountFormat& Format;
@@ -37,7 +40,7 @@ public:
     explicit cRowProposals(const cParts& parts);
     ~cRowProposals();
 
-    // The rows or the book are others now. Choices for rows that are gone, booked or others are dropped.
+    // The rows or the book are others now.
     void Forget();
 
     [[nodiscard]] cStagedInfo Info(const cImportEntry& row);
@@ -58,18 +61,9 @@ public:
     [[nodiscard]] QString PathOf(const QString& category) const;
 
 private:
-    struct cChoice
-    {
-        cImportEntry Row; // that it was made for; the IDs of rows that are gone come again
-        QString Category; // empty: as proposed
-        QString Interval;
-        QString Description;
-    };
-
     [[nodiscard]] cImportPlan& Plan();
     [[nodiscard]] const cRowPlan& Planned(const cImportEntry& row);
     [[nodiscard]] cRowPlan WithChoice(cRowPlan plan) const;
-    void TakeChoice(const QList<int>& rowIds, QString cChoice::*field, const QString& value);
     [[nodiscard]] cStagedInfo BookedInfo(const cImportEntry& row);
     void Warn(cStagedInfo& info, const cRowTwin& twin);
 
@@ -78,5 +72,5 @@ private:
     QHash<int, cRowPlan> m_planned;      // by row ID
     bool m_isWhole = false;              // all open rows were planned at once
     qsizetype m_next = 0;                // of a high pile, the place up to which all is planned
-    QHash<int, cChoice> m_choices;       // by row ID
+    std::unique_ptr<cRowChoices> m_choices;
 };

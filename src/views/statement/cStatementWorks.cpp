@@ -25,7 +25,7 @@ cStatementWorks::cStatementWorks(const cBookTools& tools)
       Accounts(m_import->Accounts),
       Booking(m_import->Booking),
       Runs(tools.Settings),
-      Proposals({tools.Data, Hive, Accounts, Runs, tools.Format}),
+      Proposals({tools.Data, Hive, tools.Settings, Accounts, Runs, tools.Format}),
       Matching(tools, {Hive, Accounts, Booking, Proposals}),
       Plan(tools, {Booking, Matching, Proposals}),
       Files(tools, Hive, Accounts)

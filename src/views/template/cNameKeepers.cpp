@@ -2,6 +2,7 @@
 
 #include "core/cSettings.h"
 #include "import/propose/cOwnRules.h"
+#include "import/stage/cRowChoices.h"
 #include "model/modSettingKey.h"
 #include "store/cDataAccess.h"
 #include "views/budget/modLimits.h"
@@ -47,6 +48,12 @@ bool cNameKeepers::MoveShares(const QString& oldName, const QString& newName)
 
 bool cNameKeepers::RenameCategory(const QString& oldPath, const QString& newPath)
 {
-    return cOwnRules(m_settings).RenameCategory(oldPath, newPath) && modLimits::Move(m_settings, oldPath, newPath)
+    return JoinCategory(oldPath, newPath) && modLimits::Move(m_settings, oldPath, newPath)
         && cCategoryLooks::Follow(m_data, m_settings, oldPath, newPath);
+}
+
+bool cNameKeepers::JoinCategory(const QString& oldPath, const QString& newPath)
+{
+    return cOwnRules(m_settings).RenameCategory(oldPath, newPath)
+        && cRowChoices::RenameCategory(m_settings, oldPath, newPath);
 }

@@ -5,9 +5,9 @@
 class cDataAccess;
 class cSettings;
 
-// What keeps names of accounts and paths of categories in the settings: the bank's numbers, the user's own rules, the
-// accounts last shown, the views under a name. It follows when a name changes. All functions are false when the
-// database refuses.
+// What keeps names of accounts and paths of categories in the settings: the bank's numbers, the user's own rules, what
+// was chosen for open rows, the accounts last shown, the views under a name. It follows when a name changes. All
+// functions are false when the database refuses.
 class cNameKeepers
 {
 public:
@@ -21,6 +21,8 @@ public:
     // The account is gone, and its entries are in another one: rules and views follow them.
     [[nodiscard]] bool JoinAccount(const QString& oldName, const QString& newName);
     [[nodiscard]] bool RenameCategory(const QString& oldPath, const QString& newPath);
+    // The category is gone, and its entries are in another one: rules and choices for open rows follow them.
+    [[nodiscard]] bool JoinCategory(const QString& oldPath, const QString& newPath);
 
 private:
     [[nodiscard]] bool MoveShares(const QString& oldName, const QString& newName); // who has what part in the account

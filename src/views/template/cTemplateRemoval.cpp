@@ -6,6 +6,7 @@
 #include "core/cBookTools.h"
 #include "core/cSettings.h"
 #include "import/propose/cOwnRules.h"
+#include "import/stage/cRowChoices.h"
 #include "model/modBalance.h"
 #include "model/modSettingKey.h"
 #include "model/modWord.h"
@@ -187,7 +188,7 @@ bool cTemplateRemoval::Remove(const cDoomed& doomed, const QString& target)
     const bool isMoved =
         target.isEmpty() || std::all_of(doomed.Paths.begin(), doomed.Paths.end(), [&](const QString& path) {
             return m_tools.Data.ChangeEntryCategory(target, path)
-                && cOwnRules(m_tools.Settings).RenameCategory(path, target);
+                && cNameKeepers(m_tools.Data, m_tools.Settings).JoinCategory(path, target);
         });
     return step.DoneIf(isDeleted && isMoved);
 }
@@ -226,7 +227,7 @@ bool cTemplateRemoval::MergeCategory(const QString& sourcePath, const QString& t
     const bool isDeleted = std::all_of(sources.begin(), sources.end(),
                                        [&](const cTemplateItem& item) { return DeleteWithSettings(item, targetPath); });
     return step.DoneIf(isDeleted && m_tools.Data.ChangeEntryCategory(targetPath, sourcePath)
-                       && cOwnRules(m_tools.Settings).RenameCategory(sourcePath, targetPath));
+                       && cNameKeepers(m_tools.Data, m_tools.Settings).JoinCategory(sourcePath, targetPath));
 }
 
 bool cTemplateRemoval::AskMergeMain(const QString& source)
@@ -276,6 +277,7 @@ bool cTemplateRemoval::WriteMergedMain(const QString& source, const QString& tar
         const QString newPath = modTemplate::Path(item);
         if (!CategoriesAt(items, newPath).isEmpty()) {
             return m_tools.Data.ChangeEntryCategory(newPath, oldPath) && modLimits::Remove(m_tools.Settings, oldPath)
+                && cRowChoices::RenameCategory(m_tools.Settings, oldPath, newPath)
                 && m_tools.Data.DeleteTemplate(item.ID);
         }
         return m_tools.Data.ChangeTemplate(item) && cTemplateFlow(m_tools).FollowPath(item.ID, oldPath);

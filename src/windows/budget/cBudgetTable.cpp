@@ -84,6 +84,11 @@ protected:
         cRowDelegate::initStyleOption(option, index);
         option->features.setFlag(QStyleOptionViewItem::HasCheckIndicator, false); // it is painted in the middle
         option->font.setBold(index.data(cBudgetModel::IsHeadRole).toBool());
+        if (index.column() == cBudgetModel::Plain && !index.flags().testFlag(Qt::ItemIsEditable)) {
+            QColor shade = option->palette.color(QPalette::Text); // as a field that cannot be used
+            shade.setAlphaF(0.09F);
+            option->backgroundBrush = shade;
+        }
         const int tone = index.data(cBudgetModel::ToneRole).toInt();
         if (tone != cBudgetModel::Normal && !option->state.testFlag(QStyle::State_Selected)) {
             option->palette.setColor(QPalette::Text,
@@ -129,7 +134,7 @@ private:
 } // namespace
 
 cBudgetTable::cBudgetTable(cBudgetModel& model, ePart part, QWidget* parent)
-    : QTableView(parent),
+    : cTypedCells(parent),
       m_model(model),
       m_part(part),
       m_lines(new cPart(part, this))

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "windows/widget/cTypedCells.h"
+
 #include <QTableView>
 
 class QSortFilterProxyModel;
@@ -7,7 +9,7 @@ class cBudgetModel;
 
 // The lines of the budget: cells are left with arrows and Tab, typed into at once, emptied with Del, and copied and
 // pasted as a table.
-class cBudgetTable final : public QTableView
+class cBudgetTable final : public cTypedCells<QTableView>
 {
     Q_OBJECT
 

@@ -52,7 +52,7 @@ QLayout* frmBudget::BuildSelectors()
     ShowMonths();
     auto* year = new QLabel(cText::Tr("&Jahr:"), this);
     year->setBuddy(m_year);
-    auto* month = new QLabel(cText::Tr("&Ist und Rest im Monat:"), this);
+    auto* month = new QLabel(cText::Tr("&Ist und Übrig im Monat:"), this);
     month->setBuddy(m_month);
     connect(m_year, &QSpinBox::valueChanged, this, &frmBudget::ShowYear);
     connect(m_month, &QComboBox::activated, this, [this](int place) { m_budget.ShowMonth(place + 1); });

@@ -18,7 +18,7 @@ constexpr int idRole = Qt::UserRole;
 } // namespace
 
 cSplitTable::cSplitTable(cEntrySuggestions& suggestions, eDecimal decimal, QWidget* parent)
-    : QTableWidget(0, ColumnCount, parent),
+    : cTypedCells(0, ColumnCount, parent),
       m_decimal(decimal),
       m_delegate(new cSplitDelegate(suggestions, decimal, this))
 {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "views/entry/cEntryFields.h"
+#include "windows/widget/cTypedCells.h"
 
 #include <QTableWidget>
 
@@ -10,7 +11,7 @@ class cSplitDelegate;
 // The parts of a split entry, one line each: category, description, amount. Below the last part there is always an
 // empty line for the next one. Tab goes from cell to cell and leaves the table behind the last one; Delete removes the
 // line.
-class cSplitTable final : public QTableWidget
+class cSplitTable final : public cTypedCells<QTableWidget>
 {
     Q_OBJECT
 

@@ -31,7 +31,7 @@ frmKorrektur::cParts PartsFor(cSeriesChange& change, const cSeriesChange::cPerio
     parts.Text = fields.Title;
     parts.Values = {.Day = fields.DayText, .Amount = fields.Amount, .Comment = fields.Comment};
     parts.Today = fields.Today;
-    parts.IsAmountFirst = true;
+    parts.IsAmountFirst = !fields.IsDayFirst;
     parts.Decimal = fields.Decimal;
     parts.AskToSave = [&change] { return change.AskToSave(); };
     parts.Take = [&change, fields](const frmKorrektur::cValues& values) {
@@ -68,6 +68,7 @@ frmKorrektur::frmKorrektur(const cParts& parts, QWidget* parent)
     txtKommentar->setText(parts.Values.Comment);
     m_shown = Read();
     txtBetrag->selectAll();
+    m_day->selectAll();
     const bool isDayFirst = parts.Today.isValid() && !parts.IsAmountFirst;
     (isDayFirst ? static_cast<QWidget*>(m_day) : txtBetrag)->setFocus();
 }

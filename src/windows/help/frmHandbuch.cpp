@@ -21,6 +21,7 @@
 #include <QTreeWidget>
 #include <QWindow>
 
+#include <algorithm>
 #include <utility>
 
 using namespace Qt::Literals::StringLiterals;
@@ -55,7 +56,8 @@ frmHandbuch::frmHandbuch(cManualBrowser& browser)
       m_forward(new QPushButton(cText::Tr("&Vor"), this)),
       m_search(new QLineEdit(this)),
       m_found(new QLabel(this)),
-      m_side(new QStackedWidget(this)),
+      m_sides(new QSplitter(this)),
+      m_side(new QStackedWidget(m_sides)),
       m_contents(NewTree(cText::Tr("Inhalt"), m_side)),
       m_hits(NewTree(cText::Tr("Gefundene Stellen"), m_side)),
       m_page(new cReportView(this))
@@ -117,13 +119,12 @@ QWidget* frmHandbuch::BuildSides()
     m_hits->setAlternatingRowColors(true);
     m_side->addWidget(m_contents);
     m_side->addWidget(m_hits);
-    auto* sides = new QSplitter(this);
-    sides->addWidget(m_side);
-    sides->addWidget(m_page);
-    sides->setStretchFactor(1, 1);
-    sides->setChildrenCollapsible(false);
-    sides->setSizes({fontMetrics().averageCharWidth() * 40, fontMetrics().averageCharWidth() * 90});
-    return sides;
+    m_sides->addWidget(m_side);
+    m_sides->addWidget(m_page);
+    m_sides->setStretchFactor(1, 1);
+    m_sides->setChildrenCollapsible(false);
+    m_sides->setSizes({fontMetrics().averageCharWidth() * 40, fontMetrics().averageCharWidth() * 90});
+    return m_sides;
 }
 
 void frmHandbuch::Connect()
@@ -139,11 +140,11 @@ void frmHandbuch::Connect()
         m_search->setFocus(Qt::ShortcutFocusReason);
     });
     connect(m_search, &QLineEdit::textChanged, this, &frmHandbuch::Search);
-    connect(m_search, &QLineEdit::returnPressed, this, [this] { OpenItem(m_hits->currentItem()); });
-    for (QTreeWidget* tree : {m_contents, m_hits}) {
-        connect(tree, &QTreeWidget::itemClicked, this, [this](const QTreeWidgetItem* item) { OpenItem(item); });
-        connect(tree, &QTreeWidget::itemActivated, this, [this](const QTreeWidgetItem* item) { OpenItem(item); });
-    }
+    connect(m_search, &QLineEdit::returnPressed, this, [this] { OpenHit(m_hits->currentItem()); });
+    connect(m_contents, &QTreeWidget::itemClicked, this, &frmHandbuch::OpenItem);
+    connect(m_contents, &QTreeWidget::itemActivated, this, &frmHandbuch::OpenItem);
+    connect(m_hits, &QTreeWidget::itemClicked, this, &frmHandbuch::OpenHit);
+    connect(m_hits, &QTreeWidget::itemActivated, this, &frmHandbuch::OpenHit);
 }
 
 void frmHandbuch::FillContents()
@@ -173,15 +174,40 @@ void frmHandbuch::Search()
         m_hits->addTopLevelItem(NewItem(hit.Title + u'\n' + hit.Excerpt, hit.Place));
     }
     m_hits->setCurrentItem(m_hits->topLevelItem(0));
-    m_side->setCurrentWidget(text.isEmpty() ? m_contents : m_hits);
+    ShowSide(*(text.isEmpty() ? m_contents : m_hits));
     m_found->setText(text.isEmpty() ? QString() : cText::Tr("Gefundene Stellen: {0}", {QString::number(hits.size())}));
-    m_page->SetFindText(text.section(u' ', 0, 0));
+    m_page->SetFindText(Word());
+}
+
+// Places that were found need more room than titles.
+void frmHandbuch::ShowSide(QTreeWidget& side)
+{
+    if (m_side->currentWidget() != &side) {
+        m_side->setCurrentWidget(&side);
+        const int width = fontMetrics().averageCharWidth() * (&side == m_hits ? 60 : 40);
+        m_sides->setSizes({width, std::max(width, m_sides->width() - width)});
+    }
+}
+
+QString frmHandbuch::Word() const
+{
+    return m_search->text().simplified().section(u' ', 0, 0);
 }
 
 void frmHandbuch::OpenItem(const QTreeWidgetItem* item)
 {
     if (item != nullptr) {
         OpenPlace(item->data(0, placeRole).toString());
+    }
+}
+
+// The word may stand far below the headline of its section.
+void frmHandbuch::OpenHit(const QTreeWidgetItem* hit)
+{
+    OpenItem(hit);
+    const cManual::cSection section = m_browser.Manual().Sections().value(m_browser.SectionNow());
+    if (section.Text.contains(Word(), Qt::CaseInsensitive)) {
+        m_page->FindBelow(section.Anchor);
     }
 }
 

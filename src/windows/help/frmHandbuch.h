@@ -8,6 +8,7 @@ class QLabel;
 class QLayout;
 class QLineEdit;
 class QPushButton;
+class QSplitter;
 class QStackedWidget;
 class QTreeWidget;
 class QTreeWidgetItem;
@@ -33,11 +34,14 @@ private:
     void Connect();
     void FillContents();
     void Search();
+    void ShowSide(QTreeWidget& side);
     void ShowPlace();
     void MarkContents();
     void ShowButtons();
     void Leave(void (cManualBrowser::*way)());
     void OpenItem(const QTreeWidgetItem* item);
+    void OpenHit(const QTreeWidgetItem* hit);
+    [[nodiscard]] QString Word() const; // that is marked on the page: the first one that is looked for
     void OpenPlace(const QString& address);
     void StayUsable();
 
@@ -46,6 +50,7 @@ private:
     QPushButton* m_forward;
     QLineEdit* m_search;
     QLabel* m_found;
+    QSplitter* m_sides;
     QStackedWidget* m_side;
     QTreeWidget* m_contents;
     QTreeWidget* m_hits;

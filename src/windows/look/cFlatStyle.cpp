@@ -208,8 +208,13 @@ void cFlatStyle::drawControl(ControlElement element, const QStyleOption* option,
                              const QWidget* widget) const
 {
     switch (element) {
-    case CE_HeaderSection:
-    case CE_HeaderEmptyArea: modFlat::HeaderGround(*painter, *option, option->state.testFlag(State_Horizontal)); return;
+    case CE_HeaderEmptyArea:
+        if (!option->state.testFlag(State_Horizontal)) { // below the rows it is ground of the table
+            painter->fillRect(option->rect, option->palette.color(QPalette::Base));
+            return;
+        }
+        [[fallthrough]];
+    case CE_HeaderSection: modFlat::HeaderGround(*painter, *option, option->state.testFlag(State_Horizontal)); return;
     case CE_TabBarTabShape: modFlat::Tab(*painter, *option); return;
     case CE_ToolBar:
         painter->fillRect(option->rect, option->palette.color(QPalette::Window));
@@ -253,7 +258,9 @@ void cFlatStyle::DrawComboBox(const QStyleOptionComboBox& box, QPainter& painter
     } else {
         modFlat::Choice(painter, box);
     }
-    modFlat::Arrow(painter, box, proxy()->subControlRect(CC_ComboBox, &box, SC_ComboBoxArrow, widget), Qt::DownArrow);
+    QStyleOptionComboBox arrow(box);
+    arrow.state.setFlag(State_Selected, false); // said of the box with the focus, whose ground stays as it is
+    modFlat::Arrow(painter, arrow, proxy()->subControlRect(CC_ComboBox, &box, SC_ComboBoxArrow, widget), Qt::DownArrow);
 }
 
 void cFlatStyle::DrawSpinBox(const QStyleOptionSpinBox& box, QPainter& painter, const QWidget* widget) const

@@ -3,11 +3,12 @@
 #include "base/cText.h"
 #include "views/people/cPeople.h"
 #include "windows/widget/cRowDelegate.h"
+#include "windows/widget/modEmptyText.h"
 
 #include <QHeaderView>
 #include <QScopedValueRollback>
 
-cShareTable::cShareTable(cPeople& people, QWidget* parent) : QTableWidget(parent), m_people(people)
+cShareTable::cShareTable(cPeople& people, QWidget* parent) : cTypedCells(parent), m_people(people)
 {
     setAccessibleName(cText::Tr("Anteile in Prozent"));
     setTabKeyNavigation(false); // Tab leaves the table, the arrow keys go from cell to cell
@@ -27,6 +28,7 @@ void cShareTable::Show()
     clear();
     setColumnCount(static_cast<int>(names.size()) + 1);
     setRowCount(names.isEmpty() ? 0 : static_cast<int>(m_accounts.size()));
+    horizontalHeader()->setHidden(names.isEmpty());
     setHorizontalHeaderLabels(names + QStringList{cText::Tr("Gilt")});
     horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
     horizontalHeader()->setSectionResizeMode(SumColumn(), QHeaderView::Stretch);
@@ -107,4 +109,13 @@ QStringList cShareTable::Wrong() const
         }
     }
     return wrong;
+}
+
+void cShareTable::paintEvent(QPaintEvent* event)
+{
+    cTypedCells::paintEvent(event);
+    if (rowCount() == 0) {
+        modEmptyText::Paint(*viewport(), cText::Tr("Noch keine Personen"),
+                            cText::Tr("Tragen Sie oben ein, wer zum Haushalt gehört."));
+    }
 }

@@ -1,12 +1,14 @@
 #pragma once
 
+#include "windows/widget/cTypedCells.h"
+
 #include <QTableWidget>
 
 class cPeople;
 
 // The shares of the people in the accounts, a row for each account and one for what all share. What is typed is stored
 // as soon as a row comes to 100.
-class cShareTable final : public QTableWidget
+class cShareTable final : public cTypedCells<QTableWidget>
 {
     Q_OBJECT
 
@@ -19,6 +21,9 @@ public:
 
 Q_SIGNALS:
     void Stored();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
 
 private:
     void ShowRow(int row, const QString& account);

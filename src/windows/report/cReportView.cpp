@@ -245,6 +245,13 @@ void cReportView::FindNext(eDirection direction)
     ScrollTo(start);
 }
 
+void cReportView::FindBelow(const QString& anchor)
+{
+    const int start = m_document->Text().PositionAt(m_document->AnchorPlace(anchor).topLeft());
+    Select(start, start);
+    FindNext(eDirection::Forward);
+}
+
 void cReportView::ScrollTo(int position)
 {
     const QList<QRect> places = m_document->Text().Places(position, position + 1);
@@ -303,11 +310,33 @@ void cReportView::FocusLink(int link)
 {
     m_link = link;
     if (link >= 0) {
-        Show(LinkPlace(link));
         QAccessibleTextCursorEvent moved(this, FocusPosition());
         QAccessible::updateAccessibility(&moved);
     }
     viewport()->update();
+}
+
+// The page is read where it is shown: from there the first link, or the last one, is the next.
+int cReportView::NextLink(eDirection direction) const
+{
+    const bool isForward = direction == eDirection::Forward;
+    if (m_link >= 0) {
+        return m_link + (isForward ? 1 : -1);
+    }
+    const int count = static_cast<int>(m_document->Links().size());
+    const int top = ToPage({}).y();
+    const int bottom = ToPage({0, viewport()->height()}).y();
+    int link = isForward ? 0 : count - 1;
+    while (isForward ? link < count && LinkPlace(link).top() < top : link >= 0 && LinkPlace(link).bottom() > bottom) {
+        link += isForward ? 1 : -1;
+    }
+    return link;
+}
+
+bool cReportView::IsInView(int link) const
+{
+    const QRect shown(ToPage({}), ToPage({viewport()->width(), viewport()->height()}));
+    return link >= 0 && link < m_document->Links().size() && shown.contains(LinkPlace(link));
 }
 
 void cReportView::Follow(int link)
@@ -462,13 +491,14 @@ void cReportView::keyPressEvent(QKeyEvent* event)
     }
 }
 
+// Nothing is scrolled: a window that opens hands the focus on as the tabulator key does.
 void cReportView::focusInEvent(QFocusEvent* event)
 {
-    const int count = static_cast<int>(m_document->Links().size());
-    if (event->reason() == Qt::TabFocusReason) {
-        FocusLink(count > 0 ? 0 : -1);
-    } else if (event->reason() == Qt::BacktabFocusReason) {
-        FocusLink(count - 1);
+    const bool isBack = event->reason() == Qt::BacktabFocusReason;
+    if (isBack || event->reason() == Qt::TabFocusReason) {
+        m_link = -1;
+        const int link = NextLink(isBack ? eDirection::Backward : eDirection::Forward);
+        FocusLink(IsInView(link) ? link : -1);
     }
     QAbstractScrollArea::focusInEvent(event);
 }
@@ -481,8 +511,9 @@ void cReportView::focusOutEvent(QFocusEvent* event)
 
 bool cReportView::focusNextPrevChild(bool next)
 {
-    const int link = m_link + (next ? 1 : -1);
+    const int link = NextLink(next ? eDirection::Forward : eDirection::Backward);
     if (link >= 0 && link < m_document->Links().size()) {
+        Show(LinkPlace(link));
         FocusLink(link);
         return true;
     }

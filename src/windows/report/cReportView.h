@@ -44,6 +44,7 @@ public:
     // Marks every place of a text, in any letter case, and goes to the next one after the selection.
     void SetFindText(const QString& text);
     void FindNext(eDirection direction);
+    void FindBelow(const QString& anchor); // goes to the first place below the headline with this id
     [[nodiscard]] int FoundCount() const { return static_cast<int>(m_found.size()); }
     [[nodiscard]] int FoundNumber() const { return m_foundNumber; } // from 1; 0 when none is marked
 
@@ -80,6 +81,8 @@ private:
     void Fit();
     void Show(const QRect& place); // scrolls there; pixels of the page
     void FocusLink(int link);
+    [[nodiscard]] int NextLink(eDirection direction) const;
+    [[nodiscard]] bool IsInView(int link) const;
     void Follow(int link);
     void FindAll();
     void PaintMarks(QPainter& painter) const;

@@ -48,7 +48,7 @@ bool IsMenuKey(const QKeyEvent& event)
 
 } // namespace
 
-cStagedTree::cStagedTree(cStagedListModel& model, QWidget* parent) : QTreeView(parent), m_model(model)
+cStagedTree::cStagedTree(cStagedListModel& model, QWidget* parent) : cTypedCells(parent), m_model(model)
 {
     // Before the base class hears of it and forgets which line stands where.
     connect(&m_model, &QAbstractItemModel::modelAboutToBeReset, this, &cStagedTree::KeepSelection);
@@ -281,7 +281,7 @@ bool cStagedTree::DropField(const QModelIndex& cell)
 // A press in the list leaves the focus with an open field until it is known what was pressed.
 bool cStagedTree::edit(const QModelIndex& cell, EditTrigger trigger, QEvent* event)
 {
-    const bool isEdited = QTreeView::edit(cell, trigger, event);
+    const bool isEdited = cTypedCells::edit(cell, trigger, event);
     if (isEdited && state() == EditingState) {
         viewport()->setFocusProxy(indexWidget(cell));
     }

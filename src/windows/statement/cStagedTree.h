@@ -1,5 +1,7 @@
 #pragma once
 
+#include "windows/widget/cTypedCells.h"
+
 #include <QPointer>
 #include <QSet>
 #include <QString>
@@ -12,7 +14,7 @@ class cStagedListModel;
 class QPainter;
 
 // The list of bank transactions: keys, columns, groups and the text of its empty state.
-class cStagedTree final : public QTreeView
+class cStagedTree final : public cTypedCells<QTreeView>
 {
     Q_OBJECT
 
@@ -34,7 +36,7 @@ public:
     // Closes the field of a cell and takes nothing from it. True when it was OpenCategory's.
     bool DropField(const QModelIndex& cell);
 
-    using QTreeView::edit;
+    using cTypedCells::edit;
 
     void SetEmptyText(const QString& title, const QString& hint);
     [[nodiscard]] QString LayoutText() const;
