@@ -34,8 +34,8 @@ public:
     // The numbers, each once, that are expected; those of which the rows with higher IDs are the first, or one of them
     // lies before the first balance of the bank, from which the start balance was counted back; those of `balanced`, of
     // which the bank has now named an earlier balance than before, or one more from before the first row; without any,
-    // those whose rows begin before the others and no later than the start balance, which counts on top of them then. To
-    // be asked before numbers get their accounts: all that one without an account holds counts for the first time.
+    // those whose rows begin before the others and no later than the start balance, which counts on top of them then.
+    // To be asked before numbers get their accounts: all that one without an account holds counts for the first time.
     [[nodiscard]] QStringList Due(QStringList numbers, int newestBefore, const QStringList& balanced) const;
     // Expected numbers are due until they are settled, also when the program ended while the user was asked.
     void Expect(const QStringList& numbers) const;
