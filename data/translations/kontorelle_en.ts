@@ -1156,15 +1156,15 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
     </message>
     <message>
         <source>&amp;von:</source>
-        <translation>fro&amp;m:</translation>
+        <translation>fr&amp;om:</translation>
     </message>
     <message>
         <source>&amp;Konto:</source>
-        <translation>&amp;Account:</translation>
+        <translation>Acco&amp;unt:</translation>
     </message>
     <message>
         <source>B&amp;uchungsart:</source>
-        <translation>Entry t&amp;ype:</translation>
+        <translation>Entr&amp;y type:</translation>
     </message>
     <message>
         <source>&amp;Gruppierung:</source>
@@ -1172,7 +1172,7 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
     </message>
     <message>
         <source>&amp;Filter:</source>
-        <translation>Fi&amp;lter:</translation>
+        <translation>Filte&amp;r:</translation>
     </message>
     <message>
         <source>Text, Kategorie oder Betrag</source>
@@ -1184,11 +1184,11 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
     </message>
     <message>
         <source>&amp;Nach Konto:</source>
-        <translation>To acco&amp;unt:</translation>
+        <translation>To a&amp;ccount:</translation>
     </message>
     <message>
         <source>&amp;Kategorie:</source>
-        <translation>Cate&amp;gory:</translation>
+        <translation>Categ&amp;ory:</translation>
     </message>
     <message>
         <source>Buchungs&amp;art:</source>
@@ -1196,7 +1196,7 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
     </message>
     <message>
         <source>K&amp;onto:</source>
-        <translation>Acc&amp;ount:</translation>
+        <translation>Acco&amp;unt:</translation>
     </message>
     <message>
         <source>&amp;Datum:</source>
@@ -1220,7 +1220,7 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
     </message>
     <message>
         <source>Kont&amp;oauszüge</source>
-        <translation>&amp;Statements</translation>
+        <translation>State&amp;ments</translation>
     </message>
     <message>
         <source>Zukünftige ausblenden</source>
@@ -1288,11 +1288,11 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
     </message>
     <message>
         <source>Trot&amp;zdem übernehmen</source>
-        <translation>Import an&amp;yway</translation>
+        <translation>Import anyway</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
-        <translation>&amp;Close</translation>
+        <translation>Close</translation>
     </message>
     <message>
         <source>Ergebnis</source>
@@ -2270,7 +2270,7 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
     </message>
     <message>
         <source>&amp;Zeile entfernen</source>
-        <translation>&amp;Remove row</translation>
+        <translation>Re&amp;move row</translation>
     </message>
     <message>
         <source>Setzt den Rest in die gewählte Zeile ein</source>
@@ -2282,7 +2282,7 @@ Should it belong to &apos;{2}&apos; from now on?</translation>
     </message>
     <message>
         <source>&amp;Betrag:</source>
-        <translation>Amo&amp;unt:</translation>
+        <translation>A&amp;mount:</translation>
     </message>
     <message>
         <source>&amp;Kommentar:</source>
@@ -2944,7 +2944,7 @@ You can create the account or move the entries to another one.</translation>
     </message>
     <message>
         <source>&amp;Startguthaben</source>
-        <translation>Opening b&amp;alances</translation>
+        <translation>Opening bala&amp;nces</translation>
     </message>
     <message>
         <source>S&amp;palten modifizieren</source>
@@ -2960,7 +2960,7 @@ You can create the account or move the entries to another one.</translation>
     </message>
     <message>
         <source>&amp;Taschenrechner</source>
-        <translation>&amp;Calculator</translation>
+        <translation>Calcula&amp;tor</translation>
     </message>
     <message>
         <source>&amp;Passwortschutz</source>
@@ -2972,7 +2972,7 @@ You can create the account or move the entries to another one.</translation>
     </message>
     <message>
         <source>&amp;Ländereinstellungen</source>
-        <translation>&amp;Regional settings</translation>
+        <translation>Regi&amp;onal settings</translation>
     </message>
     <message>
         <source>Zeitraum: {0} ({1})</source>
@@ -2992,7 +2992,7 @@ You can create the account or move the entries to another one.</translation>
     </message>
     <message>
         <source>&amp;Ändern…</source>
-        <translation>&amp;Change…</translation>
+        <translation>C&amp;hange…</translation>
     </message>
     <message>
         <source>Ent&amp;fernen</source>
@@ -3064,7 +3064,7 @@ You can create the account or move the entries to another one.</translation>
     </message>
     <message>
         <source>Nur &amp;mit Bankumsatz</source>
-        <translation>With &amp;bank transaction only</translation>
+        <translation>With ban&amp;k transaction only</translation>
     </message>
     <message>
         <source>Wörter, Teile von Wörtern, Betrag oder Datum</source>
@@ -3076,7 +3076,7 @@ You can create the account or move the entries to another one.</translation>
     </message>
     <message>
         <source>Ka&amp;tegorie:</source>
-        <translation>Cate&amp;gory:</translation>
+        <translation>Catego&amp;ry:</translation>
     </message>
     <message>
         <source>Gesuchter Betrag</source>
@@ -3128,7 +3128,7 @@ You can create the account or move the entries to another one.</translation>
     </message>
     <message>
         <source>H&amp;auptkategorie:</source>
-        <translation>Main c&amp;ategory:</translation>
+        <translation>Main categ&amp;ory:</translation>
     </message>
     <message>
         <source>&amp;Buchungsart:</source>
@@ -3252,7 +3252,7 @@ You can create the account or move the entries to another one.</translation>
     </message>
     <message>
         <source>&amp;Kategorien</source>
-        <translation>&amp;Categories</translation>
+        <translation>C&amp;ategories</translation>
     </message>
     <message>
         <source>Kon&amp;ten</source>
@@ -3260,7 +3260,7 @@ You can create the account or move the entries to another one.</translation>
     </message>
     <message>
         <source>S&amp;chließen</source>
-        <translation>C&amp;lose</translation>
+        <translation>&amp;Close</translation>
     </message>
     <message>
         <source>Automatische Datensicherung</source>
@@ -3688,7 +3688,7 @@ You can create the account or move the entries to another one.</translation>
     </message>
     <message>
         <source>Ab&amp;gleichen</source>
-        <translation>&amp;Match</translation>
+        <translation>Mat&amp;ch</translation>
     </message>
     <message>
         <source>Zuo&amp;rdnen…</source>
@@ -4912,7 +4912,7 @@ Suggestion: {2}</translation>
     </message>
     <message>
         <source>&amp;Kategorie…</source>
-        <translation>Cate&amp;gory…</translation>
+        <translation>Categor&amp;y…</translation>
     </message>
     <message>
         <source>R&amp;egel aus Umsatz…</source>
@@ -4940,7 +4940,7 @@ Suggestion: {2}</translation>
     </message>
     <message>
         <source>&amp;Ältere ausblenden</source>
-        <translation>&amp;Hide older</translation>
+        <translation>Hi&amp;de older</translation>
     </message>
     <message>
         <source>Die Zeile sagt, was aus den markierten Umsätzen wird</source>
@@ -4952,7 +4952,7 @@ Suggestion: {2}</translation>
     </message>
     <message>
         <source>Gru&amp;ppieren:</source>
-        <translation>Gro&amp;uping:</translation>
+        <translation>&amp;Grouping:</translation>
     </message>
     <message>
         <source>Fällt der Kontostand in den nächsten 60 Tagen darunter, warnt die Kontenliste.</source>
@@ -5012,7 +5012,7 @@ Suggestion: {2}</translation>
     </message>
     <message>
         <source>Bekannter &amp;Aufbau:</source>
-        <translation>Known &amp;layout:</translation>
+        <translation>&amp;Known layout:</translation>
     </message>
     <message>
         <source>Zei&amp;chensatz:</source>
@@ -5076,7 +5076,7 @@ Suggestion: {2}</translation>
     </message>
     <message>
         <source>Kopi&amp;eren</source>
-        <translation>&amp;Copy</translation>
+        <translation>Cop&amp;y</translation>
     </message>
     <message>
         <source>&amp;Drucken…</source>
@@ -5104,7 +5104,7 @@ Suggestion: {2}</translation>
     </message>
     <message>
         <source>Aus&amp;wertung</source>
-        <translation>Statisti&amp;cs</translation>
+        <translation>&amp;Statistics</translation>
     </message>
     <message>
         <source>Regeln für Umsätze</source>
@@ -5198,19 +5198,19 @@ Suggestion: {2}</translation>
     </message>
     <message>
         <source>Ohne Abzug &amp;von Erstattungen</source>
-        <translation>&amp;Without deducting refunds</translation>
+        <translation>Without &amp;deducting refunds</translation>
     </message>
     <message>
         <source>S&amp;peichern</source>
-        <translation>Save rep&amp;ort</translation>
+        <translation>S&amp;ave report</translation>
     </message>
     <message>
         <source>Be&amp;richt</source>
-        <translation>&amp;Report</translation>
+        <translation>Rep&amp;ort</translation>
     </message>
     <message>
         <source>Dia&amp;gramme</source>
-        <translation>C&amp;harts</translation>
+        <translation>&amp;Charts</translation>
     </message>
     <message>
         <source>Berich&amp;t:</source>
@@ -5290,7 +5290,7 @@ Suggestion: {2}</translation>
     </message>
     <message>
         <source>&amp;Kopieren</source>
-        <translation>&amp;Copy</translation>
+        <translation>C&amp;opy</translation>
     </message>
     <message>
         <source>&amp;Alles markieren</source>
@@ -5298,11 +5298,11 @@ Suggestion: {2}</translation>
     </message>
     <message>
         <source>&amp;Vergrößern</source>
-        <translation>Zoom &amp;in</translation>
+        <translation>&amp;Zoom in</translation>
     </message>
     <message>
         <source>Verk&amp;leinern</source>
-        <translation>Zoom &amp;out</translation>
+        <translation>Zoom o&amp;ut</translation>
     </message>
     <message>
         <source>&amp;Normale Größe</source>
@@ -5384,7 +5384,7 @@ Shall these stay open? With No, they are booked too.</translation>
     </message>
     <message>
         <source>Dr&amp;ucken…</source>
-        <translation>Pr&amp;int…</translation>
+        <translation>P&amp;rint…</translation>
     </message>
     <message>
         <source>&amp;Auch Einträge zeigen, die weniger passen</source>
@@ -5690,7 +5690,7 @@ Your entries stay as they are.</translation>
     </message>
     <message>
         <source>Prü&amp;fen…</source>
-        <translation>Chec&amp;k…</translation>
+        <translation>&amp;Check…</translation>
     </message>
     <message>
         <source>passt auf {0} von {1} Umsatz</source>
@@ -5796,7 +5796,7 @@ Do you want to continue?</translation>
     </message>
     <message>
         <source>&amp;Regeln</source>
-        <translation>R&amp;ules</translation>
+        <translation>&amp;Rules</translation>
     </message>
     <message>
         <source>Kontoaus&amp;zug anzeigen</source>
@@ -5832,7 +5832,7 @@ Do you want to continue?</translation>
     </message>
     <message>
         <source>&amp;Kontoauszug anzeigen</source>
-        <translation>Show &amp;statement</translation>
+        <translation>Sh&amp;ow statement</translation>
     </message>
     <message>
         <source>Diesen &amp;Import durchsehen</source>
@@ -6888,7 +6888,7 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
     </message>
     <message>
         <source>&amp;Protokoll…</source>
-        <translation>Lo&amp;g…</translation>
+        <translation>&amp;Log…</translation>
     </message>
     <message>
         <source>Wählen Sie mindestens ein Konto.</source>
@@ -6976,7 +6976,7 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
     </message>
     <message>
         <source>TAN &amp;senden</source>
-        <translation>&amp;Send TAN</translation>
+        <translation>Send &amp;TAN</translation>
     </message>
     <message>
         <source>Auf dem &amp;Kopf</source>
@@ -6996,7 +6996,7 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
     </message>
     <message>
         <source>Protoko&amp;ll…</source>
-        <translation>Lo&amp;g…</translation>
+        <translation>&amp;Log…</translation>
     </message>
     <message>
         <source>Umsätze werden gebucht …</source>
@@ -7452,7 +7452,7 @@ Change it all the same?</translation>
     </message>
     <message>
         <source>Sti&amp;mmt bis {0}</source>
-        <translation>A&amp;grees up to {0}</translation>
+        <translation>&amp;Agrees up to {0}</translation>
     </message>
     <message>
         <source>Kontostand vor dem ersten Umsatz</source>
@@ -7500,15 +7500,15 @@ Change it all the same?</translation>
     </message>
     <message>
         <source>&amp;Umsatz buchen</source>
-        <translation>B&amp;ook transaction</translation>
+        <translation>&amp;Book transaction</translation>
     </message>
     <message>
         <source>Startg&amp;uthaben anpassen</source>
-        <translation>Ad&amp;just opening balance</translation>
+        <translation>A&amp;djust opening balance</translation>
     </message>
     <message>
         <source>Wie bei der &amp;Bank</source>
-        <translation>As at the &amp;bank</translation>
+        <translation>As at t&amp;he bank</translation>
     </message>
     <message>
         <source>&apos;{0}&apos; wie bei der Bank</source>
@@ -7540,7 +7540,7 @@ Change it all the same?</translation>
     </message>
     <message>
         <source>Ser&amp;ien prüfen…</source>
-        <translation>Check ser&amp;ies…</translation>
+        <translation>Chec&amp;k series…</translation>
     </message>
     <message>
         <source>Sucht Serien, die die Bank nicht mehr bucht, und Buchungen, die ausstehen.</source>
@@ -8018,7 +8018,7 @@ The standing order always comes.</translation>
     </message>
     <message>
         <source>Eintra&amp;g öffnen</source>
-        <translation>O&amp;pen entry</translation>
+        <translation>Open e&amp;ntry</translation>
     </message>
     <message>
         <source>Unterschiede zwischen Bank und Buch</source>
@@ -8050,7 +8050,7 @@ The standing order always comes.</translation>
     </message>
     <message>
         <source>A&amp;ufbau laden…</source>
-        <translation>L&amp;oad layout…</translation>
+        <translation>&amp;Load layout…</translation>
     </message>
     <message>
         <source>Liest eine solche Datei ein und merkt sie sich</source>
@@ -8070,7 +8070,7 @@ The standing order always comes.</translation>
     </message>
     <message>
         <source>Aufbau s&amp;peichern…</source>
-        <translation>&amp;Save layout…</translation>
+        <translation>S&amp;ave layout…</translation>
     </message>
     <message>
         <source>1 Mal</source>
@@ -8522,7 +8522,7 @@ Quit the program and open this file to install the new version.</translation>
     </message>
     <message>
         <source>&amp;Rückmeldung…</source>
-        <translation>&amp;Feedback…</translation>
+        <translation>Feed&amp;back…</translation>
     </message>
     <message>
         <source>Beginnt eine E-Mail mit einer Diagnose des Programms, ohne Ihre Daten.</source>
@@ -8830,7 +8830,7 @@ Quit the program and open this file to install the new version.</translation>
     </message>
     <message>
         <source>&amp;Übersicht</source>
-        <translation>O&amp;verview</translation>
+        <translation>Overvie&amp;w</translation>
     </message>
     <message>
         <source>Etwas ist schiefgegangen. Ein Klick zeigt das Fehlerprotokoll.</source>
@@ -9259,7 +9259,7 @@ Quit the program and open this file to install the new version.</translation>
     </message>
     <message>
         <source>Zeilen k&amp;opieren</source>
-        <translation>Cop&amp;y rows</translation>
+        <translation>Copy ro&amp;ws</translation>
     </message>
     <message>
         <source>Kopiert die ausgewählten Zeilen als Tabelle in die Zwischenablage.</source>
@@ -9275,7 +9275,7 @@ Quit the program and open this file to install the new version.</translation>
     </message>
     <message>
         <source>&amp;Duplizieren</source>
-        <translation>Du&amp;plicate</translation>
+        <translation>Duplic&amp;ate</translation>
     </message>
     <message>
         <source>Für den nächsten &amp;Monat</source>
@@ -9299,7 +9299,7 @@ Quit the program and open this file to install the new version.</translation>
     </message>
     <message>
         <source>Bele&amp;ge</source>
-        <translation>Recei&amp;pts</translation>
+        <translation>Receip&amp;ts</translation>
     </message>
     <message>
         <source>&amp;Zeigen…</source>
@@ -9775,7 +9775,7 @@ New: {1}</translation>
     </message>
     <message>
         <source>Jahr gleichmäßig &amp;verteilen</source>
-        <translation>S&amp;pread year evenly</translation>
+        <translation>Sp&amp;read year evenly</translation>
     </message>
     <message>
         <source>Verteilt, was die Zeile im Jahr erlaubt, auf zwölf gleiche Monate</source>
@@ -9937,7 +9937,7 @@ A click shows more.</translation>
     </message>
     <message>
         <source>Bele&amp;g hinzufügen</source>
-        <translation>Add recei&amp;pt</translation>
+        <translation>Add &amp;receipt</translation>
     </message>
     <message>
         <source>&amp;Datei wählen…</source>
@@ -9957,7 +9957,7 @@ A click shows more.</translation>
     </message>
     <message>
         <source>Datei &amp;neu wählen…</source>
-        <translation>Choose file a&amp;gain…</translation>
+        <translation>Choose &amp;file again…</translation>
     </message>
     <message>
         <source>&amp;Einfügen</source>
@@ -10145,11 +10145,11 @@ A click shows more.</translation>
     </message>
     <message>
         <source>&amp;PDF-Auszüge…</source>
-        <translation>&amp;PDF statements…</translation>
+        <translation>PD&amp;F statements…</translation>
     </message>
     <message>
         <source>&amp;PDF-Auszüge ({0})…</source>
-        <translation>&amp;PDF statements ({0})…</translation>
+        <translation>PD&amp;F statements ({0})…</translation>
     </message>
     <message>
         <source>Blau</source>
@@ -10431,15 +10431,15 @@ A click shows more.</translation>
     </message>
     <message>
         <source>Bezahlt v&amp;on:</source>
-        <translation>Pa&amp;id by:</translation>
+        <translation>Paid &amp;by:</translation>
     </message>
     <message>
         <source>Bezahl&amp;t von:</source>
-        <translation>Pa&amp;id by:</translation>
+        <translation>P&amp;aid by:</translation>
     </message>
     <message>
         <source>D&amp;uplizieren</source>
-        <translation>D&amp;uplicate</translation>
+        <translation>Duplic&amp;ate</translation>
     </message>
     <message>
         <source>Wählt Kategorie, Intervall und Beschreibung für die markierten Umsätze; sind alle gebucht, ändert es deren Einträge (Strg+K)</source>
@@ -11072,7 +11072,7 @@ Create it in another folder, or open one that is there already.</translation>
     </message>
     <message>
         <source>Nur ko&amp;rrigierte, verschobene</source>
-        <translation>Only co&amp;rrected, moved</translation>
+        <translation>Only corrected, mo&amp;ved</translation>
     </message>
     <message>
         <source>Der Druck ist fehlgeschlagen. Bitte prüfen Sie den Drucker.</source>
@@ -11180,7 +11180,7 @@ Create it in another folder, or open one that is there already.</translation>
     </message>
     <message>
         <source>Auswah&amp;l aufheben</source>
-        <translation>Clear selecti&amp;on</translation>
+        <translation>&amp;Clear selection</translation>
     </message>
     <message>
         <source>Konten über&amp;nehmen</source>

@@ -89,6 +89,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRegularExpression>
+#include <QTranslator>
 #include <QTreeWidget>
 
 #include <algorithm>
@@ -566,6 +567,24 @@ private Q_SLOTS:
             qWarning("%s", qPrintable(fault)); // a message of the test itself would be cut
         }
         QVERIFY(faults.isEmpty());
+    }
+
+    void EnglishLettersAreSingle_data() { IsTranslatedWhole_data(); }
+
+    void EnglishLettersAreSingle()
+    {
+        QFETCH(fnMake, Make);
+        QTranslator english;
+        QVERIFY(english.load(QStringLiteral(ENGLISH)));
+        QCoreApplication::installTranslator(&english); // taken away by its destructor
+        cScene scene;
+        const std::unique_ptr<QWidget> window = Make(scene);
+        QVERIFY(window);
+        window->show();
+        const QStringList faults = FaultsOfAllPages(*window, [](const QWidget& shown) {
+            return modWindowFaults::DoubleMnemonics(shown) + modWindowFaults::MisreadMnemonics(shown);
+        });
+        QVERIFY2(faults.isEmpty(), qPrintable(faults.join(u'\n')));
     }
 };
 
