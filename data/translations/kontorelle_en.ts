@@ -3355,10 +3355,6 @@ You can create the account or move the entries to another one.</translation>
         <translation>  already there: {0}</translation>
     </message>
     <message>
-        <source>eigene Kontonummer für Auszüge, die keine nennen; sie wird für CSV-Dateien gleichen Aufbaus gemerkt</source>
-        <translation>own account number for statements that give none; it is remembered for CSV files of the same layout</translation>
-    </message>
-    <message>
         <source>nur lesen und zeigen, was neu wäre</source>
         <translation>only read and show what would be new</translation>
     </message>
@@ -7191,10 +7187,6 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
         <translation>ends series that the bank no longer books, and moves bookings that are outstanding</translation>
     </message>
     <message>
-        <source>wenn eine Tabelle nicht sagt, was Ausgaben sind: {0}; wird für Tabellen mit denselben Spaltennamen gemerkt</source>
-        <translation>if a table does not say what expenses are: {0}; remembered for tables with the same column names</translation>
-    </message>
-    <message>
         <source>&apos;{0}&apos; ist ein Ordner. Geben Sie Dateien an.</source>
         <translation>&apos;{0}&apos; is a folder. Please name files.</translation>
     </message>
@@ -9770,10 +9762,6 @@ New: {1}</translation>
         <translation>&amp;Year:</translation>
     </message>
     <message>
-        <source>&amp;Ist und Rest im Monat:</source>
-        <translation>&amp;Actual and rest in month:</translation>
-    </message>
-    <message>
         <source>Jahr gleichmäßig &amp;verteilen</source>
         <translation>Sp&amp;read year evenly</translation>
     </message>
@@ -11123,10 +11111,6 @@ Create it in another folder, or open one that is there already.</translation>
         <translation>The TAN for {1} was wrong. This one is for the transactions of {0}.</translation>
     </message>
     <message>
-        <source>Ohne Balken eintippen, eins nach dem anderen: {0}</source>
-        <translation>To type without the bars, one after the other: {0}</translation>
-    </message>
-    <message>
         <source>Anmeldung</source>
         <translation>Login</translation>
     </message>
@@ -11311,18 +11295,70 @@ Do you want to load a backup? The incomplete file is kept under another name.</t
 {1}.</translation>
     </message>
     <message>
-        <source>Ein Teil dieser Serie fällt weg. Damit ändert sich auch, was die Bank schon gebucht hat ({0}), und der Saldo stimmt nicht mehr mit ihr überein.
-Soll der Eintrag trotzdem gespeichert werden?</source>
-        <translation>A part of this series goes. That also changes what the bank has already booked ({0}), and the balance no longer agrees with it.
-Save the entry all the same?</translation>
-    </message>
-    <message>
         <source>Als Personen angelegt: {0}</source>
         <translation>Added as persons: {0}</translation>
     </message>
     <message>
         <source>Legt neue Konten an und trägt die Kontostände als Startguthaben von heute ein. Stehen schon Umsätze der Bank da, wird auf den Tag davor zurückgerechnet.</source>
         <translation>Creates new accounts and stores the balances as today&apos;s start balances. Where bank transactions are there already, they are counted back to the day before.</translation>
+    </message>
+    <message>
+        <source>--{0} braucht die Nummer einer geöffneten Datei, zum Beispiel: --{0} 3 3&lt; datei.txt</source>
+        <translation>--{0} needs the number of an open file, for example: --{0} 3 3&lt; file.txt</translation>
+    </message>
+    <message>
+        <source>wenn eine Tabelle nicht sagt, was Ausgaben sind: {0}; &quot;import&quot; merkt es sich für dieselben Spaltennamen und dasselbe Konto</source>
+        <translation>if a table does not say what expenses are: {0}; &quot;import&quot; remembers it for the same column names and the same account</translation>
+    </message>
+    <message>
+        <source>Dazu dient der Befehl {0}.</source>
+        <translation>The command for that is {0}.</translation>
+    </message>
+    <message>
+        <source>Mit --account sagen Sie, von welchem Konto die Datei ist, zum Beispiel mit --account &quot;{0}&quot;.</source>
+        <translation>With --account you say which account the file is of, for example --account &quot;{0}&quot;.</translation>
+    </message>
+    <message>
+        <source>eigene Kontonummer oder Name des Kontos für Auszüge, die keine nennen; für CSV-Dateien gleichen Aufbaus wird sie gemerkt</source>
+        <translation>own account number or name of the account for statements that name none; remembered for CSV files of the same layout</translation>
+    </message>
+    <message>
+        <source>Ohne Balken eintippen, eins nach dem anderen:</source>
+        <translation>To type without the bars, one after the other:</translation>
+    </message>
+    <message>
+        <source>Ein Teil dieser Serie fällt weg oder wechselt die Art. Damit ändert sich auch, was die Bank schon gebucht hat ({0}), und der Saldo stimmt nicht mehr mit ihr überein.
+Soll der Eintrag trotzdem gespeichert werden?</source>
+        <translation>A part of this series goes or changes its kind. That also changes what the bank has already booked ({0}), and the balance no longer agrees with it.
+Save the entry all the same?</translation>
+    </message>
+    <message>
+        <source>Schon am {4} waren laut Kontoauszug {3} auf dem Konto &apos;{0}&apos;. Soll das Startguthaben von diesem Tag an zählen?</source>
+        <translation>According to the statement, account &apos;{0}&apos; held {3} on {4} already. Shall the start balance count from that day on?</translation>
+    </message>
+    <message>
+        <source>Eine fällige Zahlung fehlt auf dem Kontoauszug</source>
+        <translation>One payment that is due is missing from the statement</translation>
+    </message>
+    <message>
+        <source>{0} fällige Zahlungen fehlen auf den Kontoauszügen</source>
+        <translation>{0} payments that are due are missing from the statements</translation>
+    </message>
+    <message>
+        <source>&amp;Ist und Übrig im Monat:</source>
+        <translation>&amp;Actual and left in month:</translation>
+    </message>
+    <message>
+        <source>Noch keine Personen</source>
+        <translation>No people yet</translation>
+    </message>
+    <message>
+        <source>Tragen Sie oben ein, wer zum Haushalt gehört.</source>
+        <translation>Enter above who belongs to the household.</translation>
+    </message>
+    <message>
+        <source>Hier kann nichts eingegeben werden.</source>
+        <translation>Nothing can be typed here.</translation>
     </message>
 </context>
 </TS>
