@@ -497,7 +497,8 @@ private Q_SLOTS:
         QCOMPARE(Brief(ReadText(text, options)), QStringList(u"2025-02-03 1.00 1"_s));
         layout.Map.Amount = 2;
         layout.Sign = eSignRule::Negated;
-        layout.IsSignUsual = false; // as answered
+        layout.Doubt.reset(); // as answered
+        layout.IsSignUsual = false;
         QVERIFY(memory.SaveMap(layout.Key, layout));
         QCOMPARE(Brief(ReadText(text, options)), QStringList(u"2025-02-03 -2.00 1"_s));
         cTableLayout loaded = modTable::Open({u"a.csv"_s, {}, text}, options).Layout;
