@@ -69,6 +69,7 @@ private Q_SLOTS:
         Refuses(u"import|%1|--account|1"_s.arg(m_table), {u"Miete"_s, u"-500,00"_s, u"--sign umgekehrt"_s});
         Do(u"import|%1|--account|1|--sign|umgekehrt"_s.arg(m_table));
         QCOMPARE(Do(u"staged|--json"_s).Column(u"ImportValue"_s), QStringList(u"-500"_s));
+        QCOMPARE(Do(u"import|%1|--json|--remember"_s.arg(m_table)).Column(u"duplicates"_s), QStringList(u"1"_s));
         QCOMPARE(Do(u"import|%1|--json"_s.arg(m_table)).Column(u"duplicates"_s), QStringList(u"1"_s));
     }
 

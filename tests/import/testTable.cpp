@@ -408,7 +408,8 @@ private Q_SLOTS:
     void SignIsRememberedForTheAccount_data()
     {
         // Files in their order, as in the test: "O" is an open one with the answer that it is the other way round, "/"
-        // goes to another account, "|" to other column names. "?": asked, "-": turned round.
+        // goes to another account, "|" to other column names, "m" remembers the columns of the file before it. "?":
+        // asked, "-": turned round.
         const cTestRows<QString, QString> row("files", "read");
         row("answered, usual, open", u"oOuo"_s, u"?---"_s);
         row("answered, open, usual", u"Oou"_s, u"---"_s);
@@ -424,6 +425,10 @@ private Q_SLOTS:
         row("a single word is no proof", u"woOwo"_s, u"+?---"_s);
         row("of another account", u"Ou/uo"_s, u"--+?"_s);
         row("of other columns", u"Ou|uo"_s, u"--+?"_s);
+        row("columns of a usual one", u"OumuOo"_s, u"-----"_s);
+        row("columns of an open one", u"OomuoA/uo"_s, u"----++?"_s);
+        row("columns before any answer", u"umuoOo"_s, u"++?--"_s);
+        row("columns of a proved one", u"pmu/o"_s, u"---"_s);
     }
 
     void SignIsRememberedForTheAccount()
@@ -448,7 +453,15 @@ private Q_SLOTS:
         QString head = u"Datum;Zweck;Betrag;Saldo\n"_s;
         QDate day(2025, 1, 1);
         QString read;
+        QString text;
         for (const QChar file : files) {
+            if (file == u'm') {
+                cReadOptions plain;
+                plain.Account = options.DefaultAccount;
+                plain.Memory = &memory;
+                const cStatementSource source{u"a.csv"_s, {}, text};
+                QVERIFY(modTable::Remember(source, {}, modTable::Open(source, plain).Layout, memory));
+            }
             options.DefaultAccount = file == u'/' ? u"4712"_s : options.DefaultAccount;
             head = file == u'|' ? u"Datum;Text;Betrag;Saldo\n"_s : head;
             const QStringList lines = contents.value(file == u'A' ? u'o' : file.toLower());
@@ -458,7 +471,7 @@ private Q_SLOTS:
             options.Table.Sign =
                 file.isLower() ? std::nullopt : std::optional(file == u'A' ? eSignRule::AsWritten : eSignRule::Negated);
             day = day.addMonths(1);
-            const QString text = head
+            text = head
                 + lines.join(u'\n')
                       .replace(u"{}"_s, day.toString(u"dd.MM.yyyy;"_s))
                       .replace(u"[]"_s, day.addDays(1).toString(u"dd.MM.yyyy;"_s));
@@ -484,6 +497,8 @@ private Q_SLOTS:
         QCOMPARE(Brief(ReadText(text, options)), QStringList(u"2025-02-03 1.00 1"_s));
         layout.Map.Amount = 2;
         layout.Sign = eSignRule::Negated;
+        layout.Doubt.reset(); // as answered
+        layout.IsSignUsual = false;
         QVERIFY(memory.SaveMap(layout.Key, layout));
         QCOMPARE(Brief(ReadText(text, options)), QStringList(u"2025-02-03 -2.00 1"_s));
         cTableLayout loaded = modTable::Open({u"a.csv"_s, {}, text}, options).Layout;

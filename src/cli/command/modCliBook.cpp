@@ -132,7 +132,8 @@ void PrintJson(const QList<int>& ids, const QHash<int, cRowPlan>& plans)
 }
 
 // Nobody can be asked: rows that have an entry, or may be there twice, stay open unless an option says otherwise. What
-// the bank booked to a series that goes on has its day and amount.
+// the bank booked to a series that goes on has its day and amount; beside new entries, what was corrected by hand
+// stays.
 cConsoleUser::cAnswers Answers(const cCliContext& context)
 {
     using modReviewQuestion::eMatchAnswer;
@@ -203,7 +204,9 @@ cCliCommand modCliCommands::BookCommand()
                         {u"id"_s, u"N..."_s, cText::Tr("die Umsätze mit diesen Nummern (Spalte ID)")},
                         {u"safe"_s, {}, cText::Tr("nur, was im Buch steht oder sicher ist")},
                         {u"assign"_s, {}, cText::Tr("Umsätze, die einen Eintrag haben, diesem zuordnen")},
-                        {u"new"_s, {}, cText::Tr("auch aus solchen neue Einträge machen")},
+                        {u"new"_s,
+                         {},
+                         cText::Tr("auch aus solchen neue Einträge machen; was von Hand korrigiert ist, bleibt")},
                         {u"dry-run"_s, {}, cText::Tr("nur zeigen, nichts ändern")}},
             .Run = RunBook};
 }

@@ -93,15 +93,10 @@ void cConsoleUser::Refuse(const QString& question)
     }
 }
 
-bool cConsoleUser::IsAbout(const QString& title) const
-{
-    return m_answers.About.isEmpty() || m_answers.About == title;
-}
-
 eAnswer cConsoleUser::Ask(const cQuestion& question)
 {
     if (m_answers.Answer) {
-        return IsAbout(question.Title) ? *m_answers.Answer : eAnswer::Yes;
+        return *m_answers.Answer;
     }
     Refuse(question.Text);
     return question.Buttons == eButtons::YesNo ? eAnswer::No : eAnswer::Cancel;
@@ -124,7 +119,7 @@ QStringList cConsoleUser::ChooseFiles(const QString& /*title*/, const QString& /
 int cConsoleUser::Decide(const cDecision& decision)
 {
     if (m_answers.Decision) {
-        return IsAbout(decision.Title) ? *m_answers.Decision : 0;
+        return m_answers.About.isEmpty() || m_answers.About == decision.Title ? *m_answers.Decision : 0;
     }
     Refuse(decision.Text);
     return -1;

@@ -26,7 +26,7 @@ public:
         std::optional<eAnswer> Answer{};
         std::optional<int> Decision{};   // an option, counted from 0
         std::optional<QString> Choice{}; // has to be one of the items
-        QString About{}; // the title of the questions that these answer; others get yes and the first option
+        QString About{}; // the title of the decisions that this one answers; others get the first option
         QString Hint{};  // said after a question without answer: what to do about it
     };
     void Prepare(const cAnswers& answers) { m_answers = answers; }
@@ -38,7 +38,6 @@ public:
 
 private:
     void Refuse(const QString& question);
-    [[nodiscard]] bool IsAbout(const QString& title) const;
 
     cAnswers m_answers;
     bool m_hasFailed = false;

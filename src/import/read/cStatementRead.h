@@ -82,11 +82,12 @@ struct cStatementRead
     std::optional<cTableDoubt> Doubt; // to be answered before anything is staged
     QString Layout;                   // name of the table layout (a bank's) that was recognised
     QList<qsizetype> Parts; // places of the entries with which further files of the source begin: these may overlap
-    QList<eStatementFormat> Formats; // of these files, where they may differ
-    QHash<qsizetype, QString> Ids;   // by the place of an entry, the bank's own mark of the transaction
-    QString SignKey;                 // of a table, under which its sign is remembered; empty: it cannot be
-    std::optional<eSignRule> Sign;   // to be remembered under it
-    QString AccountKey;              // under which the account of such files is remembered; empty: it cannot be
+    QList<eStatementFormat> Formats;    // of these files, where they may differ
+    QHash<qsizetype, QString> Ids;      // by the place of an entry, the bank's own mark of the transaction
+    QString SignKey;                    // of a table, under which its sign is remembered; empty: it cannot be
+    std::optional<eSignRule> Sign;      // to be remembered under it
+    std::optional<eSignRule> KnownSign; // that was remembered under it and settled what the table leaves open
+    QString AccountKey;                 // under which the account of such files is remembered; empty: it cannot be
 
     QList<cWholeBooking> Wholes; // in the order of the entries
 

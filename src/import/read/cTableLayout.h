@@ -34,6 +34,7 @@ struct cTableLayout
     bool IsDateGuess = false; // day and month could be the other way round in every row
     bool IsSideGuess = false; // nothing tells which of the two sides is which
     bool IsSignUsual = false; // nothing proves the sign; one that is remembered for the account goes before it
+    bool IsSignOpen = false;  // the columns are remembered, which way their amounts count is not
     std::optional<cTableDoubt> Doubt; // which nothing but the sign rule of a choice ends
     QString Profile;                  // name of the known layout; empty when there is none
     QString Key;                      // hash of the header for the memory; empty without a header

@@ -48,15 +48,16 @@ struct cImportResult
     QString Message;              // German; empty when all went well
     bool NeedsAccount = false;    // refused only because the file names no account and none was given
     cImportEntryList Unowned;     // refused only because the file names no account: its rows
-    bool IsAccountRemembered = false; // as in cStatementRead
-    bool NeedsAssistant = false;      // refused only because a table is not certain, see eUncertain
-    bool HasStrayDetails = false;     // refused only because of details before a transaction, see eStrayDetails
-    QStringList OtherCurrencies;      // refused only because of them: codes
-    std::optional<cTableDoubt> Doubt; // refused only because of it
-    cImportEntryList Rows;            // with eStagingRun::Try: what would have been staged
-    cForeignNames Book;               // what the file names that is of another household book
-    QString Layout;                   // name of the table layout that was recognised
-    bool IsSignKept = false;          // of a table: how its amounts count is remembered for the account
-    QString AccountKey;               // of a table, for cTableMemory
-    QString Number;                   // of a fetch: its account in the form in which it is staged
+    bool IsAccountRemembered = false;   // as in cStatementRead
+    bool NeedsAssistant = false;        // refused only because a table is not certain, see eUncertain
+    bool HasStrayDetails = false;       // refused only because of details before a transaction, see eStrayDetails
+    QStringList OtherCurrencies;        // refused only because of them: codes
+    std::optional<cTableDoubt> Doubt;   // refused only because of it
+    cImportEntryList Rows;              // with eStagingRun::Try: what would have been staged
+    cForeignNames Book;                 // what the file names that is of another household book
+    QString Layout;                     // name of the table layout that was recognised
+    std::optional<eSignRule> KnownSign; // as in cStatementRead
+    bool IsSignKept = false;            // of a table: how its amounts count is remembered for the account
+    QString AccountKey;                 // of a table, for cTableMemory
+    QString Number;                     // of a fetch: its account in the form in which it is staged
 };

@@ -237,6 +237,7 @@ cImportResult cStatementImport::ReadAndStage(cStatementSource source, const cImp
     }
     result.IsAccountRemembered = read.IsAccountRemembered;
     result.Layout = read.Layout;
+    result.KnownSign = read.KnownSign;
     result.AccountKey = read.AccountKey;
     const bool isOther =
         read.IsAccountRemembered && modRememberedAccount::IsContradicted(read.Entries, StagingFor(options.Run).Rows());
@@ -286,6 +287,9 @@ void cStatementImport::StageAsOne(cStatementRead read, const cImportOptions& opt
     }
     if (!part.Done() || result.Failed > 0) {
         const int staged = std::max(0, RowCount() - before); // without the portions that are lost
+        for (cFormatRows& rows : result.ByFormat) {
+            rows.Ids.removeIf([&](int id) { return !m_hive.GetImportHive().GetImportEntryByID(id); });
+        }
         result.Failed += result.Staged - staged;
         result.Staged = staged;
     }

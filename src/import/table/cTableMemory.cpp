@@ -27,6 +27,7 @@ tValue Checked(int value, int count)
     return static_cast<tValue>(value >= 0 && value < count ? value : 0);
 }
 
+constexpr int openSign = -1;          // one that nothing had told when the columns were saved
 constexpr qsizetype rules = 5;        // in front of the columns: their count, number, date, sign, details
 constexpr qsizetype firstPlaces = 21; // columns that the oldest maps have
 
@@ -85,6 +86,8 @@ bool cTableMemory::LoadMap(const QString& key, cTableLayout& layout) const
     layout.Number = Checked<eNumberFormat>(values.at(1).toInt(), 3);
     layout.Date = Checked<eDateOrder>(values.at(2).toInt(), 3);
     layout.Sign = Checked<eSignRule>(values.at(3).toInt(), 2);
+    layout.IsSignOpen = values.at(3).toInt() == openSign;
+    layout.IsSideGuess = layout.IsSignOpen && map.Amount < 0;
     layout.Details = Checked<eDetails>(values.at(4).toInt(), 4);
     layout.Origin = eMapOrigin::Memory;
     return true;
@@ -96,8 +99,9 @@ bool cTableMemory::SaveMap(const QString& key, const cTableLayout& layout)
         return false;
     }
     cColumnMap map = layout.Map;
+    const int sign = layout.Doubt || layout.IsSignUsual ? openSign : static_cast<int>(layout.Sign);
     QStringList values{QString::number(map.Names.size()), QString::number(static_cast<int>(layout.Number)),
-                       QString::number(static_cast<int>(layout.Date)), QString::number(static_cast<int>(layout.Sign)),
+                       QString::number(static_cast<int>(layout.Date)), QString::number(sign),
                        QString::number(static_cast<int>(layout.Details))};
     for (const int* place : Places(map)) {
         values.append(QString::number(*place));

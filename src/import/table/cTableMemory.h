@@ -20,8 +20,8 @@ public:
 
     [[nodiscard]] bool HasMap(const QString& key) const;
     // Puts columns, number format, date order and sign rule into the layout, on top of the known layout that they were
-    // made from. False when nothing is remembered or the
-    // header has another number of columns.
+    // made from; a sign that was open when they were saved still is. False when nothing is remembered or the header has
+    // another number of columns.
     bool LoadMap(const QString& key, cTableLayout& layout) const;
     bool SaveMap(const QString& key, const cTableLayout& layout);
 

@@ -119,7 +119,7 @@ cTableLayout LayoutOf(const cTable& table, const modTableHeader::cFound& found, 
     layout.EndRow = next.Start;
     const bool isKnown = SetColumns(own, options, layout);
     TakeChoice(options.Table, layout);
-    if (!isKnown) {
+    if (!isKnown || layout.IsSignOpen) {
         modTableSign::Settle(own, layout);
     }
     layout.Sign = options.Table.Sign.value_or(layout.Sign); // answers what was open
@@ -193,7 +193,12 @@ bool modTable::Remember(const cStatementSource& source, const cTableChoice& choi
         const cStatementSource detected{source.Name, source.Bytes, modStatementText::Decode(source.Bytes)};
         (void)memory.SaveCharset(OpenAny(detected, plain).Layout.Key, choice.Charset);
     }
-    return memory.SaveMap(layout.Key, layout);
+    cTableLayout kept = layout;
+    if (choice.Sign) {
+        kept.Doubt.reset();
+        kept.IsSignUsual = false;
+    }
+    return memory.SaveMap(layout.Key, kept);
 }
 
 cTableLayout modTable::Detect(const cTable& table, const cReadOptions& options)
@@ -204,14 +209,15 @@ cTableLayout modTable::Detect(const cTable& table, const cReadOptions& options)
 namespace {
 
 // Banks that share a header need not share a sign, so it is remembered for the account: what the table proved, or what
-// was answered. Two sides have no sign of their own; known columns have theirs with them.
+// was answered. Two sides have no sign of their own; known columns have theirs with them, unless it was open.
 void TakeSign(const cTableLayout& layout, const cReadOptions& options, cStatementRead& read)
 {
     if (layout.Key.isEmpty() || read.Entries.isEmpty()) {
         return;
     }
     read.SignKey = cTableMemory::KeyOf({layout.Key, read.Entries.constFirst().ImportAccount});
-    const bool isKnown = layout.Origin == eMapOrigin::Profile || layout.Origin == eMapOrigin::Memory;
+    const bool isKnown =
+        layout.Origin == eMapOrigin::Profile || (layout.Origin == eMapOrigin::Memory && !layout.IsSignOpen);
     const bool isKept = !isKnown && layout.Map.Amount >= 0;
     if (options.Table.Sign) {
         const bool isAnswer = layout.Doubt || (isKept && !options.Table.Map); // chosen columns come with a sign
@@ -263,7 +269,9 @@ cStatementRead ReadPart(const cTable& table, const cTableLayout& layout, const c
         told.Sign = *sign;
         told.IsSignUsual = false;
         told.Doubt.reset();
-        return ReadPart(table, told, options);
+        cStatementRead settled = ReadPart(table, told, options);
+        settled.KnownSign = sign;
+        return settled;
     }
     read.NeedsAccount = std::any_of(read.Entries.begin(), read.Entries.end(),
                                     [](const cImportEntry& entry) { return entry.ImportAccount.isEmpty(); });

@@ -104,7 +104,7 @@ public:
     [[nodiscard]] eVerdict Run()
     {
         m_best = HitsOf(modTableRows::Probe(m_table, m_layout, cColumnSurvey::SurveyedRows));
-        if (m_best.Verdict() != eVerdict::Open || m_layout.Origin == eMapOrigin::User) {
+        if (m_best.Verdict() != eVerdict::Open || m_layout.Origin == eMapOrigin::User || m_layout.IsSignOpen) {
             return m_best.Verdict();
         }
         cColumnMap better = m_layout.Map;

@@ -311,7 +311,8 @@ QStringList cImportAssistant::Readings() const
 
 int cImportAssistant::Reading() const
 {
-    return m_works->Choice.Sign ? static_cast<int>(*m_works->Choice.Sign) : -1;
+    const std::optional<eSignRule> sign = m_works->Choice.Sign ? m_works->Choice.Sign : m_works->Result.KnownSign;
+    return sign ? static_cast<int>(*sign) : -1;
 }
 
 void cImportAssistant::ChooseReading(int reading)
@@ -415,6 +416,7 @@ void cImportAssistant::Evaluate()
         options.DefaultAccount = works.Proposal;
         works.Result = import.ImportSource(works.Tried, options, progress);
     }
+    works.Opened.Layout.Sign = works.Result.KnownSign.value_or(works.Opened.Layout.Sign);
     m_rows = IsTable() ? modImportPreview::Rows(works.Opened, m_parts.Format, ShownRows)
                        : modImportPreview::Rows(works.Result.Rows, m_parts.Format, ShownRows);
     Q_EMIT Changed();
@@ -506,14 +508,12 @@ void cImportAssistant::Remember()
     if (!IsTable() || !CanImport()) {
         return;
     }
-    // A known layout says more than a map can keep; it is found again without one. An answered sign is kept for itself:
-    // columns that are empty in this file would be missing from the map for good. One that nothing proves would end the
-    // question that the next file needs.
+    // A known layout says more than a map can keep; it is found again without one. What only the sign was asked for is
+    // kept without the columns: those that are empty in this file would be missing from the map for good.
     const cTableChoice& choice = m_works->Choice;
-    const bool isAnswered = choice.Sign.has_value();
-    const bool isOnlySign = (layout.Doubt ? isAnswered : layout.IsSignUsual && !isAnswered)
-        && layout.Origin == eMapOrigin::Words && !choice.HeaderLine && !choice.Number && !choice.Date
-        && choice.Profile.isEmpty() && choice.Charset == eCharset::Detect;
+    const bool isOnlySign = (layout.Doubt || (layout.IsSignUsual && !choice.Sign)) && layout.Origin == eMapOrigin::Words
+        && !choice.HeaderLine && !choice.Number && !choice.Date && choice.Profile.isEmpty()
+        && choice.Charset == eCharset::Detect;
     if (!isOnlySign && (m_isTouched || layout.Origin != eMapOrigin::Profile)) {
         (void)modTable::Remember(m_works->Source, m_works->Choice, layout, m_parts.Memory);
     }
