@@ -7091,10 +7091,6 @@ Accounts and transactions stay in the book, only nothing is fetched any more.</t
         <translation>assign transactions that have an entry to it</translation>
     </message>
     <message>
-        <source>auch aus solchen neue Einträge machen</source>
-        <translation>make new entries of these too</translation>
-    </message>
-    <message>
         <source>{0}, am {1}</source>
         <translation>{0}, on {1}</translation>
     </message>
@@ -11359,6 +11355,10 @@ Save the entry all the same?</translation>
     <message>
         <source>Hier kann nichts eingegeben werden.</source>
         <translation>Nothing can be typed here.</translation>
+    </message>
+    <message>
+        <source>auch aus solchen neue Einträge machen; was von Hand korrigiert ist, bleibt</source>
+        <translation>make new entries from these too; what was corrected by hand stays</translation>
     </message>
 </context>
 </TS>
