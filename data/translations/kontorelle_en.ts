@@ -1288,11 +1288,11 @@ Do you want to change the source/target accounts of the entries from &apos;{0}&a
     </message>
     <message>
         <source>Trot&amp;zdem übernehmen</source>
-        <translation>Import any&amp;way</translation>
+        <translation>Ta&amp;ke anyway</translation>
     </message>
     <message>
         <source>&amp;Schließen</source>
-        <translation>Clo&amp;se</translation>
+        <translation>Close bo&amp;x</translation>
     </message>
     <message>
         <source>Ergebnis</source>

@@ -169,9 +169,12 @@ void modFlat::Shade(QPainter& painter, const QStyleOption& option, const QRect& 
 void modFlat::Focus(QPainter& painter, const QStyleOption& option)
 {
     const bool isOnAccent = Is(option, QStyle::State_Selected); // where the accent itself could not be seen
-    const QColor edge = isOnAccent ? option.palette.color(QPalette::HighlightedText) : AccentEdge(option);
+    QColor edge = isOnAccent ? option.palette.color(QPalette::HighlightedText) : AccentEdge(option);
     QColor fill = edge;
     fill.setAlphaF(0.12F);
+    if (isOnAccent) {
+        edge.setAlphaF(0.5F); // the row stands out by its colour already
+    }
     Rounded(painter, option.rect, edge, fill);
 }
 

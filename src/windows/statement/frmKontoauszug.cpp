@@ -12,6 +12,7 @@
 #include "windows/widget/cDayEdit.h"
 #include "windows/widget/cFieldGrid.h"
 #include "windows/widget/cFlowLayout.h"
+#include "windows/widget/cRowDelegate.h"
 #include "windows/widget/cSummaryText.h"
 #include "windows/widget/modChoice.h"
 #include "windows/widget/modDayRange.h"
@@ -71,6 +72,8 @@ void frmKontoauszug::Build()
     auto* layout = new QVBoxLayout(this);
     layout->addLayout(BuildFields());
     layout->addLayout(BuildFinding());
+    constexpr int leastLines = 6; // with the headline
+    m_tree->setMinimumHeight(cRowDelegate::RowHeight(fontMetrics()) * leastLines + 2 * m_tree->frameWidth());
     layout->addWidget(m_tree, 1);
     layout->addWidget(m_sums);
     layout->addWidget(m_differences);

@@ -9,6 +9,7 @@
 #include "windows/widget/cFlowLayout.h"
 #include "windows/widget/cFormScroll.h"
 #include "windows/widget/cRowDelegate.h"
+#include "windows/widget/cTurningSplitter.h"
 #include "windows/widget/modChoice.h"
 #include "windows/widget/modPlace.h"
 
@@ -23,13 +24,13 @@
 #include <QPushButton>
 #include <QScopedValueRollback>
 #include <QScreen>
-#include <QSplitter>
 
 namespace {
 
 constexpr int typingPause = 150; // milliseconds without typing
 constexpr int shownExamples = 5;
-constexpr int margin = 4; // beside the line that parts list and form
+constexpr int besideLetters = 110; // width from which list and form stand side by side
+constexpr int margin = 4;          // beside the line that parts list and form
 
 // Asks for its few lines, and takes what is left.
 class cExampleList final : public QListWidget
@@ -62,12 +63,11 @@ frmRegeln::frmRegeln(cRuleEditor& rules, QWidget* parent)
     m_description->setObjectName(QStringLiteral("txtBeschreibung"));
     m_trial->setObjectName(QStringLiteral("trial"));
     auto* layout = new QVBoxLayout(this);
-    auto* halves = new QSplitter(this);
+    auto* halves = new cTurningSplitter(besideLetters, this);
     auto* list = new QWidget(this);
     auto* form = new QWidget(this);
     halves->addWidget(list);
     halves->addWidget(new cFormScroll(form, this));
-    halves->setChildrenCollapsible(false);
     halves->setStretchFactor(0, 3);
     halves->setStretchFactor(1, 2);
     layout->addWidget(halves, 1);
