@@ -96,6 +96,7 @@ bool cJournal::End()
     const bool isWritten = Try(u"EndStep", [this] { m_database.CommitGathered(); });
     m_database.EndGathering();
     cStep step = std::exchange(m_open, {});
+    (void)Try(u"EndStep", [&] { ForgetPassing(step); });
     m_timesPutBack += isWritten ? 0 : 1;
     const bool isKept = isWritten && !step.Images.empty();
     if (isKept) {
@@ -222,6 +223,19 @@ void cJournal::ForgetRow(const cRowKey& key)
             std::find_if(steps->rbegin(), steps->rend(), [&](const cStep& step) { return step.Known.contains(key); });
         steps->erase(steps->begin(), newest.base());
     }
+}
+
+// The number of a setting that came and went within the step is given to the next one, which would take the step away.
+void cJournal::ForgetPassing(cStep& step)
+{
+    std::erase_if(step.Images, [&](const cImage& image) {
+        const bool isPassing = image.Key.first == settings && image.Values.empty()
+            && !cRows(m_database, "SELECT 1 FROM setting WHERE rowid = ?", {image.Key.second}).Next();
+        if (isPassing) {
+            step.Known.erase(image.Key);
+        }
+        return isPassing;
+    });
 }
 
 QString cJournal::UndoName() const

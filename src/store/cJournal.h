@@ -94,6 +94,7 @@ private:
     [[nodiscard]] bool Try(const char16_t* operation, const std::function<void()>& action);
     void Note(const cRowBefore& row);
     void ForgetRow(const cRowKey& key);
+    void ForgetPassing(cStep& step);
     void Join(cPart part);
     [[nodiscard]] bool KeepPortion();
     void Move(std::deque<cStep>& from, std::deque<cStep>& to);

@@ -209,7 +209,11 @@ bool cAccountGuess::HasSameEntries(const QString& account, const cImportEntryLis
 QString cAccountGuess::NewName(const QString& number, const QString& product) const
 {
     const QString told = modTemplate::CleanName(product).trimmed();
-    if (!told.isEmpty() && !m_taken.contains(modTemplate::AccountLike(m_accounts, told))) {
+    const QString like = modTemplate::AccountLike(m_accounts, told);
+    const bool isFit = std::all_of(m_accounts.begin(), m_accounts.end(), [&](const cTemplateItem& account) {
+        return account.TemplateName != like || (modTemplate::IsVisible(account) && KindOfName(account) != eKind::Cash);
+    });
+    if (!told.isEmpty() && !m_taken.contains(like) && isFit) {
         return told;
     }
     const QString digits = modAccountNumber::Compact(number).right(lastDigits);

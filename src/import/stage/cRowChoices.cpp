@@ -61,6 +61,11 @@ void cRowChoices::Read()
     }
     const cImportHive& hive = m_parts.Hive.GetImportHive();
     const QStringList paths = modTemplate::Paths(m_parts.Data.GetTemplates());
+    if (hive.Count() == 0
+        || paths.isEmpty()) { // perhaps they could not be read: what was chosen stays for the next time
+        m_isRead = false;
+        return;
+    }
     for (const QStringList& fields : Lines(stored)) {
         const std::optional<cImportEntry> row = hive.GetImportEntryByID(fields.at(Id).toInt());
         const QString category = paths.contains(fields.at(Category)) ? fields.at(Category) : QString();
@@ -75,6 +80,9 @@ void cRowChoices::Read()
 void cRowChoices::Take(const QList<int>& rowIds, QString cChoice::*field, const QString& value)
 {
     QMap<int, cChoice>& choices = Choices();
+    if (!m_isRead) {
+        return;
+    }
     const cImportHive& hive = m_parts.Hive.GetImportHive();
     for (const int id : rowIds) {
         if (const std::optional<cImportEntry> row = hive.GetImportEntryByID(id)) {

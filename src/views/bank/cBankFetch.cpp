@@ -212,10 +212,10 @@ bool cBankFetch::Run(const cWish& wish, cProgress& progress)
             Fetch(job, run);
         }
     }
-    Stage(run, progress);
-    const bool isDone = std::all_of(m_lines.begin(), m_lines.end(), [](const cLine& line) {
-        return line.State == eState::Idle || line.State == eState::Done;
-    });
+    const bool isTaken = Stage(run, progress); // with what else became of it
+    const bool isDone = isTaken && std::all_of(m_lines.begin(), m_lines.end(), [](const cLine& line) {
+                            return line.State == eState::Idle || line.State == eState::Done;
+                        });
     Q_EMIT Finished(isDone);
     return isDone;
 }
@@ -398,10 +398,10 @@ void cBankFetch::Take(const cJob& job, QList<cFetchedAccount>& fetched, const cB
     }
 }
 
-void cBankFetch::Stage(cRun& run, cProgress& progress)
+bool cBankFetch::Stage(cRun& run, cProgress& progress)
 {
     if (run.Statements.isEmpty()) {
-        return;
+        return true;
     }
     Q_EMIT StepShown(cText::Tr("Die Umsätze werden übernommen …"));
     const cFilesOutcome outcome =
@@ -414,11 +414,12 @@ void cBankFetch::Stage(cRun& run, cProgress& progress)
         Q_EMIT LineChanged(came.Place);
         if (m_lines.at(came.Place).State == eState::Came) {
             Fail(came.Place, Cancelled()); // one before it was stopped
-        } else if (!outcome.IsDone) {
+        } else if (!outcome.IsKept) {
             m_lines[came.Place].New = 0;
             Fail(came.Place, {eBankFault::Other, cText::Tr("Die Datenbank hat die Umsätze nicht angenommen."), {}});
         }
     }
+    return outcome.IsDone;
 }
 
 void cBankFetch::NoteTaken(const cCame& came, const cImportResult& result)

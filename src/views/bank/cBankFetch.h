@@ -137,7 +137,7 @@ private:
     void LeaveOld(cJob& job, QDate oldest);
     void Fetch(cJob& job, cRun& run);
     void Take(const cJob& job, QList<cFetchedAccount>& fetched, const cBankFailure& failure, cRun& run);
-    void Stage(cRun& run, cProgress& progress);
+    [[nodiscard]] bool Stage(cRun& run, cProgress& progress);
     void NoteTaken(const cCame& came, const cImportResult& result);
     void NoteBalance(const cCame& came, const cImportResult& result, cLine& line);
     void NoteLastFetch(const cCame& came);

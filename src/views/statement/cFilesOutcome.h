@@ -11,4 +11,5 @@ struct cFilesOutcome
     QList<cImportResult> Files{};
     QStringList Notes{}; // accounts of new numbers, start balances
     bool IsDone = true;  // the database took what else became of them
+    bool IsKept = true;  // of a fetch: the database took it at all
 };

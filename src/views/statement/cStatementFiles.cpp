@@ -241,7 +241,11 @@ cFilesOutcome cStatementFiles::TakeFetched(const QList<cFetchedStatement>& state
             }
         }
         End(run);
-        run.Outcome.IsDone = step.Done();
+        run.Outcome.IsKept = step.Done();
+        run.Outcome.IsDone = run.Outcome.IsKept && run.Outcome.IsDone;
+        if (!run.Outcome.IsKept) {
+            run.Outcome.Notes.clear();
+        }
     }
     ImportFiles({}, progress); // those that were dropped meanwhile
     return run.Outcome;

@@ -148,12 +148,12 @@ void cStatementFiles::OfferStart(const QStringList& numbers, cFilesOutcome& outc
             continue; // nobody has answered
         }
         if (answer == eAnswer::Yes) {
-            const bool isStored = opening.Take(*offer);
-            outcome.IsDone = isStored && outcome.IsDone; // of a refusal the user has been told
-            if (isStored) {
-                outcome.Notes.append(opening.Report(*offer));
-                isTaken = true;
+            if (!opening.Take(*offer)) { // of a refusal the user has been told, and is asked again
+                outcome.IsDone = false;
+                continue;
             }
+            outcome.Notes.append(opening.Report(*offer));
+            isTaken = true;
         }
         opening.Settle(number);
     }

@@ -32,6 +32,7 @@ protected:
             return false;
         }
         const bool isTyped = trigger == QAbstractItemView::AnyKeyPressed && event != nullptr
+            && event->type() == QEvent::KeyPress // input methods ask as well
             && !static_cast<const QKeyEvent*>(event)->text().trimmed().isEmpty();
         if (isTyped || trigger == QAbstractItemView::EditKeyPressed) {
             modTypedCells::Refuse(*this, this->visualRect(cell));
