@@ -161,6 +161,21 @@ private Q_SLOTS:
         QCOMPARE(cSettings(book.Data).Get(modSettingKey::MainFilter), u"x"_s);
     }
 
+    // It came and went within the step, so the step has nothing to do with its place.
+    void PassingSettingTakesNoStepAway()
+    {
+        cTestBook book;
+        const cSettingKey number = modSettingKey::BankNumber.Of(u"1"_s);
+        {
+            const cUndoStep step(book.Data, u"Import"_s);
+            (void)book.Add([](cEntryItem&) {});
+            QVERIFY(book.Settings->Set(number, u"Girokonto"_s));
+            QVERIFY(book.Settings->Delete(number));
+        }
+        QVERIFY(book.Settings->Set(modSettingKey::MainFilter, u"x"_s));
+        QCOMPARE(book.Data.Journal().UndoName(), u"Import"_s);
+    }
+
     void StepsFollowEachOther()
     {
         cTestBook book;
