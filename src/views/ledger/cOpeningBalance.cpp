@@ -16,6 +16,7 @@
 
 #include <algorithm>
 #include <numeric>
+#include <ranges>
 
 namespace {
 
@@ -104,11 +105,11 @@ QDate DayBefore(const cStatementLedger& ledger)
 QDate NamedSince(const modBalanceCheck::cResult& check, QDate day, qint64 cents)
 {
     QDate since = day;
-    for (auto point = check.Points.rbegin(); point != check.Points.rend(); ++point) {
-        if (point->Day <= day && point->Bank - point->Moved != cents) {
+    for (const auto& point : check.Points | std::views::reverse) {
+        if (point.Day <= day && point.Bank - point.Moved != cents) {
             break;
         }
-        since = qMin(since, point->Day);
+        since = qMin(since, point.Day);
     }
     return since;
 }
