@@ -16,7 +16,6 @@
 
 #include <algorithm>
 #include <numeric>
-#include <ranges>
 
 namespace {
 
@@ -105,12 +104,10 @@ QDate DayBefore(const cStatementLedger& ledger)
 QDate NamedSince(const modBalanceCheck::cResult& check, QDate day, qint64 cents)
 {
     QDate since = day;
-    for (const auto& point : check.Points | std::views::reverse) {
-        if (point.Day <= day && point.Bank - point.Moved != cents) {
-            break;
-        }
-        since = qMin(since, point.Day);
-    }
+    const auto other = std::find_if(check.Points.rbegin(), check.Points.rend(), [&](const auto& point) {
+        return point.Day <= day && point.Bank - point.Moved != cents;
+    });
+    std::for_each(check.Points.rbegin(), other, [&](const auto& point) { since = qMin(since, point.Day); });
     return since;
 }
 
